@@ -1,0 +1,19 @@
+#include "ui/Shell.h"
+
+namespace brinemark
+{
+
+namespace
+{
+Shell *sharedShell = nullptr;
+}
+
+Shell &Shell::shared()
+{
+    Q_ASSERT(sharedShell);
+    return *sharedShell;
+}
+
+void Shell::setShared(Shell *shell) { sharedShell = shell; }
+
+} // namespace brinemark
