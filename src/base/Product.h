@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+/// What the product is called, where it lives and which version this is: the one place to change any of it.
+namespace brinemark::product
+{
+
+inline constexpr char name[] = "Brinemark";
+inline constexpr char supportAddress[] = "support@brinemark.example";
+inline constexpr char listAddress[] = "list@brinemark.example";
+inline constexpr char productPage[] = "https://www.brinemark.example/";
+
+/// The short version, for example "1.0.0"; a fourth number is a beta number.
+[[nodiscard]] QString shortVersion();
+
+/// The build version that feedback mail names.
+[[nodiscard]] QString buildVersion();
+
+/// A version packed into 32 bits: major (8 bits, decimal digits as nibbles), minor and point (4 bits each), stage (0x80 for a
+/// release, 0x60 for a beta), build (8 bits: the beta number). 1.0.0 gives 0x01008000. Text without numbers gives 0.
+[[nodiscard]] quint32 packedVersion(const QString &version);
+
+} // namespace brinemark::product

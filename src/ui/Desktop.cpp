@@ -1,0 +1,39 @@
+#include "ui/Desktop.h"
+
+#include <QDesktopServices>
+
+namespace brinemark::desktop
+{
+
+namespace
+{
+
+UrlHandler &installedHandler()
+{
+    static UrlHandler handler;
+    return handler;
+}
+
+QString percentEncoded(const QString &text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); }
+
+} // namespace
+
+bool openUrl(const QUrl &url)
+{
+    const UrlHandler &handler = installedHandler();
+    return handler ? handler(url) : QDesktopServices::openUrl(url);
+}
+
+void setUrlHandler(UrlHandler handler) { installedHandler() = std::move(handler); }
+
+QUrl mailUrl(const QString &address, const QString &subject, const QString &body)
+{
+    QString text = QStringLiteral("mailto:") + address + QStringLiteral("?subject=") + percentEncoded(subject);
+    if (!body.isEmpty())
+        text += QStringLiteral("&body=") + percentEncoded(body);
+    return QUrl(text);
+}
+
+QString userMailAddress() { return qEnvironmentVariable("EMAIL"); }
+
+} // namespace brinemark::desktop

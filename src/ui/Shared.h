@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+
+namespace brinemark
+{
+
+/// A process-wide single instance, made on first use by `sharedInstance()`. The application ends it with `destroyShared()`
+/// before the application object goes, so that no widget outlives it.
+///
+///     class PrefsController : public Shared<PrefsController> { friend class Shared<PrefsController>; PrefsController(); };
+template <class T>
+class Shared
+{
+public:
+    static T &sharedInstance()
+    {
+        if (!instance())
+            instance().reset(new T);
+        return *instance();
+    }
+
+    [[nodiscard]] static bool hasSharedInstance() { return instance() != nullptr; }
+    static void destroyShared() { instance().reset(); }
+
+    Shared(const Shared &) = delete;
+    Shared &operator=(const Shared &) = delete;
+
+protected:
+    Shared() = default;
+    ~Shared() = default;
+
+private:
+    static std::unique_ptr<T> &instance()
+    {
+        static std::unique_ptr<T> shared;
+        return shared;
+    }
+    friend std::default_delete<T>;
+};
+
+} // namespace brinemark
