@@ -1,0 +1,165 @@
+#include "ui/AlertDialog.h"
+
+#include "ui/MessageText.h"
+#include "ui/Sheets.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr int iconSize = 48;
+constexpr int minimumButtonWidth = 82;
+
+const char *buttonName(AlertAnswer answer)
+{
+    switch (answer) {
+    case AlertDefault:
+        return "defaultButton";
+    case AlertAlternate:
+        return "alternateButton";
+    case AlertOther:
+        break;
+    }
+    return "otherButton";
+}
+
+} // namespace
+
+AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
+    : QDialog(parent)
+{
+    setWindowTitle(QGuiApplication::applicationDisplayName());
+    setAccessibleName(alert.title);
+
+    auto *icon = new QLabel(this);
+    const bool critical = alert.style == AlertStyle::Critical;
+    icon->setPixmap(style()
+                        ->standardIcon(critical ? QStyle::SP_MessageBoxCritical : QStyle::SP_MessageBoxInformation)
+                        .pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
+
+    m_title = new QLabel(alert.title, this);
+    m_title->setObjectName(QStringLiteral("alertTitle"));
+    m_title->setTextFormat(Qt::PlainText);
+    m_title->setWordWrap(true);
+    m_title->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont bold = m_title->font();
+    bold.setBold(true);
+    m_title->setFont(bold);
+
+    m_message = new MessageText(alert.message, this);
+    m_message->setObjectName(QStringLiteral("alertMessage"));
+    m_message->setAccessibleName(alert.title);
+    m_message->setVisible(!alert.message.isEmpty());
+
+    m_texts = new QVBoxLayout;
+    m_texts->setSpacing(8);
+    m_texts->addWidget(m_title);
+    m_texts->addWidget(m_message);
+
+    auto *top = new QHBoxLayout;
+    top->setSpacing(16);
+    top->addWidget(icon, 0, Qt::AlignTop);
+    top->addLayout(m_texts, 1);
+
+    m_buttons = new QDialogButtonBox(this);
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(16, 16, 16, 16);
+    all->setSpacing(16);
+    all->addLayout(top);
+    all->addStretch();
+    all->addWidget(m_buttons);
+
+    addButton(AlertDefault, alert.defaultButton.isEmpty() ? QStringLiteral("OK") : alert.defaultButton);
+    addButton(AlertAlternate, alert.alternateButton);
+    addButton(AlertOther, alert.otherButton);
+}
+
+QString AlertDialog::title() const
+{
+    return m_title->text();
+}
+
+QString AlertDialog::message() const
+{
+    return m_message->toPlainText();
+}
+
+QPushButton *AlertDialog::button(AlertAnswer answer) const
+{
+    return m_buttons->findChild<QPushButton *>(QLatin1String(buttonName(answer)));
+}
+
+QCheckBox *AlertDialog::addCheckBox(const QString &text)
+{
+    auto *box = new QCheckBox(text, this);
+    m_texts->addSpacing(4);
+    m_texts->addWidget(box);
+    setTabOrder(m_message, box);
+    return box;
+}
+
+void AlertDialog::showAsSheet(AlertDialog *dialog, QWidget *window, std::function<void(int)> ended)
+{
+    dialog->setObjectName(QStringLiteral("alertSheet"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    if (ended)
+        connect(dialog, &QDialog::finished, dialog, std::move(ended));
+    openSheet(window, dialog);
+}
+
+int AlertDialog::runAsPanel(AlertDialog *dialog, QWidget *parent)
+{
+    // The parent may go while the panel is up and takes the dialog with it: that counts as cancelling.
+    const QPointer<AlertDialog> panel = dialog;
+    const int cancelled = panel->cancelAnswer();
+    panel->setObjectName(QStringLiteral("alertPanel"));
+    centreOver(parent, panel);
+    const int answer = panel->exec();
+    if (!panel)
+        return cancelled;
+    delete panel;
+    return answer;
+}
+
+void AlertDialog::reject()
+{
+    done(m_cancelAnswer);
+}
+
+void AlertDialog::showEvent(QShowEvent *event)
+{
+    button(AlertDefault)->setFocus();
+    QDialog::showEvent(event);
+}
+
+void AlertDialog::addButton(AlertAnswer answer, const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    // The roles let the desktop put the buttons into its own order; the one that cancels comes last of those given.
+    if (answer == AlertOther) {
+        if (QPushButton *alternate = button(AlertAlternate))
+            m_buttons->addButton(alternate, QDialogButtonBox::DestructiveRole);
+    }
+    const auto role = answer == AlertDefault ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole;
+    QPushButton *added = m_buttons->addButton(text, role);
+    added->setObjectName(QLatin1String(buttonName(answer)));
+    added->setMinimumWidth(minimumButtonWidth);
+    added->setDefault(answer == AlertDefault);
+    connect(added, &QPushButton::clicked, this, [this, answer] { done(answer); });
+    m_cancelAnswer = answer;
+}
+
+} // namespace brinemark

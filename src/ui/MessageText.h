@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QTextEdit>
+
+namespace brinemark
+{
+
+/// A read-only text of several lines at a readable width, as tall as its text until `maximumHeight`, from where on it
+/// scrolls. It can be selected and copied, and wraps inside words that are too long for a line, such as paths.
+class MessageText : public QTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit MessageText(const QString &text, QWidget *parent = nullptr);
+
+    static constexpr int readableWidth = 420; ///< pixels
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    [[nodiscard]] int maximumTextHeight() const;
+};
+
+} // namespace brinemark

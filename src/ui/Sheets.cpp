@@ -1,0 +1,89 @@
+#include "ui/Sheets.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPointer>
+#include <QScreen>
+
+#include <algorithm>
+#include <deque>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// The sheets of one window, the one that shows first. It is a child of the window and goes with it.
+class SheetQueue : public QObject
+{
+public:
+    explicit SheetQueue(QObject *owner)
+        : QObject(owner)
+    {
+        setObjectName(QLatin1String(name));
+    }
+
+    static SheetQueue &of(QWidget *window)
+    {
+        QObject *owner = window ? static_cast<QObject *>(window->window()) : qApp;
+        if (auto *queue = owner->findChild<QObject *>(QLatin1String(name), Qt::FindDirectChildrenOnly))
+            return static_cast<SheetQueue &>(*queue);
+        return *new SheetQueue(owner);
+    }
+
+    void add(QDialog *sheet)
+    {
+        // Both signals: a sheet that is deleted never finishes, and its pointer is null by then.
+        connect(sheet, &QDialog::finished, this, [this, sheet] { remove(sheet); });
+        connect(sheet, &QObject::destroyed, this, [this] { remove(nullptr); });
+        m_sheets.emplace_back(sheet);
+        if (m_sheets.size() == 1)
+            openFirst();
+    }
+
+private:
+    static constexpr const char *name = "sheetQueue";
+
+    void openFirst()
+    {
+        QDialog *sheet = m_sheets.front();
+        centreOver(qobject_cast<QWidget *>(parent()), sheet);
+        sheet->open();
+    }
+
+    void remove(QDialog *sheet)
+    {
+        if (sheet)
+            disconnect(sheet, nullptr, this, nullptr);
+        const QPointer<QDialog> first = m_sheets.empty() ? QPointer<QDialog>() : m_sheets.front();
+        std::erase(m_sheets, sheet);
+        if (!m_sheets.empty() && m_sheets.front() != first)
+            openFirst();
+    }
+
+    std::deque<QPointer<QDialog>> m_sheets;
+};
+
+} // namespace
+
+void openSheet(QWidget *window, QDialog *sheet)
+{
+    SheetQueue::of(window).add(sheet);
+}
+
+void centreOver(QWidget *window, QDialog *dialog)
+{
+    dialog->adjustSize();
+    if (!window)
+        return;
+    const QWidget *top = window->window();
+    const QRect screen = top->screen()->availableGeometry();
+    const QSize size = dialog->size();
+    QPoint corner = top->frameGeometry().center() - QPoint(size.width() / 2, size.height() / 2);
+    corner.setX(std::max(screen.left(), std::min(corner.x(), screen.right() + 1 - size.width())));
+    corner.setY(std::max(screen.top(), std::min(corner.y(), screen.bottom() + 1 - size.height())));
+    dialog->move(corner);
+}
+
+} // namespace brinemark
