@@ -1,0 +1,31 @@
+#pragma once
+
+#include "base/Preferences.h"
+
+/// Every preference that the program stores.
+namespace brinemark::preference
+{
+
+inline constexpr PreferenceKey<bool> autoSaveOnQuit{"autoSaveOnQuit"}; ///< never stored = the program's first run
+inline constexpr PreferenceKey<bool> activityOverdue{"activityOverdue"};
+inline constexpr PreferenceKey<bool> convertVisible{"convertVisible"};
+inline constexpr PreferenceKey<QString> defaultFile{"defaultFile"}; ///< absolute path
+inline constexpr PreferenceKey<QString> calName{"CalName"};
+inline constexpr PreferenceKey<qint64> bundleVersion{"bundleVersion"}; ///< packed version number
+inline constexpr PreferenceKey<bool> updateAuto{"UpdateAuto"};
+inline constexpr PreferenceKey<int> updateFrequency{"UpdateFrequency"}; ///< seconds; -1 at every start-up
+inline constexpr PreferenceKey<QDateTime> updateLastChecked{"UpdateLastChecked"};
+inline constexpr PreferenceKey<float> notificationWindowHeight{"NotificationWindowHeight"}; ///< points
+inline constexpr PreferenceKey<QString> mainViewWidth{"mainViewWidth"};         ///< a whole number of points as text
+inline constexpr PreferenceKey<QString> tankListViewWidth{"tankListViewWidth"}; ///< a whole number of points as text
+inline constexpr PreferenceKey<QVariantMap> convertWindowState{"ConvertWindowState"};
+
+/// The stored answers of alerts that are not to ask again: this and the alert's identifier name an integer.
+inline constexpr const char *dontAskAgainPrefix = "dont.ask.again.result.";
+
+[[nodiscard]] inline QString dontAskAgainName(const QString &identifier)
+{
+    return QLatin1String(dontAskAgainPrefix) + identifier;
+}
+
+} // namespace brinemark::preference

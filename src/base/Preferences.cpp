@@ -1,0 +1,165 @@
+#include "base/Preferences.h"
+
+#include "base/text/NumberText.h"
+
+#include <QStandardPaths>
+
+#include <cmath>
+#include <limits>
+
+namespace brinemark
+{
+
+namespace
+{
+
+bool isText(const QVariant &stored)
+{
+    return stored.typeId() == QMetaType::QString;
+}
+
+/// A stored number, flag or text that says a finite number.
+std::optional<double> numberOf(const QVariant &stored)
+{
+    switch (stored.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+    case QMetaType::QString: {
+        bool ok = false;
+        const double number = isText(stored) ? stored.toString().trimmed().toDouble(&ok) : stored.toDouble();
+        return (ok || !isText(stored)) && std::isfinite(number) ? std::optional(number) : std::nullopt;
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+template <class Whole>
+std::optional<Whole> wholeNumberOf(const QVariant &stored)
+{
+    if (stored.typeId() == QMetaType::LongLong || stored.typeId() == QMetaType::Int)
+        return std::in_range<Whole>(stored.toLongLong()) ? std::optional(Whole(stored.toLongLong())) : std::nullopt;
+    const auto number = numberOf(stored);
+    // 2^63 itself is a double, the largest 64-bit number is not.
+    const double beyond = std::ldexp(1.0, std::numeric_limits<Whole>::digits);
+    if (!number || *number < -beyond || *number >= beyond)
+        return std::nullopt;
+    return Whole(*number);
+}
+
+} // namespace
+
+QDateTime distantPast()
+{
+    return QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC);
+}
+
+Preferences &Preferences::shared()
+{
+    static Preferences preferences(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                                   QStringLiteral("/Brinemark/Brinemark.plist"));
+    return preferences;
+}
+
+Preferences::Preferences(const QString &path)
+    : m_path(path)
+    , m_settings(path, QSettings::IniFormat)
+{
+}
+
+QVariant Preferences::variant(const QString &name) const
+{
+    return m_settings.value(name);
+}
+
+void Preferences::setVariant(const QString &name, const QVariant &value)
+{
+    if (value.isValid())
+        m_settings.setValue(name, value);
+    else
+        m_settings.remove(name);
+}
+
+bool Preferences::contains(const QString &name) const
+{
+    return m_settings.contains(name);
+}
+
+void Preferences::remove(const QString &name)
+{
+    m_settings.remove(name);
+}
+
+bool Preferences::flush()
+{
+    m_settings.sync();
+    return m_settings.status() == QSettings::NoError;
+}
+
+template <>
+std::optional<bool> Preferences::convert<bool>(const QVariant &stored)
+{
+    if (isText(stored)) {
+        const QString word = stored.toString().trimmed().toLower();
+        if (word == u"yes" || word == u"true")
+            return true;
+        if (word == u"no" || word == u"false")
+            return false;
+    }
+    const auto number = numberOf(stored);
+    return number ? std::optional(*number != 0.0) : std::nullopt;
+}
+
+template <>
+std::optional<int> Preferences::convert<int>(const QVariant &stored)
+{
+    return wholeNumberOf<int>(stored);
+}
+
+template <>
+std::optional<qint64> Preferences::convert<qint64>(const QVariant &stored)
+{
+    return wholeNumberOf<qint64>(stored);
+}
+
+template <>
+std::optional<double> Preferences::convert<double>(const QVariant &stored)
+{
+    return numberOf(stored);
+}
+
+template <>
+std::optional<float> Preferences::convert<float>(const QVariant &stored)
+{
+    const auto number = numberOf(stored);
+    return number && std::isfinite(float(*number)) ? std::optional(float(*number)) : std::nullopt;
+}
+
+template <>
+std::optional<QString> Preferences::convert<QString>(const QVariant &stored)
+{
+    if (isText(stored))
+        return stored.toString();
+    return numberOf(stored) ? std::optional(stored.toString()) : std::nullopt;
+}
+
+template <>
+std::optional<QDateTime> Preferences::convert<QDateTime>(const QVariant &stored)
+{
+    if (stored.typeId() == QMetaType::QDateTime && stored.toDateTime().isValid())
+        return stored.toDateTime();
+    return std::nullopt;
+}
+
+template <>
+std::optional<QVariantMap> Preferences::convert<QVariantMap>(const QVariant &stored)
+{
+    return stored.typeId() == QMetaType::QVariantMap ? std::optional(stored.toMap()) : std::nullopt;
+}
+
+} // namespace brinemark

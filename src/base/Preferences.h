@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QDateTime>
+#include <QSettings>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+#include <type_traits>
+
+namespace brinemark
+{
+
+/// The name of a preference and, in T, the type of its value.
+template <class T>
+struct PreferenceKey {
+    const char *name;
+};
+
+/// The moment that stands for "never": 0001-01-01T00:00:00Z.
+[[nodiscard]] QDateTime distantPast();
+
+/// The user's preferences: named values that keep their types in an XML property list, written back on flush() and now
+/// and then by the event loop. No defaults are registered: what was never stored is absent. Main thread only.
+class Preferences
+{
+public:
+    /// The user's own store: Brinemark/Brinemark.plist in the configuration folder.
+    static Preferences &shared();
+
+    /// A store of another file. A damaged file is set aside under another name and the store starts empty.
+    explicit Preferences(const QString &path);
+
+    /// The stored value; nothing when it is absent or cannot be understood as a T. A number, flag or text of another
+    /// type is read for what it says ("YES", 1 and true are the same flag).
+    template <class T>
+    [[nodiscard]] std::optional<T> value(PreferenceKey<T> key) const
+    {
+        return convert<T>(variant(nameOf(key)));
+    }
+    template <class T>
+    [[nodiscard]] T value(PreferenceKey<T> key, std::type_identity_t<T> fallback) const
+    {
+        return value(key).value_or(std::move(fallback));
+    }
+    template <class T>
+    void set(PreferenceKey<T> key, const std::type_identity_t<T> &value)
+    {
+        setVariant(nameOf(key), QVariant::fromValue(value));
+    }
+    template <class T>
+    [[nodiscard]] bool contains(PreferenceKey<T> key) const
+    {
+        return contains(nameOf(key));
+    }
+    template <class T>
+    void remove(PreferenceKey<T> key)
+    {
+        remove(nameOf(key));
+    }
+
+    /// Values by names that are only known while running; an invalid variant is absent, and setting one removes.
+    [[nodiscard]] QVariant variant(const QString &name) const;
+    void setVariant(const QString &name, const QVariant &value);
+    [[nodiscard]] bool contains(const QString &name) const;
+    void remove(const QString &name);
+
+    /// Writes what was changed to disk; false when that failed.
+    bool flush();
+
+    [[nodiscard]] QString path() const { return m_path; }
+
+private:
+    template <class T>
+    static QString nameOf(PreferenceKey<T> key)
+    {
+        return QString::fromLatin1(key.name);
+    }
+    template <class T>
+    static std::optional<T> convert(const QVariant &stored);
+
+    QString m_path;
+    QSettings m_settings;
+};
+
+template <>
+std::optional<bool> Preferences::convert<bool>(const QVariant &stored);
+template <>
+std::optional<int> Preferences::convert<int>(const QVariant &stored);
+template <>
+std::optional<qint64> Preferences::convert<qint64>(const QVariant &stored);
+template <>
+std::optional<float> Preferences::convert<float>(const QVariant &stored);
+template <>
+std::optional<double> Preferences::convert<double>(const QVariant &stored);
+template <>
+std::optional<QString> Preferences::convert<QString>(const QVariant &stored);
+template <>
+std::optional<QDateTime> Preferences::convert<QDateTime>(const QVariant &stored);
+template <>
+std::optional<QVariantMap> Preferences::convert<QVariantMap>(const QVariant &stored);
+
+} // namespace brinemark

@@ -1,0 +1,114 @@
+#include "base/SafeFile.h"
+
+#include "base/Log.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHashFunctions>
+#include <QSaveFile>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// Not cryptographic: the question is whether an editor or a synchronising service was here, and opening a file of 100
+/// MB is not to wait for the answer to a question that is hardly ever asked.
+QByteArray fastHash(const QByteArray &content)
+{
+    constexpr size_t seed = 0x6272696e; // any that is not 0: the toolkit then takes its faster way
+    const size_t hash = qHashBits(content.constData(), size_t(content.size()), seed);
+    return QByteArray(reinterpret_cast<const char *>(&hash), sizeof hash);
+}
+
+FileStamp stampOf(const QFileInfo &info)
+{
+    return info.isFile() ? FileStamp{info.size(), info.lastModified().toUTC(), {}} : FileStamp{};
+}
+
+/// Follows links by hand, because a link whose target does not exist yet has no canonical path.
+QString linkTarget(const QString &path)
+{
+    QString target = path;
+    constexpr int mostLinks = 40; // what Linux follows
+    for (int i = 0; i < mostLinks && QFileInfo(target).isSymLink(); ++i)
+        target = QFileInfo(target).symLinkTarget();
+    return target;
+}
+
+} // namespace
+
+FileStamp FileStamp::of(const QString &path)
+{
+    return readFile(path).stamp;
+}
+
+FileStamp FileStamp::of(const QString &path, const QByteArray &content)
+{
+    FileStamp stamp = stampOf(QFileInfo(path));
+    if (stamp.isKnown())
+        stamp.hash = fastHash(content);
+    return stamp;
+}
+
+bool changedOnDisk(const QString &path, const FileStamp &lastKnown)
+{
+    const FileStamp present = stampOf(QFileInfo(path));
+    if (!present.isKnown())
+        return false;
+    if (present.size != lastKnown.size)
+        return true;
+    if (present.modified == lastKnown.modified)
+        return false;
+    return lastKnown.hash.isEmpty() || FileStamp::of(path).hash != lastKnown.hash;
+}
+
+FileContent readFile(const QString &path)
+{
+    FileContent content;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        content.error = file.errorString();
+        return content;
+    }
+    // The time is taken first: a change while we read then shows as one.
+    const QDateTime modified = file.fileTime(QFileDevice::FileModificationTime).toUTC();
+    content.bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        content.error = file.errorString();
+        content.bytes.clear();
+        return content;
+    }
+    content.ok = true;
+    content.stamp = {content.bytes.size(), modified, fastHash(content.bytes)};
+    return content;
+}
+
+WriteResult writeFileSafely(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(linkTarget(path));
+    return writeFileSafely(file, bytes);
+}
+
+WriteResult writeFileSafely(QSaveFile &file, const QByteArray &bytes)
+{
+    const QString path = file.fileName();
+    if (!file.isOpen() && !file.open(QIODevice::WriteOnly)) {
+        qCWarning(logFile) << "Cannot write" << path << file.errorString();
+        return {false, file.errorString(), {}};
+    }
+    const bool written = file.write(bytes) == bytes.size() && file.flush();
+    QString error = file.errorString();
+    if (!written)
+        file.cancelWriting();
+    if (!file.commit()) {
+        if (written)
+            error = file.errorString();
+        qCWarning(logFile) << "Cannot write" << path << error;
+        return {false, error, {}};
+    }
+    return {true, {}, FileStamp::of(path, bytes)};
+}
+
+} // namespace brinemark

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+namespace brinemark
+{
+
+/// An amount of money in the user's currency format. No amount, or something that is not a number, gives an empty text.
+[[nodiscard]] QString formatObjectForLocale(const QVariant &amount);
+
+} // namespace brinemark
