@@ -1,0 +1,21 @@
+#pragma once
+
+#include "base/plist/Value.h"
+
+#include <QString>
+
+namespace brinemark::plist
+{
+
+/// What a reader made of some bytes: the root value, or the reason (English, for the log) why there is none.
+struct ReadResult {
+    Value value;
+    QString error;
+
+    explicit operator bool() const { return error.isEmpty(); }
+};
+
+/// Arrays and dictionaries nested deeper than this cannot be read; real files nest six deep.
+inline constexpr int maximumDepth = 256;
+
+} // namespace brinemark::plist

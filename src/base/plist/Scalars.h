@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/plist/Value.h"
+
+#include <string_view>
+
+namespace brinemark::plist
+{
+
+// The texts of numbers and dates in XML property lists, locale-free. White space around them is ignored; no value for a
+// text that does not fit.
+
+Value parseInteger(std::string_view text); ///< decimal or 0x, optional sign, within signed 64 bits
+Value parseReal(std::string_view text);    ///< also nan, inf, infinity in any case, with optional sign
+Value parseDate(std::string_view text);    ///< YYYY-MM-DDThh:mm:ssZ
+
+QByteArray realText(double real); ///< the shortest text that reads back as the same number
+QByteArray dateText(const QDateTime &date);
+
+} // namespace brinemark::plist
