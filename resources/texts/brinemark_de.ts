@@ -4,6 +4,31 @@
 <context>
     <name>Default</name>
     <message>
+        <source>AboutMessage</source>
+        <translation>Ein Protokoll Ihrer Aquarien: wer darin lebt, wie das Wasser getestet ist, was zu tun ist.</translation>
+    </message>
+    <message>
+        <source>AboutTitle</source>
+        <translation>Über Brinemark</translation>
+    </message>
+    <message>
+        <source>AboutVersion</source>
+        <extracomment>^0 is the version.</extracomment>
+        <translation>Version ^0</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>ActionButtonToolTip</source>
+        <translation>Weitere Aktionen</translation>
+    </message>
+    <message>
+        <source>AddToiCal</source>
+        <translation>In den Kalender eintragen</translation>
+    </message>
+    <message>
         <source>Alkalinity</source>
         <translation>Alkalinität</translation>
     </message>
@@ -27,9 +52,26 @@
         <translation>0.1</translation>
     </message>
     <message>
+        <source>AmmoniaTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Jede nachweisbare Menge Ammoniak ist eine Gefahr, und je höher pH-Wert und Temperatur, desto mehr davon ist giftig. Wechseln Sie jetzt 30 bis 50 Prozent des Wassers gegen aufbereitetes Wasser gleicher Temperatur, füttern Sie ein bis zwei Tage nicht, entfernen Sie tote Tiere und faulende Pflanzen und belüften Sie kräftig. Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist.
+
+Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwasser, setzen Sie keine Tiere ein und testen Sie täglich, bis der Wert null ist. Bleibt er darüber, wiederholen Sie den Wasserwechsel jeden Tag.</translation>
+    </message>
+    <message>
+        <source>Analyze</source>
+        <translation>Auswerten …</translation>
+    </message>
+    <message>
         <source>Aquarium</source>
         <extracomment>Search word stored with the file.</extracomment>
         <translation>Aquarium</translation>
+    </message>
+    <message>
+        <source>AutoColumnTooltip</source>
+        <translation>Nach dem Erledigen neu einplanen</translation>
     </message>
     <message>
         <source>Calcium</source>
@@ -53,6 +95,11 @@
         <translation>CO₂</translation>
     </message>
     <message>
+        <source>CareMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to keep, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unbekannt, Leicht, Mittel, Schwierig, Nur für Erfahrene</translation>
+    </message>
+    <message>
         <source>ChangedOnDiskMessage</source>
         <extracomment>^0 is the file&apos;s name.</extracomment>
         <translation>„^0“ ist nicht mehr die Datei, die Brinemark zuletzt gelesen oder geschrieben hat. Wenn Sie sie überschreiben, gehen die Änderungen des anderen Programms verloren; unter einem anderen Namen bleiben beide Fassungen erhalten.</translation>
@@ -68,6 +115,49 @@
     <message>
         <source>ChangedOnDiskTitle</source>
         <translation>Die Datei wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>CommandLineDescription</source>
+        <translation>Führt Buch über Ihre Aquarien: Tiere und Pflanzen, Wassertests, Wartung, Notizen, Inventar und Ausgaben.</translation>
+    </message>
+    <message>
+        <source>CommandLineFile</source>
+        <translation>Die zu öffnende Aquariendatei.</translation>
+    </message>
+    <message>
+        <source>CommandLineFileName</source>
+        <extracomment>Stands for a file in the command-line help.</extracomment>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>CommandLineHelp</source>
+        <translation>Diese Hilfe anzeigen und beenden.</translation>
+    </message>
+    <message>
+        <source>CommandLineNoFile</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>Die Datei „^0“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>CommandLinePrint</source>
+        <translation>Alles aus der Datei drucken und beenden.</translation>
+    </message>
+    <message>
+        <source>CommandLineTooManyFiles</source>
+        <translation>Es kann nur eine Aquariendatei zugleich geöffnet sein.</translation>
+    </message>
+    <message>
+        <source>CommandLineUnknownOption</source>
+        <extracomment>^0 is the option.</extracomment>
+        <translation>Unbekannte Option: ^0</translation>
+    </message>
+    <message>
+        <source>CommandLineVersion</source>
+        <translation>Die Version anzeigen und beenden.</translation>
+    </message>
+    <message>
+        <source>CommonName</source>
+        <translation>Trivialname</translation>
     </message>
     <message>
         <source>Condition Columns...</source>
@@ -132,6 +222,10 @@
         <translation>Wassertests</translation>
     </message>
     <message>
+        <source>ConditionUndo</source>
+        <translation>Änderung am Wassertest</translation>
+    </message>
+    <message>
         <source>CondtionDataAlkalinity</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Alkalinität: </translation>
@@ -190,6 +284,11 @@
         <translation>Sicherungskopie anlegen</translation>
     </message>
     <message>
+        <source>ConvertKindMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. The kinds of conversion.</extracomment>
+        <translation>Temperatur, Messwerte, Länge, Fläche, Durchfluss, Volumen, Schadstoff</translation>
+    </message>
+    <message>
         <source>ConvertMessage</source>
         <translation>Sie wird beim nächsten Speichern in die heutige Form umgewandelt; bis dahin bleibt die Datei auf dem Datenträger unverändert. Danach kann die frühere Version sie nicht mehr öffnen. Möchten Sie vorher eine Sicherungskopie im selben Ordner anlegen?</translation>
     </message>
@@ -200,6 +299,11 @@
     <message>
         <source>Copper</source>
         <translation>Kupfer</translation>
+    </message>
+    <message>
+        <source>CoralBreedingMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unbekannt, Leicht, Mittel, Schwierig, Noch nicht gelungen</translation>
     </message>
     <message>
         <source>CoralDataHeader</source>
@@ -214,9 +318,33 @@
         <translation>Vorschau wird erstellt …</translation>
     </message>
     <message>
+        <source>CustomDays</source>
+        <translation>Tage:</translation>
+    </message>
+    <message>
+        <source>CustomWeeks</source>
+        <translation>Wochen:</translation>
+    </message>
+    <message>
         <source>Customize condition columns</source>
         <extracomment>Tool tip.</extracomment>
         <translation>Wählen, welche Spalten die Wassertests zeigen</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>DateRangeMessage</source>
+        <translation>Wählen Sie ein Anfangs- und ein Enddatum; der Anfang muss vor dem Ende liegen.</translation>
+    </message>
+    <message>
+        <source>DateRangeTitle</source>
+        <translation>Dieser Zeitraum ist nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source>DeleteButtonToolTip</source>
+        <translation>Ausgewählte Einträge löschen</translation>
     </message>
     <message>
         <source>DeleteCoralWarning</source>
@@ -248,8 +376,17 @@
         <translation>Löschen</translation>
     </message>
     <message>
+        <source>DisplayWarningCheckboxLabel</source>
+        <extracomment>^0 is the parameter&apos;s name.</extracomment>
+        <translation>Warnen, wenn „^0“ vom Ziel abweicht</translation>
+    </message>
+    <message>
         <source>DockMenuTitle</source>
         <translation>Überfällige Aufgaben</translation>
+    </message>
+    <message>
+        <source>DoneColumnTooltip</source>
+        <translation>Erledigt</translation>
     </message>
     <message>
         <source>DontSaveLabel</source>
@@ -264,8 +401,62 @@
         <translation>Bearbeiten …</translation>
     </message>
     <message>
+        <source>EmptyCondition</source>
+        <translation>Hierher gehört jeder Wassertest dieses Aquariums, einer je Zeile.</translation>
+    </message>
+    <message>
+        <source>EmptyCoral</source>
+        <translation>Hierher gehören die Korallen und Anemonen dieses Aquariums.</translation>
+    </message>
+    <message>
+        <source>EmptyExpense</source>
+        <translation>Hierher gehört, was Sie für dieses Aquarium ausgeben.</translation>
+    </message>
+    <message>
+        <source>EmptyFish</source>
+        <translation>Hierher gehören die Fische, die in diesem Aquarium leben.</translation>
+    </message>
+    <message>
+        <source>EmptyInventory</source>
+        <translation>Hierher gehören Technik, Futter und Vorräte dieses Aquariums.</translation>
+    </message>
+    <message>
+        <source>EmptyInvert</source>
+        <translation>Hierher gehören die Garnelen, Schnecken und anderen Wirbellosen dieses Aquariums.</translation>
+    </message>
+    <message>
+        <source>EmptyNote</source>
+        <translation>Hierher gehört alles Merkenswerte über dieses Aquarium.</translation>
+    </message>
+    <message>
+        <source>EmptyOverdue</source>
+        <translation>Nichts ist überfällig.</translation>
+    </message>
+    <message>
+        <source>EmptyPlant</source>
+        <translation>Hierher gehören die Pflanzen, die in diesem Aquarium wachsen.</translation>
+    </message>
+    <message>
+        <source>EmptySchedule</source>
+        <translation>Hierher gehören Wasserwechsel, Filterreinigung und andere Aufgaben mit ihrem Termin.</translation>
+    </message>
+    <message>
+        <source>EmptyTanks</source>
+        <translation>Es ist kein Aquarium ausgewählt. Wählen Sie links eines aus oder legen Sie das erste an.</translation>
+    </message>
+    <message>
+        <source>EqualValueMessage</source>
+        <extracomment>No per-cent sign: this text is used as a format. ^0 is the target.</extracomment>
+        <translation>Der Zielwert für dieses Aquarium ist ^0.</translation>
+    </message>
+    <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>ExpenseAllItem</source>
+        <extracomment>Every category.</extracomment>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>ExpenseDataAmount</source>
@@ -297,6 +488,10 @@
         <translation>Ausstattung</translation>
     </message>
     <message>
+        <source>ExpenseEditItem</source>
+        <translation>Kategorien bearbeiten …</translation>
+    </message>
+    <message>
         <source>ExpenseItem</source>
         <extracomment>Fills StandardWarning, with the article and case that it needs.</extracomment>
         <translation>den Ausgaben</translation>
@@ -311,9 +506,50 @@
         <translation>Keine</translation>
     </message>
     <message>
+        <source>ExpensePeriodMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>Gesamt, Ein Jahr, Ein Monat, Zeitraum</translation>
+    </message>
+    <message>
+        <source>ExpenseUndo</source>
+        <translation>Änderung an der Ausgabe</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>ExportFileFilter</source>
+        <extracomment>Kind of file in the save dialog; the program adds the pattern.</extracomment>
+        <translation>Kommagetrennte Werte</translation>
+    </message>
+    <message>
+        <source>ExportMessage</source>
+        <translation>Wassertests als kommagetrennte Werte exportieren.</translation>
+    </message>
+    <message>
+        <source>ExportName</source>
+        <extracomment>%@ is the tank&apos;s name; the proposed name of the exported file.</extracomment>
+        <translation>Wassertests %@</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familie</translation>
+    </message>
+    <message>
         <source>FileName</source>
         <extracomment>The file name proposed for a new tank file.</extracomment>
         <translation>Meine Aquarien</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <extracomment>%i is how many profiles match.</extracomment>
+        <translation>Bisher %i gefunden …</translation>
+    </message>
+    <message>
+        <source>FishBreedingMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unbekannt, Leicht, Mittel, Schwierig, Noch nicht gelungen</translation>
     </message>
     <message>
         <source>FishDataBreeding</source>
@@ -414,14 +650,36 @@
         <translation>Fische</translation>
     </message>
     <message>
+        <source>FlowMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>US-Gallonen pro Stunde in Liter pro Stunde, Liter pro Stunde in US-Gallonen pro Stunde, Liter pro Stunde in Liter pro Sekunde</translation>
+    </message>
+    <message>
         <source>FolderName</source>
         <extracomment>Same in every language: the folder of this name in the user&apos;s application-data folder is deleted, with all it holds, whenever the program starts.</extracomment>
         <translation>Brinemark Temporary Items</translation>
     </message>
     <message>
+        <source>Found</source>
+        <extracomment>%i is how many profiles match; may be 0 or 1.</extracomment>
+        <translation>%i gefunden</translation>
+    </message>
+    <message>
         <source>GH</source>
         <extracomment>General hardness; the column is 40 pixels wide.</extracomment>
         <translation>GH</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Diagramm …</translation>
+    </message>
+    <message>
+        <source>HelpButton</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>HelpButtonToolTip</source>
+        <translation>Diese Ansicht erklären</translation>
     </message>
     <message>
         <source>HideCalculatorWindow</source>
@@ -434,6 +692,21 @@
     <message>
         <source>HideToolbar</source>
         <translation>Symbolleiste ausblenden</translation>
+    </message>
+    <message>
+        <source>HighValueMessage</source>
+        <extracomment>No per-cent sign: this text is used as a format. ^0 is the upper limit.</extracomment>
+        <translation>In diesem Aquarium sollte er nicht über ^0 liegen.</translation>
+    </message>
+    <message>
+        <source>HighValueTitle</source>
+        <extracomment>^0 is the title of the parameter&apos;s column.</extracomment>
+        <translation>Der Wert „^0“ ist zu hoch.</translation>
+    </message>
+    <message>
+        <source>HighValueWarning</source>
+        <extracomment>Shown in the target editor for ammonia, nitrate and nitrite.</extracomment>
+        <translation>Das ist mehr, als die meisten Tiere auf Dauer vertragen.</translation>
     </message>
     <message>
         <source>InventoryDataCount</source>
@@ -459,6 +732,15 @@
         <translation>Inventar</translation>
     </message>
     <message>
+        <source>InventoryUndo</source>
+        <translation>Änderung am Inventar</translation>
+    </message>
+    <message>
+        <source>InvertBreedingMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unbekannt, Leicht, Mittel, Schwierig, Noch nicht gelungen</translation>
+    </message>
+    <message>
         <source>InvertDataHeader</source>
         <translation>Wirbellose</translation>
     </message>
@@ -480,13 +762,236 @@
         <translation>KH</translation>
     </message>
     <message>
+        <source>LengthMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Zoll in Zentimeter, Zentimeter in Zoll, Dezimeter in Yard, Zentimeter in Fuß, Fuß in Meter, Meter in Yard, Yard in Meter</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Profile werden geladen …</translation>
+    </message>
+    <message>
+        <source>LowValueMessage</source>
+        <extracomment>No per-cent sign: this text is used as a format. ^0 is the lower limit.</extracomment>
+        <translation>In diesem Aquarium sollte er nicht unter ^0 liegen.</translation>
+    </message>
+    <message>
+        <source>LowValueTitle</source>
+        <extracomment>^0 is the title of the parameter&apos;s column.</extracomment>
+        <translation>Der Wert „^0“ ist zu niedrig.</translation>
+    </message>
+    <message>
         <source>Magnesium</source>
         <translation>Magnesium</translation>
+    </message>
+    <message>
+        <source>MainViewTitle</source>
+        <extracomment>Heads a view: ^0 is what it shows, ^1 the tank&apos;s name.</extracomment>
+        <translation>^0 – ^1</translation>
     </message>
     <message>
         <source>MakeDefaultCheck</source>
         <extracomment>Check box in the open and save dialogs.</extracomment>
         <translation>Diese Datei bei jedem Start von Brinemark öffnen</translation>
+    </message>
+    <message>
+        <source>MeasurementMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Grad Härte in ppm, ppm in Grad Härte, Relative Dichte in Salinität (Promille), Salinität (Promille) in relative Dichte, Esslöffel in Teelöffel, Teelöffel in Tropfen, Milliliter in Teelöffel, Teelöffel in Milliliter, Grad Karbonathärte in mval/l, mval/l in Grad Karbonathärte</translation>
+    </message>
+    <message>
+        <source>MenuEdit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>MenuEditCopy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>MenuEditCut</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>MenuEditDelete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>MenuEditPaste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>MenuEditPreferences</source>
+        <translation>E&amp;instellungen …</translation>
+    </message>
+    <message>
+        <source>MenuEditRedo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>MenuEditRedoNamed</source>
+        <extracomment>%@ is the change that can be repeated.</extracomment>
+        <translation>%@ wiederholen</translation>
+    </message>
+    <message>
+        <source>MenuEditSelectAll</source>
+        <translation>Alles a&amp;uswählen</translation>
+    </message>
+    <message>
+        <source>MenuEditUndo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>MenuEditUndoNamed</source>
+        <extracomment>%@ is the change that can be undone.</extracomment>
+        <translation>%@ rückgängig machen</translation>
+    </message>
+    <message>
+        <source>MenuFile</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>MenuFileClearRecent</source>
+        <translation>&amp;Liste leeren</translation>
+    </message>
+    <message>
+        <source>MenuFileNew</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>MenuFileOpen</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>MenuFileOpenRecent</source>
+        <translation>&amp;Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>MenuFilePageSetup</source>
+        <translation>Seite &amp;einrichten …</translation>
+    </message>
+    <message>
+        <source>MenuFilePrint</source>
+        <translation>&amp;Drucken …</translation>
+    </message>
+    <message>
+        <source>MenuFileQuit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>MenuFileRevert</source>
+        <translation>Zurück zur &amp;gesicherten Fassung</translation>
+    </message>
+    <message>
+        <source>MenuFileSave</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>MenuFileSaveAs</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>MenuHelp</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>MenuHelpAbout</source>
+        <translation>Ü&amp;ber Brinemark</translation>
+    </message>
+    <message>
+        <source>MenuHelpContents</source>
+        <translation>Brinemark-&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>MenuHelpFeedback</source>
+        <translation>&amp;Rückmeldung senden</translation>
+    </message>
+    <message>
+        <source>MenuHelpMailingList</source>
+        <translation>&amp;Mailingliste …</translation>
+    </message>
+    <message>
+        <source>MenuHelpProductPage</source>
+        <translation>&amp;Produktseite</translation>
+    </message>
+    <message>
+        <source>MenuHelpUpdates</source>
+        <translation>Nach &amp;Updates suchen …</translation>
+    </message>
+    <message>
+        <source>MenuTank</source>
+        <translation>&amp;Aquarium</translation>
+    </message>
+    <message>
+        <source>MenuTankEdit</source>
+        <translation>Aquarium &amp;bearbeiten …</translation>
+    </message>
+    <message>
+        <source>MenuTankNewCondition</source>
+        <translation>Neuer Wasser&amp;test</translation>
+    </message>
+    <message>
+        <source>MenuTankNewCoral</source>
+        <translation>Neue &amp;Koralle …</translation>
+    </message>
+    <message>
+        <source>MenuTankNewExpense</source>
+        <translation>Neue Au&amp;sgabe</translation>
+    </message>
+    <message>
+        <source>MenuTankNewFish</source>
+        <translation>Neuer &amp;Fisch …</translation>
+    </message>
+    <message>
+        <source>MenuTankNewInventory</source>
+        <translation>Neuer &amp;Gegenstand</translation>
+    </message>
+    <message>
+        <source>MenuTankNewInvert</source>
+        <translation>Neues &amp;wirbelloses Tier …</translation>
+    </message>
+    <message>
+        <source>MenuTankNewNote</source>
+        <translation>Neue &amp;Notiz</translation>
+    </message>
+    <message>
+        <source>MenuTankNewPlant</source>
+        <translation>Neue &amp;Pflanze …</translation>
+    </message>
+    <message>
+        <source>MenuTankNewSchedule</source>
+        <translation>Neue A&amp;ufgabe</translation>
+    </message>
+    <message>
+        <source>MenuTankNewTank</source>
+        <translation>Neues &amp;Aquarium …</translation>
+    </message>
+    <message>
+        <source>MenuView</source>
+        <translation>A&amp;nsicht</translation>
+    </message>
+    <message>
+        <source>MenuViewCollapse</source>
+        <translation>&amp;Zuklappen</translation>
+    </message>
+    <message>
+        <source>MenuViewCustomiseToolbar</source>
+        <translation>&amp;Symbolleiste anpassen …</translation>
+    </message>
+    <message>
+        <source>MenuViewExpand</source>
+        <translation>&amp;Aufklappen</translation>
+    </message>
+    <message>
+        <source>MenuWindow</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>MenuWindowMinimise</source>
+        <translation>&amp;Minimieren</translation>
+    </message>
+    <message>
+        <source>NewButtonToolTip</source>
+        <translation>Eintrag hinzufügen</translation>
     </message>
     <message>
         <source>NewCoralName</source>
@@ -543,6 +1048,15 @@
         <translation>20</translation>
     </message>
     <message>
+        <source>NitrateTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Nitrat schadet langsam, Sie haben also Zeit. Wechseln Sie jetzt und dann alle paar Tage 20 bis 30 Prozent des Wassers, bis der Wert im Rahmen liegt, statt alles auf einmal: Tiere, die an viel Nitrat gewöhnt sind, vertragen kein plötzliches Absinken. Testen Sie auch das Leitungswasser, es kann selbst Nitrat enthalten.
+
+Damit es so bleibt: weniger füttern, Filter und Boden reinigen, den Besatz gering halten und Pflanzen wachsen lassen, im Meerwasser Makroalgen bei guter Abschäumung. Ist der Wert für die Pflanzen zu niedrig, geben Sie einen Nitratdünger in kleinen Mengen zu.</translation>
+    </message>
+    <message>
         <source>Nitrite</source>
         <translation>Nitrit</translation>
     </message>
@@ -555,6 +1069,27 @@
         <source>NitriteSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrite in sea water, mg/l.</extracomment>
         <translation>0.1</translation>
+    </message>
+    <message>
+        <source>NitriteTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Nitrit hindert das Blut daran, Sauerstoff zu transportieren; handeln Sie deshalb noch heute. Wechseln Sie 30 bis 50 Prozent des Wassers gegen aufbereitetes Wasser gleicher Temperatur, füttern Sie ein bis zwei Tage nicht und belüften Sie kräftig.
+
+Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz (Natriumchlorid ohne Jod und Rieselhilfen) auf 10 Liter, in Aquarienwasser gelöst und über mehrere Stunden zugegeben, vertragen fast alle Fische und Pflanzen. Meerwasser enthält bereits genug. Setzen Sie keine Tiere ein, spülen Sie Filtermaterial nur in Aquarienwasser und testen Sie täglich, bis der Wert null ist.</translation>
+    </message>
+    <message>
+        <source>NoDisplayMessage</source>
+        <translation>Brinemark braucht einen Desktop, um sein Fenster zu zeigen, und hat keinen gefunden. Starten Sie es aus einer Desktop-Sitzung oder setzen Sie DISPLAY oder WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>NoFishData</source>
+        <translation>Die Profile konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>NoFishDataMessage</source>
+        <translation>Die Sammlung der Artenprofile, die zu Brinemark gehört, fehlt oder ist beschädigt. Ihre Aquarien sind davon nicht betroffen. Eine erneute Installation von Brinemark stellt die Profile wieder her.</translation>
     </message>
     <message>
         <source>NoLabel</source>
@@ -574,6 +1109,14 @@
         <source>NotTested</source>
         <extracomment>Fills the table cells of values that were not tested: a few letters, no digits, not a lone hyphen.</extracomment>
         <translation>k. A.</translation>
+    </message>
+    <message>
+        <source>NotTestedDialogMessage</source>
+        <translation>In einem neuen Wassertest gelten zunächst alle Werte als nicht getestet. Solche Werte bleiben in Diagrammen, Exporten und Warnungen unberücksichtigt. Leeren Sie eine Zelle, um ihren Wert wieder als nicht getestet zu kennzeichnen.</translation>
+    </message>
+    <message>
+        <source>NotTestedDialogTitle</source>
+        <translation>Tragen Sie nur ein, was Sie getestet haben.</translation>
     </message>
     <message>
         <source>NoteDataDate</source>
@@ -599,6 +1142,10 @@
         <translation>Notizen</translation>
     </message>
     <message>
+        <source>NoteUndo</source>
+        <translation>Änderung an der Notiz</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -609,6 +1156,23 @@
     <message>
         <source>OnLabel</source>
         <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <extracomment>Ends the list of what to search by; opens the browser.</extracomment>
+        <translation>Im Internet</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Urspr. Datum</translation>
+    </message>
+    <message>
+        <source>OverdueRescheduleMessage</source>
+        <translation>Von welchem Tag an soll die nächste gezählt werden? „Heute“ beginnt einen neuen Rhythmus; „Urspr. Datum“ behält den alten bei, auch wenn die nächste Aufgabe dann sofort fällig ist. „Abbrechen“ kennzeichnet diese Aufgabe wieder als nicht erledigt.</translation>
+    </message>
+    <message>
+        <source>OverdueRescheduleTitle</source>
+        <translation>Diese Aufgabe war überfällig.</translation>
     </message>
     <message>
         <source>Oxygen</source>
@@ -624,8 +1188,22 @@
         <translation>pH</translation>
     </message>
     <message>
+        <source>PhTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Der pH-Wert sollte sich um höchstens 0,2 bis 0,3 am Tag ändern: Ein beständiger, nicht ganz passender Wert schadet weniger als eine schnelle Korrektur. Messen Sie zuerst Ammoniak und Karbonathärte (KH). Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist; unter etwa 4 Grad KH bleibt kein pH-Wert stabil.
+
+Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des Wassers und heben Sie die KH dann in kleinen Schritten an. Zu hoch: Im Süßwasser weicheres Wasser beimischen, Kohlendioxid oder Torf einsetzen; im Meerwasser, wo 8,0 bis 8,4 üblich sind, vor jedem Zusatz die Alkalinität prüfen. Ein niedriger pH-Wert im Meerwasser verlangt oft nur frische Luft.</translation>
+    </message>
+    <message>
         <source>Phosphate</source>
         <translation>Phosphat</translation>
+    </message>
+    <message>
+        <source>PlantBreedingMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unbekannt, Leicht, Mittel, Schwierig, Gelingt selten</translation>
     </message>
     <message>
         <source>PlantDataHeader</source>
@@ -639,6 +1217,77 @@
         <source>PlusMinus</source>
         <extracomment>Stands before a tolerance, with a blank between.</extracomment>
         <translation>±</translation>
+    </message>
+    <message>
+        <source>PollutantMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Nitrat in Nitratstickstoff, Nitratstickstoff in Nitrat</translation>
+    </message>
+    <message>
+        <source>PrefsAutoSaveAsk</source>
+        <translation>Nachfragen</translation>
+    </message>
+    <message>
+        <source>PrefsAutoSaveOn</source>
+        <translation>Automatisch speichern</translation>
+    </message>
+    <message>
+        <source>PrefsCalendar</source>
+        <translation>Kalender für Aufgaben:</translation>
+    </message>
+    <message>
+        <source>PrefsChoose</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>PrefsDefaultFile</source>
+        <translation>Beim Start geöffnete Datei:</translation>
+    </message>
+    <message>
+        <source>PrefsNoCalendars</source>
+        <translation>Kein Kalender gefunden</translation>
+    </message>
+    <message>
+        <source>PrefsOnQuit</source>
+        <translation>Bei ungesicherten Änderungen beim Beenden:</translation>
+    </message>
+    <message>
+        <source>PrefsOverdueCheck</source>
+        <translation>Beim Öffnen einer Datei überfällige Aufgaben anzeigen</translation>
+    </message>
+    <message>
+        <source>PrefsReminders</source>
+        <translation>Erinnerungen:</translation>
+    </message>
+    <message>
+        <source>PrefsTitle</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>PrintItemMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>Alles, Ausgewählte Teile</translation>
+    </message>
+    <message>
+        <source>PrintPartsLabel</source>
+        <translation>Teile:</translation>
+    </message>
+    <message>
+        <source>PrintTankMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>Alle Aquarien, Aktuelles Aquarium</translation>
+    </message>
+    <message>
+        <source>PrintTanksLabel</source>
+        <translation>Drucken:</translation>
+    </message>
+    <message>
+        <source>PrintTitle</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>ProfileViewTitle</source>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>ReadErrorMessage</source>
@@ -687,6 +1336,14 @@
         <translation>Möchten Sie die Änderungen an dieser Aquariendatei speichern?</translation>
     </message>
     <message>
+        <source>ScheduleCustomDays</source>
+        <translation>Anzahl Tage …</translation>
+    </message>
+    <message>
+        <source>ScheduleCustomWeeks</source>
+        <translation>Anzahl Wochen …</translation>
+    </message>
+    <message>
         <source>ScheduleDataActivity</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Aufgabe: </translation>
@@ -711,6 +1368,11 @@
         <translation>Wartung</translation>
     </message>
     <message>
+        <source>ScheduleIntervalMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>1 Tag, 2 Tage, 1 Woche, 2 Wochen, 4 Wochen, 52 Wochen</translation>
+    </message>
+    <message>
         <source>ScheduleItem</source>
         <extracomment>Fills StandardWarning, with the article and case that it needs.</extracomment>
         <translation>dem Wartungsplan</translation>
@@ -719,6 +1381,38 @@
         <source>ScheduleName</source>
         <extracomment>Name of the maintenance schedule; also ends the title of a calendar event.</extracomment>
         <translation>Wartung</translation>
+    </message>
+    <message>
+        <source>ScheduleUndo</source>
+        <translation>Änderung an der Aufgabe</translation>
+    </message>
+    <message>
+        <source>SciName</source>
+        <translation>Wissenschaftlicher Name</translation>
+    </message>
+    <message>
+        <source>SearchBy</source>
+        <translation>Suchen nach:</translation>
+    </message>
+    <message>
+        <source>SearchImagesOnline</source>
+        <translation>Bilder im Internet suchen</translation>
+    </message>
+    <message>
+        <source>SearchOnline</source>
+        <translation>Im Internet suchen</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Suche läuft …</translation>
+    </message>
+    <message>
+        <source>SelectCal</source>
+        <translation>Kalender wählen …</translation>
+    </message>
+    <message>
+        <source>SendLabel</source>
+        <translation>Einsenden …</translation>
     </message>
     <message>
         <source>ShowCalculatorWindow</source>
@@ -733,6 +1427,26 @@
         <translation>Symbolleiste einblenden</translation>
     </message>
     <message>
+        <source>SignUpAddress</source>
+        <translation>E-Mail-Adresse:</translation>
+    </message>
+    <message>
+        <source>SignUpJoin</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>SignUpMessage</source>
+        <translation>Möchten Sie per E-Mail von neuen Versionen erfahren? Geben Sie Ihre Adresse ein oder wählen Sie „Abbrechen“; Sie können sich später im Hilfe-Menü anmelden.</translation>
+    </message>
+    <message>
+        <source>SignUpTitle</source>
+        <translation>Brinemark-Mailingliste</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
         <source>Spotlight</source>
         <extracomment>%@ is the name to search for; a menu entry.</extracomment>
         <translation>Nach „%@“ suchen</translation>
@@ -741,6 +1455,19 @@
         <source>StandardWarning</source>
         <extracomment>%@ is one of ConditionItem, ScheduleItem, ExpenseItem, NoteItem, InventoryItem.</extracomment>
         <translation>Auswahl aus %@ löschen?</translation>
+    </message>
+    <message>
+        <source>SubmitMessage</source>
+        <translation>Ihr E-Mail-Programm öffnet eine Nachricht mit allem, was im Editor zu sehen ist. Nichts verlässt diesen Rechner, bevor Sie diese Nachricht abschicken.</translation>
+    </message>
+    <message>
+        <source>SubmitTitle</source>
+        <translation>Möchten Sie dieses Profil einsenden?</translation>
+    </message>
+    <message>
+        <source>SurfaceMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Quadratfuß in Quadratmeter, Quadratmeter in Quadratfuß, Quadratfuß in Quadratzoll, Quadratzoll in Quadratfuß</translation>
     </message>
     <message>
         <source>TankFileFilter</source>
@@ -752,6 +1479,11 @@
         <translation>Süßwasser</translation>
     </message>
     <message>
+        <source>TankLevelMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Profiles refer to the items by their number, counted from 0.</extracomment>
+        <translation>Alle Zonen, Oben, Oben bis Mitte, Mitte, Mitte bis unten, Unten, Schwimmend, Vordergrund, Hintergrund, Auf Stein oder Holz</translation>
+    </message>
+    <message>
         <source>TankSaltwater</source>
         <translation>Meerwasser</translation>
     </message>
@@ -761,14 +1493,40 @@
         <translation>Größe: </translation>
     </message>
     <message>
+        <source>TankTreeTitle</source>
+        <translation>Aquarien</translation>
+    </message>
+    <message>
         <source>TankType</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Art: </translation>
     </message>
     <message>
+        <source>TankViewTitle</source>
+        <translation>Aquarium</translation>
+    </message>
+    <message>
+        <source>TargetsTitle</source>
+        <translation>Zielwerte</translation>
+    </message>
+    <message>
         <source>TempFreshValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. The temperature target of a new tank, in the unit people of this language use.</extracomment>
         <translation>25</translation>
+    </message>
+    <message>
+        <source>TempMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Fahrenheit in Celsius, Celsius in Fahrenheit</translation>
+    </message>
+    <message>
+        <source>TempTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Bringen Sie die Temperatur langsam zurück, um höchstens etwa 1 Grad Celsius in der Stunde. Vergleichen Sie zuerst mit einem zweiten Thermometer und prüfen Sie, ob der Heizer arbeitet und das Wasser umgewälzt wird.
+
+Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventilator über die Oberfläche blasen lassen und belüften, denn warmes Wasser enthält weniger Sauerstoff. Zu kalt: Heizer instand setzen oder ergänzen und das Becken abdecken; ein Wasserwechsel mit etwas wärmerem, aufbereitetem Wasser hilft, im selben Rahmen.</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -780,6 +1538,10 @@
         <translation>Temp.</translation>
     </message>
     <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
         <source>ToolbarCalculate</source>
         <translation>Rechner</translation>
     </message>
@@ -788,12 +1550,56 @@
         <translation>Umrechner und Rechner ein- oder ausblenden</translation>
     </message>
     <message>
+        <source>ToolbarCustomise</source>
+        <translation>Anpassen</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseAdd</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseAvailable</source>
+        <translation>Verfügbar:</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseDown</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseRemove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseReset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseShown</source>
+        <translation>Angezeigt:</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseTitle</source>
+        <translation>Symbolleiste anpassen</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseToolTip</source>
+        <translation>Wählen, was die Symbolleiste zeigt</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseUp</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
         <source>ToolbarDelete</source>
         <translation>Löschen</translation>
     </message>
     <message>
         <source>ToolbarDeleteToolTip</source>
         <translation>Auswahl löschen</translation>
+    </message>
+    <message>
+        <source>ToolbarFlexibleSpace</source>
+        <translation>Flexibler Abstand</translation>
     </message>
     <message>
         <source>ToolbarNewCoral</source>
@@ -844,6 +1650,22 @@
         <translation>Überfällige Wartungsaufgaben ein- oder ausblenden</translation>
     </message>
     <message>
+        <source>ToolbarPrint</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>ToolbarPrintToolTip</source>
+        <translation>Aquarien und Einträge drucken</translation>
+    </message>
+    <message>
+        <source>ToolbarSeparator</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>ToolbarSpace</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
         <source>Unspecified</source>
         <extracomment>Stored in a record in place of an empty text.</extracomment>
         <translation>Keine Angabe</translation>
@@ -859,8 +1681,188 @@
         <translation>Unbenannt</translation>
     </message>
     <message>
+        <source>VolumeMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Britische Gallonen in US-Gallonen, Britische Gallonen in Liter, Liter in britische Gallonen, Liter in US-Gallonen, US-Gallonen in Liter, US-Gallonen in US-Quart</translation>
+    </message>
+    <message>
+        <source>WindowEditedMark</source>
+        <extracomment>Said beside the file&apos;s name while changes are unsaved.</extracomment>
+        <translation>Bearbeitet</translation>
+    </message>
+    <message>
+        <source>WindowTitle</source>
+        <extracomment>^0 is the file&apos;s name.</extracomment>
+        <translation>^0 – Brinemark</translation>
+    </message>
+    <message>
         <source>YesLabel</source>
         <translation>Ja</translation>
+    </message>
+    <message>
+        <source>genericTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Wiederholen Sie den Test, bevor Sie eingreifen. Ändern Sie die Alkalinität dann um höchstens etwa 1 °dKH (18 ppm, 0,36 mmol/l) am Tag und testen Sie auch Calcium und Magnesium, denn die drei hängen voneinander ab.
+
+Zu niedrig: einen Karbonatpuffer wie Natriumhydrogencarbonat in kleinen, in Wasser gelösten Mengen dort zugeben, wo die Strömung stark ist; auch ein Wasserwechsel hilft. Zu hoch: nichts mehr zugeben und den Wert durch Verbrauch und gewöhnliche Wasserwechsel sinken lassen.</translation>
+    </message>
+    <message>
+        <source>iCalAlertMessage</source>
+        <translation>Wählen Sie in den Einstellungen, welcher Kalender Ihre Aufgaben erhält. Bisher wurde nichts eingetragen.</translation>
+    </message>
+    <message>
+        <source>iCalAlertTitle</source>
+        <translation>Es ist kein Kalender ausgewählt.</translation>
+    </message>
+    <message>
+        <source>ppmTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Wiederholen Sie den Test, bevor Sie eingreifen, und prüfen Sie, ob Test und Zielwert dieselbe Einheit haben. Ändern Sie den Wert dann langsam.
+
+Zu hoch: täglich 10 bis 20 Prozent des Wassers gegen gut vorbereitetes Wasser wechseln, bis der Wert im Rahmen liegt, und die Ursache suchen. Zu niedrig: das Fehlende in kleinen Mengen nach Anweisung des Herstellers zugeben und vor jeder Gabe testen.
+
+Zwei Fälle dulden keinen Aufschub. Bei zu wenig Sauerstoff oder zu viel Kohlendioxid sofort kräftig belüften. Kupfer tötet Wirbellose schon in Spuren: mehr Wasser wechseln und über Aktivkohle filtern.</translation>
+    </message>
+</context>
+<context>
+    <name>QZCURLTaskStrings</name>
+    <message>
+        <source>DownloadSize</source>
+        <extracomment>^0 is the amount received, ^1 the total, ^2 the amount received in a second.</extracomment>
+        <translation>^0 von ^1 (^2/s)</translation>
+    </message>
+    <message>
+        <source>DownloadTimeRemaining</source>
+        <extracomment>^0 is a time made of the labels below it, such as 1 hour and 2 minutes.</extracomment>
+        <translation>Noch ^0</translation>
+    </message>
+    <message>
+        <source>HoursLabel</source>
+        <extracomment>Follows a number directly.</extracomment>
+        <translation> Stunden</translation>
+    </message>
+    <message>
+        <source>MinutesLabel</source>
+        <extracomment>Follows a number directly.</extracomment>
+        <translation> Minuten</translation>
+    </message>
+    <message>
+        <source>SecondsLabel</source>
+        <extracomment>Follows a number directly.</extracomment>
+        <translation> Sekunden</translation>
+    </message>
+    <message>
+        <source>SingleHourLabel</source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message>
+        <source>SingleMinuteLabel</source>
+        <translation>1 Minute</translation>
+    </message>
+    <message>
+        <source>SingleSecondLabel</source>
+        <translation>1 Sekunde</translation>
+    </message>
+    <message>
+        <source>TimeAndLabel</source>
+        <extracomment>Stands between hours and minutes.</extracomment>
+        <translation> und </translation>
+    </message>
+</context>
+<context>
+    <name>QZUpdateStrings</name>
+    <message>
+        <source>CancelLabel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>CheckNowLabel</source>
+        <translation>Jetzt suchen</translation>
+    </message>
+    <message>
+        <source>CheckingForUpdate</source>
+        <translation>Es wird nach einer neueren Version gesucht …</translation>
+    </message>
+    <message>
+        <source>CloseConformation</source>
+        <translation>Das Herunterladen ist noch nicht abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>CloseConformationMessage</source>
+        <translation>„Fortfahren“ lässt das Fenster offen und das Herunterladen weiterlaufen. „Abbrechen“ beendet das Herunterladen und schließt das Fenster.</translation>
+    </message>
+    <message>
+        <source>ContinueLabel</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>CurrentVersion</source>
+        <extracomment>%@ is the program&apos;s name.</extracomment>
+        <translation>Sie haben die neueste Version von %@.</translation>
+    </message>
+    <message>
+        <source>DownloadFailed</source>
+        <translation>Das Herunterladen ist fehlgeschlagen. Es wurde nichts installiert oder verändert; bitte versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>DownloadLabel</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>DownloadingUpdatedVersion</source>
+        <translation>Die neue Version wird heruntergeladen …</translation>
+    </message>
+    <message>
+        <source>ErrorWhenChecking</source>
+        <translation>Die Suche nach einer neueren Version ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>ErrorWhenCheckingMessage</source>
+        <translation>Die Website des Produkts war nicht erreichbar. Prüfen Sie Ihre Internetverbindung und versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>LastCheck</source>
+        <translation>Letzte Suche:</translation>
+    </message>
+    <message>
+        <source>NeverChecked</source>
+        <translation>Noch nie</translation>
+    </message>
+    <message>
+        <source>NewVersionAvailable</source>
+        <extracomment>%@ is the program&apos;s name.</extracomment>
+        <translation>Eine neuere Version von %@ ist verfügbar.</translation>
+    </message>
+    <message>
+        <source>SelectLabel</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>UpdateAutoLabel</source>
+        <translation>Automatisch suchen:</translation>
+    </message>
+    <message>
+        <source>UpdateFrequencyMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>Bei jedem Start, Jede Woche, Alle vier Wochen</translation>
+    </message>
+    <message>
+        <source>UpdateWindowLabel</source>
+        <extracomment>%@ is the program&apos;s name.</extracomment>
+        <translation>%@ kann im Internet nach einer neueren Version suchen.</translation>
+    </message>
+    <message>
+        <source>UpdateWindowTitle</source>
+        <extracomment>%@ is the program&apos;s name.</extracomment>
+        <translation>%@ – Update</translation>
     </message>
 </context>
 </TS>

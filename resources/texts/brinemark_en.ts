@@ -4,6 +4,31 @@
 <context>
     <name>Default</name>
     <message>
+        <source>AboutMessage</source>
+        <translation>A record of your aquariums: what lives in them, how the water tests, what needs doing.</translation>
+    </message>
+    <message>
+        <source>AboutTitle</source>
+        <translation>About Brinemark</translation>
+    </message>
+    <message>
+        <source>AboutVersion</source>
+        <extracomment>^0 is the version.</extracomment>
+        <translation>Version ^0</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>ActionButtonToolTip</source>
+        <translation>More actions</translation>
+    </message>
+    <message>
+        <source>AddToiCal</source>
+        <translation>Add to Calendar</translation>
+    </message>
+    <message>
         <source>Alkalinity</source>
         <translation>Alkalinity</translation>
     </message>
@@ -27,9 +52,26 @@
         <translation>0.1</translation>
     </message>
     <message>
+        <source>AmmoniaTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Any ammonia that a test can show is a danger, and the higher the pH and the temperature, the more of it is toxic. Change 30 to 50 per cent of the water now with conditioned water of the same temperature, stop feeding for a day or two, take out dead animals and rotting plants, and aerate strongly. Never raise the pH while ammonia is present.
+
+See that the filter runs, rinse its media only in tank water, add no animals, and test every day until the value is zero. If it stays above zero, repeat the water change daily.</translation>
+    </message>
+    <message>
+        <source>Analyze</source>
+        <translation>Analyse…</translation>
+    </message>
+    <message>
         <source>Aquarium</source>
         <extracomment>Search word stored with the file.</extracomment>
         <translation>aquarium</translation>
+    </message>
+    <message>
+        <source>AutoColumnTooltip</source>
+        <translation>Schedule again when done</translation>
     </message>
     <message>
         <source>Calcium</source>
@@ -53,6 +95,11 @@
         <translation>CO₂</translation>
     </message>
     <message>
+        <source>CareMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to keep, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unknown, Easy, Moderate, Difficult, Experts only</translation>
+    </message>
+    <message>
         <source>ChangedOnDiskMessage</source>
         <extracomment>^0 is the file&apos;s name.</extracomment>
         <translation>“^0” is no longer the file that Brinemark last read or wrote. If you overwrite it, what the other program changed is lost; saving under another name keeps both.</translation>
@@ -68,6 +115,49 @@
     <message>
         <source>ChangedOnDiskTitle</source>
         <translation>The file was changed by another program.</translation>
+    </message>
+    <message>
+        <source>CommandLineDescription</source>
+        <translation>Keeps a record of your aquariums: livestock, water tests, maintenance, notes, inventory and expenses.</translation>
+    </message>
+    <message>
+        <source>CommandLineFile</source>
+        <translation>The tank file to open.</translation>
+    </message>
+    <message>
+        <source>CommandLineFileName</source>
+        <extracomment>Stands for a file in the command-line help.</extracomment>
+        <translation>file</translation>
+    </message>
+    <message>
+        <source>CommandLineHelp</source>
+        <translation>Show this help and leave.</translation>
+    </message>
+    <message>
+        <source>CommandLineNoFile</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>There is no file “^0”.</translation>
+    </message>
+    <message>
+        <source>CommandLinePrint</source>
+        <translation>Print everything in the file and leave.</translation>
+    </message>
+    <message>
+        <source>CommandLineTooManyFiles</source>
+        <translation>Only one tank file can be open at a time.</translation>
+    </message>
+    <message>
+        <source>CommandLineUnknownOption</source>
+        <extracomment>^0 is the option.</extracomment>
+        <translation>Unknown option: ^0</translation>
+    </message>
+    <message>
+        <source>CommandLineVersion</source>
+        <translation>Show the version and leave.</translation>
+    </message>
+    <message>
+        <source>CommonName</source>
+        <translation>Common Name</translation>
     </message>
     <message>
         <source>Condition Columns...</source>
@@ -132,6 +222,10 @@
         <translation>Water Tests</translation>
     </message>
     <message>
+        <source>ConditionUndo</source>
+        <translation>Change of Water Test</translation>
+    </message>
+    <message>
         <source>CondtionDataAlkalinity</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Alkalinity: </translation>
@@ -190,6 +284,11 @@
         <translation>Keep a Backup Copy</translation>
     </message>
     <message>
+        <source>ConvertKindMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. The kinds of conversion.</extracomment>
+        <translation>Temperature, Measurement, Length, Surface, Flow, Volume, Pollutant</translation>
+    </message>
+    <message>
         <source>ConvertMessage</source>
         <translation>It will be converted to the current form when you next save it; until then the file on disk stays as it is. Once converted, the earlier version can no longer open it. Do you want to keep a backup copy in the same folder first?</translation>
     </message>
@@ -200,6 +299,11 @@
     <message>
         <source>Copper</source>
         <translation>Copper</translation>
+    </message>
+    <message>
+        <source>CoralBreedingMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unknown, Easy, Moderate, Difficult, Not yet propagated</translation>
     </message>
     <message>
         <source>CoralDataHeader</source>
@@ -214,9 +318,33 @@
         <translation>Creating preview…</translation>
     </message>
     <message>
+        <source>CustomDays</source>
+        <translation>Days:</translation>
+    </message>
+    <message>
+        <source>CustomWeeks</source>
+        <translation>Weeks:</translation>
+    </message>
+    <message>
         <source>Customize condition columns</source>
         <extracomment>Tool tip.</extracomment>
         <translation>Choose which columns the water tests show</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>DateRangeMessage</source>
+        <translation>Choose a start date and an end date, with the start before the end.</translation>
+    </message>
+    <message>
+        <source>DateRangeTitle</source>
+        <translation>This range of dates cannot be used.</translation>
+    </message>
+    <message>
+        <source>DeleteButtonToolTip</source>
+        <translation>Delete the selected entries</translation>
     </message>
     <message>
         <source>DeleteCoralWarning</source>
@@ -248,8 +376,17 @@
         <translation>Delete</translation>
     </message>
     <message>
+        <source>DisplayWarningCheckboxLabel</source>
+        <extracomment>^0 is the parameter&apos;s name.</extracomment>
+        <translation>Warn when ^0 is off target</translation>
+    </message>
+    <message>
         <source>DockMenuTitle</source>
         <translation>Overdue Activities</translation>
+    </message>
+    <message>
+        <source>DoneColumnTooltip</source>
+        <translation>Done</translation>
     </message>
     <message>
         <source>DontSaveLabel</source>
@@ -264,8 +401,62 @@
         <translation>Edit…</translation>
     </message>
     <message>
+        <source>EmptyCondition</source>
+        <translation>Every water test of this tank belongs here, one row for each.</translation>
+    </message>
+    <message>
+        <source>EmptyCoral</source>
+        <translation>The corals and anemones of this tank belong here.</translation>
+    </message>
+    <message>
+        <source>EmptyExpense</source>
+        <translation>What you spend on this tank belongs here.</translation>
+    </message>
+    <message>
+        <source>EmptyFish</source>
+        <translation>The fish that live in this tank belong here.</translation>
+    </message>
+    <message>
+        <source>EmptyInventory</source>
+        <translation>Equipment, food and supplies of this tank belong here.</translation>
+    </message>
+    <message>
+        <source>EmptyInvert</source>
+        <translation>The shrimps, snails and other invertebrates of this tank belong here.</translation>
+    </message>
+    <message>
+        <source>EmptyNote</source>
+        <translation>Anything worth remembering about this tank belongs here.</translation>
+    </message>
+    <message>
+        <source>EmptyOverdue</source>
+        <translation>Nothing is overdue.</translation>
+    </message>
+    <message>
+        <source>EmptyPlant</source>
+        <translation>The plants that grow in this tank belong here.</translation>
+    </message>
+    <message>
+        <source>EmptySchedule</source>
+        <translation>Water changes, filter cleaning and other activities with their due dates belong here.</translation>
+    </message>
+    <message>
+        <source>EmptyTanks</source>
+        <translation>No tank is selected. Choose one on the left, or add the first.</translation>
+    </message>
+    <message>
+        <source>EqualValueMessage</source>
+        <extracomment>No per-cent sign: this text is used as a format. ^0 is the target.</extracomment>
+        <translation>The target for this tank is ^0.</translation>
+    </message>
+    <message>
         <source>Error</source>
         <translation>Error</translation>
+    </message>
+    <message>
+        <source>ExpenseAllItem</source>
+        <extracomment>Every category.</extracomment>
+        <translation>All</translation>
     </message>
     <message>
         <source>ExpenseDataAmount</source>
@@ -297,6 +488,10 @@
         <translation>Equipment</translation>
     </message>
     <message>
+        <source>ExpenseEditItem</source>
+        <translation>Edit Categories…</translation>
+    </message>
+    <message>
         <source>ExpenseItem</source>
         <extracomment>Fills StandardWarning, with the article and case that it needs.</extracomment>
         <translation>the expenses</translation>
@@ -311,9 +506,50 @@
         <translation>None</translation>
     </message>
     <message>
+        <source>ExpensePeriodMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>All time, One year, One month, Range of dates</translation>
+    </message>
+    <message>
+        <source>ExpenseUndo</source>
+        <translation>Change of Expense</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export…</translation>
+    </message>
+    <message>
+        <source>ExportFileFilter</source>
+        <extracomment>Kind of file in the save dialog; the program adds the pattern.</extracomment>
+        <translation>Comma-separated values</translation>
+    </message>
+    <message>
+        <source>ExportMessage</source>
+        <translation>Export the water tests as comma-separated values.</translation>
+    </message>
+    <message>
+        <source>ExportName</source>
+        <extracomment>%@ is the tank&apos;s name; the proposed name of the exported file.</extracomment>
+        <translation>Water Tests %@</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Family</translation>
+    </message>
+    <message>
         <source>FileName</source>
         <extracomment>The file name proposed for a new tank file.</extracomment>
         <translation>My Tanks</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <extracomment>%i is how many profiles match.</extracomment>
+        <translation>%i found so far…</translation>
+    </message>
+    <message>
+        <source>FishBreedingMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unknown, Easy, Moderate, Difficult, Not yet bred</translation>
     </message>
     <message>
         <source>FishDataBreeding</source>
@@ -414,14 +650,36 @@
         <translation>Fish</translation>
     </message>
     <message>
+        <source>FlowMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>US gallons per hour to litres per hour, Litres per hour to US gallons per hour, Litres per hour to litres per second</translation>
+    </message>
+    <message>
         <source>FolderName</source>
         <extracomment>Same in every language: the folder of this name in the user&apos;s application-data folder is deleted, with all it holds, whenever the program starts.</extracomment>
         <translation>Brinemark Temporary Items</translation>
     </message>
     <message>
+        <source>Found</source>
+        <extracomment>%i is how many profiles match; may be 0 or 1.</extracomment>
+        <translation>%i found</translation>
+    </message>
+    <message>
         <source>GH</source>
         <extracomment>General hardness; the column is 40 pixels wide.</extracomment>
         <translation>GH</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graph…</translation>
+    </message>
+    <message>
+        <source>HelpButton</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>HelpButtonToolTip</source>
+        <translation>Explain this view</translation>
     </message>
     <message>
         <source>HideCalculatorWindow</source>
@@ -434,6 +692,21 @@
     <message>
         <source>HideToolbar</source>
         <translation>Hide Toolbar</translation>
+    </message>
+    <message>
+        <source>HighValueMessage</source>
+        <extracomment>No per-cent sign: this text is used as a format. ^0 is the upper limit.</extracomment>
+        <translation>In this tank it should not be above ^0.</translation>
+    </message>
+    <message>
+        <source>HighValueTitle</source>
+        <extracomment>^0 is the title of the parameter&apos;s column.</extracomment>
+        <translation>The value of ^0 is high.</translation>
+    </message>
+    <message>
+        <source>HighValueWarning</source>
+        <extracomment>Shown in the target editor for ammonia, nitrate and nitrite.</extracomment>
+        <translation>This is more than most animals bear for long.</translation>
     </message>
     <message>
         <source>InventoryDataCount</source>
@@ -459,6 +732,15 @@
         <translation>Inventory</translation>
     </message>
     <message>
+        <source>InventoryUndo</source>
+        <translation>Change of Inventory</translation>
+    </message>
+    <message>
+        <source>InvertBreedingMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unknown, Easy, Moderate, Difficult, Not yet bred</translation>
+    </message>
+    <message>
         <source>InvertDataHeader</source>
         <translation>Invertebrates</translation>
     </message>
@@ -480,13 +762,236 @@
         <translation>KH</translation>
     </message>
     <message>
+        <source>LengthMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Inches to centimetres, Centimetres to inches, Decimetres to yards, Centimetres to feet, Feet to metres, Metres to yards, Yards to metres</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Loading profiles…</translation>
+    </message>
+    <message>
+        <source>LowValueMessage</source>
+        <extracomment>No per-cent sign: this text is used as a format. ^0 is the lower limit.</extracomment>
+        <translation>In this tank it should not be below ^0.</translation>
+    </message>
+    <message>
+        <source>LowValueTitle</source>
+        <extracomment>^0 is the title of the parameter&apos;s column.</extracomment>
+        <translation>The value of ^0 is low.</translation>
+    </message>
+    <message>
         <source>Magnesium</source>
         <translation>Magnesium</translation>
+    </message>
+    <message>
+        <source>MainViewTitle</source>
+        <extracomment>Heads a view: ^0 is what it shows, ^1 the tank&apos;s name.</extracomment>
+        <translation>^0 – ^1</translation>
     </message>
     <message>
         <source>MakeDefaultCheck</source>
         <extracomment>Check box in the open and save dialogs.</extracomment>
         <translation>Open this file whenever Brinemark starts</translation>
+    </message>
+    <message>
+        <source>MeasurementMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Degrees of hardness to ppm, ppm to degrees of hardness, Specific gravity to salinity (ppt), Salinity (ppt) to specific gravity, Tablespoons to teaspoons, Teaspoons to drops, Millilitres to teaspoons, Teaspoons to millilitres, Degrees of carbonate hardness to meq/l, meq/l to degrees of carbonate hardness</translation>
+    </message>
+    <message>
+        <source>MenuEdit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>MenuEditCopy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>MenuEditCut</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>MenuEditDelete</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>MenuEditPaste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>MenuEditPreferences</source>
+        <translation>Pr&amp;eferences…</translation>
+    </message>
+    <message>
+        <source>MenuEditRedo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>MenuEditRedoNamed</source>
+        <extracomment>%@ is the change that can be repeated.</extracomment>
+        <translation>Redo %@</translation>
+    </message>
+    <message>
+        <source>MenuEditSelectAll</source>
+        <translation>Select &amp;All</translation>
+    </message>
+    <message>
+        <source>MenuEditUndo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>MenuEditUndoNamed</source>
+        <extracomment>%@ is the change that can be undone.</extracomment>
+        <translation>Undo %@</translation>
+    </message>
+    <message>
+        <source>MenuFile</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>MenuFileClearRecent</source>
+        <translation>&amp;Clear List</translation>
+    </message>
+    <message>
+        <source>MenuFileNew</source>
+        <translation>&amp;New</translation>
+    </message>
+    <message>
+        <source>MenuFileOpen</source>
+        <translation>&amp;Open…</translation>
+    </message>
+    <message>
+        <source>MenuFileOpenRecent</source>
+        <translation>Open &amp;Recent</translation>
+    </message>
+    <message>
+        <source>MenuFilePageSetup</source>
+        <translation>Page Set&amp;up…</translation>
+    </message>
+    <message>
+        <source>MenuFilePrint</source>
+        <translation>&amp;Print…</translation>
+    </message>
+    <message>
+        <source>MenuFileQuit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>MenuFileRevert</source>
+        <translation>Re&amp;vert to Saved</translation>
+    </message>
+    <message>
+        <source>MenuFileSave</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>MenuFileSaveAs</source>
+        <translation>Save &amp;As…</translation>
+    </message>
+    <message>
+        <source>MenuHelp</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>MenuHelpAbout</source>
+        <translation>&amp;About Brinemark</translation>
+    </message>
+    <message>
+        <source>MenuHelpContents</source>
+        <translation>Brinemark &amp;Help</translation>
+    </message>
+    <message>
+        <source>MenuHelpFeedback</source>
+        <translation>Send &amp;Feedback</translation>
+    </message>
+    <message>
+        <source>MenuHelpMailingList</source>
+        <translation>&amp;Mailing List…</translation>
+    </message>
+    <message>
+        <source>MenuHelpProductPage</source>
+        <translation>&amp;Product Page</translation>
+    </message>
+    <message>
+        <source>MenuHelpUpdates</source>
+        <translation>Check for &amp;Updates…</translation>
+    </message>
+    <message>
+        <source>MenuTank</source>
+        <translation>&amp;Tank</translation>
+    </message>
+    <message>
+        <source>MenuTankEdit</source>
+        <translation>E&amp;dit Tank…</translation>
+    </message>
+    <message>
+        <source>MenuTankNewCondition</source>
+        <translation>New &amp;Water Test</translation>
+    </message>
+    <message>
+        <source>MenuTankNewCoral</source>
+        <translation>New &amp;Coral…</translation>
+    </message>
+    <message>
+        <source>MenuTankNewExpense</source>
+        <translation>New &amp;Expense</translation>
+    </message>
+    <message>
+        <source>MenuTankNewFish</source>
+        <translation>New &amp;Fish…</translation>
+    </message>
+    <message>
+        <source>MenuTankNewInventory</source>
+        <translation>New In&amp;ventory Item</translation>
+    </message>
+    <message>
+        <source>MenuTankNewInvert</source>
+        <translation>New &amp;Invertebrate…</translation>
+    </message>
+    <message>
+        <source>MenuTankNewNote</source>
+        <translation>New &amp;Note</translation>
+    </message>
+    <message>
+        <source>MenuTankNewPlant</source>
+        <translation>New &amp;Plant…</translation>
+    </message>
+    <message>
+        <source>MenuTankNewSchedule</source>
+        <translation>New &amp;Activity</translation>
+    </message>
+    <message>
+        <source>MenuTankNewTank</source>
+        <translation>New &amp;Tank…</translation>
+    </message>
+    <message>
+        <source>MenuView</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>MenuViewCollapse</source>
+        <translation>&amp;Collapse</translation>
+    </message>
+    <message>
+        <source>MenuViewCustomiseToolbar</source>
+        <translation>Customise &amp;Toolbar…</translation>
+    </message>
+    <message>
+        <source>MenuViewExpand</source>
+        <translation>&amp;Expand</translation>
+    </message>
+    <message>
+        <source>MenuWindow</source>
+        <translation>&amp;Window</translation>
+    </message>
+    <message>
+        <source>MenuWindowMinimise</source>
+        <translation>&amp;Minimise</translation>
+    </message>
+    <message>
+        <source>NewButtonToolTip</source>
+        <translation>Add an entry</translation>
     </message>
     <message>
         <source>NewCoralName</source>
@@ -543,6 +1048,15 @@
         <translation>20</translation>
     </message>
     <message>
+        <source>NitrateTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Nitrate harms slowly, so there is time. Change 20 to 30 per cent of the water now and again every few days until the value is in range, rather than all at once: animals that are used to much nitrate do not bear a sudden drop. Test the tap water too, as it may bring nitrate with it.
+
+To keep it down, feed less, clean the filter and the bottom, stock lightly and grow plants, or in a marine tank macroalgae with a good skimmer. If it is too low for the plants, add a nitrate fertiliser in small doses.</translation>
+    </message>
+    <message>
         <source>Nitrite</source>
         <translation>Nitrite</translation>
     </message>
@@ -555,6 +1069,27 @@
         <source>NitriteSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrite in sea water, mg/l.</extracomment>
         <translation>0.1</translation>
+    </message>
+    <message>
+        <source>NitriteTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Nitrite keeps the blood from carrying oxygen, so act today. Change 30 to 50 per cent of the water with conditioned water of the same temperature, stop feeding for a day or two and aerate strongly.
+
+In fresh water chloride protects fish from nitrite: about 1 gram of pure salt (sodium chloride without iodine or anti-caking agents) to 10 litres, dissolved in tank water and added over several hours, is borne by nearly all fish and plants. Sea water already holds enough. Add no animals, rinse filter media only in tank water, and test every day until the value is zero.</translation>
+    </message>
+    <message>
+        <source>NoDisplayMessage</source>
+        <translation>Brinemark needs a desktop to show its window on, and none was found. Start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>NoFishData</source>
+        <translation>The profiles could not be read.</translation>
+    </message>
+    <message>
+        <source>NoFishDataMessage</source>
+        <translation>The collection of species profiles that belongs to Brinemark is missing or damaged. Your tanks are not affected. Installing Brinemark again brings the profiles back.</translation>
     </message>
     <message>
         <source>NoLabel</source>
@@ -574,6 +1109,14 @@
         <source>NotTested</source>
         <extracomment>Fills the table cells of values that were not tested: a few letters, no digits, not a lone hyphen.</extracomment>
         <translation>n/a</translation>
+    </message>
+    <message>
+        <source>NotTestedDialogMessage</source>
+        <translation>A new water test begins with every value marked as not tested. Such values are left out of graphs, exports and warnings. To mark a value as not tested again, empty its cell.</translation>
+    </message>
+    <message>
+        <source>NotTestedDialogTitle</source>
+        <translation>Fill in only what you tested.</translation>
     </message>
     <message>
         <source>NoteDataDate</source>
@@ -599,6 +1142,10 @@
         <translation>Notes</translation>
     </message>
     <message>
+        <source>NoteUndo</source>
+        <translation>Change of Note</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -609,6 +1156,23 @@
     <message>
         <source>OnLabel</source>
         <translation>On</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <extracomment>Ends the list of what to search by; opens the browser.</extracomment>
+        <translation>The Web</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original Date</translation>
+    </message>
+    <message>
+        <source>OverdueRescheduleMessage</source>
+        <translation>From which day should the next one be counted? “Today” starts a new rhythm; “Original Date” keeps the old one, even if the next activity is then due at once. “Cancel” marks this activity as not done.</translation>
+    </message>
+    <message>
+        <source>OverdueRescheduleTitle</source>
+        <translation>This activity was overdue.</translation>
     </message>
     <message>
         <source>Oxygen</source>
@@ -624,8 +1188,22 @@
         <translation>pH</translation>
     </message>
     <message>
+        <source>PhTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+The pH should not move by more than 0.2 to 0.3 a day: a steady value that is a little off does less harm than a quick correction. Measure ammonia and carbonate hardness (KH) first. Never raise the pH while ammonia is present, and below about 4 degrees KH no pH will hold.
+
+Too low: the carbonate hardness is usually used up; change some of the water, then raise the KH in small steps. Too high: in fresh water mix in softer water or add carbon dioxide or peat; in a marine tank, where 8.0 to 8.4 is usual, check the alkalinity before you add anything. A low marine pH often only wants fresh air.</translation>
+    </message>
+    <message>
         <source>Phosphate</source>
         <translation>Phosphate</translation>
+    </message>
+    <message>
+        <source>PlantBreedingMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
+        <translation>Unknown, Easy, Moderate, Difficult, Seldom succeeds</translation>
     </message>
     <message>
         <source>PlantDataHeader</source>
@@ -639,6 +1217,77 @@
         <source>PlusMinus</source>
         <extracomment>Stands before a tolerance, with a blank between.</extracomment>
         <translation>±</translation>
+    </message>
+    <message>
+        <source>PollutantMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Nitrate to nitrate nitrogen, Nitrate nitrogen to nitrate</translation>
+    </message>
+    <message>
+        <source>PrefsAutoSaveAsk</source>
+        <translation>Ask what to do</translation>
+    </message>
+    <message>
+        <source>PrefsAutoSaveOn</source>
+        <translation>Save automatically</translation>
+    </message>
+    <message>
+        <source>PrefsCalendar</source>
+        <translation>Calendar for activities:</translation>
+    </message>
+    <message>
+        <source>PrefsChoose</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>PrefsDefaultFile</source>
+        <translation>File opened at start:</translation>
+    </message>
+    <message>
+        <source>PrefsNoCalendars</source>
+        <translation>No calendar found</translation>
+    </message>
+    <message>
+        <source>PrefsOnQuit</source>
+        <translation>With unsaved changes on quitting:</translation>
+    </message>
+    <message>
+        <source>PrefsOverdueCheck</source>
+        <translation>Show overdue activities when a file is opened</translation>
+    </message>
+    <message>
+        <source>PrefsReminders</source>
+        <translation>Reminders:</translation>
+    </message>
+    <message>
+        <source>PrefsTitle</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>PrintItemMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>Everything, Chosen parts</translation>
+    </message>
+    <message>
+        <source>PrintPartsLabel</source>
+        <translation>Parts:</translation>
+    </message>
+    <message>
+        <source>PrintTankMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>All tanks, Current tank</translation>
+    </message>
+    <message>
+        <source>PrintTanksLabel</source>
+        <translation>Print:</translation>
+    </message>
+    <message>
+        <source>PrintTitle</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>ProfileViewTitle</source>
+        <translation>Profile</translation>
     </message>
     <message>
         <source>ReadErrorMessage</source>
@@ -687,6 +1336,14 @@
         <translation>Do you want to save the changes to this tank file?</translation>
     </message>
     <message>
+        <source>ScheduleCustomDays</source>
+        <translation>Number of days…</translation>
+    </message>
+    <message>
+        <source>ScheduleCustomWeeks</source>
+        <translation>Number of weeks…</translation>
+    </message>
+    <message>
         <source>ScheduleDataActivity</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Activity: </translation>
@@ -711,6 +1368,11 @@
         <translation>Maintenance</translation>
     </message>
     <message>
+        <source>ScheduleIntervalMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>1 day, 2 days, 1 week, 2 weeks, 4 weeks, 52 weeks</translation>
+    </message>
+    <message>
         <source>ScheduleItem</source>
         <extracomment>Fills StandardWarning, with the article and case that it needs.</extracomment>
         <translation>the maintenance schedule</translation>
@@ -719,6 +1381,38 @@
         <source>ScheduleName</source>
         <extracomment>Name of the maintenance schedule; also ends the title of a calendar event.</extracomment>
         <translation>Maintenance</translation>
+    </message>
+    <message>
+        <source>ScheduleUndo</source>
+        <translation>Change of Activity</translation>
+    </message>
+    <message>
+        <source>SciName</source>
+        <translation>Scientific Name</translation>
+    </message>
+    <message>
+        <source>SearchBy</source>
+        <translation>Search by:</translation>
+    </message>
+    <message>
+        <source>SearchImagesOnline</source>
+        <translation>Search the Web for Pictures</translation>
+    </message>
+    <message>
+        <source>SearchOnline</source>
+        <translation>Search the Web</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Searching…</translation>
+    </message>
+    <message>
+        <source>SelectCal</source>
+        <translation>Choose Calendar…</translation>
+    </message>
+    <message>
+        <source>SendLabel</source>
+        <translation>Send…</translation>
     </message>
     <message>
         <source>ShowCalculatorWindow</source>
@@ -733,6 +1427,26 @@
         <translation>Show Toolbar</translation>
     </message>
     <message>
+        <source>SignUpAddress</source>
+        <translation>E-mail address:</translation>
+    </message>
+    <message>
+        <source>SignUpJoin</source>
+        <translation>Join</translation>
+    </message>
+    <message>
+        <source>SignUpMessage</source>
+        <translation>Would you like to hear of new versions by e-mail? Enter your address, or choose Cancel; you can join later from the Help menu.</translation>
+    </message>
+    <message>
+        <source>SignUpTitle</source>
+        <translation>Brinemark Mailing List</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
         <source>Spotlight</source>
         <extracomment>%@ is the name to search for; a menu entry.</extracomment>
         <translation>Search for “%@”</translation>
@@ -741,6 +1455,19 @@
         <source>StandardWarning</source>
         <extracomment>%@ is one of ConditionItem, ScheduleItem, ExpenseItem, NoteItem, InventoryItem.</extracomment>
         <translation>Delete the selection from %@?</translation>
+    </message>
+    <message>
+        <source>SubmitMessage</source>
+        <translation>Your mail program will open with a message that holds everything shown in the editor. Nothing leaves this computer until you send that message.</translation>
+    </message>
+    <message>
+        <source>SubmitTitle</source>
+        <translation>Do you want to send in this profile?</translation>
+    </message>
+    <message>
+        <source>SurfaceMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Square feet to square metres, Square metres to square feet, Square feet to square inches, Square inches to square feet</translation>
     </message>
     <message>
         <source>TankFileFilter</source>
@@ -752,6 +1479,11 @@
         <translation>Freshwater</translation>
     </message>
     <message>
+        <source>TankLevelMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Profiles refer to the items by their number, counted from 0.</extracomment>
+        <translation>All levels, Top, Top to middle, Middle, Middle to bottom, Bottom, Floating, Foreground, Background, On rock or wood</translation>
+    </message>
+    <message>
         <source>TankSaltwater</source>
         <translation>Marine</translation>
     </message>
@@ -761,14 +1493,40 @@
         <translation>Size: </translation>
     </message>
     <message>
+        <source>TankTreeTitle</source>
+        <translation>Tanks</translation>
+    </message>
+    <message>
         <source>TankType</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Type: </translation>
     </message>
     <message>
+        <source>TankViewTitle</source>
+        <translation>Tank</translation>
+    </message>
+    <message>
+        <source>TargetsTitle</source>
+        <translation>Targets</translation>
+    </message>
+    <message>
         <source>TempFreshValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. The temperature target of a new tank, in the unit people of this language use.</extracomment>
         <translation>25</translation>
+    </message>
+    <message>
+        <source>TempMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Fahrenheit to Celsius, Celsius to Fahrenheit</translation>
+    </message>
+    <message>
+        <source>TempTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Bring the temperature back slowly, by no more than about 1 degree Celsius an hour. First compare with a second thermometer and see that the heater works and the water circulates.
+
+Too warm: turn the heater down, open the lid, dim the light, let a fan blow over the surface, and aerate, because warm water holds less oxygen. Too cold: repair or add a heater and cover the tank; a water change with slightly warmer, conditioned water helps within the same limit.</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -780,6 +1538,10 @@
         <translation>Temp.</translation>
     </message>
     <message>
+        <source>Today</source>
+        <translation>Today</translation>
+    </message>
+    <message>
         <source>ToolbarCalculate</source>
         <translation>Calculators</translation>
     </message>
@@ -788,12 +1550,56 @@
         <translation>Show or hide the unit converter and calculators</translation>
     </message>
     <message>
+        <source>ToolbarCustomise</source>
+        <translation>Customise</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseAdd</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseAvailable</source>
+        <translation>Available:</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseDown</source>
+        <translation>Move Down</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseRemove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseReset</source>
+        <translation>Restore Defaults</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseShown</source>
+        <translation>Shown:</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseTitle</source>
+        <translation>Customise Toolbar</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseToolTip</source>
+        <translation>Choose what the toolbar shows</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseUp</source>
+        <translation>Move Up</translation>
+    </message>
+    <message>
         <source>ToolbarDelete</source>
         <translation>Delete</translation>
     </message>
     <message>
         <source>ToolbarDeleteToolTip</source>
         <translation>Delete what is selected</translation>
+    </message>
+    <message>
+        <source>ToolbarFlexibleSpace</source>
+        <translation>Flexible Space</translation>
     </message>
     <message>
         <source>ToolbarNewCoral</source>
@@ -844,6 +1650,22 @@
         <translation>Show or hide the overdue maintenance activities</translation>
     </message>
     <message>
+        <source>ToolbarPrint</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>ToolbarPrintToolTip</source>
+        <translation>Print tanks and records</translation>
+    </message>
+    <message>
+        <source>ToolbarSeparator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>ToolbarSpace</source>
+        <translation>Space</translation>
+    </message>
+    <message>
         <source>Unspecified</source>
         <extracomment>Stored in a record in place of an empty text.</extracomment>
         <translation>Unspecified</translation>
@@ -859,8 +1681,188 @@
         <translation>Untitled</translation>
     </message>
     <message>
+        <source>VolumeMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
+        <translation>Imperial gallons to US gallons, Imperial gallons to litres, Litres to imperial gallons, Litres to US gallons, US gallons to litres, US gallons to US quarts</translation>
+    </message>
+    <message>
+        <source>WindowEditedMark</source>
+        <extracomment>Said beside the file&apos;s name while changes are unsaved.</extracomment>
+        <translation>Edited</translation>
+    </message>
+    <message>
+        <source>WindowTitle</source>
+        <extracomment>^0 is the file&apos;s name.</extracomment>
+        <translation>^0 – Brinemark</translation>
+    </message>
+    <message>
         <source>YesLabel</source>
         <translation>Yes</translation>
+    </message>
+    <message>
+        <source>genericTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Repeat the test before you act. Then change the alkalinity by no more than about 1 dKH (18 ppm, 0.36 meq/l) a day, and test calcium and magnesium too, as the three depend on each other.
+
+Too low: add a carbonate buffer, such as sodium bicarbonate, in small portions dissolved in water, where the current is strong; a water change also helps. Too high: stop dosing and let use and ordinary water changes bring it down.</translation>
+    </message>
+    <message>
+        <source>iCalAlertMessage</source>
+        <translation>Choose in the preferences which calendar receives your activities. Nothing has been added yet.</translation>
+    </message>
+    <message>
+        <source>iCalAlertTitle</source>
+        <translation>No calendar has been chosen.</translation>
+    </message>
+    <message>
+        <source>ppmTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+Repeat the test before you act, and check that test and target use the same unit. Then move the value slowly.
+
+Too high: change 10 to 20 per cent of the water a day with well-prepared water until it is in range, and look for the source. Too low: add what is missing in small doses as its maker directs, testing before each one.
+
+Two cases cannot wait. When oxygen is short or carbon dioxide too high, aerate strongly at once. Copper kills invertebrates even in traces: change more of the water and filter over activated carbon.</translation>
+    </message>
+</context>
+<context>
+    <name>QZCURLTaskStrings</name>
+    <message>
+        <source>DownloadSize</source>
+        <extracomment>^0 is the amount received, ^1 the total, ^2 the amount received in a second.</extracomment>
+        <translation>^0 of ^1 (^2/s)</translation>
+    </message>
+    <message>
+        <source>DownloadTimeRemaining</source>
+        <extracomment>^0 is a time made of the labels below it, such as 1 hour and 2 minutes.</extracomment>
+        <translation>^0 remaining</translation>
+    </message>
+    <message>
+        <source>HoursLabel</source>
+        <extracomment>Follows a number directly.</extracomment>
+        <translation> hours</translation>
+    </message>
+    <message>
+        <source>MinutesLabel</source>
+        <extracomment>Follows a number directly.</extracomment>
+        <translation> minutes</translation>
+    </message>
+    <message>
+        <source>SecondsLabel</source>
+        <extracomment>Follows a number directly.</extracomment>
+        <translation> seconds</translation>
+    </message>
+    <message>
+        <source>SingleHourLabel</source>
+        <translation>1 hour</translation>
+    </message>
+    <message>
+        <source>SingleMinuteLabel</source>
+        <translation>1 minute</translation>
+    </message>
+    <message>
+        <source>SingleSecondLabel</source>
+        <translation>1 second</translation>
+    </message>
+    <message>
+        <source>TimeAndLabel</source>
+        <extracomment>Stands between hours and minutes.</extracomment>
+        <translation> and </translation>
+    </message>
+</context>
+<context>
+    <name>QZUpdateStrings</name>
+    <message>
+        <source>CancelLabel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>CheckNowLabel</source>
+        <translation>Check Now</translation>
+    </message>
+    <message>
+        <source>CheckingForUpdate</source>
+        <translation>Looking for a newer version…</translation>
+    </message>
+    <message>
+        <source>CloseConformation</source>
+        <translation>The download is not finished.</translation>
+    </message>
+    <message>
+        <source>CloseConformationMessage</source>
+        <translation>“Continue” keeps this window open and the download running. “Cancel” stops the download and closes the window.</translation>
+    </message>
+    <message>
+        <source>ContinueLabel</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>CurrentVersion</source>
+        <extracomment>%@ is the program&apos;s name.</extracomment>
+        <translation>You have the latest version of %@.</translation>
+    </message>
+    <message>
+        <source>DownloadFailed</source>
+        <translation>The download failed. Nothing was installed or changed; please try again later.</translation>
+    </message>
+    <message>
+        <source>DownloadLabel</source>
+        <translation>Download</translation>
+    </message>
+    <message>
+        <source>DownloadingUpdatedVersion</source>
+        <translation>Downloading the new version…</translation>
+    </message>
+    <message>
+        <source>ErrorWhenChecking</source>
+        <translation>The check for a newer version failed.</translation>
+    </message>
+    <message>
+        <source>ErrorWhenCheckingMessage</source>
+        <translation>The product’s web site could not be reached. Check your connection to the Internet and try again later.</translation>
+    </message>
+    <message>
+        <source>LastCheck</source>
+        <translation>Last check:</translation>
+    </message>
+    <message>
+        <source>NeverChecked</source>
+        <translation>Never</translation>
+    </message>
+    <message>
+        <source>NewVersionAvailable</source>
+        <extracomment>%@ is the program&apos;s name.</extracomment>
+        <translation>A newer version of %@ is available.</translation>
+    </message>
+    <message>
+        <source>SelectLabel</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>UpdateAutoLabel</source>
+        <translation>Check automatically:</translation>
+    </message>
+    <message>
+        <source>UpdateFrequencyMenu</source>
+        <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma.</extracomment>
+        <translation>At every start, Every week, Every four weeks</translation>
+    </message>
+    <message>
+        <source>UpdateWindowLabel</source>
+        <extracomment>%@ is the program&apos;s name.</extracomment>
+        <translation>%@ can look online for a newer version of itself.</translation>
+    </message>
+    <message>
+        <source>UpdateWindowTitle</source>
+        <extracomment>%@ is the program&apos;s name.</extracomment>
+        <translation>%@ Update</translation>
     </message>
 </context>
 </TS>
