@@ -1,0 +1,1 @@
+"""What the sample tank file tells: two tanks, two years."""

@@ -1,0 +1,1 @@
+"""What the scripts that write tank files share: the file's form, dates, and small drawn pictures."""
