@@ -1,0 +1,35 @@
+#include "ui/Icons.h"
+
+#include "base/Log.h"
+#include "ui/IconEngine.h"
+
+#include <QFile>
+#include <QHash>
+
+namespace brinemark
+{
+
+static QIcon load(const QString &name)
+{
+    QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
+    if (name.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        qCWarning(logApp) << "no icon is named" << name;
+        return {};
+    }
+    return QIcon(new IconEngine(name, file.readAll()));
+}
+
+QIcon icon(const QString &name)
+{
+    // Trees ask for a row's icon at every paint; an unknown name is remembered too and so complains once only.
+    static QHash<QString, QIcon> loaded;
+    const auto found = loaded.constFind(name);
+    return found != loaded.cend() ? *found : *loaded.insert(name, load(name));
+}
+
+QIcon icon(const char *name)
+{
+    return icon(QString::fromLatin1(name));
+}
+
+} // namespace brinemark

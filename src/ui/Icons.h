@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+#include <array>
+
+namespace brinemark
+{
+
+/// Every icon of the program, one a line of :/icons/NAME.svg. Toolbars, trees and tests read the names from here.
+inline constexpr std::array iconNames{
+    // Tree rows, drawn for 16 px.
+    "TankSmall", "FishSmall", "PlantSmall", "CoralSmall", "InvertebratesSmall", "ConditionsSmall", "NotesSmall",
+    "ScheduleSmall", "InventorySmall", "ExpensesSmall",
+    // Toolbar, drawn for 24 to 32 px.
+    "NewTankBig", "NewFishBig", "PlantNew", "InvertebratesNew", "CoralNew", "Delete", "Convert", "NoteWindow", "Print",
+    "Customise",
+    // Pictures, drawn for 96 to 160 px.
+    "FishBig", "Plant", "Invertebrates", "Coral", "Profileplaceholder3",
+    // Lists and their buttons.
+    "Ellipse", "New", "Remove", "Action", "Edit", "Help", "Graph", "Export", "Search",
+    // States and alerts; each differs from the others in shape as well as in colour.
+    "StateInRange", "StateNear", "StateOut", "StateNotTested", "StateOverdue", "StateDone", "AlertCritical",
+    "AlertQuestion", "AlertInformation",
+    // Commands.
+    "Undo", "Redo", "Copy", "Paste", "Open", "Save", "NewFile", "Settings", "Mail", "Web", "Update",
+    // The program itself.
+    "Brinemark"};
+
+/// The icon drawn in :/icons/NAME.svg, in the colours of the application's palette; it follows palette changes by
+/// itself. An unknown name gives a null icon and a line in the log.
+QIcon icon(const QString &name);
+QIcon icon(const char *name);
+
+} // namespace brinemark
