@@ -1,22 +1,19 @@
 #pragma once
 
-#include <QPointer>
 #include <QString>
 
 #include <functional>
 
-class QCheckBox;
-class QPushButton;
 class QWidget;
 
 namespace brinemark
 {
 
-class AlertDialog;
-
 /// An alert that a person can silence for good: a modal panel or a sheet with a check box. What was chosen is one
 /// integer preference for each identifier; while it is stored the alert is not shown and the integer is reported in its
 /// place.
+///
+/// The dialog and its buttons have the object names of every alert (see Alerts.h), the check box is "dontShowCheckbox".
 class AlertPanelDontAskAgain
 {
 public:
@@ -25,13 +22,15 @@ public:
 
     /// Looked-up texts. Without a text the default button is "OK", and the alternate one is left out.
     struct Question {
-        QString title;
-        QString message;
-        QString defaultButton;
-        QString alternateButton;
-        QString identifier;
+        QString title = {};
+        QString message = {};
+        QString defaultButton = {};
+        QString alternateButton = {};
+        QString identifier = {};
         bool ignoreExistingState = false; ///< show it even when it was silenced
     };
+
+    AlertPanelDontAskAgain() = delete;
 
     /// True when nothing is stored. Otherwise false, and `state`, when given, receives the stored integer.
     static bool canShowPanelForIdentifier(const QString &identifier, int *state = nullptr);
@@ -53,16 +52,6 @@ public:
                                     int defaultReturnCode, DidEnd didEnd = {}, void *context = nullptr);
     static void beginSheetForWindow(QWidget *window, const Question &question, DidEnd didEnd = {},
                                     void *context = nullptr);
-
-private:
-    AlertPanelDontAskAgain(const Question &question, QWidget *parent);
-    int buttonPressed(int answer) const;
-
-    QPointer<AlertDialog> m_panel;
-    QPointer<QCheckBox> m_dontShowCheckbox;
-    QString m_prefIdentifier;
-    bool m_useDelegateDefaultReturnCode = false;
-    int m_delegateDefaultReturnCode = -1;
 };
 
 } // namespace brinemark

@@ -20,11 +20,11 @@ enum AlertAnswer : int { AlertOther = -1, AlertAlternate = 0, AlertDefault = 1 }
 /// other button when there is one, else the alternate, else the default.
 struct Alert {
     AlertStyle style = AlertStyle::Informational;
-    QString title;
-    QString message;
-    QString defaultButton;
-    QString alternateButton;
-    QString otherButton;
+    QString title = {};
+    QString message = {};
+    QString defaultButton = {};
+    QString alternateButton = {};
+    QString otherButton = {};
 };
 
 /// Shows the alert as a sheet of the window that holds `window` and returns at once; `ended` gets the AlertAnswer. A

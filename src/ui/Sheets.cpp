@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QPointer>
 #include <QScreen>
 
 #include <algorithm>
@@ -34,10 +33,13 @@ public:
 
     void add(QDialog *sheet)
     {
-        // Both signals: a sheet that is deleted never finishes, and its pointer is null by then.
-        connect(sheet, &QDialog::finished, this, [this, sheet] { remove(sheet); });
-        connect(sheet, &QObject::destroyed, this, [this] { remove(nullptr); });
-        m_sheets.emplace_back(sheet);
+        // A sheet that is deleted never finishes. It is only compared by then, never used.
+        connect(sheet, &QDialog::finished, this, [this, sheet] {
+            disconnect(sheet, nullptr, this, nullptr);
+            remove(sheet);
+        });
+        connect(sheet, &QObject::destroyed, this, [this, sheet] { remove(sheet); });
+        m_sheets.push_back(sheet);
         if (m_sheets.size() == 1)
             openFirst();
     }
@@ -54,15 +56,13 @@ private:
 
     void remove(QDialog *sheet)
     {
-        if (sheet)
-            disconnect(sheet, nullptr, this, nullptr);
-        const QPointer<QDialog> first = m_sheets.empty() ? QPointer<QDialog>() : m_sheets.front();
+        const bool wasOpen = !m_sheets.empty() && m_sheets.front() == sheet;
         std::erase(m_sheets, sheet);
-        if (!m_sheets.empty() && m_sheets.front() != first)
+        if (wasOpen && !m_sheets.empty())
             openFirst();
     }
 
-    std::deque<QPointer<QDialog>> m_sheets;
+    std::deque<QDialog *> m_sheets;
 };
 
 } // namespace

@@ -1,0 +1,48 @@
+#include "ui/Colours.h"
+
+#include <QPalette>
+
+#include <array>
+
+namespace brinemark
+{
+
+namespace
+{
+
+struct Shades {
+    ColourRole role;
+    QRgb light;
+    QRgb dark;
+};
+
+constexpr std::array shades{
+    Shades{ColourRole::InRange, 0xff1f7231, 0xff63c873}, Shades{ColourRole::Near, 0xff8a5200, 0xfff2b23e},
+    Shades{ColourRole::Out, 0xffb82020, 0xffff8a84},     Shades{ColourRole::NotTested, 0xff60666b, 0xffadb4ba},
+    Shades{ColourRole::Overdue, 0xff9c2f6a, 0xfff09ac9}, Shades{ColourRole::Done, 0xff176771, 0xff5cc3cf},
+    Shades{ColourRole::Accent, 0xff08639a, 0xff62c0f0},  Shades{ColourRole::SecondaryText, 0xff5a6268, 0xffb2b9bf},
+};
+
+static_assert(shades.size() == size_t(ColourRole::Count));
+static_assert([] {
+    for (size_t i = 0; i < shades.size(); ++i) {
+        if (shades[i].role != ColourRole(i))
+            return false;
+    }
+    return true;
+}());
+
+} // namespace
+
+QColor colour(ColourRole role, const QPalette &palette)
+{
+    const Shades &row = shades.at(size_t(role));
+    return QColor::fromRgb(isDark(palette) ? row.dark : row.light);
+}
+
+bool isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+} // namespace brinemark

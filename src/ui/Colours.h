@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QColor>
+
+class QPalette;
+
+namespace brinemark
+{
+
+/// What a colour says. It never says it alone: a mark or a word stands beside it.
+enum class ColourRole { InRange, Near, Out, NotTested, Overdue, Done, Accent, SecondaryText, Count };
+
+/// The colour of `role` on the palette's window and base colours: the light or the dark set, by the window's lightness.
+/// Every one can be read as text there (contrast 4.5:1 or more).
+QColor colour(ColourRole role, const QPalette &palette);
+
+/// Whether the palette is a dark one.
+bool isDark(const QPalette &palette);
+
+} // namespace brinemark

@@ -1,0 +1,79 @@
+#include "ui/EmptyState.h"
+
+#include "ui/Colours.h"
+
+#include <QEvent>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace brinemark
+{
+
+EmptyState::EmptyState(const QIcon &picture, const QString &sentence, const QString &buttonText, QWidget *parent)
+    : QWidget(parent)
+    , m_picture(new QLabel(this))
+    , m_sentence(new QLabel(sentence, this))
+    , m_button(new QPushButton(this))
+{
+    constexpr int readableWidth = 360;
+    m_sentence->setObjectName(QStringLiteral("emptyStateSentence"));
+    m_sentence->setTextFormat(Qt::PlainText);
+    m_sentence->setWordWrap(true);
+    m_sentence->setAlignment(Qt::AlignCenter);
+    m_sentence->setFixedWidth(readableWidth);
+    m_button->setObjectName(QStringLiteral("emptyStateButton"));
+    connect(m_button, &QPushButton::clicked, this, &EmptyState::addRequested);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(12);
+    column->addStretch(2);
+    column->addWidget(m_picture, 0, Qt::AlignHCenter);
+    column->addWidget(m_sentence, 0, Qt::AlignHCenter);
+    column->addWidget(m_button, 0, Qt::AlignHCenter);
+    column->addStretch(3); // a little above the middle looks like the middle
+    setPicture(picture);
+    setButtonText(buttonText);
+    applyLook();
+}
+
+QString EmptyState::sentence() const
+{
+    return m_sentence->text();
+}
+
+void EmptyState::setPicture(const QIcon &picture)
+{
+    constexpr int side = 96;
+    m_picture->setPixmap(picture.pixmap(QSize(side, side), devicePixelRatioF()));
+    m_picture->setVisible(!picture.isNull());
+}
+
+void EmptyState::setSentence(const QString &sentence)
+{
+    m_sentence->setText(sentence);
+}
+
+void EmptyState::setButtonText(const QString &text)
+{
+    m_button->setText(text);
+    m_button->setVisible(!text.isEmpty());
+}
+
+void EmptyState::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        applyLook();
+}
+
+void EmptyState::applyLook()
+{
+    QPalette quiet = palette();
+    quiet.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, palette()));
+    m_sentence->setPalette(quiet);
+}
+
+} // namespace brinemark

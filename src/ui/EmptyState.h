@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QWidget>
+
+class QIcon;
+class QLabel;
+class QPushButton;
+
+namespace brinemark
+{
+
+/// What a view shows while it has nothing to show: a picture, one sentence that says what belongs here, and, when it
+/// can be added from here, the button (object name "emptyStateButton") that does so.
+class EmptyState : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Looked-up texts; without a text there is no button.
+    EmptyState(const QIcon &picture, const QString &sentence, const QString &buttonText = {},
+               QWidget *parent = nullptr);
+
+    [[nodiscard]] QString sentence() const;
+    [[nodiscard]] QPushButton *button() const { return m_button; }
+    void setPicture(const QIcon &picture);
+    void setSentence(const QString &sentence);
+    void setButtonText(const QString &text);
+
+Q_SIGNALS:
+    void addRequested();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void applyLook();
+
+    QLabel *m_picture;
+    QLabel *m_sentence;
+    QPushButton *m_button;
+};
+
+} // namespace brinemark

@@ -1,0 +1,50 @@
+#include "ui/TruncatingDelegate.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace brinemark
+{
+
+bool TruncatingDelegate::isTruncated(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
+    // A text of several lines is shown in one and so never whole.
+    return index.data(Qt::DisplayRole).toString().trimmed().contains(QLatin1Char('\n')) ||
+           style->sizeFromContents(QStyle::CT_ItemViewItem, &cell, {}, cell.widget).width() > option.rect.width();
+}
+
+QString TruncatingDelegate::displayText(const QVariant &value, const QLocale &locale) const
+{
+    QString shown = QStyledItemDelegate::displayText(value, locale);
+    return shown.replace(QChar::LineSeparator, QLatin1Char(' ')).replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+bool TruncatingDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                                   const QModelIndex &index)
+{
+    const bool ownTip = index.data(Qt::ToolTipRole).isValid();
+    if (!event || !view || event->type() != QEvent::ToolTip || ownTip || !isTruncated(option, index))
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const QVariant value = index.data(Qt::DisplayRole);
+    const QString whole = QStyledItemDelegate::displayText(value, option.locale);
+    QToolTip::showText(event->globalPos(), wholeTextToolTip(whole), view->viewport(), option.rect);
+    return true;
+}
+
+QString wholeTextToolTip(const QString &text)
+{
+    constexpr qsizetype longest = 2000;
+    QString shown = text;
+    shown.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    if (shown.size() > longest)
+        shown = shown.left(longest) + QStringLiteral("\u2026");
+    return Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal);
+}
+
+} // namespace brinemark

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace brinemark
+{
+
+/// Shows a cell in one line that is cut off with an ellipsis; the tool tip of a cell that is cut off holds the whole
+/// text.
+class TruncatingDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] bool isTruncated(const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    [[nodiscard]] QString displayText(const QVariant &value, const QLocale &locale) const override;
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) override;
+};
+
+/// `text` as a tool tip that wraps its lines, shows marks such as "<" as they are and is cut off where it would fill
+/// the screen.
+[[nodiscard]] QString wholeTextToolTip(const QString &text);
+
+} // namespace brinemark
