@@ -1,5 +1,6 @@
 #include "ui/AlertDialog.h"
 
+#include "base/text/Texts.h"
 #include "ui/MessageText.h"
 #include "ui/Sheets.h"
 
@@ -49,16 +50,16 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
                         ->standardIcon(critical ? QStyle::SP_MessageBoxCritical : QStyle::SP_MessageBoxInformation)
                         .pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
 
-    m_title = new QLabel(alert.title, this);
+    // Both shares leave room for the buttons and the window's frame on the smallest screen.
+    m_title = new MessageText(alert.title, 0.2, this);
     m_title->setObjectName(QStringLiteral("alertTitle"));
-    m_title->setTextFormat(Qt::PlainText);
-    m_title->setWordWrap(true);
-    m_title->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_title->setAccessibleName(alert.title);
+    m_title->setFocusPolicy(Qt::ClickFocus);
     QFont bold = m_title->font();
     bold.setBold(true);
     m_title->setFont(bold);
 
-    m_message = new MessageText(alert.message, this);
+    m_message = new MessageText(alert.message, 0.5, this);
     m_message->setObjectName(QStringLiteral("alertMessage"));
     m_message->setAccessibleName(alert.title);
     m_message->setVisible(!alert.message.isEmpty());
@@ -81,14 +82,14 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     all->addStretch();
     all->addWidget(m_buttons);
 
-    addButton(AlertDefault, alert.defaultButton.isEmpty() ? QStringLiteral("OK") : alert.defaultButton);
+    addButton(AlertDefault, alert.defaultButton.isEmpty() ? text("OK") : alert.defaultButton);
     addButton(AlertAlternate, alert.alternateButton);
     addButton(AlertOther, alert.otherButton);
 }
 
 QString AlertDialog::title() const
 {
-    return m_title->text();
+    return m_title->toPlainText();
 }
 
 QString AlertDialog::message() const

@@ -6,7 +6,6 @@
 
 class QCheckBox;
 class QDialogButtonBox;
-class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
@@ -46,7 +45,7 @@ private:
     void addButton(AlertAnswer answer, const QString &text);
 
     QVBoxLayout *m_texts = nullptr;
-    QLabel *m_title = nullptr;
+    MessageText *m_title = nullptr;
     MessageText *m_message = nullptr;
     QDialogButtonBox *m_buttons = nullptr;
     AlertAnswer m_cancelAnswer = AlertDefault;

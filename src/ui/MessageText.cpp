@@ -11,8 +11,9 @@
 namespace brinemark
 {
 
-MessageText::MessageText(const QString &text, QWidget *parent)
+MessageText::MessageText(const QString &text, double shareOfScreen, QWidget *parent)
     : QTextEdit(parent)
+    , m_shareOfScreen(shareOfScreen)
 {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -33,18 +34,12 @@ QSize MessageText::sizeHint() const
     measured->setDefaultFont(font());
     measured->setTextWidth(readableWidth);
     const int height = int(std::ceil(measured->size().height()));
-    return {readableWidth, std::min(height, maximumTextHeight())};
+    return {readableWidth, std::min(height, int(screen()->availableGeometry().height() * m_shareOfScreen))};
 }
 
 QSize MessageText::minimumSizeHint() const
 {
     return sizeHint();
-}
-
-int MessageText::maximumTextHeight() const
-{
-    // What stands around the text, window frame included, fits into the rest of the screen.
-    return screen()->availableGeometry().height() / 2;
 }
 
 void MessageText::keyPressEvent(QKeyEvent *event)

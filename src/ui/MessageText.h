@@ -5,14 +5,15 @@
 namespace brinemark
 {
 
-/// A read-only text of several lines at a readable width, as tall as its text until `maximumHeight`, from where on it
-/// scrolls. It can be selected and copied, and wraps inside words that are too long for a line, such as paths.
+/// A read-only text of several lines at a readable width, as tall as its text until it reaches a share of the screen's
+/// height, from where on it scrolls. It can be selected and copied, and wraps inside words that are too long for a
+/// line, such as paths.
 class MessageText : public QTextEdit
 {
     Q_OBJECT
 
 public:
-    explicit MessageText(const QString &text, QWidget *parent = nullptr);
+    MessageText(const QString &text, double shareOfScreen, QWidget *parent = nullptr);
 
     static constexpr int readableWidth = 420; ///< pixels
 
@@ -23,7 +24,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    [[nodiscard]] int maximumTextHeight() const;
+    double m_shareOfScreen;
 };
 
 } // namespace brinemark
