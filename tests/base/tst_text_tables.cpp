@@ -1,0 +1,186 @@
+// Every key that the sources look up has a text in every language, with the same placeholders, in the compiled program.
+
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace
+{
+
+const QStringList complete = {QStringLiteral("en"), QStringLiteral("de")};
+const QStringList languages = {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("en_US")};
+
+/// The texts of one language: table, key, text.
+using Tables = QMap<QString, QMap<QString, QString>>;
+
+Tables readTables(const QString &language)
+{
+    QFile file(QStringLiteral(BRINEMARK_SOURCE_DIR "/resources/texts/brinemark_%1.ts").arg(language));
+    Tables tables;
+    if (!file.open(QIODevice::ReadOnly))
+        return tables;
+    QXmlStreamReader xml(&file);
+    QString table;
+    QString key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("name"))
+            table = xml.readElementText();
+        else if (xml.name() == QLatin1String("source"))
+            key = xml.readElementText();
+        else if (xml.name() == QLatin1String("translation"))
+            tables[table].insert(key, xml.readElementText());
+    }
+    return xml.hasError() ? Tables() : tables;
+}
+
+struct Use {
+    QString key;
+    QString table; ///< empty where the place does not say: any table will do
+
+    bool operator==(const Use &) const = default;
+};
+
+QString tableNamed(const QString &enumerator)
+{
+    static const QMap<QString, QString> names = {{QStringLiteral("Default"), QStringLiteral("Default")},
+                                                 {QStringLiteral("Update"), QStringLiteral("QZUpdateStrings")},
+                                                 {QStringLiteral("Transfer"), QStringLiteral("QZCURLTaskStrings")}};
+    return names.value(enumerator, enumerator);
+}
+
+/// Calls of text(), hasText() and numberOfText() with a literal, and key literals wherever they stand.
+QList<Use> usesIn(QString source)
+{
+    // Ordinary literals throughout this file: moc loses its way in raw ones.
+    static const QRegularExpression comments(QLatin1String("(?m)(^|\\s)//.*$"));
+    static const QRegularExpression use(
+        QLatin1String("(?<call>(?<![\\w.>])(?:text|hasText|numberOfText)\\(\\s*)?\"(?<key>[^\"\\n]+)\"(?<suffix>_key)?"
+                      "(?:\\s*,\\s*(?:brinemark::)?TextTable::(?<table>\\w+))?"));
+    QList<Use> uses;
+    for (auto matches = use.globalMatch(source.remove(comments)); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        const bool isCall = match.hasCaptured(QStringLiteral("call"));
+        if (!isCall && !match.hasCaptured(QStringLiteral("suffix")))
+            continue;
+        QString table = tableNamed(match.captured(QStringLiteral("table")));
+        if (isCall && table.isEmpty())
+            table = QStringLiteral("Default");
+        uses.append({match.captured(QStringLiteral("key")), table});
+    }
+    return uses;
+}
+
+bool holds(const Tables &tables, const Use &use)
+{
+    if (!use.table.isEmpty())
+        return tables.value(use.table).contains(use.key);
+    return std::any_of(tables.begin(), tables.end(), [&use](const auto &table) { return table.contains(use.key); });
+}
+
+QStringList placeholders(const QString &text)
+{
+    static const QRegularExpression pattern(QLatin1String("%[@i%]|\\^[0-9]"));
+    QStringList found;
+    for (auto matches = pattern.globalMatch(text); matches.hasNext();)
+        found.append(matches.next().captured());
+    found.sort();
+    return found;
+}
+
+} // namespace
+
+class TestTextTables : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsTheUsesInASource();
+    void everyKeyInTheSourcesHasAText();
+    void placeholdersAgree();
+    void compiledTablesHoldEveryText();
+};
+
+void TestTextTables::findsTheUsesInASource()
+{
+    const QString source = QLatin1String(
+        "setTitle(text(\"SaveTitle\")); element.text(\"NotAKey\"); setText(\"NotAKey\"); // text(\"InAComment\")\n"
+        "text( \"LastCheck\"_key,\n"
+        "TextTable::Update); brinemark::numberOfText(\"TempFreshValue\"); \"http://notAKey\";\n"
+        "{\"Edit...\"_key, hasText(\"SingleHourLabel\", brinemark::TextTable::Transfer)}\n");
+    const QList<Use> expected = {{QStringLiteral("SaveTitle"), QStringLiteral("Default")},
+                                 {QStringLiteral("LastCheck"), QStringLiteral("QZUpdateStrings")},
+                                 {QStringLiteral("TempFreshValue"), QStringLiteral("Default")},
+                                 {QStringLiteral("Edit..."), QString()},
+                                 {QStringLiteral("SingleHourLabel"), QStringLiteral("QZCURLTaskStrings")}};
+    QVERIFY(usesIn(source) == expected);
+}
+
+void TestTextTables::everyKeyInTheSourcesHasAText()
+{
+    QStringList missing;
+    int files = 0;
+    for (const QString &language : complete) {
+        const Tables tables = readTables(language);
+        QDirIterator sources(QStringLiteral(BRINEMARK_SOURCE_DIR "/src"),
+                             {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
+                             QDirIterator::Subdirectories);
+        for (; sources.hasNext(); ++files) {
+            QFile file(sources.next());
+            QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+            for (const Use &use : usesIn(QString::fromUtf8(file.readAll()))) {
+                if (!holds(tables, use))
+                    missing.append(QStringLiteral("%1: %2 (%3), used in %4")
+                                       .arg(language, use.key,
+                                            use.table.isEmpty() ? QStringLiteral("any table") : use.table,
+                                            sources.fileInfo().fileName()));
+            }
+        }
+    }
+    QVERIFY(files > 0);
+    QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char('\n'))));
+}
+
+void TestTextTables::placeholdersAgree()
+{
+    const Tables english = readTables(complete.first());
+    QStringList wrong;
+    for (const QString &language : languages) {
+        const Tables tables = readTables(language);
+        QVERIFY2(!tables.isEmpty(), qPrintable(language));
+        for (auto table = tables.begin(); table != tables.end(); ++table) {
+            for (auto text = table->begin(); text != table->end(); ++text) {
+                if (placeholders(text.value()) != placeholders(english.value(table.key()).value(text.key())))
+                    wrong.append(language + QStringLiteral(": ") + text.key());
+            }
+        }
+    }
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QLatin1Char('\n'))));
+}
+
+void TestTextTables::compiledTablesHoldEveryText()
+{
+    for (const QString &language : languages) {
+        QTranslator compiled;
+        QVERIFY2(compiled.load(QStringLiteral(":/texts/brinemark_%1.qm").arg(language)), qPrintable(language));
+        const Tables tables = readTables(language);
+        QVERIFY2(!tables.isEmpty(), qPrintable(language));
+        for (auto table = tables.begin(); table != tables.end(); ++table) {
+            for (auto text = table->begin(); text != table->end(); ++text) {
+                QCOMPARE(compiled.translate(table.key().toUtf8().constData(), text.key().toUtf8().constData()),
+                         text.value());
+            }
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(TestTextTables)
+
+#include "tst_text_tables.moc"
