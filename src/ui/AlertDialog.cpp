@@ -1,6 +1,7 @@
 #include "ui/AlertDialog.h"
 
 #include "base/text/Texts.h"
+#include "ui/Icons.h"
 #include "ui/MessageText.h"
 #include "ui/Sheets.h"
 
@@ -11,7 +12,6 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace brinemark
@@ -39,16 +39,14 @@ const char *buttonName(AlertAnswer answer)
 } // namespace
 
 AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
 {
     setWindowTitle(QGuiApplication::applicationDisplayName());
     setAccessibleName(alert.title);
 
-    auto *icon = new QLabel(this);
-    const bool critical = alert.style == AlertStyle::Critical;
-    icon->setPixmap(style()
-                        ->standardIcon(critical ? QStyle::SP_MessageBoxCritical : QStyle::SP_MessageBoxInformation)
-                        .pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
+    auto *picture = new QLabel(this);
+    const char *name = alert.style == AlertStyle::Critical ? "AlertCritical" : "AlertInformation";
+    picture->setPixmap(icon(name).pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
 
     // Both shares leave room for the buttons and the window's frame on the smallest screen.
     m_title = new MessageText(alert.title, 0.2, this);
@@ -71,13 +69,15 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
 
     auto *top = new QHBoxLayout;
     top->setSpacing(16);
-    top->addWidget(icon, 0, Qt::AlignTop);
+    top->addWidget(picture, 0, Qt::AlignTop);
     top->addLayout(m_texts, 1);
+    top->setAlignment(m_texts, Qt::AlignVCenter); // a title alone stands beside the middle of the picture
 
     m_buttons = new QDialogButtonBox(this);
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins(16, 16, 16, 16);
     all->setSpacing(16);
+    all->setSizeConstraint(QLayout::SetFixedSize);
     all->addLayout(top);
     all->addStretch();
     all->addWidget(m_buttons);

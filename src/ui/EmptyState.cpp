@@ -3,7 +3,6 @@
 #include "ui/Colours.h"
 
 #include <QEvent>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -36,7 +35,6 @@ EmptyState::EmptyState(const QIcon &picture, const QString &sentence, const QStr
     column->addStretch(3); // a little above the middle looks like the middle
     setPicture(picture);
     setButtonText(buttonText);
-    applyLook();
 }
 
 QString EmptyState::sentence() const
@@ -46,9 +44,9 @@ QString EmptyState::sentence() const
 
 void EmptyState::setPicture(const QIcon &picture)
 {
-    constexpr int side = 96;
-    m_picture->setPixmap(picture.pixmap(QSize(side, side), devicePixelRatioF()));
+    m_icon = picture;
     m_picture->setVisible(!picture.isNull());
+    applyLook();
 }
 
 void EmptyState::setSentence(const QString &sentence)
@@ -71,6 +69,8 @@ void EmptyState::changeEvent(QEvent *event)
 
 void EmptyState::applyLook()
 {
+    constexpr int side = 96;
+    m_picture->setPixmap(m_icon.pixmap(QSize(side, side), devicePixelRatioF())); // icons follow the palette
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, palette()));
     m_sentence->setPalette(quiet);

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QIcon>
 #include <QWidget>
 
-class QIcon;
 class QLabel;
 class QPushButton;
 
@@ -35,6 +35,7 @@ protected:
 private:
     void applyLook();
 
+    QIcon m_icon;
     QLabel *m_picture;
     QLabel *m_sentence;
     QPushButton *m_button;

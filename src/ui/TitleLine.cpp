@@ -59,7 +59,10 @@ void TitleLine::applyLook()
     constexpr qreal larger = 1.35;
     QFont titleFont = font();
     titleFont.setBold(true);
-    titleFont.setPointSizeF(titleFont.pointSizeF() * larger);
+    if (titleFont.pointSizeF() > 0)
+        titleFont.setPointSizeF(titleFont.pointSizeF() * larger);
+    else // a font that is given in pixels
+        titleFont.setPixelSize(int(titleFont.pixelSize() * larger));
     m_title->setFont(titleFont);
 
     // Both stand on one base line although their sizes differ.

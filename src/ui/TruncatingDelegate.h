@@ -16,6 +16,7 @@ public:
 
     [[nodiscard]] bool isTruncated(const QStyleOptionViewItem &option, const QModelIndex &index) const;
     [[nodiscard]] QString displayText(const QVariant &value, const QLocale &locale) const override;
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;
 };
