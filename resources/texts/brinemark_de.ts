@@ -879,7 +879,7 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     </message>
     <message>
         <source>MenuFileRevert</source>
-        <translation>Zurück zur &amp;gesicherten Fassung</translation>
+        <translation>Zurück zur &amp;gespeicherten Fassung</translation>
     </message>
     <message>
         <source>MenuFileSave</source>
@@ -1164,11 +1164,11 @@ Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz 
     </message>
     <message>
         <source>Original</source>
-        <translation>Urspr. Datum</translation>
+        <translation>Ursprünglicher Termin</translation>
     </message>
     <message>
         <source>OverdueRescheduleMessage</source>
-        <translation>Von welchem Tag an soll die nächste gezählt werden? „Heute“ beginnt einen neuen Rhythmus; „Urspr. Datum“ behält den alten bei, auch wenn die nächste Aufgabe dann sofort fällig ist. „Abbrechen“ kennzeichnet diese Aufgabe wieder als nicht erledigt.</translation>
+        <translation>Von welchem Tag an soll die nächste gezählt werden? „Heute“ beginnt einen neuen Rhythmus; „Ursprünglicher Termin“ behält den alten bei, auch wenn die nächste Aufgabe dann sofort fällig ist. „Abbrechen“ kennzeichnet diese Aufgabe wieder als nicht erledigt.</translation>
     </message>
     <message>
         <source>OverdueRescheduleTitle</source>
@@ -1192,7 +1192,7 @@ Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz 
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Der pH-Wert sollte sich um höchstens 0,2 bis 0,3 am Tag ändern: Ein beständiger, nicht ganz passender Wert schadet weniger als eine schnelle Korrektur. Messen Sie zuerst Ammoniak und Karbonathärte (KH). Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist; unter etwa 4 Grad KH bleibt kein pH-Wert stabil.
+Der pH-Wert sollte sich um höchstens 0,2 bis 0,3 am Tag ändern: Ein beständiger, nicht ganz passender Wert schadet weniger als eine schnelle Korrektur. Messen Sie zuerst Ammoniak und Karbonathärte (KH). Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist; unter etwa 4 Grad KH schwankt der pH-Wert leicht.
 
 Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des Wassers und heben Sie die KH dann in kleinen Schritten an. Zu hoch: Im Süßwasser weicheres Wasser beimischen, Kohlendioxid oder Torf einsetzen; im Meerwasser, wo 8,0 bis 8,4 üblich sind, vor jedem Zusatz die Alkalinität prüfen. Ein niedriger pH-Wert im Meerwasser verlangt oft nur frische Luft.</translation>
     </message>
@@ -1249,7 +1249,7 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
     </message>
     <message>
         <source>PrefsOnQuit</source>
-        <translation>Bei ungesicherten Änderungen beim Beenden:</translation>
+        <translation>Nicht gespeicherte Änderungen beim Beenden:</translation>
     </message>
     <message>
         <source>PrefsOverdueCheck</source>
@@ -1309,7 +1309,7 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
     </message>
     <message>
         <source>RevertTitle</source>
-        <translation>Möchten Sie zur gesicherten Fassung zurückkehren?</translation>
+        <translation>Möchten Sie zur gespeicherten Fassung zurückkehren?</translation>
     </message>
     <message>
         <source>Salinity</source>
@@ -1317,7 +1317,7 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
     </message>
     <message>
         <source>SaveErrorMessage</source>
-        <translation>Die Aquariendatei konnte nicht gesichert werden. Ihre Änderungen sind in Brinemark weiterhin geöffnet, und die Datei auf dem Datenträger ist unverändert. Prüfen Sie, ob Sie in den Ordner schreiben dürfen und ob noch Platz frei ist, oder wählen Sie mit „Speichern unter“ einen anderen Ort.</translation>
+        <translation>Die Aquariendatei konnte nicht gespeichert werden. Ihre Änderungen sind in Brinemark weiterhin geöffnet, und die Datei auf dem Datenträger ist unverändert. Prüfen Sie, ob Sie in den Ordner schreiben dürfen und ob noch Platz frei ist, oder wählen Sie mit „Speichern unter“ einen anderen Ort.</translation>
     </message>
     <message>
         <source>SaveLabel</source>
@@ -1603,7 +1603,7 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     </message>
     <message>
         <source>ToolbarNewCoral</source>
-        <translation>Koralle</translation>
+        <translation>Neue Koralle</translation>
     </message>
     <message>
         <source>ToolbarNewCoralToolTip</source>
@@ -1611,7 +1611,7 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     </message>
     <message>
         <source>ToolbarNewFish</source>
-        <translation>Fisch</translation>
+        <translation>Neuer Fisch</translation>
     </message>
     <message>
         <source>ToolbarNewFishToolTip</source>
@@ -1619,7 +1619,7 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     </message>
     <message>
         <source>ToolbarNewInvert</source>
-        <translation>Wirbellose</translation>
+        <translation>Neues Wirbelloses</translation>
     </message>
     <message>
         <source>ToolbarNewInvertToolTip</source>
@@ -1627,7 +1627,7 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     </message>
     <message>
         <source>ToolbarNewPlant</source>
-        <translation>Pflanze</translation>
+        <translation>Neue Pflanze</translation>
     </message>
     <message>
         <source>ToolbarNewPlantToolTip</source>
@@ -1635,7 +1635,7 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     </message>
     <message>
         <source>ToolbarNewTank</source>
-        <translation>Aquarium</translation>
+        <translation>Neues Aquarium</translation>
     </message>
     <message>
         <source>ToolbarNewTankToolTip</source>
@@ -1737,7 +1737,7 @@ Zwei Fälle dulden keinen Aufschub. Bei zu wenig Sauerstoff oder zu viel Kohlend
     </message>
     <message>
         <source>DownloadTimeRemaining</source>
-        <extracomment>^0 is a time made of the labels below it, such as 1 hour and 2 minutes.</extracomment>
+        <extracomment>^0 is a time made of the time labels, such as 1 hour and 2 minutes.</extracomment>
         <translation>Noch ^0</translation>
     </message>
     <message>

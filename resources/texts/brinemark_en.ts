@@ -701,7 +701,7 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     <message>
         <source>HighValueTitle</source>
         <extracomment>^0 is the title of the parameter&apos;s column.</extracomment>
-        <translation>The value of ^0 is high.</translation>
+        <translation>The value of ^0 is too high.</translation>
     </message>
     <message>
         <source>HighValueWarning</source>
@@ -778,7 +778,7 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     <message>
         <source>LowValueTitle</source>
         <extracomment>^0 is the title of the parameter&apos;s column.</extracomment>
-        <translation>The value of ^0 is low.</translation>
+        <translation>The value of ^0 is too low.</translation>
     </message>
     <message>
         <source>Magnesium</source>
@@ -1192,7 +1192,7 @@ In fresh water chloride protects fish from nitrite: about 1 gram of pure salt (s
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-The pH should not move by more than 0.2 to 0.3 a day: a steady value that is a little off does less harm than a quick correction. Measure ammonia and carbonate hardness (KH) first. Never raise the pH while ammonia is present, and below about 4 degrees KH no pH will hold.
+The pH should not move by more than 0.2 to 0.3 a day: a steady value that is a little off does less harm than a quick correction. Measure ammonia and carbonate hardness (KH) first. Never raise the pH while ammonia is present, and expect the pH to drift easily below about 4 degrees KH.
 
 Too low: the carbonate hardness is usually used up; change some of the water, then raise the KH in small steps. Too high: in fresh water mix in softer water or add carbon dioxide or peat; in a marine tank, where 8.0 to 8.4 is usual, check the alkalinity before you add anything. A low marine pH often only wants fresh air.</translation>
     </message>
@@ -1249,7 +1249,7 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
     </message>
     <message>
         <source>PrefsOnQuit</source>
-        <translation>With unsaved changes on quitting:</translation>
+        <translation>Unsaved changes when quitting:</translation>
     </message>
     <message>
         <source>PrefsOverdueCheck</source>
@@ -1737,7 +1737,7 @@ Two cases cannot wait. When oxygen is short or carbon dioxide too high, aerate s
     </message>
     <message>
         <source>DownloadTimeRemaining</source>
-        <extracomment>^0 is a time made of the labels below it, such as 1 hour and 2 minutes.</extracomment>
+        <extracomment>^0 is a time made of the time labels, such as 1 hour and 2 minutes.</extracomment>
         <translation>^0 remaining</translation>
     </message>
     <message>
