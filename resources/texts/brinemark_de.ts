@@ -34,8 +34,8 @@
     </message>
     <message>
         <source>AllFilesFilter</source>
-        <extracomment>Kind of file in the open and save dialogs; the program adds the pattern.</extracomment>
-        <translation>Alle Dateien</translation>
+        <extracomment>Kind of file in the open and save dialogs; the pattern in brackets stays as it is.</extracomment>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Ammonia</source>
@@ -117,6 +117,10 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Die Datei wurde von einem anderen Programm geändert.</translation>
     </message>
     <message>
+        <source>CommandLineDark</source>
+        <translation>Mit --render dunkle Farben verwenden.</translation>
+    </message>
+    <message>
         <source>CommandLineDescription</source>
         <translation>Führt Buch über Ihre Aquarien: Tiere und Pflanzen, Wassertests, Wartung, Notizen, Inventar und Ausgaben.</translation>
     </message>
@@ -141,6 +145,10 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     <message>
         <source>CommandLinePrint</source>
         <translation>Alles aus der Datei drucken und beenden.</translation>
+    </message>
+    <message>
+        <source>CommandLineRender</source>
+        <translation>Das Hauptfenster in eine Bilddatei zeichnen und beenden.</translation>
     </message>
     <message>
         <source>CommandLineTooManyFiles</source>
@@ -520,8 +528,8 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     </message>
     <message>
         <source>ExportFileFilter</source>
-        <extracomment>Kind of file in the save dialog; the program adds the pattern.</extracomment>
-        <translation>Kommagetrennte Werte</translation>
+        <extracomment>Kind of file in the save dialog; the pattern in brackets stays as it is.</extracomment>
+        <translation>Kommagetrennte Werte (*.csv)</translation>
     </message>
     <message>
         <source>ExportMessage</source>
@@ -898,12 +906,12 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Ü&amp;ber Brinemark</translation>
     </message>
     <message>
-        <source>MenuHelpContents</source>
-        <translation>Brinemark-&amp;Hilfe</translation>
-    </message>
-    <message>
         <source>MenuHelpFeedback</source>
         <translation>&amp;Rückmeldung senden</translation>
+    </message>
+    <message>
+        <source>MenuHelpHelp</source>
+        <translation>Brinemark-&amp;Hilfe</translation>
     </message>
     <message>
         <source>MenuHelpMailingList</source>
@@ -926,8 +934,8 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Aquarium &amp;bearbeiten …</translation>
     </message>
     <message>
-        <source>MenuTankNewCondition</source>
-        <translation>Neuer Wasser&amp;test</translation>
+        <source>MenuTankNewActivity</source>
+        <translation>Neue A&amp;ufgabe</translation>
     </message>
     <message>
         <source>MenuTankNewCoral</source>
@@ -958,12 +966,16 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Neue &amp;Pflanze …</translation>
     </message>
     <message>
-        <source>MenuTankNewSchedule</source>
-        <translation>Neue A&amp;ufgabe</translation>
-    </message>
-    <message>
         <source>MenuTankNewTank</source>
         <translation>Neues &amp;Aquarium …</translation>
+    </message>
+    <message>
+        <source>MenuTankNewWaterTest</source>
+        <translation>Neuer Wasser&amp;test</translation>
+    </message>
+    <message>
+        <source>MenuTreeRename</source>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>MenuView</source>
@@ -1256,8 +1268,8 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
         <translation>Beim Öffnen einer Datei überfällige Aufgaben anzeigen</translation>
     </message>
     <message>
-        <source>PrefsReminders</source>
-        <translation>Erinnerungen:</translation>
+        <source>PrefsSchedule</source>
+        <translation>Wartung:</translation>
     </message>
     <message>
         <source>PrefsTitle</source>
@@ -1471,8 +1483,8 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
     </message>
     <message>
         <source>TankFileFilter</source>
-        <extracomment>Kind of file in the open and save dialogs; the program adds the pattern.</extracomment>
-        <translation>Aquariendateien</translation>
+        <extracomment>Kind of file in the open and save dialogs; the pattern in brackets stays as it is.</extracomment>
+        <translation>Aquariendateien (*.xml)</translation>
     </message>
     <message>
         <source>TankFreshwater</source>
@@ -1484,6 +1496,11 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
         <translation>Alle Zonen, Oben, Oben bis Mitte, Mitte, Mitte bis unten, Unten, Schwimmend, Vordergrund, Hintergrund, Auf Stein oder Holz</translation>
     </message>
     <message>
+        <source>TankListLabel</source>
+        <extracomment>What a screen reader calls the tree of tanks.</extracomment>
+        <translation>Aquarien</translation>
+    </message>
+    <message>
         <source>TankSaltwater</source>
         <translation>Meerwasser</translation>
     </message>
@@ -1491,10 +1508,6 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
         <source>TankSize</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Größe: </translation>
-    </message>
-    <message>
-        <source>TankTreeTitle</source>
-        <translation>Aquarien</translation>
     </message>
     <message>
         <source>TankType</source>
@@ -1664,6 +1677,10 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     <message>
         <source>ToolbarSpace</source>
         <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>TreeNewToolTip</source>
+        <translation>Ein Aquarium oder einen Bewohner hinzufügen</translation>
     </message>
     <message>
         <source>Unspecified</source>

@@ -34,8 +34,8 @@
     </message>
     <message>
         <source>AllFilesFilter</source>
-        <extracomment>Kind of file in the open and save dialogs; the program adds the pattern.</extracomment>
-        <translation>All files</translation>
+        <extracomment>Kind of file in the open and save dialogs; the pattern in brackets stays as it is.</extracomment>
+        <translation>All files (*)</translation>
     </message>
     <message>
         <source>Ammonia</source>
@@ -117,6 +117,10 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>The file was changed by another program.</translation>
     </message>
     <message>
+        <source>CommandLineDark</source>
+        <translation>Use dark colours with --render.</translation>
+    </message>
+    <message>
         <source>CommandLineDescription</source>
         <translation>Keeps a record of your aquariums: livestock, water tests, maintenance, notes, inventory and expenses.</translation>
     </message>
@@ -141,6 +145,10 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     <message>
         <source>CommandLinePrint</source>
         <translation>Print everything in the file and leave.</translation>
+    </message>
+    <message>
+        <source>CommandLineRender</source>
+        <translation>Draw the main window into a picture file and leave.</translation>
     </message>
     <message>
         <source>CommandLineTooManyFiles</source>
@@ -520,8 +528,8 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     </message>
     <message>
         <source>ExportFileFilter</source>
-        <extracomment>Kind of file in the save dialog; the program adds the pattern.</extracomment>
-        <translation>Comma-separated values</translation>
+        <extracomment>Kind of file in the save dialog; the pattern in brackets stays as it is.</extracomment>
+        <translation>Comma-separated values (*.csv)</translation>
     </message>
     <message>
         <source>ExportMessage</source>
@@ -898,12 +906,12 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>&amp;About Brinemark</translation>
     </message>
     <message>
-        <source>MenuHelpContents</source>
-        <translation>Brinemark &amp;Help</translation>
-    </message>
-    <message>
         <source>MenuHelpFeedback</source>
         <translation>Send &amp;Feedback</translation>
+    </message>
+    <message>
+        <source>MenuHelpHelp</source>
+        <translation>Brinemark &amp;Help</translation>
     </message>
     <message>
         <source>MenuHelpMailingList</source>
@@ -926,8 +934,8 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>E&amp;dit Tank…</translation>
     </message>
     <message>
-        <source>MenuTankNewCondition</source>
-        <translation>New &amp;Water Test</translation>
+        <source>MenuTankNewActivity</source>
+        <translation>New &amp;Activity</translation>
     </message>
     <message>
         <source>MenuTankNewCoral</source>
@@ -958,12 +966,16 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>New &amp;Plant…</translation>
     </message>
     <message>
-        <source>MenuTankNewSchedule</source>
-        <translation>New &amp;Activity</translation>
-    </message>
-    <message>
         <source>MenuTankNewTank</source>
         <translation>New &amp;Tank…</translation>
+    </message>
+    <message>
+        <source>MenuTankNewWaterTest</source>
+        <translation>New &amp;Water Test</translation>
+    </message>
+    <message>
+        <source>MenuTreeRename</source>
+        <translation>Rename</translation>
     </message>
     <message>
         <source>MenuView</source>
@@ -1256,8 +1268,8 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
         <translation>Show overdue activities when a file is opened</translation>
     </message>
     <message>
-        <source>PrefsReminders</source>
-        <translation>Reminders:</translation>
+        <source>PrefsSchedule</source>
+        <translation>Maintenance:</translation>
     </message>
     <message>
         <source>PrefsTitle</source>
@@ -1471,8 +1483,8 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
     </message>
     <message>
         <source>TankFileFilter</source>
-        <extracomment>Kind of file in the open and save dialogs; the program adds the pattern.</extracomment>
-        <translation>Tank files</translation>
+        <extracomment>Kind of file in the open and save dialogs; the pattern in brackets stays as it is.</extracomment>
+        <translation>Tank files (*.xml)</translation>
     </message>
     <message>
         <source>TankFreshwater</source>
@@ -1484,6 +1496,11 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
         <translation>All levels, Top, Top to middle, Middle, Middle to bottom, Bottom, Floating, Foreground, Background, On rock or wood</translation>
     </message>
     <message>
+        <source>TankListLabel</source>
+        <extracomment>What a screen reader calls the tree of tanks.</extracomment>
+        <translation>Tanks</translation>
+    </message>
+    <message>
         <source>TankSaltwater</source>
         <translation>Marine</translation>
     </message>
@@ -1491,10 +1508,6 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
         <source>TankSize</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Size: </translation>
-    </message>
-    <message>
-        <source>TankTreeTitle</source>
-        <translation>Tanks</translation>
     </message>
     <message>
         <source>TankType</source>
@@ -1664,6 +1677,10 @@ Too warm: turn the heater down, open the lid, dim the light, let a fan blow over
     <message>
         <source>ToolbarSpace</source>
         <translation>Space</translation>
+    </message>
+    <message>
+        <source>TreeNewToolTip</source>
+        <translation>Add a tank or something that lives in it</translation>
     </message>
     <message>
         <source>Unspecified</source>

@@ -17,6 +17,10 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>Analyze…</translation>
     </message>
     <message>
+        <source>CommandLineDark</source>
+        <translation>Use dark colors with --render.</translation>
+    </message>
+    <message>
         <source>EmptyInvert</source>
         <translation>The shrimp, snails and other invertebrates of this tank belong here.</translation>
     </message>
