@@ -1,5 +1,7 @@
 #include "base/plist/Base64.h"
 
+#include <QtEndian>
+
 #include <array>
 #include <cstdint>
 
@@ -9,22 +11,32 @@ namespace brinemark::plist
 namespace
 {
 
-enum Class : std::uint8_t { space = 0x40, padding = 0x41, invalid = 0x80 };
+constexpr std::uint32_t invalid = 0x80000000;
 
-constexpr std::array<std::uint8_t, 256> makeTable()
+/// For each place in a group of four characters, the bits that a character adds to the three bytes, first byte lowest;
+/// so a group is four look-ups, and one test of the topmost bit tells whether all four are digits.
+using PlaceTables = std::array<std::array<std::uint32_t, 256>, 4>;
+
+constexpr PlaceTables makePlaceTables()
 {
-    std::array<std::uint8_t, 256> table{};
-    table.fill(invalid);
+    PlaceTables tables{};
     constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    for (std::size_t i = 0; i < digits.size(); ++i)
-        table[std::uint8_t(digits[i])] = std::uint8_t(i);
-    for (const char c : {' ', '\t', '\n', '\r'})
-        table[std::uint8_t(c)] = space;
-    table[std::uint8_t('=')] = padding;
-    return table;
+    for (std::size_t place = 0; place < tables.size(); ++place) {
+        tables[place].fill(invalid);
+        for (std::size_t value = 0; value < digits.size(); ++value) {
+            const std::uint32_t bits = std::uint32_t(value) << (18 - 6 * place);
+            tables[place][std::uint8_t(digits[value])] = bits >> 16 | (bits & 0xff00) | (bits & 0xff) << 16;
+        }
+    }
+    return tables;
 }
 
-constexpr auto table = makeTable();
+constexpr PlaceTables places = makePlaceTables();
+
+constexpr bool isSpace(std::uint8_t c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
 
 } // namespace
 
@@ -32,53 +44,46 @@ constexpr auto table = makeTable();
 // space, and taking the line breaks out first would cost another copy of every picture.
 std::optional<QByteArray> decodeBase64(std::string_view text)
 {
-    QByteArray result(qsizetype(text.size() / 4 * 3 + 3), Qt::Uninitialized);
+    QByteArray result(qsizetype(text.size() / 4 * 3 + 4), Qt::Uninitialized);
     char *out = result.data();
     const auto *in = reinterpret_cast<const std::uint8_t *>(text.data());
     const auto *const end = in + text.size();
     std::uint32_t group = 0;
-    int digits = 0;
-    int pads = 0;
+    std::size_t digits = 0;
+    std::size_t pads = 0;
     while (in != end) {
         if (digits == 0 && pads == 0) {
-            while (end - in >= 4) {
-                const std::uint32_t a = table[in[0]], b = table[in[1]], c = table[in[2]], d = table[in[3]];
-                if ((a | b | c | d) >= space)
+            for (; end - in >= 4; in += 4, out += 3) {
+                const std::uint32_t bytes = places[0][in[0]] | places[1][in[1]] | places[2][in[2]] | places[3][in[3]];
+                if (bytes & invalid)
                     break;
-                const std::uint32_t whole = a << 18 | b << 12 | c << 6 | d;
-                out[0] = char(whole >> 16);
-                out[1] = char(whole >> 8);
-                out[2] = char(whole);
-                out += 3;
-                in += 4;
+                qToLittleEndian(bytes, out); // one byte more than the group holds, overwritten by the next one
             }
             if (in == end)
                 break;
         }
-        const std::uint8_t value = table[*in++];
-        if (value == space)
+        const std::uint8_t c = *in++;
+        if (isSpace(c))
             continue;
-        if (value == padding) {
+        if (c == '=') {
             ++pads;
             continue;
         }
-        if (value == invalid || pads > 0)
+        const std::uint32_t bits = places[digits][c];
+        if (bits == invalid || pads > 0)
             return std::nullopt;
-        group = group << 6 | value;
+        group |= bits;
         if (++digits == 4) {
-            *out++ = char(group >> 16);
-            *out++ = char(group >> 8);
-            *out++ = char(group);
+            qToLittleEndian(group, out);
+            out += 3;
             group = 0;
             digits = 0;
         }
     }
-    if (digits == 1 || (pads > 0 && digits + pads != 4))
+    if (digits == 1 || (pads > 0 && (digits == 0 || digits + pads != 4)))
         return std::nullopt;
-    if (digits >= 2)
-        *out++ = char(group >> (digits == 2 ? 4 : 10));
-    if (digits == 3)
-        *out++ = char(group >> 2);
+    for (std::size_t byte = 1; byte < digits; ++byte, group >>= 8)
+        *out++ = char(group);
     result.truncate(out - result.constData());
     return result;
 }

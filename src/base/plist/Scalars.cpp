@@ -1,9 +1,7 @@
 #include "base/plist/Scalars.h"
 
-#include <QLocale>
-#include <QTimeZone>
-
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -97,9 +95,10 @@ Value parseDate(string_view text)
     const auto part = [text](int from, int count) {
         return digits(text.substr(std::size_t(from), std::size_t(count)));
     };
-    const QDateTime date(QDate(part(0, 4), part(5, 2), part(8, 2)), QTime(part(11, 2), part(14, 2), part(17, 2)),
-                         Qt::UTC);
-    return date.isValid() ? Value(date) : Value();
+    const QDate day(part(0, 4), part(5, 2), part(8, 2));
+    const QTime time(part(11, 2), part(14, 2), part(17, 2));
+    // A date-time with an invalid time of day would quietly mean midnight.
+    return day.isValid() && time.isValid() ? Value(QDateTime(day, time, Qt::UTC)) : Value();
 }
 
 QByteArray realText(double real)
@@ -108,7 +107,9 @@ QByteArray realText(double real)
         return QByteArrayLiteral("nan");
     if (std::isinf(real))
         return real < 0 ? QByteArrayLiteral("-infinity") : QByteArrayLiteral("+infinity");
-    return QByteArray::number(real, 'g', QLocale::FloatingPointShortest);
+    std::array<char, 32> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), real).ptr;
+    return {text.data(), qsizetype(end - text.data())};
 }
 
 QByteArray dateText(const QDateTime &date)

@@ -14,35 +14,28 @@ using std::string_view;
 
 constexpr string_view byteOrderMark = "\xef\xbb\xbf";
 
-/// Finds the next `<!` or `<?`. Looks for the second character: the first one opens every tag.
-class MarkupFinder
+constexpr bool isSpecial(char c)
 {
-public:
-    MarkupFinder(string_view text, char second)
-        : m_text(text)
-        , m_second(second)
-    {
-    }
+    return c == '\0' || c == '&' || c == '!' || c == '?';
+}
 
-    std::size_t from(std::size_t position)
-    {
-        if (m_next == string_view::npos || (m_searched && m_next >= position))
-            return m_next;
-        m_searched = true;
-        std::size_t at = position;
-        do {
-            at = m_text.find(m_second, at + 1);
-        } while (at != string_view::npos && m_text[at - 1] != '<');
-        m_next = at == string_view::npos ? at : at - 1;
-        return m_next;
+/// The place of the next special character. Whole blocks are tested without a branch inside, which the compiler turns
+/// into vector instructions: one pass at memory speed.
+std::size_t nextSpecial(string_view text, std::size_t from)
+{
+    constexpr std::size_t block = 64;
+    for (; text.size() - from >= block; from += block) {
+        const char *const bytes = text.data() + from;
+        unsigned char any = 0;
+        for (std::size_t i = 0; i < block; ++i)
+            any |= isSpecial(bytes[i]);
+        if (any)
+            break;
     }
-
-private:
-    string_view m_text;
-    char m_second;
-    bool m_searched = false;
-    std::size_t m_next = 0;
-};
+    while (from < text.size() && !isSpecial(text[from]))
+        ++from;
+    return from;
+}
 
 /// The character a numeric reference stands for, given without its `&#` and `;`, is one that XML can hold.
 bool isCharacter(string_view digits)
@@ -59,22 +52,18 @@ bool isCharacter(string_view digits)
     return code < 0xd800 || (code >= 0xe000 && code < 0xfffe) || (code >= 0x10000 && code < 0x110000);
 }
 
-bool hasOnlyKnownReferences(string_view text)
+/// The text begins, after an ampersand, with a reference that XML knows without a document type.
+bool beginsKnownReference(string_view text)
 {
     constexpr std::array<string_view, 5> entities = {"amp", "lt", "gt", "quot", "apos"};
     constexpr std::size_t longest = 16;
-    for (auto at = text.find('&'); at != string_view::npos; at = text.find('&', at + 1)) {
-        const string_view rest = text.substr(at + 1, longest);
-        const auto semicolon = rest.find(';');
-        if (semicolon == string_view::npos)
-            return false;
-        const string_view name = rest.substr(0, semicolon);
-        const bool known = name.starts_with('#') ? isCharacter(name.substr(1))
-                                                 : std::find(entities.begin(), entities.end(), name) != entities.end();
-        if (!known)
-            return false;
-    }
-    return true;
+    text = text.substr(0, longest);
+    const auto semicolon = text.find(';');
+    if (semicolon == string_view::npos)
+        return false;
+    const string_view name = text.substr(0, semicolon);
+    return name.starts_with('#') ? isCharacter(name.substr(1))
+                                 : std::find(entities.begin(), entities.end(), name) != entities.end();
 }
 
 struct Markup {
@@ -83,6 +72,15 @@ struct Markup {
 };
 
 constexpr std::array<Markup, 3> markups = {{{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}}};
+
+/// The comment, section or instruction that begins here; null for anything else, such as the document type.
+const Markup *markupAt(string_view text, std::size_t at)
+{
+    const auto *found = std::find_if(markups.begin(), markups.end(), [rest = text.substr(at)](const Markup &markup) {
+        return rest.starts_with(markup.opening);
+    });
+    return found == markups.end() ? nullptr : found;
+}
 
 bool isXmlDeclaration(string_view text, std::size_t at)
 {
@@ -94,35 +92,29 @@ bool isXmlDeclaration(string_view text, std::size_t at)
 XmlPrecheck precheckXml(string_view text)
 {
     XmlPrecheck result;
-    if (text.find('\0') != string_view::npos) {
-        result.error = QStringLiteral("a zero byte in the text");
-        return result;
-    }
-    MarkupFinder exclamation(text, '!');
-    MarkupFinder question(text, '?');
-    std::size_t position = 0;
-    while (position < text.size()) {
-        const std::size_t next = std::min(exclamation.from(position), question.from(position));
-        if (!hasOnlyKnownReferences(text.substr(position, next == string_view::npos ? next : next - position))) {
-            result.error = QStringLiteral("an ampersand that begins no known character");
+    for (std::size_t at = nextSpecial(text, 0); at < text.size(); at = nextSpecial(text, at)) {
+        const char special = text[at];
+        if (special == '\0') {
+            result.error = QStringLiteral("a zero byte in the text");
             return result;
         }
-        if (next == string_view::npos)
-            break;
-        position = next + 2; // the document type: its text is looked at like any other
-        for (const Markup &markup : markups) {
-            if (!text.substr(next).starts_with(markup.opening))
-                continue;
-            result.hasInnerMarkup |= !isXmlDeclaration(text, next);
-            const auto end = text.find(markup.closing, next + markup.opening.size());
-            if (end == string_view::npos) {
-                result.error = QStringLiteral("%1 without its end")
-                                   .arg(QLatin1StringView(markup.opening.data(), qsizetype(markup.opening.size())));
+        if (special == '&') {
+            if (!beginsKnownReference(text.substr(at + 1))) {
+                result.error = QStringLiteral("an ampersand that begins no known character");
                 return result;
             }
-            position = end + markup.closing.size();
-            break;
+        } else if (const Markup *markup = at > 0 ? markupAt(text, at - 1) : nullptr) {
+            result.hasInnerMarkup |= !isXmlDeclaration(text, at - 1);
+            const auto end = text.find(markup->closing, at - 1 + markup->opening.size());
+            if (end == string_view::npos) {
+                result.error = QStringLiteral("%1 without its end")
+                                   .arg(QLatin1StringView(markup->opening.data(), qsizetype(markup->opening.size())));
+                return result;
+            }
+            at = end + markup->closing.size();
+            continue;
         }
+        ++at;
     }
     return result;
 }

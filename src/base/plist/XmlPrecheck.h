@@ -16,7 +16,7 @@ struct XmlPrecheck {
     QString error;
 };
 
-/// Looks through valid UTF-8; costs a small part of the parse, since it only visits `&`, `!` and `?`.
+/// Looks through valid UTF-8; costs a small part of the parse.
 XmlPrecheck precheckXml(std::string_view text);
 
 /// The encoding that the XML declaration names; empty when it names none.

@@ -213,6 +213,9 @@ ReadResult readXml(QByteArray bytes)
     if (!precheck.error.isEmpty())
         return {Value(), precheck.error};
 
+    // Parsing in place sacrifices the last byte for a terminator; a stray character there would go unnoticed.
+    if (!bytes.endsWith('\n'))
+        bytes.append('\n');
     // A fragment, because otherwise text outside the outermost element goes unnoticed. White space between elements is
     // kept only where pieces of a string may be apart: in a large file it would double the tree.
     const unsigned flags = pugi::parse_embed_pcdata | pugi::parse_escapes | pugi::parse_cdata | pugi::parse_eol |
