@@ -1,0 +1,41 @@
+#pragma once
+
+#include "model/Record.h"
+
+#include <QDateTime>
+
+namespace brinemark
+{
+
+/// The value of a parameter that was not measured. Any negative value counts as not tested.
+inline constexpr qint32 notTested = -1;
+
+/// One water test. Calcium, carbon dioxide and magnesium are whole numbers on purpose.
+struct ConditionData final : Record {
+    QDateTime date;
+    float ph = notTested;
+    float ammonia = notTested;
+    float nitrate = notTested;
+    float nitrite = notTested;
+    float gH = notTested;
+    float kH = notTested;
+    float salt = notTested;
+    float temp = notTested;
+    float alkalinity = notTested;
+    float phosphate = notTested;
+    qint32 calcium = notTested;
+    float iodine = notTested;
+    float oxygen = notTested;
+    float copper = notTested;
+    float iron = notTested;
+    qint32 dioxide = notTested;
+    qint32 magnesium = notTested;
+
+    explicit ConditionData(Tank *parent = nullptr); ///< dated now, nothing tested
+    explicit ConditionData(Blank) {}
+
+    [[nodiscard]] RecordType recordType() const override { return RecordType::Condition; }
+    [[nodiscard]] std::shared_ptr<Record> copy() const override; ///< all but magnesium, which is not tested in a copy
+};
+
+} // namespace brinemark

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "model/Amount.h"
+#include "model/Record.h"
+
+#include <QDateTime>
+#include <QString>
+
+namespace brinemark
+{
+
+/// One expense.
+struct ExpenseData final : Record {
+    QDateTime date;
+    QString expense; ///< what was bought
+    Amount amount;
+    QString type; ///< one of the tank's categories, or the text of "ExpenseNoneItem"
+
+    explicit ExpenseData(Tank *parent = nullptr);
+    explicit ExpenseData(Blank) {}
+
+    [[nodiscard]] RecordType recordType() const override { return RecordType::Expense; }
+    [[nodiscard]] std::shared_ptr<Record> copy() const override;
+};
+
+} // namespace brinemark

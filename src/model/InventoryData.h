@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/Record.h"
+
+#include <QString>
+
+namespace brinemark
+{
+
+/// A thing that the keeper owns, and how many.
+struct InventoryData final : Record {
+    QString item;
+    qint32 count = 1;
+
+    explicit InventoryData(Tank *parent = nullptr);
+    explicit InventoryData(Blank) {}
+
+    [[nodiscard]] RecordType recordType() const override { return RecordType::Inventory; }
+    [[nodiscard]] std::shared_ptr<Record> copy() const override;
+};
+
+} // namespace brinemark

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "model/LivestockData.h"
+#include "model/RecordContainer.h"
+#include "model/SearchMetadata.h"
+
+namespace brinemark
+{
+
+/// A tank's invertebrates.
+class Invert final : public RecordContainer<InvertData>
+{
+public:
+    explicit Invert(Tank *parent)
+        : RecordContainer(ContainerKind::Invert, parent)
+    {
+    }
+
+    [[nodiscard]] Records &invertArray() { return records(); }
+    [[nodiscard]] const Records &invertArray() const { return records(); }
+
+    /// Each record's name and scientific name, then, when there is any record, the container's name.
+    [[nodiscard]] QStringList invertMetaArray() const { return livestockMetaArray(*this); }
+};
+
+} // namespace brinemark

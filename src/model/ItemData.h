@@ -1,0 +1,52 @@
+#pragma once
+
+#include "model/ItemContext.h"
+#include "model/ItemImage.h"
+#include "model/Record.h"
+#include "model/ReefSafe.h"
+
+#include <QString>
+
+namespace brinemark
+{
+
+/// A livestock or plant entry with its species profile. The kinds (FishData and its siblings) differ in `itemContext`
+/// only.
+struct ItemData : Record {
+    float ph = 0;
+    float KH = 0;
+    QString temp; ///< a temperature range as free text
+    float gHardness = 0;
+    QString sciName;
+    QString name;
+    QString family;
+    QString size;
+    QString socialLevel;
+    QString lifeSpan;
+    QString tankLevel;
+    QString diet;
+    QString breeding;
+    QString care;
+    QString notes;
+    float salt = 0; ///< salinity
+    qint32 count = 1;
+    qint32 reefSafe = reefsafe::unknown; ///< one of the codes of ReefSafe.h
+    ItemImage itemImage;
+
+    ItemData();
+    explicit ItemData(Tank *parent);
+    ItemData(const QString &name, Tank *parent);
+    explicit ItemData(Blank) {}
+
+    [[nodiscard]] virtual ItemContext itemContext() const { return ItemContext::None; }
+
+    void setItemImageWithData(const QByteArray &imageData); ///< no data gives no image
+
+    /// The word for a code: an element of the text of "ReefSafeMenu" (yes, no, unknown); any other code is unknown.
+    [[nodiscard]] static QString reefSafeStringFromCode(qint32 code);
+
+    [[nodiscard]] RecordType recordType() const override { return RecordType::Item; }
+    [[nodiscard]] std::shared_ptr<Record> copy() const override; ///< all but `reefSafe`, which is unknown in a copy
+};
+
+} // namespace brinemark

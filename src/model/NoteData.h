@@ -1,0 +1,23 @@
+#pragma once
+
+#include "model/Record.h"
+
+#include <QDateTime>
+#include <QString>
+
+namespace brinemark
+{
+
+/// A dated note about the tank.
+struct NoteData final : Record {
+    QDateTime date;
+    QString note;
+
+    explicit NoteData(Tank *parent = nullptr);
+    explicit NoteData(Blank) {}
+
+    [[nodiscard]] RecordType recordType() const override { return RecordType::Note; }
+    [[nodiscard]] std::shared_ptr<Record> copy() const override;
+};
+
+} // namespace brinemark

@@ -1,0 +1,71 @@
+// A tank from the older file form: an array of an attribute array and five record arrays, from the time when a tank had
+// fish, water tests, a schedule, an inventory and notes only.
+
+#include "model/PlistField.h"
+#include "model/Tank.h"
+#include "model/TankProperties.h"
+#include "model/TankReadError.h"
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// The lists of the older form, in its order; the first stands at index 1 of both arrays.
+constexpr std::array<ContainerKind, 5> olderLists{ContainerKind::Fish, ContainerKind::Condition,
+                                                  ContainerKind::Schedule, ContainerKind::Inventory,
+                                                  ContainerKind::Note};
+
+const plist::Value &element(const plist::Array &array, std::size_t index)
+{
+    if (index >= array.size())
+        throw TankReadError(QStringLiteral("an older tank ends before element %1").arg(index));
+    return array[index];
+}
+
+void readTargets(Tank &tank, const plist::Dict &properties)
+{
+    const auto has = [&](Parameter parameter) { return properties.contains(traitsOf(parameter).targetFileKey); };
+    const auto readRange = [&](Parameter first, Parameter last) {
+        for (std::size_t i = std::size_t(first); i <= std::size_t(last); ++i)
+            tank.setTarget(Parameter(i), readTarget(Parameter(i), properties));
+    };
+    if (!has(Parameter::Temp)) {
+        tank.createDefaultWarningValues();
+        return;
+    }
+    readRange(Parameter::Temp, Parameter::KH);
+    if (has(Parameter::Alkalinity)) {
+        readRange(Parameter::Salt, Parameter::Iron);
+        return;
+    }
+    // The defaults begin at salt, yet a salt target that the file holds is the keeper's own and stays.
+    tank.createDefaultMarineWarningValues();
+    if (has(Parameter::Salt))
+        readRange(Parameter::Salt, Parameter::Salt);
+}
+
+} // namespace
+
+std::shared_ptr<Tank> Tank::fromArray(const plist::Array &olderTank)
+{
+    const plist::Array &attributes = plistfield::arrayOf(element(olderTank, 0), u"an older tank's attributes");
+    const plist::Dict &properties = plistfield::dictOf(element(attributes, 0), u"an older tank's properties");
+
+    const std::shared_ptr<Tank> tank(new Tank(Blank{}));
+    readTankProperties(*tank, properties);
+    readTargets(*tank, properties);
+
+    // Attributes of more lists than the form knows: such a tank has its properties and targets only.
+    tank->m_listsShown = attributes.size() <= olderLists.size() + 1;
+    if (!tank->m_listsShown)
+        return tank;
+    for (std::size_t i = 0; i < olderLists.size(); ++i)
+        tank->container(olderLists[i])->readArray(&element(olderTank, i + 1), &element(attributes, i + 1));
+    for (const Parameter later : {Parameter::Dioxide, Parameter::Magnesium})
+        tank->setTarget(later, plainTarget(later));
+    return tank;
+}
+
+} // namespace brinemark

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "base/text/Texts.h"
+
+#include <QStringView>
+
+#include <array>
+#include <optional>
+
+namespace brinemark
+{
+
+/// The seventeen water parameters, in the order of a tank's targets.
+enum class Parameter {
+    Temp,
+    Ph,
+    Ammonia,
+    Nitrate,
+    Nitrite,
+    GH,
+    KH,
+    Salt,
+    Alkalinity,
+    Phosphate,
+    Calcium,
+    Iodine,
+    Oxygen,
+    Copper,
+    Iron,
+    Dioxide,
+    Magnesium,
+};
+
+/// A number of a default target: fixed, or looked up in the texts because it depends on language and units.
+struct DefaultNumber {
+    float literal = 0;
+    std::optional<TextKey> textKey = {}; ///< wins over the literal when there is one
+
+    [[nodiscard]] float value() const { return textKey ? float(numberOfText(*textKey)) : literal; }
+};
+
+/// What is known of a parameter apart from its measured values.
+struct ParameterTraits {
+    Parameter parameter;
+    QStringView identifier;    ///< names it everywhere; the field key in a water test
+    QStringView targetKey;     ///< names its target in a tank
+    QStringView targetFileKey; ///< names its target in the tank file
+    QStringView testFileKey;   ///< names its value in the tank file's water tests
+    bool integral;             ///< measured in whole numbers
+    TextKey targetNameKey;     ///< key of the target's display name
+    DefaultNumber preferred;   ///< of a default target, like the rest
+    DefaultNumber deviation;
+    bool warningOn; ///< a default target that warns has its band on as well
+};
+
+// clang-format off
+inline constexpr std::array<ParameterTraits, 17> parameterTable{{
+    {Parameter::Temp,       u"temp",       u"tempData",       u"tempValue",       u"Temp",       false, "Temperature"_key,   {0, "TempFreshValue"_key}, {}, false},
+    {Parameter::Ph,         u"ph",         u"phData",         u"pHValue",         u"ph",         false, "Ph"_key,            {7.0F}, {}, false},
+    {Parameter::Ammonia,    u"ammonia",    u"ammoniaData",    u"ammoniaValue",    u"Ammonia",    false, "Ammonia"_key,       {}, {0, "AmmoniaFreshValue"_key}, true},
+    {Parameter::Nitrate,    u"nitrate",    u"nitrateData",    u"nitrateValue",    u"Nitrate",    false, "Nitrate"_key,       {}, {0, "NitrateFreshValue"_key}, true},
+    {Parameter::Nitrite,    u"nitrite",    u"nitriteData",    u"nitriteValue",    u"Nitrite",    false, "Nitrite"_key,       {}, {0, "NitriteFreshValue"_key}, true},
+    {Parameter::GH,         u"gH",         u"gHData",         u"gHValue",         u"GH",         false, "GH"_key,            {}, {}, false},
+    {Parameter::KH,         u"kH",         u"kHData",         u"kHValue",         u"KH",         false, "KH"_key,            {}, {}, false},
+    {Parameter::Salt,       u"salt",       u"saltData",       u"saltValue",       u"Salt",       false, "Salinity"_key,      {}, {}, false},
+    {Parameter::Alkalinity, u"alkalinity", u"alkalinityData", u"alkalinityValue", u"alkalinity", false, "Alkalinity"_key,    {}, {}, false},
+    {Parameter::Phosphate,  u"phosphate",  u"phosphateData",  u"phosphateValue",  u"phosphate",  false, "Phosphate"_key,     {}, {}, false},
+    {Parameter::Calcium,    u"calcium",    u"calciumData",    u"calciumValue",    u"calcium",    true,  "Calcium"_key,       {}, {}, false},
+    {Parameter::Iodine,     u"iodine",     u"iodineData",     u"iodineValue",     u"iodine",     false, "Iodine"_key,        {}, {}, false},
+    {Parameter::Oxygen,     u"oxygen",     u"oxygenData",     u"oxygenValue",     u"oxygen",     false, "Oxygen"_key,        {}, {}, false},
+    {Parameter::Copper,     u"copper",     u"copperData",     u"copperValue",     u"copper",     false, "Copper"_key,        {}, {}, false},
+    {Parameter::Iron,       u"iron",       u"ironData",       u"ironValue",       u"iron",       false, "Iron"_key,          {}, {}, false},
+    {Parameter::Dioxide,    u"dioxide",    u"dioxideData",    u"dioxideValue",    u"dioxide",    true,  "CarbonDioxide"_key, {}, {}, false},
+    {Parameter::Magnesium,  u"magnesium",  u"magnesiumData",  u"magnesiumValue",  u"magnesium",  true,  "Magnesium"_key,     {}, {}, false},
+}};
+// clang-format on
+
+inline constexpr std::size_t parameterCount = parameterTable.size();
+
+[[nodiscard]] constexpr const ParameterTraits &traitsOf(Parameter parameter)
+{
+    return parameterTable[std::size_t(parameter)];
+}
+
+/// The parameter of an identifier such as "gH"; none for anything else ("date" included).
+[[nodiscard]] std::optional<Parameter> parameterFromIdentifier(QStringView identifier);
+
+/// The parameter of a target key such as "gHData".
+[[nodiscard]] std::optional<Parameter> parameterFromTargetKey(QStringView targetKey);
+
+/// Of the fields of a water test, after the date.
+inline constexpr std::array<Parameter, parameterCount> recordFieldOrder{
+    Parameter::Ph,      Parameter::Ammonia,   Parameter::Nitrate, Parameter::Nitrite,    Parameter::GH,
+    Parameter::KH,      Parameter::Salt,      Parameter::Temp,    Parameter::Alkalinity, Parameter::Phosphate,
+    Parameter::Calcium, Parameter::Iodine,    Parameter::Oxygen,  Parameter::Copper,     Parameter::Iron,
+    Parameter::Dioxide, Parameter::Magnesium,
+};
+
+/// Of the columns of a new tank's water-test table, after the date.
+inline constexpr std::array<Parameter, parameterCount> defaultColumnOrder{
+    Parameter::Temp,      Parameter::Ph,        Parameter::Ammonia, Parameter::Nitrate, Parameter::Nitrite,
+    Parameter::Magnesium, Parameter::GH,        Parameter::KH,      Parameter::Salt,    Parameter::Alkalinity,
+    Parameter::Calcium,   Parameter::Dioxide,   Parameter::Copper,  Parameter::Iodine,  Parameter::Iron,
+    Parameter::Oxygen,    Parameter::Phosphate,
+};
+
+} // namespace brinemark

@@ -1,0 +1,8 @@
+#include "model/Record.h"
+
+namespace brinemark
+{
+
+Record::~Record() = default;
+
+} // namespace brinemark

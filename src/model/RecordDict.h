@@ -1,0 +1,32 @@
+#pragma once
+
+#include "base/plist/Value.h"
+#include "model/RecordFields.h"
+
+namespace brinemark
+{
+
+class Tank;
+enum class ContainerKind;
+
+/// Fills a blank record from its file form; the table of its fields says what a missing key means.
+/// \throws TankReadError when a needed text is missing or a value is of a kind that the field cannot take
+void readRecord(ItemData &record, const plist::Dict &dict);
+void readRecord(ConditionData &record, const plist::Dict &dict);
+void readRecord(ExpenseData &record, const plist::Dict &dict);
+void readRecord(InventoryData &record, const plist::Dict &dict);
+void readRecord(NoteData &record, const plist::Dict &dict);
+void readRecord(ScheduleData &record, const plist::Dict &dict);
+void readRecord(TankData &record, const plist::Dict &dict);
+
+/// A record of the container's kind, built from its file form and belonging to the tank (but in none of its lists).
+/// \throws TankReadError as readRecord does
+[[nodiscard]] std::shared_ptr<Record> recordFromDict(ContainerKind kind, const plist::Dict &dict, Tank *parent);
+
+/// The file form of a record. Dates, amounts, pictures and target names that are not there have no key.
+[[nodiscard]] plist::Dict recordDict(const Record &record);
+
+/// One value of the file form; none when there is no such key.
+[[nodiscard]] plist::Value fileValue(const Record &record, QStringView fileKey);
+
+} // namespace brinemark

@@ -1,0 +1,54 @@
+#include "model/Schedule.h"
+
+#include "base/Clock.h"
+#include "model/ModelContext.h"
+
+#include <QTimeZone>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// 00:00:00 (or the day's first moment, where clocks skip it) of the date's day in the date's own zone.
+QDateTime dayStart(const QDateTime &date)
+{
+    switch (date.timeSpec()) {
+    case Qt::TimeZone:
+        return date.date().startOfDay(date.timeZone());
+    case Qt::OffsetFromUTC:
+        return date.date().startOfDay(Qt::OffsetFromUTC, date.offsetFromUtc());
+    case Qt::UTC:
+    case Qt::LocalTime:
+        break;
+    }
+    return date.date().startOfDay(date.timeSpec());
+}
+
+} // namespace
+
+bool Schedule::warningDateCheck(const std::shared_ptr<ScheduleData> &record, Tank *)
+{
+    if (!record->date.isValid() || dayStart(record->date) > clock::now())
+        return false;
+    ModelContext::sharedInstance().setNotificationData(record);
+    return true;
+}
+
+void Schedule::appendFromDict(const plist::Dict &dict)
+{
+    RecordContainer::appendFromDict(dict);
+    const std::shared_ptr<ScheduleData> &record = scheduleArray().back();
+    if (!record->complete() && ModelContext::sharedInstance().checksOverdue())
+        m_foundOverdue = warningDateCheck(record, tank()) || m_foundOverdue;
+}
+
+void Schedule::finishedReading()
+{
+    if (m_foundOverdue)
+        ModelContext::sharedInstance().shouldShowWindow(true);
+    m_foundOverdue = false;
+}
+
+} // namespace brinemark

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/RecordContainer.h"
+#include "model/ScheduleData.h"
+#include "model/SearchMetadata.h"
+
+namespace brinemark
+{
+
+/// A tank's maintenance schedule.
+class Schedule final : public RecordContainer<ScheduleData>
+{
+public:
+    explicit Schedule(Tank *parent)
+        : RecordContainer(ContainerKind::Schedule, parent)
+    {
+    }
+
+    [[nodiscard]] Records &scheduleArray() { return records(); }
+    [[nodiscard]] const Records &scheduleArray() const { return records(); }
+
+    /// Whether the activity's due day, in the time zone of its own date, has begun; if so it is announced to the
+    /// overdue notice (`ModelObserver::setNotificationData`). An activity without a date is never due.
+    bool warningDateCheck(const std::shared_ptr<ScheduleData> &record, Tank *parent);
+
+    /// The first five activities, each followed by a comma and a blank.
+    [[nodiscard]] QString metaScheduleString() const { return journalMetaString(*this, u"activity"); }
+
+protected:
+    void appendFromDict(const plist::Dict &dict) override; ///< also runs the overdue check on what is not done
+    void finishedReading() override;                       ///< asks for the overdue notice when anything was due
+
+private:
+    bool m_foundOverdue = false;
+};
+
+} // namespace brinemark

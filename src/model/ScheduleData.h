@@ -1,0 +1,43 @@
+#pragma once
+
+#include "model/Record.h"
+
+#include <QDateTime>
+#include <QString>
+
+namespace brinemark
+{
+
+template <class R>
+struct FieldTable;
+
+/// A maintenance activity. While `autoReschedule` is off, setting it keeps `nextDate` at 0.
+struct ScheduleData final : Record {
+    QDateTime date; ///< when it is due
+    QString activity;
+    float nextDate = 0; ///< rescheduling interval in seconds; the next due date is `date` + `nextDate`
+
+    explicit ScheduleData(Tank *parent = nullptr);
+    explicit ScheduleData(Blank) {}
+
+    [[nodiscard]] bool complete() const { return m_complete; }
+    /// Stores the mark, reschedules when `autoReschedule` is on and announces "DoneChecked".
+    void setComplete(bool complete);
+
+    [[nodiscard]] bool autoReschedule() const { return m_autoReschedule; }
+    void setAutoReschedule(bool autoReschedule); ///< off sets `nextDate` to 0
+
+    /// Runs the rescheduling rule that the schedule has registered with the model context.
+    void reScheduleIfNeeded();
+
+    [[nodiscard]] RecordType recordType() const override { return RecordType::Schedule; }
+    [[nodiscard]] std::shared_ptr<Record> copy() const override; ///< announces "DoneChecked" for the copy
+
+private:
+    friend struct FieldTable<ScheduleData>;
+
+    bool m_complete = false;
+    bool m_autoReschedule = false;
+};
+
+} // namespace brinemark

@@ -1,0 +1,162 @@
+#pragma once
+
+#include "base/plist/Value.h"
+#include "model/Containers.h"
+#include "model/Parameters.h"
+#include "model/TankData.h"
+
+#include <QStringList>
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace brinemark
+{
+
+/// One aquarium: its properties, nine containers and seventeen targets. Held by `std::shared_ptr`; owns its containers
+/// and targets. Inserting and removing registers no undo and counts no document change: controllers do both.
+class Tank : public std::enable_shared_from_this<Tank>
+{
+public:
+    explicit Tank(const QString &name); ///< a new tank, with the default targets and categories
+    ~Tank();
+    Tank(const Tank &) = delete;
+    Tank &operator=(const Tank &) = delete;
+
+    /// Builds a tank from the current file form.
+    /// \throws TankReadError when a text that it needs is missing or a value is of the wrong kind
+    [[nodiscard]] static std::shared_ptr<Tank> fromDict(const plist::Dict &tankDictionary);
+    /// Builds a tank from the older file form (see OlderTank.cpp). Throws as `fromDict` does.
+    [[nodiscard]] static std::shared_ptr<Tank> fromArray(const plist::Array &olderTank);
+    [[nodiscard]] plist::Dict tankDictionary() const;
+
+    QString name;
+    bool freshwater = true;
+    QString size; ///< free text, as typed
+    bool tankExpanded = false;
+    bool fishExpanded = false;
+    bool plantExpanded = false;
+    bool coralExpanded = false;
+    bool invertExpanded = false;
+    QStringList expenseCategoryArray;
+    std::optional<qint64> bundleVersion; ///< of the file that the tank was read from; none for a tank created since
+
+    [[nodiscard]] Tank *tank() { return this; } ///< a tank answers like a record's `tank`
+
+    /// The row flag of a livestock group ("fishExpanded" ...); null for the journals, whose rows do not open.
+    [[nodiscard]] bool *expandedFlag(ContainerKind kind);
+
+    /// The nine containers in the order of ContainerKind. Empty for a tank whose older file held attributes for more
+    /// lists than that form knows: such a tank shows no lists, though the containers themselves exist, empty.
+    [[nodiscard]] std::vector<Container *> tankItemsArray() const;
+    [[nodiscard]] Container *container(ContainerKind kind) const { return m_containers[std::size_t(kind)].get(); }
+    [[nodiscard]] Container *containerForListKey(QStringView listKey) const; ///< null for an unknown key
+
+    [[nodiscard]] Fish *fish() const { return as<Fish>(ContainerKind::Fish); }
+    [[nodiscard]] Plant *plant() const { return as<Plant>(ContainerKind::Plant); }
+    [[nodiscard]] Invert *invert() const { return as<Invert>(ContainerKind::Invert); }
+    [[nodiscard]] Coral *coral() const { return as<Coral>(ContainerKind::Coral); }
+    [[nodiscard]] Condition *condition() const { return as<Condition>(ContainerKind::Condition); }
+    [[nodiscard]] Schedule *schedule() const { return as<Schedule>(ContainerKind::Schedule); }
+    [[nodiscard]] Inventory *inventory() const { return as<Inventory>(ContainerKind::Inventory); }
+    [[nodiscard]] Expense *expense() const { return as<Expense>(ContainerKind::Expense); }
+    [[nodiscard]] Note *note() const { return as<Note>(ContainerKind::Note); }
+
+    // The record lists themselves, not copies.
+    [[nodiscard]] Fish::Records &fishListArray() const { return fish()->fishArray(); }
+    [[nodiscard]] Plant::Records &plantListArray() const { return plant()->plantArray(); }
+    [[nodiscard]] Invert::Records &invertListArray() const { return invert()->invertArray(); }
+    [[nodiscard]] Coral::Records &coralListArray() const { return coral()->coralArray(); }
+    [[nodiscard]] Condition::Records &conditionListArray() const { return condition()->conditionArray(); }
+    [[nodiscard]] Schedule::Records &scheduleListArray() const { return schedule()->scheduleArray(); }
+    [[nodiscard]] Inventory::Records &inventoryListArray() const { return inventory()->inventoryArray(); }
+    [[nodiscard]] Expense::Records &expenseListArray() const { return expense()->expenseArray(); }
+    [[nodiscard]] Note::Records &noteListArray() const { return note()->noteArray(); }
+
+    /// The target of a parameter; never null.
+    [[nodiscard]] TankData *target(Parameter parameter) const { return m_targets[std::size_t(parameter)].get(); }
+    [[nodiscard]] TankData *targetForKey(QStringView targetKey) const; ///< "tempData" ...; null for an unknown key
+    void setTarget(Parameter parameter, std::shared_ptr<TankData> target);
+
+    [[nodiscard]] TankData *tempData() const { return target(Parameter::Temp); }
+    [[nodiscard]] TankData *phData() const { return target(Parameter::Ph); }
+    [[nodiscard]] TankData *ammoniaData() const { return target(Parameter::Ammonia); }
+    [[nodiscard]] TankData *nitrateData() const { return target(Parameter::Nitrate); }
+    [[nodiscard]] TankData *nitriteData() const { return target(Parameter::Nitrite); }
+    [[nodiscard]] TankData *gHData() const { return target(Parameter::GH); }
+    [[nodiscard]] TankData *kHData() const { return target(Parameter::KH); }
+    [[nodiscard]] TankData *saltData() const { return target(Parameter::Salt); }
+    [[nodiscard]] TankData *alkalinityData() const { return target(Parameter::Alkalinity); }
+    [[nodiscard]] TankData *phosphateData() const { return target(Parameter::Phosphate); }
+    [[nodiscard]] TankData *calciumData() const { return target(Parameter::Calcium); }
+    [[nodiscard]] TankData *iodineData() const { return target(Parameter::Iodine); }
+    [[nodiscard]] TankData *oxygenData() const { return target(Parameter::Oxygen); }
+    [[nodiscard]] TankData *copperData() const { return target(Parameter::Copper); }
+    [[nodiscard]] TankData *ironData() const { return target(Parameter::Iron); }
+    [[nodiscard]] TankData *dioxideData() const { return target(Parameter::Dioxide); }
+    [[nodiscard]] TankData *magnesiumData() const { return target(Parameter::Magnesium); }
+
+    void createDefaultWarningValues();       ///< replaces all targets by the defaults of the parameter table
+    void createDefaultMarineWarningValues(); ///< replaces the last ten, salt to magnesium, only
+
+    /// Puts a record into the list of the key: takes it out of a list first by a rule with an odd test (see Tank.cpp),
+    /// makes this its tank, then inserts before `index` or, past the end, appends.
+    void insertItemData(const std::shared_ptr<Record> &record, QStringView arrayKey, int index);
+    /// Takes the record out; its `tank` stays. An index out of range is a programming error.
+    void removeWithArrayKey(QStringView arrayKey, int index);
+
+    // The same under each list's own name, followed by the notice to whoever shows the list (see ModelObserver).
+    void insertInFishListArray(const std::shared_ptr<FishData> &record, int index);
+    void insertInPlantListArray(const std::shared_ptr<PlantData> &record, int index);
+    void insertInInvertListArray(const std::shared_ptr<InvertData> &record, int index);
+    void insertInCoralListArray(const std::shared_ptr<CoralData> &record, int index);
+    void insertInScheduleListArray(const std::shared_ptr<ScheduleData> &record, int index);
+    void insertInNoteListArray(const std::shared_ptr<NoteData> &record, int index);
+    void insertInConditionListArray(const std::shared_ptr<ConditionData> &record, int index);
+    void insertInInventoryListArray(const std::shared_ptr<InventoryData> &record, int index);
+    void insertInExpenseListArray(const std::shared_ptr<ExpenseData> &record, int index);
+    void removeFromFishListArrayAtIndex(int index);
+    void removeFromPlantListArrayAtIndex(int index);
+    void removeFromInvertListArrayAtIndex(int index);
+    void removeFromCoralListArrayAtIndex(int index);
+    void removeFromScheduleListArrayAtIndex(int index);
+    void removeFromNoteListArrayAtIndex(int index);
+    void removeFromConditionListArrayAtIndex(int index);
+    void removeFromInventoryListArrayAtIndex(int index);
+    void removeFromExpenseListArrayAtIndex(int index);
+
+    // The same for a kind that is known only while running.
+    void insertInList(ContainerKind kind, const std::shared_ptr<Record> &record, int index);
+    void removeFromListAtIndex(ContainerKind kind, int index);
+
+    // Words for the system's search index, written into the file's attributes.
+    [[nodiscard]] QStringList metaTankArray() const;
+    [[nodiscard]] QString metaTankString() const;
+
+private:
+    friend class TankRef;
+    friend class TankDictReader;
+    friend class OlderTankReader;
+
+    explicit Tank(Blank); ///< containers, but no targets or categories yet
+
+    void createDefaultTargets(Parameter first);
+
+    template <class C>
+    [[nodiscard]] C *as(ContainerKind kind) const
+    {
+        return static_cast<C *>(container(kind));
+    }
+
+    std::shared_ptr<Tank *> m_anchor; ///< what the records' TankRefs hold; cleared when the tank goes
+    bool m_listsShown = true;
+    std::array<std::unique_ptr<Container>, containerCount> m_containers;
+    std::array<std::shared_ptr<TankData>, parameterCount> m_targets;
+};
+
+/// The five expense categories of a new tank.
+[[nodiscard]] QStringList defaultExpenseCategories();
+
+} // namespace brinemark

@@ -1,0 +1,66 @@
+// A tank to and from the current file form: its properties, its lists' attributes and its lists.
+
+#include "model/PlistField.h"
+#include "model/Tank.h"
+#include "model/TankProperties.h"
+#include "model/TankReadError.h"
+
+namespace brinemark
+{
+
+namespace
+{
+
+const auto propertiesKey = QStringLiteral("TankProperties");
+const auto listPropertiesKey = QStringLiteral("TankListProperties");
+const auto listsKey = QStringLiteral("TankLists");
+const auto bundleVersionKey = QStringLiteral("bundleVersion");
+
+/// The dictionary under a key, an empty one when it is missing.
+const plist::Dict &part(const plist::Dict &dict, const QString &key)
+{
+    static const plist::Dict none;
+    const plist::Value *value = dict.find(key);
+    return value ? plistfield::dictOf(*value, key) : none;
+}
+
+} // namespace
+
+std::shared_ptr<Tank> Tank::fromDict(const plist::Dict &tankDictionary)
+{
+    const plist::Dict &properties = part(tankDictionary, propertiesKey);
+    const plist::Dict &attributes = part(tankDictionary, listPropertiesKey);
+    const plist::Dict &lists = part(tankDictionary, listsKey);
+
+    const std::shared_ptr<Tank> tank(new Tank(Blank{}));
+    if (const plist::Value *version = tankDictionary.find(bundleVersionKey))
+        tank->bundleVersion =
+            version->integer() ? *version->integer() : plistfield::integerOf(*version, bundleVersionKey);
+    readTankProperties(*tank, properties);
+    for (const ParameterTraits &traits : parameterTable)
+        tank->setTarget(traits.parameter, readTarget(traits.parameter, properties));
+    // The last parameter to join: files from before it still show its name.
+    if (!properties.contains(traitsOf(Parameter::Magnesium).targetFileKey))
+        tank->setTarget(Parameter::Magnesium, plainTarget(Parameter::Magnesium));
+    for (const auto &container : tank->m_containers) {
+        const QStringView key = container->traits().fileKey;
+        container->readArray(lists.find(key), attributes.find(key));
+    }
+    return tank;
+}
+
+plist::Dict Tank::tankDictionary() const
+{
+    plist::Dict attributes;
+    plist::Dict lists;
+    for (const auto &container : m_containers) {
+        const QString key = container->traits().fileKey.toString();
+        attributes.insert(key, container->listAttributesDict());
+        lists.insert(key, container->dictArray());
+    }
+    return {{propertiesKey, tankPropertiesDict(*this)},
+            {listPropertiesKey, std::move(attributes)},
+            {listsKey, std::move(lists)}};
+}
+
+} // namespace brinemark

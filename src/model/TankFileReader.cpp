@@ -1,0 +1,83 @@
+#include "base/Log.h"
+#include "model/ModelContext.h"
+#include "model/PlistField.h"
+#include "model/Tank.h"
+#include "model/TankFile.h"
+#include "model/TankFileKeys.h"
+#include "model/TankReadError.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// Copies the file beside itself under another name. A copy that is already there stays: it is the older one.
+void keepBackup(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString backup = info.path() + u'/' + text("ConvertBackup"_key) + u' ' + info.fileName();
+    if (!QFile::copy(path, backup))
+        qCInfo(logFile, "no backup copy was made at %ls", qUtf16Printable(backup));
+}
+
+std::shared_ptr<Tank> buildTank(const plist::Value *entry, const plist::Value *bundleVersion)
+{
+    if (!entry)
+        throw TankReadError(QStringLiteral("the tank is missing"));
+    if (const plist::Dict *dict = entry->dict()) {
+        if (!bundleVersion)
+            throw TankReadError(QStringLiteral("a tank of the current form in a file without a version"));
+        plist::Dict versioned = *dict;
+        versioned.insert(tankfile::bundleVersionKey, *bundleVersion);
+        return Tank::fromDict(versioned);
+    }
+    return Tank::fromArray(plistfield::arrayOf(*entry, u"tank"));
+}
+
+} // namespace
+
+TankFileResult readTanks(const plist::Dict &root, const QString &path, TankList &tanks,
+                         const TankFileCallbacks &callbacks)
+{
+    static const plist::Dict none;
+    const plist::Value *found = root.find(tankfile::fileAttributesKey);
+    const plist::Dict &attributes = found && found->dict() ? *found->dict() : none;
+    const plist::Value *bundleVersion = attributes.find(tankfile::bundleVersionKey);
+
+    TankFileResult result;
+    if (const plist::Value *row = attributes.find(tankfile::selectedRowKey); row && !row->array() && !row->dict())
+        result.selectedRow = row->data() || row->date() ? 0 : plistfield::integerOf(*row, tankfile::selectedRowKey);
+    if (!bundleVersion && callbacks.wantsBackup && callbacks.wantsBackup())
+        keepBackup(path);
+
+    if (callbacks.willReplaceTanks)
+        callbacks.willReplaceTanks();
+    tanks.clear();
+    // The attributes count as one entry, so that a file without them loses its last tank.
+    const int tankCount = int(root.size()) - 1;
+    for (int position = 1; position <= tankCount; ++position) {
+        if (callbacks.progress)
+            callbacks.progress(position - 1, tankCount);
+        std::shared_ptr<Tank> tank;
+        try {
+            tank = buildTank(root.find(tankfile::tankKey(position)), bundleVersion);
+        } catch (const TankReadError &error) {
+            result.error =
+                QStringLiteral("tank %1: %2").arg(QString::number(position), QString::fromUtf8(error.what()));
+            qCWarning(logFile, "%ls", qUtf16Printable(result.error));
+            return result;
+        }
+        tanks.append(tank);
+        ++result.tanksBuilt;
+        if (callbacks.tankBuilt)
+            callbacks.tankBuilt(tank);
+    }
+    result.ok = true;
+    return result;
+}
+
+} // namespace brinemark

@@ -1,0 +1,35 @@
+#include "model/TankFile.h"
+#include "model/TankFileKeys.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QXmlStreamReader>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// Enough for declaration, document type, a comment or two and the first key.
+constexpr qint64 examinedBytes = 16 * 1024;
+
+} // namespace
+
+bool looksLikeTankFile(const QString &path)
+{
+    const QFileInfo info(path);
+    QFile file(path);
+    if (info.suffix().compare(QLatin1String("xml"), Qt::CaseInsensitive) != 0 || !info.isFile() ||
+        !file.open(QIODevice::ReadOnly))
+        return false;
+    QXmlStreamReader xml(file.read(examinedBytes));
+    if (!xml.readNextStartElement() || xml.name() != u"plist" || !xml.readNextStartElement() || xml.name() != u"dict")
+        return false;
+    if (!xml.readNextStartElement() || xml.name() != u"key")
+        return false;
+    const QString firstKey = xml.readElementText();
+    return firstKey == tankfile::fileAttributesKey || firstKey == tankfile::tankKey(1);
+}
+
+} // namespace brinemark
