@@ -15,7 +15,7 @@ namespace brinemark
 namespace
 {
 
-enum class Role { Text, Accent, Mark, Fixed };
+enum class Role { Text, Accent, Mark, Grey, Fixed };
 
 /// An ink as the drawings name it, and what it becomes on a light and on a dark palette.
 struct Ink {
@@ -26,19 +26,20 @@ struct Ink {
 };
 
 // Text takes the palette's own text colour instead. Where the icon is selected or disabled, Accent is Text too (a blue
-// accent would drown in a blue highlight) and Mark the ground it stands on. Fixed inks keep their meaning in every
-// mode.
+// accent would drown in a blue highlight) and Mark the ground it stands on. Grey would drown in a highlight as well.
+// Fixed inks keep their meaning in every mode.
 constexpr std::array inks{
-    Ink{"#1a1a1a", nullptr, nullptr, Role::Text},      Ink{"#0a84c8", "#0a78b8", "#4fb9ee", Role::Accent},
-    Ink{"#fefefe", "#ffffff", "#1b1f22", Role::Mark},  // a mark that stands on a filled shape
-    Ink{"#2e8b3d", "#2a7f39", "#63c873", Role::Fixed}, // in range
-    Ink{"#d98200", "#c47300", "#f2b23e", Role::Fixed}, // near a limit
-    Ink{"#c62828", "#c22525", "#ff7069", Role::Fixed}, // out of range, critical
-    Ink{"#7a7a7a", "#6f757a", "#9aa2a8", Role::Fixed}, // not tested
-    Ink{"#a3336f", "#9c2f6a", "#ec8ac0", Role::Fixed}, // overdue
-    Ink{"#227a86", "#1f7480", "#5cc3cf", Role::Fixed}, // done
-    Ink{"#1767b0", "#1767b0", "#5fb0f5", Role::Fixed}, // question, information
-    Ink{"#0c3f63", "#0c3f63", "#8fd0f0", Role::Fixed}, // the rim of the application icon
+    Ink{"#1a1a1a", nullptr, nullptr, Role::Text},       // lines
+    Ink{"#0a84c8", "#0a78b8", "#4fb9ee", Role::Accent}, // the one accent
+    Ink{"#fefefe", "#ffffff", "#1b1f22", Role::Mark},   // a mark that stands on a filled shape
+    Ink{"#2e8b3d", "#2a7f39", "#63c873", Role::Fixed},  // in range
+    Ink{"#d98200", "#c47300", "#f2b23e", Role::Fixed},  // near a limit
+    Ink{"#c62828", "#c22525", "#ff7069", Role::Fixed},  // out of range, critical
+    Ink{"#7a7a7a", "#6f757a", "#9aa2a8", Role::Grey},   // not tested
+    Ink{"#a3336f", "#9c2f6a", "#ec8ac0", Role::Fixed},  // overdue
+    Ink{"#227a86", "#1f7480", "#5cc3cf", Role::Fixed},  // done
+    Ink{"#1767b0", "#1767b0", "#5fb0f5", Role::Fixed},  // question, information
+    Ink{"#0c3f63", "#0c3f63", "#8fd0f0", Role::Fixed},  // the rim of the application icon
 };
 
 bool isDark(const QPalette &palette)
@@ -57,6 +58,8 @@ QColor inkColour(const Ink &ink, const QPalette &palette, QIcon::Mode mode, bool
             return palette.color(QPalette::Active, QPalette::HighlightedText);
         return palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active, QPalette::WindowText);
     }
+    if (ink.role == Role::Grey && selected)
+        return palette.color(QPalette::Active, QPalette::HighlightedText);
     if (ink.role == Role::Mark && oneColour)
         return palette.color(QPalette::Active, selected ? QPalette::Highlight : QPalette::Window);
     return QColor(QLatin1String(isDark(palette) ? ink.dark : ink.light));
@@ -114,10 +117,13 @@ QPixmap IconEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State)
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    // Drawings whose inks carry a meaning of their own cannot take the disabled text colour; they fade instead.
-    if (mode == QIcon::Disabled && hasOwnColours())
-        painter.setOpacity(0.4);
     QSvgRenderer(svg).render(&painter, QRectF(0, 0, side, side));
+    // Drawings whose inks carry a meaning of their own cannot take the disabled text colour; they fade as a whole
+    // instead.
+    if (mode == QIcon::Disabled && hasOwnColours()) {
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        painter.fillRect(image.rect(), QColor(0, 0, 0, 100));
+    }
     painter.end();
     pixmap = QPixmap::fromImage(image);
     QPixmapCache::insert(key, pixmap);
