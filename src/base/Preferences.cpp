@@ -1,11 +1,13 @@
 #include "base/Preferences.h"
 
-#include "base/text/NumberText.h"
+#include "base/PropertyListSettings.h"
 
+#include <QSettings>
 #include <QStandardPaths>
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace brinemark
 {
@@ -68,37 +70,42 @@ Preferences &Preferences::shared()
 
 Preferences::Preferences(const QString &path)
     : m_path(path)
-    , m_settings(path, QSettings::IniFormat)
+    , m_settings(std::make_unique<QSettings>(path, propertyListSettingsFormat()))
 {
 }
 
+Preferences::~Preferences() = default;
+
 QVariant Preferences::variant(const QString &name) const
 {
-    return m_settings.value(name);
+    return m_settings->value(name);
 }
 
 void Preferences::setVariant(const QString &name, const QVariant &value)
 {
     if (value.isValid())
-        m_settings.setValue(name, value);
+        m_settings->setValue(name, value);
     else
-        m_settings.remove(name);
+        m_settings->remove(name);
 }
 
 bool Preferences::contains(const QString &name) const
 {
-    return m_settings.contains(name);
+    return m_settings->contains(name);
 }
 
 void Preferences::remove(const QString &name)
 {
-    m_settings.remove(name);
+    m_settings->remove(name);
 }
 
 bool Preferences::flush()
 {
-    m_settings.sync();
-    return m_settings.status() == QSettings::NoError;
+    // An error sticks to its object. Another object of the same file shares the values still to be written.
+    if (m_settings->status() != QSettings::NoError)
+        m_settings = std::make_unique<QSettings>(m_path, propertyListSettingsFormat());
+    m_settings->sync();
+    return m_settings->status() == QSettings::NoError;
 }
 
 template <>

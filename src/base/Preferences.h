@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QDateTime>
-#include <QSettings>
 #include <QString>
 #include <QVariant>
 
+#include <memory>
 #include <optional>
 #include <type_traits>
+
+class QSettings;
 
 namespace brinemark
 {
@@ -30,6 +32,7 @@ public:
 
     /// A store of another file. A damaged file is set aside under another name and the store starts empty.
     explicit Preferences(const QString &path);
+    ~Preferences(); ///< writes what is still to be written
 
     /// The stored value; nothing when it is absent or cannot be understood as a T. A number, flag or text of another
     /// type is read for what it says ("YES", 1 and true are the same flag).
@@ -80,7 +83,7 @@ private:
     static std::optional<T> convert(const QVariant &stored);
 
     QString m_path;
-    QSettings m_settings;
+    std::unique_ptr<QSettings> m_settings;
 };
 
 template <>

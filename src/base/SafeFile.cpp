@@ -67,6 +67,11 @@ bool changedOnDisk(const QString &path, const FileStamp &lastKnown)
 FileContent readFile(const QString &path)
 {
     FileContent content;
+    // Neither a folder nor something that never ends, such as a pipe.
+    if (!QFileInfo(path).isFile()) {
+        content.error = QStringLiteral("No such file");
+        return content;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         content.error = file.errorString();
@@ -87,7 +92,12 @@ FileContent readFile(const QString &path)
 
 WriteResult writeFileSafely(const QString &path, const QByteArray &bytes)
 {
-    QSaveFile file(linkTarget(path));
+    const QString target = linkTarget(path);
+    if (QFileInfo::exists(target) && !QFileInfo(target).isFile()) {
+        qCWarning(logFile) << "Cannot write" << target << "Not a file";
+        return {false, QStringLiteral("Not a file"), {}};
+    }
+    QSaveFile file(target);
     return writeFileSafely(file, bytes);
 }
 

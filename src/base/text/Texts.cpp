@@ -110,6 +110,15 @@ private:
     std::vector<std::unique_ptr<QTranslator>> m_tables;
 };
 
+/// What "%i" shows: fractions cut off, 0 for what is not a number.
+qint64 wholeNumber(const QVariant &value)
+{
+    if (value.typeId() != QMetaType::Double && value.typeId() != QMetaType::Float)
+        return value.toLongLong();
+    const double number = value.toDouble();
+    return std::abs(number) < 9e18 ? qint64(number) : 0;
+}
+
 Tables &tables()
 {
     static Tables shared;
@@ -179,7 +188,7 @@ QString formatText(const QString &format, const QVariantList &values)
             if (kind == QLatin1Char('@'))
                 result += value.toString();
             else if (value.isValid())
-                result += QString::number(qint64(std::trunc(value.toDouble())));
+                result += QString::number(wholeNumber(value));
         } else {
             result += format.at(i);
             continue;
