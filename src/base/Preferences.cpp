@@ -86,7 +86,7 @@ void Preferences::setVariant(const QString &name, const QVariant &value)
     if (value.isValid())
         m_settings->setValue(name, value);
     else
-        m_settings->remove(name);
+        remove(name);
 }
 
 bool Preferences::contains(const QString &name) const
@@ -96,7 +96,9 @@ bool Preferences::contains(const QString &name) const
 
 void Preferences::remove(const QString &name)
 {
-    m_settings->remove(name);
+    // The toolkit takes an empty name for everything there is.
+    if (!name.isEmpty())
+        m_settings->remove(name);
 }
 
 bool Preferences::flush()

@@ -62,7 +62,8 @@ public:
         remove(nameOf(key));
     }
 
-    /// Values by names that are only known while running; an invalid variant is absent, and setting one removes.
+    /// Values by names that are only known while running; nothing stored gives an invalid variant, and setting one
+    /// removes.
     [[nodiscard]] QVariant variant(const QString &name) const;
     void setVariant(const QString &name, const QVariant &value);
     [[nodiscard]] bool contains(const QString &name) const;

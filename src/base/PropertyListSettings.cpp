@@ -17,12 +17,12 @@ namespace
 QString freeNameBeside(const QString &path)
 {
     const QFileInfo info(path);
-    const QString pattern =
-        info.path() + u'/' + info.completeBaseName() + QStringLiteral("-damaged-%1.") + info.suffix();
-    int number = 1;
-    while (QFile::exists(pattern.arg(number)))
-        ++number;
-    return pattern.arg(number);
+    const QString start = info.path() + u'/' + info.completeBaseName() + QStringLiteral("-damaged-");
+    for (int number = 1;; ++number) {
+        const QString name = start + QString::number(number) + u'.' + info.suffix();
+        if (!QFile::exists(name))
+            return name;
+    }
 }
 
 /// Moves a file that cannot be read out of the way; where an open file cannot be moved, a copy does.
