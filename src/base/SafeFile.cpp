@@ -13,8 +13,8 @@ namespace brinemark
 namespace
 {
 
-/// Not cryptographic: the question is whether an editor or a synchronising service was here, and opening a file of 100
-/// MB is not to wait for the answer to a question that is hardly ever asked.
+/// Not cryptographic: the question is whether an editor or a synchronising service was here, and opening a file
+/// of 100 MB is not to wait for the answer to a question that is hardly ever asked.
 QByteArray fastHash(const QByteArray &content)
 {
     constexpr size_t seed = 0x6272696e; // any that is not 0: the toolkit then takes its faster way
@@ -47,8 +47,11 @@ FileStamp FileStamp::of(const QString &path)
 FileStamp FileStamp::of(const QString &path, const QByteArray &content)
 {
     FileStamp stamp = stampOf(QFileInfo(path));
-    if (stamp.isKnown())
-        stamp.hash = fastHash(content);
+    if (!stamp.isKnown())
+        return stamp;
+    // The content's size, not the file's: somebody may have been quicker than our look at it.
+    stamp.size = content.size();
+    stamp.hash = fastHash(content);
     return stamp;
 }
 
