@@ -1,5 +1,7 @@
 #include "ui/IconEngine.h"
 
+#include "ui/Colours.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
@@ -15,54 +17,53 @@ namespace brinemark
 namespace
 {
 
-enum class Role { Text, Accent, Mark, Grey, Fixed };
+/// How an ink behaves where the icon is selected or disabled.
+enum class Kind {
+    Text,   ///< the palette's own text colour in every mode
+    Accent, ///< as Text there: a blue accent would drown in a blue highlight
+    Mark,   ///< stands on a filled shape; of the ground's colour there
+    Grey,   ///< would drown in a highlight, so it is Text where selected
+    Fixed   ///< keeps its meaning in every mode
+};
 
-/// An ink as the drawings name it, and what it becomes on a light and on a dark palette.
+/// An ink as the drawings name it, and the colour it stands for. Shapes need less contrast than text (3:1), so an ink
+/// may have livelier shades of its own; 0 is the role's.
 struct Ink {
     const char *placeholder;
-    const char *light;
-    const char *dark;
-    Role role;
+    Kind kind;
+    ColourRole role = ColourRole::Count;
+    QRgb light = 0;
+    QRgb dark = 0;
 };
 
-// Text takes the palette's own text colour instead. Where the icon is selected or disabled, Accent is Text too (a blue
-// accent would drown in a blue highlight) and Mark the ground it stands on. Grey would drown in a highlight as well.
-// Fixed inks keep their meaning in every mode.
 constexpr std::array inks{
-    Ink{"#1a1a1a", nullptr, nullptr, Role::Text},       // lines
-    Ink{"#0a84c8", "#0a78b8", "#4fb9ee", Role::Accent}, // the one accent
-    Ink{"#fefefe", "#ffffff", "#1b1f22", Role::Mark},   // a mark that stands on a filled shape
-    Ink{"#2e8b3d", "#2a7f39", "#63c873", Role::Fixed},  // in range
-    Ink{"#d98200", "#c47300", "#f2b23e", Role::Fixed},  // near a limit
-    Ink{"#c62828", "#c22525", "#ff7069", Role::Fixed},  // out of range, critical
-    Ink{"#7a7a7a", "#6f757a", "#9aa2a8", Role::Grey},   // not tested
-    Ink{"#a3336f", "#9c2f6a", "#ec8ac0", Role::Fixed},  // overdue
-    Ink{"#227a86", "#1f7480", "#5cc3cf", Role::Fixed},  // done
-    Ink{"#1767b0", "#1767b0", "#5fb0f5", Role::Fixed},  // question, information
-    Ink{"#0c3f63", "#0c3f63", "#8fd0f0", Role::Fixed},  // the rim of the application icon
+    Ink{"#1a1a1a", Kind::Text},
+    Ink{"#0a84c8", Kind::Accent, ColourRole::Accent, 0xff0a78b8},
+    Ink{"#fefefe", Kind::Mark, ColourRole::Count, 0xffffffff, 0xff1b1f22},
+    Ink{"#2e8b3d", Kind::Fixed, ColourRole::InRange},
+    Ink{"#d98200", Kind::Fixed, ColourRole::Near, 0xffc47300},
+    Ink{"#c62828", Kind::Fixed, ColourRole::Out},
+    Ink{"#7a7a7a", Kind::Grey, ColourRole::NotTested},
+    Ink{"#a3336f", Kind::Fixed, ColourRole::Overdue},
+    Ink{"#227a86", Kind::Fixed, ColourRole::Done},
+    Ink{"#1767b0", Kind::Fixed, ColourRole::Accent},                        // alerts that ask and inform
+    Ink{"#0c3f63", Kind::Fixed, ColourRole::Count, 0xff0c3f63, 0xff8fd0f0}, // the rim of the program's icon
 };
-
-bool isDark(const QPalette &palette)
-{
-    return palette.color(QPalette::Active, QPalette::Window).lightnessF() <
-           palette.color(QPalette::Active, QPalette::WindowText).lightnessF();
-}
 
 /// What an ink becomes for one mode; `ownColours` are drawings without an ink of the palette's.
 QColor inkColour(const Ink &ink, const QPalette &palette, QIcon::Mode mode, bool ownColours)
 {
-    const bool oneColour = !ownColours && (mode == QIcon::Disabled || mode == QIcon::Selected);
     const bool selected = mode == QIcon::Selected;
-    if (ink.role == Role::Text || (ink.role == Role::Accent && oneColour)) {
+    const bool oneColour = !ownColours && (selected || mode == QIcon::Disabled);
+    if (ink.kind == Kind::Text || (ink.kind == Kind::Accent && oneColour) || (ink.kind == Kind::Grey && selected)) {
         if (selected)
             return palette.color(QPalette::Active, QPalette::HighlightedText);
         return palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active, QPalette::WindowText);
     }
-    if (ink.role == Role::Grey && selected)
-        return palette.color(QPalette::Active, QPalette::HighlightedText);
-    if (ink.role == Role::Mark && oneColour)
+    if (ink.kind == Kind::Mark && oneColour)
         return palette.color(QPalette::Active, selected ? QPalette::Highlight : QPalette::Window);
-    return QColor(QLatin1String(isDark(palette) ? ink.dark : ink.light));
+    const QRgb own = isDark(palette) ? ink.dark : ink.light;
+    return own != 0 ? QColor::fromRgb(own) : colour(ink.role, palette);
 }
 
 } // namespace
