@@ -42,8 +42,10 @@ def flag(value):
 
 
 def float_text(value):
-    """Seven significant digits of the single-precision value: 7.0 is "7", 7.2 stays "7.2"."""
-    return "%.7g" % struct.unpack("<f", struct.pack("<f", value))[0]
+    """Seven significant digits of the single-precision value: 7.0 is "7", 7.2 stays "7.2". Whole values, such as the
+    seconds of a year, are written out rather than with an exponent."""
+    single = struct.unpack("<f", struct.pack("<f", value))[0]
+    return "%d" % single if single.is_integer() and abs(single) < 2**31 else "%.7g" % single
 
 
 def zone_of(moment):

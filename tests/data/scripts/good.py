@@ -138,6 +138,13 @@ def schedule_auto_off():
     return form.root([lean_tank("Auto off", lists={"Schedule": [record]})])
 
 
+def interval_exponent():
+    """52 weeks in the seven digits that some writers stop at."""
+    record = form.activity(moment(1, year=2031), "New light tube", interval=31449600, zone="+0000")
+    record["NextDate"] = "3.14496e+07"
+    return form.root([lean_tank("Interval", lists={"Schedule": [record]})])
+
+
 def sorted_lists():
     """Records stand out of order; each list's keys differ, so that one order is right."""
     lists = {
@@ -265,6 +272,7 @@ FILES = {
     "no-magnesium.xml": lambda: without_keys("magnesium"),
     "hardness-fraction.xml": hardness_fraction,
     "schedule-auto-off.xml": schedule_auto_off,
+    "interval-exponent.xml": interval_exponent,
     "sorted-lists.xml": sorted_lists,
     "columns.xml": columns,
     "foreign-zone.xml": foreign_zone,
