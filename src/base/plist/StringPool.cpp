@@ -8,9 +8,8 @@ namespace brinemark::plist
 namespace
 {
 
-constexpr std::size_t longestShared = 48; // longer texts are notes and seldom repeat
 constexpr std::size_t firstSlots = 1024;
-constexpr std::size_t mostSlots = 1 << 16;
+constexpr std::size_t mostSlots = 1 << 14;
 constexpr std::size_t longestSearch = 16;
 
 template <typename Word>
@@ -53,15 +52,15 @@ StringPool::StringPool()
 {
 }
 
-QString StringPool::string(std::string_view utf8)
+const QString &StringPool::string(std::string_view utf8)
 {
     if (utf8.size() > longestShared)
-        return convert(utf8);
+        return unshared(utf8);
     const std::uint32_t hash = hashOf(utf8);
     const std::size_t mask = m_slots.size() - 1;
     for (std::size_t probe = 0; probe < longestSearch; ++probe) {
         Slot &slot = m_slots[(hash + probe) & mask];
-        if (!slot.text) {
+        if (!slot.used) {
             if (m_used * 2 >= m_slots.size()) {
                 if (m_slots.size() == mostSlots)
                     break;
@@ -69,27 +68,38 @@ QString StringPool::string(std::string_view utf8)
                 return string(utf8);
             }
             ++m_used;
-            slot = {utf8.data(), std::uint32_t(utf8.size()), hash, convert(utf8)};
+            slot.string = convert(utf8);
+            slot.hash = hash;
+            slot.size = std::uint8_t(utf8.size());
+            slot.used = true;
+            std::memcpy(slot.text.data(), utf8.data(), utf8.size());
             return slot.string;
         }
-        if (slot.hash == hash && slot.size == utf8.size() && std::memcmp(slot.text, utf8.data(), utf8.size()) == 0)
+        if (slot.hash == hash && slot.size == utf8.size() &&
+            std::memcmp(slot.text.data(), utf8.data(), utf8.size()) == 0)
             return slot.string;
     }
-    return convert(utf8);
+    return unshared(utf8);
+}
+
+const QString &StringPool::unshared(std::string_view utf8)
+{
+    m_unshared = convert(utf8);
+    return m_unshared;
 }
 
 void StringPool::grow()
 {
-    std::vector<Slot> larger(m_slots.size() * 4);
+    std::vector<Slot> larger(m_slots.size() * 2);
     larger.swap(m_slots);
     const std::size_t mask = m_slots.size() - 1;
     m_used = 0;
     for (Slot &slot : larger) {
-        if (!slot.text)
+        if (!slot.used)
             continue;
         for (std::size_t probe = 0; probe < longestSearch; ++probe) {
             Slot &place = m_slots[(slot.hash + probe) & mask];
-            if (!place.text) {
+            if (!place.used) {
                 place = std::move(slot);
                 ++m_used;
                 break;

@@ -8,6 +8,8 @@
 
 #include <pugixml.hpp>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,6 +27,11 @@ bool isBlank(string_view text)
     return text.find_first_not_of(" \t\r\n") == string_view::npos;
 }
 
+bool isNamed(pugi::xml_node node, const char *name)
+{
+    return std::strcmp(node.name(), name) == 0;
+}
+
 /// Walks the parsed tree. The functions that build a value answer no value once `m_error` is set.
 class TreeWalk
 {
@@ -32,7 +39,7 @@ public:
     ReadResult read(pugi::xml_node document)
     {
         const pugi::xml_node plist = onlyElement(document, "the file");
-        if (m_error.isEmpty() && string_view(plist.name()) != "plist")
+        if (m_error.isEmpty() && !isNamed(plist, "plist"))
             fail(plist, QStringLiteral("the outermost element is not <plist>"));
         const pugi::xml_node root = m_error.isEmpty() ? onlyElement(plist, "<plist>") : pugi::xml_node();
         Value value = m_error.isEmpty() ? readValue(root, 1) : Value();
@@ -83,11 +90,11 @@ private:
 
     Value readValue(pugi::xml_node node, int depth)
     {
-        const string_view name = node.name();
-        if (name == "string") {
-            const auto string = readString(node);
+        if (isNamed(node, "string")) {
+            const QString *string = readString(node);
             return string ? Value(*string) : Value();
         }
+        const string_view name = node.name();
         if (name == "dict" || name == "array") {
             if (depth > maximumDepth)
                 return fail(node, QStringLiteral("nested too deep"));
@@ -127,7 +134,7 @@ private:
     Value readArray(pugi::xml_node node, int depth)
     {
         Array array;
-        array.reserve(countChildren(node));
+        array.reserve(std::size_t(std::distance(node.begin(), node.end())));
         for (pugi::xml_node child = firstElement(node); child && m_error.isEmpty();) {
             array.push_back(readValue(child, depth + 1));
             child = elementFrom(leave(node, child));
@@ -138,17 +145,21 @@ private:
     Value readDict(pugi::xml_node node, int depth)
     {
         std::vector<Dict::Entry> entries;
-        entries.reserve(countChildren(node) / 2);
+        entries.reserve(std::min(m_previousSize, largestGuess));
         for (pugi::xml_node child = firstElement(node); child && m_error.isEmpty();) {
-            if (string_view(child.name()) != "key")
+            if (!isNamed(child, "key"))
                 return fail(child, QStringLiteral("a dictionary holds something other than a key before a value"));
-            auto key = readString(child);
+            const QString *key = readString(child);
             const pugi::xml_node value = key ? elementFrom(child.next_sibling()) : pugi::xml_node();
-            if (!value || string_view(value.name()) == "key")
+            if (!value || isNamed(value, "key"))
                 return fail(child, QStringLiteral("a key without a value"));
-            entries.emplace_back(std::move(*key), readValue(value, depth + 1));
+            entries.emplace_back(*key, Value());
+            entries.back().second = readValue(value, depth + 1);
             child = elementFrom(leave(node, value));
         }
+        if (entries.size() < entries.capacity())
+            entries.shrink_to_fit();
+        m_previousSize = entries.size();
         return m_error.isEmpty() ? Value(Dict(std::move(entries))) : Value();
     }
 
@@ -162,20 +173,11 @@ private:
         return next;
     }
 
-    static std::size_t countChildren(pugi::xml_node node)
+    /// The text of an element as a string, null for none; it holds until the next call.
+    const QString *readString(pugi::xml_node node)
     {
-        std::size_t count = 0;
-        for (auto child = node.first_child(); child; child = child.next_sibling())
-            ++count;
-        return count;
-    }
-
-    std::optional<QString> readString(pugi::xml_node node)
-    {
-        if (!node.first_child())
-            return m_strings.string(node.value());
         const auto text = textOf(node);
-        return text ? std::optional(QString::fromUtf8(text->data(), qsizetype(text->size()))) : std::nullopt;
+        return text ? &m_strings.string(*text) : nullptr;
     }
 
     /// The text of an element. Only what comments or character data sections interrupt has children beside its own
@@ -198,6 +200,10 @@ private:
     StringPool m_strings;
     std::string m_joined;
     QString m_error;
+    /// The entries of the dictionary read last: the records of a list have the same keys, and counting the nodes of
+    /// each beforehand costs more.
+    std::size_t m_previousSize = 0;
+    static constexpr std::size_t largestGuess = 64;
 };
 
 } // namespace
