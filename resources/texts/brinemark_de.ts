@@ -1568,27 +1568,35 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     </message>
     <message>
         <source>ToolbarCustomiseAdd</source>
-        <translation>Hinzufügen</translation>
+        <translation>&amp;Hinzufügen</translation>
     </message>
     <message>
         <source>ToolbarCustomiseAvailable</source>
-        <translation>Verfügbar:</translation>
+        <translation>&amp;Verfügbar:</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseDisplay</source>
+        <translation>An&amp;zeigen als:</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseDone</source>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>ToolbarCustomiseDown</source>
-        <translation>Nach unten</translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>ToolbarCustomiseRemove</source>
-        <translation>Entfernen</translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>ToolbarCustomiseReset</source>
-        <translation>Zurücksetzen</translation>
+        <translation>Zu&amp;rücksetzen</translation>
     </message>
     <message>
         <source>ToolbarCustomiseShown</source>
-        <translation>Angezeigt:</translation>
+        <translation>An&amp;gezeigt:</translation>
     </message>
     <message>
         <source>ToolbarCustomiseTitle</source>
@@ -1600,7 +1608,7 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     </message>
     <message>
         <source>ToolbarCustomiseUp</source>
-        <translation>Nach oben</translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>ToolbarDelete</source>
@@ -1613,6 +1621,14 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     <message>
         <source>ToolbarFlexibleSpace</source>
         <translation>Flexibler Abstand</translation>
+    </message>
+    <message>
+        <source>ToolbarIconAndText</source>
+        <translation>Symbol und Text</translation>
+    </message>
+    <message>
+        <source>ToolbarIconOnly</source>
+        <translation>Nur Symbol</translation>
     </message>
     <message>
         <source>ToolbarNewCoral</source>
@@ -1677,6 +1693,14 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
     <message>
         <source>ToolbarSpace</source>
         <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>ToolbarTextOnly</source>
+        <translation>Nur Text</translation>
+    </message>
+    <message>
+        <source>ToolbarTitle</source>
+        <translation>Symbolleiste</translation>
     </message>
     <message>
         <source>TreeNewToolTip</source>

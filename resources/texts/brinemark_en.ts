@@ -1568,27 +1568,35 @@ Too warm: turn the heater down, open the lid, dim the light, let a fan blow over
     </message>
     <message>
         <source>ToolbarCustomiseAdd</source>
-        <translation>Add</translation>
+        <translation>&amp;Add</translation>
     </message>
     <message>
         <source>ToolbarCustomiseAvailable</source>
-        <translation>Available:</translation>
+        <translation>A&amp;vailable:</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseDisplay</source>
+        <translation>Sho&amp;w:</translation>
+    </message>
+    <message>
+        <source>ToolbarCustomiseDone</source>
+        <translation>Done</translation>
     </message>
     <message>
         <source>ToolbarCustomiseDown</source>
-        <translation>Move Down</translation>
+        <translation>Move &amp;Down</translation>
     </message>
     <message>
         <source>ToolbarCustomiseRemove</source>
-        <translation>Remove</translation>
+        <translation>&amp;Remove</translation>
     </message>
     <message>
         <source>ToolbarCustomiseReset</source>
-        <translation>Restore Defaults</translation>
+        <translation>Restore De&amp;faults</translation>
     </message>
     <message>
         <source>ToolbarCustomiseShown</source>
-        <translation>Shown:</translation>
+        <translation>&amp;Shown:</translation>
     </message>
     <message>
         <source>ToolbarCustomiseTitle</source>
@@ -1600,7 +1608,7 @@ Too warm: turn the heater down, open the lid, dim the light, let a fan blow over
     </message>
     <message>
         <source>ToolbarCustomiseUp</source>
-        <translation>Move Up</translation>
+        <translation>Move &amp;Up</translation>
     </message>
     <message>
         <source>ToolbarDelete</source>
@@ -1613,6 +1621,14 @@ Too warm: turn the heater down, open the lid, dim the light, let a fan blow over
     <message>
         <source>ToolbarFlexibleSpace</source>
         <translation>Flexible Space</translation>
+    </message>
+    <message>
+        <source>ToolbarIconAndText</source>
+        <translation>Icon and Text</translation>
+    </message>
+    <message>
+        <source>ToolbarIconOnly</source>
+        <translation>Icon Only</translation>
     </message>
     <message>
         <source>ToolbarNewCoral</source>
@@ -1677,6 +1693,14 @@ Too warm: turn the heater down, open the lid, dim the light, let a fan blow over
     <message>
         <source>ToolbarSpace</source>
         <translation>Space</translation>
+    </message>
+    <message>
+        <source>ToolbarTextOnly</source>
+        <translation>Text Only</translation>
+    </message>
+    <message>
+        <source>ToolbarTitle</source>
+        <translation>Toolbar</translation>
     </message>
     <message>
         <source>TreeNewToolTip</source>

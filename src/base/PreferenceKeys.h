@@ -19,6 +19,7 @@ inline constexpr PreferenceKey<float> notificationWindowHeight{"NotificationWind
 inline constexpr PreferenceKey<QString> mainViewWidth{"mainViewWidth"};         ///< a whole number of points as text
 inline constexpr PreferenceKey<QString> tankListViewWidth{"tankListViewWidth"}; ///< a whole number of points as text
 inline constexpr PreferenceKey<QVariantMap> convertWindowState{"ConvertWindowState"};
+inline constexpr PreferenceKey<QVariantMap> toolbarConfiguration{"ToolbarConfiguration fishWindowToolbar2"};
 
 /// The stored answers of alerts that are not to ask again: this and the alert's identifier name an integer.
 inline constexpr const char *dontAskAgainPrefix = "dont.ask.again.result.";

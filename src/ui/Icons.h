@@ -14,7 +14,7 @@ inline constexpr std::array iconNames{
     "ScheduleSmall", "InventorySmall", "ExpensesSmall",
     // Toolbar, drawn for 24 to 32 px.
     "NewTankBig", "NewFishBig", "PlantNew", "InvertebratesNew", "CoralNew", "Delete", "Convert", "NoteWindow", "Print",
-    "Customise",
+    "Customise", "ToolbarSeparator", "ToolbarSpace", "ToolbarFlexibleSpace",
     // Pictures, drawn for 96 to 160 px.
     "FishBig", "Plant", "Invertebrates", "Coral", "Profileplaceholder3",
     // Lists and their buttons.

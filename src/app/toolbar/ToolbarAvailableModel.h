@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QStringList>
+
+namespace brinemark
+{
+
+class ToolbarShownModel;
+
+/// What can still be added to the toolbar: the allowed set without the single items that are shown. It follows the list
+/// of shown items, which must outlive it; an item dropped here leaves that list.
+class ToolbarAvailableModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    explicit ToolbarAvailableModel(ToolbarShownModel *shown, QObject *parent = nullptr);
+
+    [[nodiscard]] const QStringList &identifiers() const { return m_identifiers; }
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+    [[nodiscard]] Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+    [[nodiscard]] QStringList mimeTypes() const override;
+    [[nodiscard]] QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    bool canDropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                         const QModelIndex &parent) const override;
+    bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                      const QModelIndex &parent) override;
+
+private:
+    void follow();
+
+    ToolbarShownModel *m_shown;
+    QStringList m_identifiers;
+};
+
+} // namespace brinemark

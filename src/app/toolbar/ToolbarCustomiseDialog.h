@@ -1,0 +1,62 @@
+#pragma once
+
+#include "app/toolbar/ToolbarConfiguration.h"
+
+#include <QDialog>
+
+#include <functional>
+
+class QAbstractItemModel;
+class QComboBox;
+class QListView;
+class QPushButton;
+class QVBoxLayout;
+
+namespace brinemark
+{
+
+class ToolbarAvailableModel;
+class ToolbarShownModel;
+
+/// The sheet that rearranges a toolbar: what can be added stands on the left, what is shown on the right, and items go
+/// from one to the other by mouse, by button or by key. Every change is handed on at once; there is nothing to confirm.
+class ToolbarCustomiseDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    using Apply = std::function<void(const ToolbarConfiguration &)>;
+
+    ToolbarCustomiseDialog(const ToolbarConfiguration &configuration, Apply apply, QWidget *parent);
+
+private:
+    [[nodiscard]] QVBoxLayout *availableColumn();
+    [[nodiscard]] QVBoxLayout *shownColumn();
+    QListView *listView(const char *name, QAbstractItemModel *model, TextKey title);
+    QPushButton *button(const char *name, TextKey caption, void (ToolbarCustomiseDialog::*action)());
+    void addKey(QListView *list, const QKeySequence &key, void (ToolbarCustomiseDialog::*action)());
+
+    void add();
+    void remove();
+    void moveUp();
+    void moveDown();
+    void restoreDefaults();
+    void finish() { accept(); } // of this type, as button() wants it
+    void selectShown(int row);
+    void enableButtons();
+    void applyNow();
+
+    Apply m_apply;
+    ToolbarConfiguration m_configuration;
+    ToolbarShownModel *m_shownModel;
+    ToolbarAvailableModel *m_availableModel;
+    QListView *m_available = nullptr;
+    QListView *m_shown = nullptr;
+    QComboBox *m_display = nullptr;
+    QPushButton *m_add = nullptr;
+    QPushButton *m_remove = nullptr;
+    QPushButton *m_up = nullptr;
+    QPushButton *m_down = nullptr;
+};
+
+} // namespace brinemark
