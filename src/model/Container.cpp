@@ -60,16 +60,16 @@ void Container::readArray(const plist::Value *records, const plist::Value *attri
         for (const plist::Value &record : array)
             appendFromDict(plistfield::dictOf(record, traits().fileKey));
     }
-    static const plist::Dict none;
-    readAttributes(attributes ? plistfield::dictOf(*attributes, traits().fileKey) : none);
+    // Livestock attributes are written, but a group always shows in the order in which it was left.
+    if (traits().sortedOnLoad) {
+        static const plist::Dict none;
+        readAttributes(attributes ? plistfield::dictOf(*attributes, traits().fileKey) : none);
+    }
     finishedReading();
 }
 
 void Container::readAttributes(const plist::Dict &attributes)
 {
-    // Livestock attributes are written, but a group always shows in the order in which it was left.
-    if (!traits().sortedOnLoad)
-        return;
     const QString prefix = traits().attributePrefix.toString();
     const plist::Value *ascending = attributes.find(QString(prefix + sortAscendingSuffix));
     const plist::Value *identifier = attributes.find(QString(prefix + sortIdentifierSuffix));

@@ -63,8 +63,6 @@ QString textOf(const plist::Value &value, QStringView key)
         return QString::number(*real, 'g', QLocale::FloatingPointShortest);
     if (const bool *flag = value.flag())
         return flagText(*flag);
-    if (const QDateTime *date = value.date())
-        return fileDateText(*date);
     throwWrongKind(key);
 }
 
@@ -90,13 +88,7 @@ bool flagOf(const plist::Value &value, QStringView key)
 
 QDateTime dateOf(const plist::Value &value, QStringView key)
 {
-    if (const QDateTime *date = value.date())
-        return *date;
-    if (const QString *text = value.string())
-        return dateFromFileText(*text);
-    if (value.array() || value.dict() || value.data())
-        throwWrongKind(key);
-    return {};
+    return dateFromFileText(textOf(value, key));
 }
 
 Amount amountOf(const plist::Value &value, QStringView key)

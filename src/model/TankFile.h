@@ -41,8 +41,10 @@ struct TankFileCallbacks {
 };
 
 struct TankFileResult {
-    bool ok = false; ///< every tank was built; if not, those before the failing one stay in the list
-    QString error;   ///< for the log, when not ok
+    bool ok = false; ///< every tank was built; if not, those before the failing one are in the list
+    bool refused =
+        false;     ///< nothing was read and the tank list is as it was: the file's own attributes are no dictionary
+    QString error; ///< for the log, when not ok
     int tanksBuilt = 0;
     int selectedRow = 0; ///< of the tank tree when the file was saved
 };

@@ -24,6 +24,16 @@ void keepBackup(const QString &path)
         qCInfo(logFile, "no backup copy was made at %ls", qUtf16Printable(backup));
 }
 
+int selectedRowOf(const plist::Dict &attributes)
+{
+    const plist::Value *row = attributes.find(tankfile::selectedRowKey);
+    try {
+        return row ? plistfield::integerOf(*row, tankfile::selectedRowKey) : 0;
+    } catch (const TankReadError &) {
+        return 0; // a row is no reason to refuse a file
+    }
+}
+
 std::shared_ptr<Tank> buildTank(const plist::Value *entry, const plist::Value *bundleVersion)
 {
     if (!entry)
@@ -43,14 +53,18 @@ std::shared_ptr<Tank> buildTank(const plist::Value *entry, const plist::Value *b
 TankFileResult readTanks(const plist::Dict &root, const QString &path, TankList &tanks,
                          const TankFileCallbacks &callbacks)
 {
+    TankFileResult result;
     static const plist::Dict none;
     const plist::Value *found = root.find(tankfile::fileAttributesKey);
-    const plist::Dict &attributes = found && found->dict() ? *found->dict() : none;
+    if (found && !found->dict()) {
+        result.refused = true;
+        result.error = QStringLiteral("the file's attributes are no dictionary");
+        return result;
+    }
+    const plist::Dict &attributes = found ? *found->dict() : none;
     const plist::Value *bundleVersion = attributes.find(tankfile::bundleVersionKey);
+    result.selectedRow = selectedRowOf(attributes);
 
-    TankFileResult result;
-    if (const plist::Value *row = attributes.find(tankfile::selectedRowKey); row && !row->array() && !row->dict())
-        result.selectedRow = row->data() || row->date() ? 0 : plistfield::integerOf(*row, tankfile::selectedRowKey);
     if (!bundleVersion && callbacks.wantsBackup && callbacks.wantsBackup())
         keepBackup(path);
 
