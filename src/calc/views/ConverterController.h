@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui/Shared.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace brinemark
+{
+
+class ConverterPanel;
+
+/// The floating panel of the unit converter; its object name is "convertWindow".
+class ConverterController : public QObject, public Shared<ConverterController>
+{
+    Q_OBJECT
+
+public:
+    ~ConverterController() override;
+
+    void toggleConverter();   ///< shows or hides the panel and remembers which
+    void displayWithoutKey(); ///< shows the panel without giving it the focus
+    [[nodiscard]] bool isVisible() const;
+
+private:
+    friend class Shared<ConverterController>;
+    ConverterController();
+
+    ConverterPanel &panel();
+    void windowWillClose();
+
+    QPointer<ConverterPanel> m_panel;
+};
+
+} // namespace brinemark

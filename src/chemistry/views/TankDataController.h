@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ui/MainViewController.h"
+#include "ui/Shared.h"
+
+#include <QPointer>
+
+class QLabel;
+class QModelIndex;
+class QTableView;
+
+namespace brinemark
+{
+
+class TargetTableModel;
+class TitleLine;
+
+/// The view of a tank: name, size, type and the table of its seventeen targets. The view's object name is "tankView",
+/// the table's "conditionTableView", the button's "editButton".
+class TankDataController : public MainViewController, public Shared<TankDataController>
+{
+    Q_OBJECT
+
+public:
+    ~TankDataController() override;
+
+    [[nodiscard]] QWidget *view() override;
+    void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
+    void updateDisplay() override { display(); }
+
+    void display(); ///< fills the view from the current tank
+    /// Opens the tank editor at the selected target.
+    void editAction();
+
+private:
+    friend class Shared<TankDataController>;
+    TankDataController();
+
+    void makeView();
+    void edit(const QModelIndex &row);
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    QPointer<QWidget> m_view;
+    TargetTableModel *m_model;
+    TitleLine *m_titleLine = nullptr;
+    QLabel *m_nameField = nullptr;
+    QLabel *m_sizeField = nullptr;
+    QLabel *m_typeField = nullptr;
+    QTableView *m_table = nullptr;
+    QWidget *m_editButton = nullptr;
+};
+
+} // namespace brinemark

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/RecordListController.h"
+#include "ui/Shared.h"
+
+namespace brinemark
+{
+
+/// What was spent on the current tank.
+class ExpenseListController : public RecordListController, public Shared<ExpenseListController>
+{
+    Q_OBJECT
+
+protected:
+    [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
+
+private:
+    friend class Shared<ExpenseListController>;
+    ExpenseListController();
+};
+
+} // namespace brinemark

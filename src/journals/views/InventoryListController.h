@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/RecordListController.h"
+#include "ui/Shared.h"
+
+namespace brinemark
+{
+
+/// What the keeper of the current tank owns.
+class InventoryListController : public RecordListController, public Shared<InventoryListController>
+{
+    Q_OBJECT
+
+protected:
+    [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
+
+private:
+    friend class Shared<InventoryListController>;
+    InventoryListController();
+};
+
+} // namespace brinemark

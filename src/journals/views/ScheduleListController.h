@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/RecordListController.h"
+#include "ui/Shared.h"
+
+namespace brinemark
+{
+
+/// The maintenance schedule of the current tank.
+class ScheduleListController : public RecordListController, public Shared<ScheduleListController>
+{
+    Q_OBJECT
+
+protected:
+    [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
+
+private:
+    friend class Shared<ScheduleListController>;
+    ScheduleListController();
+};
+
+} // namespace brinemark

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ui/MainViewController.h"
+#include "ui/Shared.h"
+
+#include <QPointer>
+
+#include <memory>
+
+namespace brinemark
+{
+
+class ProfileView;
+struct ItemData;
+
+/// The profile of the livestock record that is selected in the tank tree. The view's object name is "fishDataView".
+class FishDataController : public MainViewController, public Shared<FishDataController>
+{
+    Q_OBJECT
+
+public:
+    ~FishDataController() override;
+
+    void displayItemData(ItemData *item); ///< null for none
+    [[nodiscard]] ItemData *currentItem() const { return m_currentItem.lock().get(); }
+
+    [[nodiscard]] QWidget *view() override;
+    void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
+    void updateDisplay() override;
+
+    void editInfo(); ///< opens the item editor on the shown record
+
+private:
+    friend class Shared<FishDataController>;
+    FishDataController();
+
+    std::weak_ptr<ItemData> m_currentItem;
+    QPointer<ProfileView> m_view;
+};
+
+} // namespace brinemark

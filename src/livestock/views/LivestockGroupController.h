@@ -1,0 +1,45 @@
+#pragma once
+
+#include "model/ModelObserver.h"
+#include "ui/MainViewController.h"
+#include "ui/Shared.h"
+
+#include <QPointer>
+
+namespace brinemark
+{
+
+class Container;
+class LivestockGroupView;
+
+/// The view of a tank's fish, plants, invertebrates or corals as a group. The view's object name is "fishView".
+class LivestockGroupController : public MainViewController,
+                                 public Shared<LivestockGroupController>,
+                                 private ModelObserver
+{
+    Q_OBJECT
+
+public:
+    ~LivestockGroupController() override;
+
+    /// The group to show from now on; one of the four livestock containers, or null for none.
+    void setContainer(Container *container);
+
+    [[nodiscard]] QWidget *view() override;
+    void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
+    void newEntry() override; ///< a new record of the group's kind
+    void updateDisplay() override;
+
+private:
+    friend class Shared<LivestockGroupController>;
+    LivestockGroupController();
+
+    [[nodiscard]] Container *container() const;
+    void livestockChanged(Tank &tank, ContainerKind kind) override;
+
+    std::weak_ptr<Tank> m_tank;
+    ContainerKind m_kind = ContainerKind::Fish;
+    QPointer<LivestockGroupView> m_view;
+};
+
+} // namespace brinemark
