@@ -14,6 +14,9 @@ Shell &Shell::shared()
     return *sharedShell;
 }
 
-void Shell::setShared(Shell *shell) { sharedShell = shell; }
+void Shell::setShared(Shell *shell)
+{
+    sharedShell = shell;
+}
 
 } // namespace brinemark

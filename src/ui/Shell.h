@@ -18,8 +18,9 @@ class Tank;
 class TankList;
 struct Record;
 
-/// What a room of the program needs of the main window: the current tank, the change count, sheets, the shared undo stack,
-/// the delete button, the tree's selection and the switching of views. The application implements it; views never see more.
+/// What a room of the program needs of the main window: the current tank, the change count, sheets, the shared undo
+/// stack, the delete button, the tree's selection and the switching of views. The application implements it; views
+/// never see more.
 class Shell
 {
 public:
@@ -46,7 +47,7 @@ public:
 
     virtual void changeView(MainView view) = 0;
     [[nodiscard]] virtual MainView currentView() const = 0;
-    virtual void updateTree() = 0; ///< reloads the tree and lets the main view follow
+    virtual void updateTree() = 0;                                  ///< reloads the tree and lets the main view follow
     virtual void appendTank(const std::shared_ptr<Tank> &tank) = 0; ///< adds it to the list and selects its row
     virtual void selectInTree(Tank &tank) = 0;
     virtual void selectInTree(Container &container) = 0; ///< opens its tank's row first

@@ -1,0 +1,265 @@
+#include "app/ShoalwatchDelegate.h"
+
+#include "app/ShoalwatchController.h"
+#include "app/documents/DocumentCommands.h"
+#include "app/preferences/PrefsController.h"
+#include "app/startup/DockMenu.h"
+#include "app/startup/StartupSteps.h"
+#include "app/tree/TankListController.h"
+#include "app/window/MainWindow.h"
+#include "base/PreferenceKeys.h"
+#include "base/Preferences.h"
+#include "base/Product.h"
+#include "base/text/Texts.h"
+#include "calc/views/ConverterController.h"
+#include "chemistry/views/ConditionListController.h"
+#include "chemistry/views/TankDataController.h"
+#include "chemistry/views/TankDataEntryController.h"
+#include "journals/views/ExpenseListController.h"
+#include "journals/views/InventoryListController.h"
+#include "journals/views/NoteListController.h"
+#include "journals/views/NotificationController.h"
+#include "journals/views/ScheduleListController.h"
+#include "livestock/views/FishDataController.h"
+#include "livestock/views/FishDataEntryController.h"
+#include "livestock/views/LivestockGroupController.h"
+#include "model/TankFile.h"
+#include "online/views/EListSignupController.h"
+#include "online/views/QZUpdateController.h"
+#include "ui/Desktop.h"
+#include "ui/HelpWindow.h"
+#include "ui/WindowPlacement.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QUndoStack>
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr int undoLevels = 20;
+constexpr QPoint firstNoticePosition(20, 200);
+
+} // namespace
+
+ShoalwatchDelegate::ShoalwatchDelegate()
+    : m_undoManager(new QUndoStack(this))
+    , m_dockMenu(new DockMenu(this))
+{
+    m_undoManager->setUndoLimit(undoLevels);
+}
+
+ShoalwatchDelegate::~ShoalwatchDelegate() = default;
+
+void ShoalwatchDelegate::destroyEverything()
+{
+    closeHelp();
+    // Undo steps hold records and call back into the controllers, so they go first.
+    if (hasSharedInstance())
+        sharedInstance().m_undoManager->clear();
+    ConditionListController::destroyShared();
+    TankDataController::destroyShared();
+    TankDataEntryController::destroyShared();
+    ScheduleListController::destroyShared();
+    InventoryListController::destroyShared();
+    ExpenseListController::destroyShared();
+    NoteListController::destroyShared();
+    FishDataController::destroyShared();
+    LivestockGroupController::destroyShared();
+    ConverterController::destroyShared();
+    QZUpdateController::destroyShared();
+    EListSignupController::destroyShared();
+    PrefsController::destroyShared();
+    FishDataEntryController::destroyShared();
+    NotificationController::destroyShared();
+    ShoalwatchController::destroyShared();
+    TankListController::destroyShared();
+    ShoalwatchDelegate::destroyShared();
+}
+
+// ---- start-up
+
+void ShoalwatchDelegate::applicationWillFinishLaunching()
+{
+    m_shoalwatchController = &ShoalwatchController::sharedInstance();
+    m_fishDataEntryController = &FishDataEntryController::sharedInstance();
+    m_notificationController = &NotificationController::sharedInstance();
+}
+
+void ShoalwatchDelegate::applicationDidFinishLaunching()
+{
+    if (startup::isFirstRun())
+        firstRun();
+    startup::applicationSupportFolderCheck(startup::applicationSupportFolder());
+    const QString defaultFile = startup::defaultFileExistsCheck();
+    if (m_shoalwatchController->document().representedFilename().isEmpty())
+        m_shoalwatchController->document().readTankFileWithPath(defaultFile);
+    m_shoalwatchController->display();
+    QZUpdateController::sharedInstance().launchUpdateCheck();
+    startup::updatePreferenceFile();
+}
+
+void ShoalwatchDelegate::firstRun()
+{
+    displayEListSignUp();
+    startup::writeFirstRunValues();
+    QZUpdateController::sharedInstance().initDefaults();
+    Preferences::shared().flush();
+    m_notificationController->placeAt(firstNoticePosition);
+    centreOnScreen(m_shoalwatchController->window());
+}
+
+void ShoalwatchDelegate::showConverterIfWanted()
+{
+    if (Preferences::shared().value(preference::convertVisible, false))
+        ConverterController::sharedInstance().displayWithoutKey();
+}
+
+// ---- the desktop's requests
+
+bool ShoalwatchDelegate::applicationOpenFile(const QString &path)
+{
+    return looksLikeTankFile(path) && m_shoalwatchController->documents().openFile(path);
+}
+
+bool ShoalwatchDelegate::applicationPrintFile(const QString &path)
+{
+    if (!applicationOpenFile(path))
+        return false;
+    m_shoalwatchController->performCommand(Command::Print);
+    return true;
+}
+
+void ShoalwatchDelegate::applicationWillBecomeActive()
+{
+    TankListController::sharedInstance().updateDisplay();
+}
+
+bool ShoalwatchDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
+{
+    if (!hasVisibleWindows)
+        return true;
+    MainWindow &window = m_shoalwatchController->window();
+    if (window.isMinimized()) {
+        window.showNormal();
+        window.raise();
+        window.activateWindow();
+    }
+    return false;
+}
+
+QMenu *ShoalwatchDelegate::applicationDockMenu() const
+{
+    return m_dockMenu->offeredMenu();
+}
+
+QMenu &ShoalwatchDelegate::dockMenu()
+{
+    return m_dockMenu->dockMenu();
+}
+
+void ShoalwatchDelegate::buildDockMenu()
+{
+    m_dockMenu->buildDockMenu();
+}
+
+// ---- quitting
+
+void ShoalwatchDelegate::terminate()
+{
+    if (m_terminating)
+        return; // the question is on screen already
+    m_terminating = true;
+    if (applicationShouldTerminate() == TerminateReply::Now)
+        replyToApplicationShouldTerminate(true);
+}
+
+ShoalwatchDelegate::TerminateReply ShoalwatchDelegate::applicationShouldTerminate()
+{
+    if (!m_shoalwatchController->document().isEdited())
+        return TerminateReply::Now;
+    return m_shoalwatchController->documents().displayDocumentSaveBeforeQuit() ? TerminateReply::Now
+                                                                               : TerminateReply::Later;
+}
+
+void ShoalwatchDelegate::replyToApplicationShouldTerminate(bool terminate)
+{
+    m_terminating = false;
+    if (!terminate)
+        return;
+    applicationWillTerminate();
+    QCoreApplication::exit(0);
+}
+
+void ShoalwatchDelegate::applicationWillTerminate()
+{
+    m_shoalwatchController->windowWillClose();
+    Preferences::shared().flush();
+}
+
+// ---- commands
+
+void ShoalwatchDelegate::undoChange()
+{
+    if (m_undoing)
+        return;
+    const QScopedValueRollback undoing(m_undoing, true);
+    m_undoManager->undo();
+}
+
+void ShoalwatchDelegate::redoChange()
+{
+    if (m_undoing)
+        return;
+    const QScopedValueRollback undoing(m_undoing, true);
+    m_undoManager->redo();
+}
+
+void ShoalwatchDelegate::showHelp()
+{
+    brinemark::showHelp();
+}
+
+void ShoalwatchDelegate::showAbout()
+{
+    auto *about = new QMessageBox(&m_shoalwatchController->window());
+    about->setObjectName(QStringLiteral("aboutPanel"));
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->setWindowTitle(text("AboutTitle"));
+    about->setIconPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), about->devicePixelRatio()));
+    about->setText(QLatin1String(product::name) + u' ' + product::shortVersion());
+    about->setInformativeText(text("AboutMessage"));
+    about->open();
+}
+
+void ShoalwatchDelegate::showUpdate()
+{
+    QZUpdateController::sharedInstance().showScheduleWindow();
+}
+
+void ShoalwatchDelegate::displayEListSignUp()
+{
+    EListSignupController::sharedInstance().display();
+}
+
+void ShoalwatchDelegate::sendFeedback()
+{
+    performOpenURL(QStringLiteral("mailto:") + QLatin1String(product::supportAddress) +
+                   QStringLiteral("?subject=Brinemark%20") + product::buildVersion() + QStringLiteral("%20feedback"));
+}
+
+void ShoalwatchDelegate::productPage()
+{
+    performOpenURL(QLatin1String(product::productPage));
+}
+
+bool ShoalwatchDelegate::performOpenURL(const QString &url)
+{
+    return desktop::openUrl(QUrl(url));
+}
+
+} // namespace brinemark

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "ui/Shared.h"
+
+#include <QObject>
+
+class QMenu;
+class QUndoStack;
+
+namespace brinemark
+{
+
+class DockMenu;
+class FishDataEntryController;
+class NotificationController;
+class ShoalwatchController;
+
+/// The application delegate: runs the start-up, answers the desktop's requests to open files and to quit, owns the
+/// shared undo manager and the dock menu, and carries the small application-wide commands.
+class ShoalwatchDelegate : public QObject, public Shared<ShoalwatchDelegate>
+{
+    Q_OBJECT
+
+public:
+    ~ShoalwatchDelegate() override;
+
+    /// Ends every shared instance of the program, in the order in which they need each other. Called once, while the
+    /// application object still lives.
+    static void destroyEverything();
+
+    [[nodiscard]] QUndoStack &undoManager() const { return *m_undoManager; } ///< 20 levels
+
+    // Start-up
+    void applicationWillFinishLaunching();
+    void applicationDidFinishLaunching();
+    void showConverterIfWanted();
+
+    // The desktop's requests
+    bool applicationOpenFile(const QString &path); ///< false, without a message, for what is no tank file
+    bool applicationPrintFile(const QString &path);
+    void applicationWillBecomeActive();
+    bool applicationShouldHandleReopen(bool hasVisibleWindows);
+    [[nodiscard]] QMenu *applicationDockMenu() const; ///< null unless there is something worth showing
+
+    // Quitting
+    void terminate(); ///< asks whether the program may quit, and quits
+    void replyToApplicationShouldTerminate(bool terminate);
+
+    [[nodiscard]] QMenu &dockMenu();
+    void buildDockMenu();
+
+    // Commands
+    void undoChange();
+    void redoChange();
+    void showHelp();
+    void showAbout();
+    void showUpdate();
+    void displayEListSignUp();
+    void sendFeedback();
+    void productPage();
+    bool performOpenURL(const QString &url);
+
+private:
+    friend class Shared<ShoalwatchDelegate>;
+    ShoalwatchDelegate();
+
+    enum class TerminateReply { Now, Later };
+    TerminateReply applicationShouldTerminate();
+    void applicationWillTerminate();
+    void firstRun();
+
+    ShoalwatchController *m_shoalwatchController = nullptr;
+    FishDataEntryController *m_fishDataEntryController = nullptr;
+    NotificationController *m_notificationController = nullptr;
+    QUndoStack *m_undoManager;
+    DockMenu *m_dockMenu;
+    bool m_undoing = false;
+    bool m_terminating = false;
+};
+
+} // namespace brinemark

@@ -1,0 +1,222 @@
+#include "app/documents/DocumentCommands.h"
+
+#include "app/documents/FilePanels.h"
+#include "app/documents/TankDocument.h"
+#include "base/PreferenceKeys.h"
+#include "base/Preferences.h"
+#include "base/text/Texts.h"
+#include "ui/Alerts.h"
+
+#include <QFileInfo>
+#include <QWidget>
+
+#include <utility>
+
+namespace brinemark
+{
+
+namespace
+{
+
+Alert unsavedChangesAlert(TextKey title)
+{
+    return {AlertStyle::Critical, text(title),           text("SaveMessage"),
+            text("SaveLabel"),    text("DontSaveLabel"), text("CancelLabel")};
+}
+
+} // namespace
+
+DocumentCommands::DocumentCommands(TankDocument &document, QWidget *window, std::function<void(bool)> replyToQuit)
+    : m_document(document)
+    , m_window(window)
+    , m_replyToQuit(std::move(replyToQuit))
+{
+}
+
+void DocumentCommands::newDataFile()
+{
+    m_handedOver.clear();
+    if (m_document.isEdited())
+        askBeforeLosingChanges(Context::NewFile);
+    else
+        m_document.readTankFileWithPath({});
+}
+
+void DocumentCommands::openDataFile()
+{
+    if (m_document.isEdited()) {
+        askBeforeLosingChanges(Context::OpenFile);
+        return;
+    }
+    if (const QString path = std::exchange(m_handedOver, {}); !path.isEmpty()) {
+        m_document.readTankFileWithPath(path);
+        return;
+    }
+    beginOpenPanel(m_window, m_makeDefault, [this](const FilePanelAnswer &answer) { openFileDidEnd(answer); });
+}
+
+bool DocumentCommands::openFile(const QString &path)
+{
+    if (!m_document.isEdited() || path == m_document.representedFilename())
+        return m_document.readTankFileWithPath(path);
+    m_handedOver = path;
+    askBeforeLosingChanges(Context::OpenFile);
+    return true;
+}
+
+void DocumentCommands::openFileDidEnd(const FilePanelAnswer &answer)
+{
+    m_makeDefault = answer.makeDefault;
+    if (!answer.ok || answer.path.isEmpty())
+        return;
+    m_document.readTankFileWithPath(answer.path);
+    if (m_makeDefault)
+        Preferences::shared().set(preference::defaultFile, answer.path);
+}
+
+void DocumentCommands::askBeforeLosingChanges(Context context)
+{
+    beginAlertSheet(m_window, unsavedChangesAlert("SaveTitle"_key),
+                    [this, context](int returnCode) { closeSaveBeforeNewFileSheet(returnCode, context); });
+}
+
+void DocumentCommands::closeSaveBeforeNewFileSheet(int returnCode, Context context)
+{
+    switch (returnCode) {
+    case AlertDefault:
+        if (m_document.representedFilename().isEmpty())
+            saveTankFileWithContext(context);
+        else if (writeToCurrentPath(context))
+            goOn(context);
+        break;
+    case AlertAlternate:
+        // The count stays as it is: a cancelled open panel leaves the edits in memory, no longer marked.
+        m_document.clearEditedMark();
+        goOn(context);
+        break;
+    default:
+        m_handedOver.clear();
+        break;
+    }
+}
+
+void DocumentCommands::goOn(Context context)
+{
+    switch (context) {
+    case Context::None:
+        break;
+    case Context::NewFile:
+        m_document.readTankFileWithPath({});
+        break;
+    case Context::OpenFile:
+        openDataFile();
+        break;
+    case Context::Quit:
+        m_replyToQuit(true);
+        break;
+    }
+}
+
+bool DocumentCommands::writeToCurrentPath(Context context)
+{
+    switch (m_document.writeTankFileWithPath(m_document.representedFilename())) {
+    case TankDocument::WriteOutcome::Cancelled:
+        if (context == Context::Quit)
+            m_replyToQuit(false);
+        return false;
+    case TankDocument::WriteOutcome::SaveElsewhere:
+        saveTankFileWithContext(context);
+        return false;
+    case TankDocument::WriteOutcome::Written:
+    case TankDocument::WriteOutcome::Failed: // has been reported; what asked for the save goes on
+        break;
+    }
+    return true;
+}
+
+void DocumentCommands::saveCurrentFile()
+{
+    if (m_document.representedFilename().isEmpty())
+        saveTankFileWithContext(Context::None);
+    else
+        writeToCurrentPath(Context::None);
+}
+
+void DocumentCommands::saveAsCurrentFile()
+{
+    saveTankFileWithContext(Context::None);
+}
+
+void DocumentCommands::saveTankFileWithContext(Context context)
+{
+    // The first file that is saved becomes the default one unless the user says otherwise.
+    if (Preferences::shared().value(preference::defaultFile, QString()).isEmpty())
+        m_makeDefault = true;
+    beginSavePanel(m_window, text("FileName"), m_makeDefault,
+                   [this, context](const FilePanelAnswer &answer) { savePanelDidEnd(answer, context); });
+}
+
+void DocumentCommands::savePanelDidEnd(const FilePanelAnswer &answer, Context context)
+{
+    m_makeDefault = answer.makeDefault;
+    if (!answer.ok || answer.path.isEmpty()) {
+        if (context == Context::Quit)
+            m_replyToQuit(false);
+        return;
+    }
+    const TankDocument::WriteOutcome outcome = m_document.writeTankFileWithPath(answer.path);
+    if (outcome == TankDocument::WriteOutcome::Cancelled || outcome == TankDocument::WriteOutcome::SaveElsewhere) {
+        if (context == Context::Quit)
+            m_replyToQuit(false);
+        return;
+    }
+    if (m_makeDefault)
+        Preferences::shared().set(preference::defaultFile, answer.path);
+    goOn(context);
+}
+
+void DocumentCommands::revertFile()
+{
+    const QString path = m_document.representedFilename();
+    const QString message = fillPlaceholders(text("RevertMessage"), {QFileInfo(path).fileName()});
+    const Alert alert{AlertStyle::Critical, text("RevertTitle"), message, text("RevertLabel"), text("CancelLabel"), {}};
+    if (runAlertPanel(m_window, alert) == AlertDefault)
+        m_document.readTankFileWithPath(path);
+}
+
+bool DocumentCommands::displayDocumentSaveBeforeQuit()
+{
+    const bool hasPath = !m_document.representedFilename().isEmpty();
+    if (Preferences::shared().value(preference::autoSaveOnQuit, false) && hasPath) {
+        if (writeToCurrentPath(Context::Quit))
+            m_replyToQuit(true);
+        return false;
+    }
+    if (!m_document.isEdited())
+        return true;
+    m_window->raise();
+    m_window->activateWindow();
+    beginAlertSheet(m_window, unsavedChangesAlert("SaveQuitTitle"_key),
+                    [this](int returnCode) { closeSaveBeforeQuitSheet(returnCode); });
+    return false;
+}
+
+void DocumentCommands::closeSaveBeforeQuitSheet(int returnCode)
+{
+    switch (returnCode) {
+    case AlertDefault:
+        if (m_document.representedFilename().isEmpty())
+            saveTankFileWithContext(Context::Quit);
+        else if (writeToCurrentPath(Context::Quit))
+            m_replyToQuit(true);
+        break;
+    case AlertAlternate:
+        m_replyToQuit(true);
+        break;
+    default:
+        m_replyToQuit(false);
+        break;
+    }
+}
+
+} // namespace brinemark

@@ -1,0 +1,97 @@
+#include "app/documents/FilePanels.h"
+
+#include "base/text/Texts.h"
+#include "model/TankFile.h"
+#include "ui/Sheets.h"
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QHash>
+#include <QSortFilterProxyModel>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// Leaves folders and tank files. What a file holds is looked at once, when the panel first lists it.
+class TankFileFilter : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override
+    {
+        const QModelIndex index = sourceModel()->index(row, 0, parent);
+        if (sourceModel()->hasChildren(index))
+            return true;
+        const QString path = index.data(Qt::UserRole + 1).toString(); // QFileSystemModel::FilePathRole
+        const auto known = m_known.constFind(path);
+        return known != m_known.constEnd() ? *known : *m_known.insert(path, looksLikeTankFile(path));
+    }
+
+private:
+    mutable QHash<QString, bool> m_known;
+};
+
+QCheckBox *addAccessoryView(QFileDialog &panel, bool makeDefault)
+{
+    auto *check = new QCheckBox(text("MakeDefaultCheck"), &panel);
+    check->setObjectName(QStringLiteral("makeDefaultCheck"));
+    check->setChecked(makeDefault);
+    if (auto *grid = qobject_cast<QGridLayout *>(panel.layout()))
+        grid->addWidget(check, grid->rowCount(), 0, 1, grid->columnCount());
+    return check;
+}
+
+/// Both panels are the toolkit's own, since only that one can carry the check box.
+QFileDialog *makePanel(QWidget *window, const QString &objectName, QFileDialog::AcceptMode mode)
+{
+    auto *panel = new QFileDialog(window);
+    panel->setObjectName(objectName);
+    panel->setOption(QFileDialog::DontUseNativeDialog);
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setAcceptMode(mode);
+    panel->setNameFilter(text("TankFileFilter"));
+    panel->setDefaultSuffix(QStringLiteral("xml"));
+    return panel;
+}
+
+void openWith(QWidget *window, QFileDialog *panel, QCheckBox *check, FilePanelCompletion completion)
+{
+    QObject::connect(panel, &QDialog::finished, panel, [panel, check, completion = std::move(completion)](int code) {
+        FilePanelAnswer answer;
+        answer.ok = code == QDialog::Accepted;
+        answer.path = answer.ok ? panel->selectedFiles().value(0) : QString();
+        answer.makeDefault = check && check->isChecked();
+        // The completion may show the next sheet: let this one go first.
+        QMetaObject::invokeMethod(
+            panel->parent(), [completion, answer] { completion(answer); }, Qt::QueuedConnection);
+    });
+    openSheet(window, panel);
+}
+
+} // namespace
+
+void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelCompletion completion)
+{
+    QFileDialog *panel = makePanel(window, QStringLiteral("openPanel"), QFileDialog::AcceptOpen);
+    panel->setFileMode(QFileDialog::ExistingFile);
+    panel->setProxyModel(new TankFileFilter(panel));
+    QCheckBox *check = makeDefault ? addAccessoryView(*panel, *makeDefault) : nullptr;
+    openWith(window, panel, check, std::move(completion));
+}
+
+void beginSavePanel(QWidget *window, const QString &proposedName, bool makeDefault, FilePanelCompletion completion)
+{
+    QFileDialog *panel = makePanel(window, QStringLiteral("savePanel"), QFileDialog::AcceptSave);
+    panel->setFileMode(QFileDialog::AnyFile);
+    panel->selectFile(proposedName);
+    QCheckBox *check = addAccessoryView(*panel, makeDefault);
+    openWith(window, panel, check, std::move(completion));
+}
+
+} // namespace brinemark

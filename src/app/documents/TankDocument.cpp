@@ -1,0 +1,145 @@
+#include "app/documents/TankDocument.h"
+
+#include "base/Log.h"
+#include "base/Product.h"
+#include "model/Tank.h"
+#include "model/TankFile.h"
+#include "model/TankList.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// The waiting cursor for as long as a file of many megabytes is read or written.
+struct BusyCursor {
+    BusyCursor() { QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor)); }
+    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
+    BusyCursor(const BusyCursor &) = delete;
+    BusyCursor &operator=(const BusyCursor &) = delete;
+};
+
+} // namespace
+
+TankDocument::TankDocument(TankList &list, DocumentHost &host)
+    : m_list(list)
+    , m_host(host)
+{
+}
+
+void TankDocument::setRepresentedFilename(const QString &path)
+{
+    m_representedFilename = path;
+    m_host.showDocumentTitle(path);
+}
+
+void TankDocument::setEdited(bool edited)
+{
+    m_edited = edited;
+    m_host.showEditedMark(edited);
+}
+
+void TankDocument::markUnchanged()
+{
+    m_changeCount = 0;
+    setEdited(false);
+}
+
+void TankDocument::documentModifiedWithChange(bool made)
+{
+    m_changeCount += made ? 1U : ~0U; // unsigned on purpose: taken below zero it wraps
+    setEdited(m_changeCount != 0);
+}
+
+void TankDocument::resetToUntitled()
+{
+    setRepresentedFilename({});
+    m_host.forgetRows();
+    m_list.clear();
+    m_host.forgetUndo();
+    m_host.resetNotificationView();
+    m_host.reloadTree();
+    m_documentDictionary = {};
+    m_lastKnown = {};
+    markUnchanged();
+    m_host.display();
+    m_host.fitTreeColumn();
+}
+
+bool TankDocument::readTankFileWithPath(const QString &path)
+{
+    if (path.isEmpty()) {
+        resetToUntitled();
+        return false;
+    }
+    if (path == m_representedFilename)
+        return true;
+    setRepresentedFilename(path);
+    const BusyCursor busy;
+    TankFileContent content = readTankDictionary(path);
+    if (!content.ok) {
+        qCWarning(logFile) << "cannot read" << path << content.error;
+        m_host.fitTreeColumn();
+        return false;
+    }
+    m_lastKnown = content.stamp;
+
+    TankFileCallbacks callbacks;
+    callbacks.wantsBackup = [this] { return m_host.askKeepBackupOfOlderFile(); };
+    callbacks.willReplaceTanks = [&] {
+        // The rows must not point to tanks that are about to go.
+        m_host.forgetRows();
+        m_host.forgetUndo();
+        m_host.resetNotificationView();
+        m_documentDictionary = content.root;
+    };
+    const TankFileResult result = readTanks(content.root, path, m_list, callbacks);
+    m_host.reloadTree();
+    if (!result.ok) {
+        qCWarning(logFile) << "cannot build the tanks of" << path << result.error;
+        m_host.reportReadError();
+        return false;
+    }
+    m_host.fitTreeColumn();
+    m_host.selectTreeRow(result.selectedRow);
+    m_host.refreshTree();
+    markUnchanged();
+    m_host.showNotificationIfOnScreen();
+    return true;
+}
+
+TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &path)
+{
+    if (path == m_representedFilename && changedOnDisk(path, m_lastKnown)) {
+        switch (m_host.askChangedOnDisk(path)) {
+        case DocumentHost::ChangedOnDisk::Overwrite:
+            break;
+        case DocumentHost::ChangedOnDisk::SaveElsewhere:
+            return WriteOutcome::SaveElsewhere;
+        case DocumentHost::ChangedOnDisk::Cancel:
+            return WriteOutcome::Cancelled;
+        }
+    }
+    m_host.updateColumnInfo();
+    plist::Dict root =
+        tankFileDictionary(m_list, m_host.selectedTreeRow(), product::packedVersion(product::shortVersion()));
+    const BusyCursor busy;
+    const WriteResult written = writeTankDictionary(path, root);
+    if (!written.ok) {
+        qCWarning(logFile) << "cannot write" << path << written.error;
+        m_host.reportSaveError(path, written.error);
+        return WriteOutcome::Failed;
+    }
+    m_lastKnown = written.stamp;
+    m_changeCount = 0;
+    setRepresentedFilename(path);
+    m_documentDictionary = std::move(root);
+    setEdited(false);
+    return WriteOutcome::Written;
+}
+
+} // namespace brinemark

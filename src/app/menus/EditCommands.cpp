@@ -1,0 +1,69 @@
+#include "app/menus/EditCommands.h"
+
+#include "app/menus/MainMenuBar.h"
+#include "app/tree/TankListController.h"
+
+#include <QApplication>
+
+namespace brinemark
+{
+
+namespace
+{
+
+struct EditRow {
+    Command command;
+    const char *slot; ///< what the toolkit's text controls call it
+};
+
+constexpr EditRow editRows[] = {
+    {Command::Cut, "cut"},
+    {Command::Copy, "copy"},
+    {Command::Paste, "paste"},
+    {Command::SelectAll, "selectAll"},
+};
+
+bool treeHasFocus(const TankListController &tree)
+{
+    return tree.tankList() && tree.tankList()->hasFocus();
+}
+
+bool answers(const QWidget *widget, const char *slot)
+{
+    return widget && widget->metaObject()->indexOfMethod(QByteArray(slot) + "()") >= 0;
+}
+
+bool treeCan(Command command, const TankListController &tree)
+{
+    return (command == Command::Copy && tree.canCopy()) || (command == Command::Paste && tree.canPaste());
+}
+
+} // namespace
+
+void performEditCommand(Command command, TankListController &tree)
+{
+    if (treeHasFocus(tree)) {
+        if (command == Command::Copy)
+            tree.copy();
+        else if (command == Command::Paste)
+            tree.paste();
+        return;
+    }
+    QWidget *focus = QApplication::focusWidget();
+    for (const EditRow &row : editRows) {
+        if (row.command == command && answers(focus, row.slot))
+            QMetaObject::invokeMethod(focus, row.slot);
+    }
+}
+
+void validateEditCommands(MainMenuBar &menus, const TankListController &tree, bool canDelete)
+{
+    const QWidget *focus = QApplication::focusWidget();
+    for (const EditRow &row : editRows) {
+        const bool enabled = treeHasFocus(tree) ? treeCan(row.command, tree) : answers(focus, row.slot);
+        menus.action(row.command)->setEnabled(enabled);
+    }
+    menus.action(Command::Delete)->setEnabled(tree.currentTank() && canDelete);
+}
+
+} // namespace brinemark

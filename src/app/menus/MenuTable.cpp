@@ -1,0 +1,93 @@
+#include "app/menus/MenuTable.h"
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr MenuRow separator{};
+
+constexpr MenuRow fileMenu[] = {
+    {"MenuFileNew"_key, Command::NewFile, 0, QKeySequence::New, nullptr, "NewFile"},
+    {"MenuFileOpen"_key, Command::OpenFile, 0, QKeySequence::Open, nullptr, "Open"},
+    separator,
+    {"MenuFileSave"_key, Command::Save, menutag::Save, QKeySequence::Save, nullptr, "Save"},
+    {"MenuFileSaveAs"_key, Command::SaveAs, 0, QKeySequence::SaveAs},
+    {"MenuFileRevert"_key, Command::Revert, menutag::Revert},
+    separator,
+    {"MenuFilePrint"_key, Command::Print, 0, QKeySequence::Print, nullptr, "Print"},
+    separator,
+    {"MenuFileQuit"_key, Command::Quit, 0, QKeySequence::Quit},
+};
+
+constexpr MenuRow editMenu[] = {
+    {"MenuEditUndo"_key, Command::Undo, menutag::Undo, QKeySequence::Undo, nullptr, "Undo"},
+    {"MenuEditRedo"_key, Command::Redo, menutag::Redo, QKeySequence::Redo, nullptr, "Redo"},
+    separator,
+    {"MenuEditCut"_key, Command::Cut, 0, QKeySequence::Cut},
+    {"MenuEditCopy"_key, Command::Copy, 0, QKeySequence::Copy, nullptr, "Copy"},
+    {"MenuEditPaste"_key, Command::Paste, 0, QKeySequence::Paste, nullptr, "Paste"},
+    {"MenuEditSelectAll"_key, Command::SelectAll, 0, QKeySequence::SelectAll},
+    separator,
+    // No shortcut of its own: the tree and the lists answer the delete key while they have the focus, and a field that is
+    // being edited must keep it.
+    {"MenuEditDelete"_key, Command::Delete, 0, QKeySequence::UnknownKey, nullptr, "Delete"},
+    separator,
+    {"MenuEditPreferences"_key, Command::Preferences, 0, QKeySequence::UnknownKey, "Ctrl+,", "Settings"},
+};
+
+constexpr MenuRow tankMenu[] = {
+    {"MenuTankNewTank"_key, Command::NewTank, 0, QKeySequence::UnknownKey, "Ctrl+Shift+N", "NewTankBig"},
+    separator,
+    {"MenuTankNewFish"_key, Command::NewFish, menutag::NeedsTank, QKeySequence::UnknownKey, "Ctrl+1", "NewFishBig"},
+    {"MenuTankNewPlant"_key, Command::NewPlant, menutag::NeedsTank, QKeySequence::UnknownKey, "Ctrl+2", "PlantNew"},
+    {"MenuTankNewInvert"_key, Command::NewInvert, menutag::NeedsTank, QKeySequence::UnknownKey, "Ctrl+3",
+     "InvertebratesNew"},
+    {"MenuTankNewCoral"_key, Command::NewCoral, menutag::NeedsTank, QKeySequence::UnknownKey, "Ctrl+4", "CoralNew"},
+    separator,
+    {"MenuTankNewWaterTest"_key, Command::NewWaterTest, menutag::NewWaterTest, QKeySequence::UnknownKey, "Ctrl+5"},
+    {"MenuTankNewActivity"_key, Command::NewActivity, menutag::NewActivity, QKeySequence::UnknownKey, "Ctrl+6"},
+    {"MenuTankNewInventory"_key, Command::NewInventory, menutag::NewInventory, QKeySequence::UnknownKey, "Ctrl+7"},
+    {"MenuTankNewExpense"_key, Command::NewExpense, menutag::NewExpense, QKeySequence::UnknownKey, "Ctrl+8"},
+    {"MenuTankNewNote"_key, Command::NewNote, menutag::NewNote, QKeySequence::UnknownKey, "Ctrl+9"},
+};
+
+constexpr MenuRow viewMenu[] = {
+    {"HideToolbar"_key, Command::ToggleToolbar, menutag::Toolbar, QKeySequence::UnknownKey, "Ctrl+Alt+T"},
+    {"MenuViewCustomiseToolbar"_key, Command::CustomiseToolbar},
+    separator,
+    {"MenuViewExpand"_key, Command::Expand, menutag::Expand, QKeySequence::UnknownKey, "Ctrl+Right"},
+    {"MenuViewCollapse"_key, Command::Collapse, menutag::Collapse, QKeySequence::UnknownKey, "Ctrl+Left"},
+    separator,
+    {"Condition Columns..."_key, Command::ConditionColumns, menutag::ConditionColumns},
+};
+
+constexpr MenuRow windowMenu[] = {
+    {"ShowCalculatorWindow"_key, Command::ToggleCalculator, menutag::Calculator, QKeySequence::UnknownKey, "Ctrl+K",
+     "Convert"},
+    {"ShowNotificationWindow"_key, Command::ToggleOverdue, menutag::OverdueNotice, QKeySequence::UnknownKey, "Ctrl+D",
+     "NoteWindow"},
+};
+
+constexpr MenuRow helpMenu[] = {
+    {"MenuHelpHelp"_key, Command::Help, 0, QKeySequence::HelpContents, nullptr, "Help"},
+    separator,
+    {"MenuHelpUpdates"_key, Command::CheckForUpdates, 0, QKeySequence::UnknownKey, nullptr, "Update"},
+    {"MenuHelpMailingList"_key, Command::MailingList, 0, QKeySequence::UnknownKey, nullptr, "Mail"},
+    {"MenuHelpFeedback"_key, Command::Feedback},
+    {"MenuHelpProductPage"_key, Command::ProductPage, 0, QKeySequence::UnknownKey, nullptr, "Web"},
+    separator,
+    {"MenuHelpAbout"_key, Command::About},
+};
+
+constexpr MenuTitle menus[] = {
+    {"MenuFile"_key, fileMenu}, {"MenuEdit"_key, editMenu},     {"MenuTank"_key, tankMenu},
+    {"MenuView"_key, viewMenu}, {"MenuWindow"_key, windowMenu}, {"MenuHelp"_key, helpMenu},
+};
+
+} // namespace
+
+std::span<const MenuTitle> mainMenus() { return menus; }
+
+} // namespace brinemark

@@ -1,0 +1,172 @@
+#include "app/preferences/PrefsController.h"
+
+#include "app/documents/FilePanels.h"
+#include "app/preferences/CalendarNames.h"
+#include "base/PreferenceKeys.h"
+#include "base/Preferences.h"
+#include "base/text/Texts.h"
+#include "ui/WindowPlacement.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace brinemark
+{
+
+namespace
+{
+
+// The radio group's cells by tag.
+constexpr int autoSaveTag = 0;
+constexpr int askTag = 1;
+
+constexpr int calendarPopupWidth = 237; // what fits the window when the longest name does not
+
+} // namespace
+
+PrefsController::PrefsController()
+    : m_prefWindow(std::make_unique<QDialog>())
+{
+    m_prefWindow->setObjectName(QStringLiteral("prefWindow"));
+    m_prefWindow->setWindowTitle(text("PrefsTitle"));
+
+    m_autoSaveMatrix = new QButtonGroup(this);
+    auto *choices = new QVBoxLayout;
+    choices->setSpacing(4);
+    const auto addChoice = [&](int tag, TextKey label, const QString &name) {
+        auto *button = new QRadioButton(text(label));
+        button->setObjectName(name);
+        m_autoSaveMatrix->addButton(button, tag);
+        choices->addWidget(button);
+    };
+    addChoice(autoSaveTag, "PrefsAutoSaveOn"_key, QStringLiteral("autoSaveOn"));
+    addChoice(askTag, "PrefsAutoSaveAsk"_key, QStringLiteral("autoSaveAsk"));
+
+    m_defaultFilePath = new QLineEdit;
+    m_defaultFilePath->setObjectName(QStringLiteral("defaultFilePath"));
+    m_defaultFilePath->setReadOnly(true);
+    m_defaultFilePath->setMinimumWidth(300);
+    m_defaultFileSetButton = new QPushButton(text("PrefsChoose"));
+    m_defaultFileSetButton->setObjectName(QStringLiteral("defaultFileSetButton"));
+    m_defaultFileSetButton->setAutoDefault(false);
+    auto *file = new QHBoxLayout;
+    file->setSpacing(8);
+    file->addWidget(m_defaultFilePath, 1);
+    file->addWidget(m_defaultFileSetButton);
+
+    m_overdueCheck = new QCheckBox(text("PrefsOverdueCheck"));
+    m_overdueCheck->setObjectName(QStringLiteral("overdueCheck"));
+
+    m_iCalPopup = new QComboBox;
+    m_iCalPopup->setObjectName(QStringLiteral("iCalPopup"));
+    m_iCalPopup->setMinimumWidth(calendarPopupWidth);
+
+    const auto caption = [](TextKey key, QWidget *buddy) {
+        auto *label = new QLabel(text(key));
+        label->setBuddy(buddy);
+        return label;
+    };
+    auto *form = new QFormLayout(m_prefWindow.get());
+    form->setContentsMargins(16, 16, 16, 16);
+    form->setHorizontalSpacing(12);
+    form->setVerticalSpacing(16);
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
+    form->addRow(caption("PrefsOnQuit"_key, m_autoSaveMatrix->button(autoSaveTag)), choices);
+    form->addRow(caption("PrefsDefaultFile"_key, m_defaultFileSetButton), file);
+    form->addRow(caption("PrefsSchedule"_key, m_overdueCheck), m_overdueCheck);
+    form->addRow(caption("PrefsCalendar"_key, m_iCalPopup), m_iCalPopup);
+    form->setSizeConstraint(QLayout::SetFixedSize);
+
+    connect(m_autoSaveMatrix, &QButtonGroup::idClicked, this, &PrefsController::autoSaveMatrixAction);
+    connect(m_overdueCheck, &QCheckBox::clicked, this, &PrefsController::overdueAction);
+    connect(m_defaultFileSetButton, &QPushButton::clicked, this, &PrefsController::defaultFileSetFileAction);
+    connect(m_iCalPopup, &QComboBox::activated, this, &PrefsController::iCalPopupAction);
+}
+
+PrefsController::~PrefsController() = default;
+
+void PrefsController::display()
+{
+    const Preferences &preferences = Preferences::shared();
+    m_overdueCheck->setChecked(preferences.value(preference::activityOverdue, false));
+    const bool autoSave = preferences.value(preference::autoSaveOnQuit, false);
+    m_autoSaveMatrix->button(autoSave ? autoSaveTag : askTag)->setChecked(true);
+    showDefaultFile(preferences.value(preference::defaultFile, QString()));
+    readCalendars();
+    m_prefWindow->adjustSize();
+    centreOnScreen(*m_prefWindow);
+    m_prefWindow->show();
+    m_prefWindow->raise();
+    m_prefWindow->activateWindow();
+}
+
+void PrefsController::showDefaultFile(const QString &path)
+{
+    m_defaultFilePath->setText(path.isEmpty() ? text("NoneSelected") : QDir::toNativeSeparators(path));
+    m_defaultFilePath->setToolTip(path);
+    m_defaultFilePath->setCursorPosition(0);
+}
+
+void PrefsController::readCalendars()
+{
+    if (!calendars::applicationInstalled()) {
+        m_iCalPopup->setEnabled(false);
+        return;
+    }
+    const std::optional<QStringList> names = calendars::read();
+    if (!names) {
+        m_iCalPopup->setEnabled(false);
+        return;
+    }
+    m_iCalPopup->setEnabled(true);
+    if (!names->isEmpty()) {
+        m_iCalPopup->clear();
+        m_iCalPopup->addItems(*names);
+    }
+    Preferences &preferences = Preferences::shared();
+    m_iCalPopup->setCurrentIndex(m_iCalPopup->findText(preferences.value(preference::calName, QString())));
+    if (m_iCalPopup->currentIndex() < 0 && m_iCalPopup->count() > 0) {
+        m_iCalPopup->setCurrentIndex(0);
+        iCalPopupAction();
+    }
+}
+
+void PrefsController::iCalPopupAction()
+{
+    Preferences::shared().set(preference::calName, m_iCalPopup->currentText());
+}
+
+void PrefsController::overdueAction()
+{
+    Preferences::shared().set(preference::activityOverdue, m_overdueCheck->isChecked());
+}
+
+void PrefsController::autoSaveMatrixAction()
+{
+    Preferences::shared().set(preference::autoSaveOnQuit, m_autoSaveMatrix->checkedId() == autoSaveTag);
+}
+
+void PrefsController::defaultFileSetFileAction()
+{
+    beginOpenPanel(m_prefWindow.get(), {},
+                   [this](const FilePanelAnswer &answer) { openFileDidEnd(answer.ok, answer.path); });
+}
+
+void PrefsController::openFileDidEnd(bool ok, const QString &path)
+{
+    if (!ok || path.isEmpty())
+        return;
+    Preferences::shared().set(preference::defaultFile, path);
+    showDefaultFile(path);
+}
+
+} // namespace brinemark

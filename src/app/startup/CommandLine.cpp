@@ -1,0 +1,43 @@
+#include "app/startup/CommandLine.h"
+
+#include "base/Product.h"
+#include "base/text/Texts.h"
+
+#include <QCommandLineParser>
+
+namespace brinemark
+{
+
+std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QString &output, int &exitCode)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(text("CommandLineDescription"));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, text("CommandLineHelp"));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, text("CommandLineVersion"));
+    const QCommandLineOption render(QStringLiteral("render"), text("CommandLineRender"), QStringLiteral("PNG"));
+    const QCommandLineOption dark(QStringLiteral("dark"), text("CommandLineDark"));
+    parser.addOptions({help, version, render, dark});
+    parser.addPositionalArgument(QStringLiteral("FILE"), text("CommandLineFile"), QStringLiteral("[FILE]"));
+
+    exitCode = 0;
+    if (!parser.parse(arguments)) {
+        output = parser.errorText() + u'\n';
+        exitCode = 2;
+        return {};
+    }
+    if (parser.isSet(help)) {
+        output = parser.helpText();
+        return {};
+    }
+    if (parser.isSet(version)) {
+        output = QLatin1String(product::name) + u' ' + product::shortVersion() + u'\n';
+        return {};
+    }
+    CommandLine line;
+    line.file = parser.positionalArguments().value(0);
+    line.renderTo = parser.value(render);
+    line.dark = parser.isSet(dark);
+    return line;
+}
+
+} // namespace brinemark

@@ -1,0 +1,20 @@
+#include "app/startup/RenderToPicture.h"
+
+#include "app/ShoalwatchController.h"
+#include "app/window/MainWindow.h"
+
+#include <QApplication>
+#include <QPixmap>
+
+namespace brinemark
+{
+
+bool renderToPicture(const QString &path)
+{
+    MainWindow &window = ShoalwatchController::sharedInstance().window();
+    window.show();
+    QApplication::processEvents(); // lays out what was shown
+    return window.grab().save(path, "PNG");
+}
+
+} // namespace brinemark

@@ -1,0 +1,371 @@
+#include "app/tree/TankListController.h"
+
+#include "app/tree/TankTreeModel.h"
+#include "base/text/Texts.h"
+#include "model/ModelContext.h"
+#include "ui/Alerts.h"
+#include "ui/FieldEdit.h"
+#include "ui/Shell.h"
+
+#include <QMenu>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace brinemark
+{
+
+namespace
+{
+
+MainView viewOf(const TreeItem &item)
+{
+    if (item.isTank())
+        return MainView::Tank;
+    if (item.isRecord())
+        return MainView::LivestockItem;
+    switch (item.container->kind()) {
+    case ContainerKind::Schedule:
+        return MainView::Schedule;
+    case ContainerKind::Note:
+        return MainView::Notes;
+    case ContainerKind::Condition:
+        return MainView::Conditions;
+    case ContainerKind::Inventory:
+        return MainView::Inventory;
+    case ContainerKind::Expense:
+        return MainView::Expenses;
+    default:
+        return MainView::LivestockGroup;
+    }
+}
+
+} // namespace
+
+TankListController::TankListController()
+    : m_model(new TankTreeModel(m_list, this))
+    , m_outline(new TankOutlineView(*m_model))
+{
+    ModelContext::sharedInstance().setAppTankList(&m_list);
+    m_model->hasCurrentTank = [this] { return currentTank() != nullptr; };
+    m_model->rename = [this](const TreeItem &item, const QString &name) { return rename(item, name); };
+    connectOutline();
+}
+
+TankListController::~TankListController()
+{
+    ModelContext::sharedInstance().setAppTankList(nullptr);
+    if (m_outline && !m_outline->parent())
+        delete m_outline.data();
+}
+
+void TankListController::connectOutline()
+{
+    m_outline->validateDrop = [this](const auto &proposal, const auto &row, auto allowed) {
+        return validateDrop(proposal, row, allowed);
+    };
+    m_outline->acceptDrop = [this](const auto &proposal, const auto &row, auto allowed) {
+        return acceptDrop(proposal, row, allowed);
+    };
+    m_outline->writeItem = [this](const TreeItem &item) { return writeItem(item); };
+    m_outline->dragEnded = [this] { m_dragData = {}; };
+    connect(m_outline, &TankOutlineView::deleteKeyPressed, this, [this] { m_shell->deleteItem(); });
+    connect(m_outline, &TankOutlineView::contextMenuRequested, this, &TankListController::showContextMenu);
+    connect(m_outline, &TankOutlineView::doubleClickedItem, this, &TankListController::doubleClickAction);
+    connect(m_outline, &QTreeView::expanded, this, [this](const QModelIndex &index) { rowExpanded(index, true); });
+    connect(m_outline, &QTreeView::collapsed, this, [this](const QModelIndex &index) { rowExpanded(index, false); });
+    connect(m_outline->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+        if (!m_rebuilding)
+            outlineViewSelectionDidChange();
+    });
+}
+
+Tank *TankListController::currentTank() const
+{
+    return m_currentTank.lock().get();
+}
+
+void TankListController::setCurrentTank(Tank *tank)
+{
+    m_currentTank = tank ? tank->weak_from_this() : std::weak_ptr<Tank>();
+}
+
+// ---- rows and selection
+
+int TankListController::selectedRow() const
+{
+    int row = 0;
+    const QModelIndex selected = m_outline->currentIndex();
+    for (QModelIndex index = m_model->index(0, 0); index.isValid(); index = m_outline->indexBelow(index), ++row) {
+        if (index == selected)
+            return row;
+    }
+    return -1;
+}
+
+void TankListController::selectRow(int row)
+{
+    QModelIndex index = m_model->index(0, 0);
+    for (int i = 0; i < row && index.isValid(); ++i)
+        index = m_outline->indexBelow(index);
+    m_outline->setCurrentIndex(row >= 0 && index.isValid() ? index : m_model->index(0, 0));
+}
+
+TreeItem TankListController::currentSelectedItem() const
+{
+    return m_model->itemAt(m_outline->currentIndex());
+}
+
+std::vector<std::shared_ptr<Record>> TankListController::currentSelectedArray() const
+{
+    std::vector<std::shared_ptr<Record>> records;
+    const TreeItem item = currentSelectedItem();
+    if (item.isRecord()) {
+        for (int i = 0; i < item.container->count(); ++i)
+            records.push_back(item.container->recordAt(i));
+    }
+    return records;
+}
+
+void TankListController::select(const TreeItem &item)
+{
+    const QModelIndex index = m_model->indexOf(item);
+    if (!index.isValid())
+        return;
+    for (QModelIndex parent = index.parent(); parent.isValid(); parent = parent.parent())
+        m_outline->expand(parent);
+    m_outline->setCurrentIndex(index);
+    m_outline->scrollTo(index);
+}
+
+void TankListController::forgetRows()
+{
+    const QScopedValueRollback rebuilding(m_rebuilding, true);
+    m_list.clear();
+    m_model->reload();
+    setCurrentTank(nullptr);
+    m_dragData = {};
+}
+
+void TankListController::reload()
+{
+    const int row = selectedRow();
+    const TreeItem selected = currentSelectedItem();
+    const int scrolled = m_outline->verticalScrollBar()->value();
+    {
+        const QScopedValueRollback rebuilding(m_rebuilding, true);
+        m_model->reload();
+        for (const auto &tank : m_list)
+            expandRows(*tank);
+        // A row that has gone leaves its place to the one that moved up.
+        const QModelIndex again = m_model->indexOf(selected);
+        if (again.isValid())
+            m_outline->setCurrentIndex(again);
+        else if (row >= 0 && !m_list.isEmpty())
+            selectRow(row);
+    }
+    m_outline->verticalScrollBar()->setValue(scrolled);
+}
+
+void TankListController::updateDisplay()
+{
+    reload();
+    fitColumn();
+    m_shell->documentModifiedWithChange(false);
+    outlineViewSelectionDidChange();
+}
+
+void TankListController::fitColumn()
+{
+    m_outline->viewport()->update();
+}
+
+void TankListController::outlineViewSelectionDidChange()
+{
+    const TreeItem item = currentSelectedItem();
+    if (item.isNone()) {
+        setCurrentTank(nullptr);
+        m_shell->changeView(MainView::None);
+    } else {
+        setCurrentTank(item.tank);
+        m_shell->changeView(viewOf(item));
+    }
+    m_outline->viewport()->update();
+    m_shell->documentModifiedWithChange(true);
+}
+
+// ---- opening and closing rows
+
+void TankListController::expandRows(Tank &tank)
+{
+    const QScopedValueRollback rebuilding(m_rebuilding, true);
+    m_outline->setExpanded(m_model->indexOf(TreeItem(tank)), tank.tankExpanded);
+    for (Container *container : tank.tankItemsArray()) {
+        const TreeItem item(*container);
+        if (const bool *expanded = item.expandedFlag())
+            m_outline->setExpanded(m_model->indexOf(item), *expanded);
+    }
+}
+
+void TankListController::rowExpanded(const QModelIndex &index, bool expanded)
+{
+    const TreeItem item = m_model->itemAt(index);
+    bool *flag = item.expandedFlag();
+    if (m_rebuilding || !flag)
+        return;
+    *flag = expanded;
+    m_shell->documentModifiedWithChange(true);
+    if (expanded)
+        return;
+    for (QModelIndex parent = m_outline->currentIndex().parent(); parent.isValid(); parent = parent.parent()) {
+        if (parent == index) {
+            m_outline->setCurrentIndex(index);
+            break;
+        }
+    }
+}
+
+void TankListController::expandTankItem()
+{
+    m_outline->expand(m_outline->currentIndex());
+}
+
+void TankListController::collapseTankItem()
+{
+    m_outline->collapse(m_outline->currentIndex());
+}
+
+bool TankListController::isExpanded(const TreeItem &item) const
+{
+    return m_outline->isExpanded(m_model->indexOf(item));
+}
+
+void TankListController::doubleClickAction(const TreeItem &item)
+{
+    if (item.isTank())
+        m_outline->expand(m_model->indexOf(item));
+    else if (item.isRecord() && openItemEditor)
+        openItemEditor(*item.record);
+    else if (item.isLivestockGroup())
+        m_outline->setExpanded(m_model->indexOf(item), !isExpanded(item));
+}
+
+// ---- names
+
+bool TankListController::rename(const TreeItem &item, const QString &name)
+{
+    if (name.isEmpty())
+        return false;
+    const auto afterwards = [this](bool made) {
+        m_outline->viewport()->update();
+        m_shell->documentModifiedWithChange(made);
+        m_shell->changeView(m_shell->currentView()); // the view on screen names it as well
+    };
+    QUndoStack &undo = m_shell->undoManager();
+    const QString actionName = QStringLiteral("RenameUndo");
+    if (item.isRecord())
+        return editField(undo, actionName, std::static_pointer_cast<ItemData>(item.record->shared_from_this()),
+                         &ItemData::name, name, afterwards);
+    return item.isTank() && editField(undo, actionName, item.tank->shared_from_this(), &Tank::name, name, afterwards);
+}
+
+void TankListController::editName()
+{
+    m_outline->setFocus();
+    m_outline->edit(m_outline->currentIndex());
+}
+
+// ---- deleting
+
+void TankListController::deleteTankEntry()
+{
+    const TreeItem item = currentSelectedItem();
+    if (!item.isTank())
+        return;
+    const Alert alert{AlertStyle::Critical,      formatText(text("DeleteTankWarning"), {item.name()}),
+                      text("CannotUndoMessage"), {},
+                      text("CancelLabel"),       {}};
+    beginAlertSheet(m_shell->mainWindow(), alert, [this, tank = item.tank->shared_from_this()](int returnCode) {
+        if (returnCode == AlertDefault)
+            deleteTank(tank);
+    });
+}
+
+void TankListController::deleteItemDataEntry()
+{
+    const TreeItem item = currentSelectedItem();
+    if (!item.isRecord())
+        return;
+    TextKey warning = "DeleteFishWarning"_key;
+    if (item.container->kind() == ContainerKind::Plant)
+        warning = "DeletePlantWarning"_key;
+    else if (item.container->kind() == ContainerKind::Invert)
+        warning = "DeleteInvertWarning"_key;
+    else if (item.container->kind() == ContainerKind::Coral)
+        warning = "DeleteCoralWarning"_key;
+    const Alert alert{AlertStyle::Critical,      formatText(text(warning), {item.name()}),
+                      text("CannotUndoMessage"), {},
+                      text("CancelLabel"),       {}};
+    const auto record = std::static_pointer_cast<ItemData>(item.record->shared_from_this());
+    beginAlertSheet(m_shell->mainWindow(), alert, [this, record](int returnCode) {
+        if (returnCode == AlertDefault)
+            deleteItem(record);
+    });
+}
+
+void TankListController::deleteTank(const std::shared_ptr<Tank> &tank)
+{
+    const int index = m_list.indexOf(tank.get());
+    if (index < 0)
+        return;
+    for (const auto &activity : tank->scheduleListArray())
+        ModelContext::sharedInstance().postScheduleDataDeleted(*activity);
+    m_list.removeAt(index);
+    setCurrentTank(nullptr);
+    if (m_list.isEmpty() && resetDocument)
+        resetDocument();
+    finishDeleting();
+}
+
+void TankListController::deleteItem(const std::shared_ptr<ItemData> &item)
+{
+    Tank *tank = currentTank();
+    const std::optional<ContainerKind> kind = containerKindOf(item->itemContext());
+    if (tank && kind) {
+        Container &list = *tank->container(*kind);
+        if (const int index = list.indexOf(item.get()); index >= 0)
+            list.removeRecordAt(index);
+    }
+    finishDeleting();
+}
+
+void TankListController::finishDeleting()
+{
+    updateDisplay();
+    m_shell->orderFrontAndCheckModified();
+    outlineViewSelectionDidChange();
+}
+
+// ---- context menu
+
+void TankListController::showContextMenu(const QPoint &globalPosition)
+{
+    const TreeItem item = currentSelectedItem();
+    if (!item.isTank() && !item.isRecord())
+        return;
+    auto *menu = new QMenu(m_outline);
+    menu->setObjectName(QStringLiteral("tankListMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (item.isRecord())
+        menu->addAction(text("Edit..."), this, [this, item] { doubleClickAction(item); });
+    menu->addAction(text("MenuTreeRename"), this, &TankListController::editName);
+    menu->addSeparator();
+    menu->addAction(text("MenuEditCopy"), this, &TankListController::copy)->setEnabled(canCopy());
+    menu->addAction(text("MenuEditPaste"), this, &TankListController::paste)->setEnabled(canPaste());
+    menu->addSeparator();
+    menu->addAction(text("DeleteTitle"), this, [this] { m_shell->deleteItem(); })
+        ->setEnabled(!canDelete || canDelete());
+    menu->popup(globalPosition);
+}
+
+} // namespace brinemark

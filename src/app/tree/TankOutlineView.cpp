@@ -1,0 +1,219 @@
+#include "app/tree/TankOutlineView.h"
+
+#include "app/tree/TankTreeModel.h"
+#include "base/text/Texts.h"
+#include "ui/TruncatingDelegate.h"
+
+#include <QContextMenuEvent>
+#include <QDrag>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr int iconExtent = 16;
+constexpr int smallestColumnWidth = 80;
+constexpr int betweenRowsZone = 4; // this near to a row's edge a drop lands between rows, farther in on the row
+
+} // namespace
+
+TankOutlineView::TankOutlineView(TankTreeModel &model, QWidget *parent)
+    : QTreeView(parent)
+    , m_model(model)
+{
+    setObjectName(QStringLiteral("tankList"));
+    setAccessibleName(text("TankListLabel"));
+    setModel(&model);
+    setHeaderHidden(true);
+    header()->setMinimumSectionSize(smallestColumnWidth);
+    header()->setStretchLastSection(true);
+    setUniformRowHeights(true);
+    setIconSize({iconExtent, iconExtent});
+    setItemDelegate(new TruncatingDelegate(this));
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
+    setExpandsOnDoubleClick(false);
+    setDragEnabled(true);
+    setAcceptDrops(true);
+    setDropIndicatorShown(false); // the rules say where a drop lands, so the mark is drawn here
+    setAutoExpandDelay(700);
+    setFrameShape(QFrame::NoFrame);
+}
+
+void TankOutlineView::keyPressEvent(QKeyEvent *event)
+{
+    if (state() != EditingState && (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)) {
+        Q_EMIT deleteKeyPressed();
+        return;
+    }
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        Q_EMIT doubleClickedItem(m_model.itemAt(currentIndex()));
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void TankOutlineView::contextMenuEvent(QContextMenuEvent *event)
+{
+    const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+    if (!byKeyboard) {
+        const QModelIndex index = indexAt(event->pos());
+        if (index.isValid())
+            setCurrentIndex(index);
+    }
+    const QPoint position =
+        byKeyboard ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()) : event->globalPos();
+    Q_EMIT contextMenuRequested(position);
+}
+
+void TankOutlineView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const TreeItem item = m_model.itemAt(indexAt(event->position().toPoint()));
+    QTreeView::mouseDoubleClickEvent(event);
+    if (!item.isNone() && event->button() == Qt::LeftButton)
+        Q_EMIT doubleClickedItem(item);
+}
+
+QItemSelectionModel::SelectionFlags TankOutlineView::selectionCommand(const QModelIndex &index,
+                                                                      const QEvent *event) const
+{
+    // A click beside the rows, or on the selected row with a modifier, leaves the selection alone: the right side of
+    // the window always shows something.
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate;
+    const auto command = QTreeView::selectionCommand(index, event);
+    return command & QItemSelectionModel::Deselect ? QItemSelectionModel::NoUpdate : command;
+}
+
+void TankOutlineView::startDrag(Qt::DropActions)
+{
+    const QModelIndex index = currentIndex();
+    QMimeData *data = writeItem ? writeItem(m_model.itemAt(index)) : nullptr;
+    if (!data)
+        return;
+    QDrag drag(this);
+    drag.setMimeData(data);
+    drag.setPixmap(
+        index.data(Qt::DecorationRole).value<QIcon>().pixmap(QSize(iconExtent, iconExtent) * 2, devicePixelRatio()));
+    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+    if (dragEnded)
+        dragEnded();
+}
+
+Qt::DropActions TankOutlineView::allowedActions(const QDropEvent &event)
+{
+    // Holding the copy key is how a person restricts a drag to copying.
+    return event.modifiers() & Qt::ControlModifier ? Qt::CopyAction : event.possibleActions();
+}
+
+DropProposal TankOutlineView::proposalAt(const QPoint &position, TreeItem &row) const
+{
+    const QModelIndex index = indexAt(position);
+    row = m_model.itemAt(index);
+    if (!index.isValid())
+        return {};
+    const QRect rect = visualRect(index);
+    const TreeItem parent = m_model.itemAt(index.parent());
+    if (position.y() < rect.top() + betweenRowsZone)
+        return {parent, index.row()};
+    if (position.y() > rect.bottom() - betweenRowsZone) {
+        // Below the row of an open group, or of one with nothing in it yet, is the place before its first record.
+        if (row.isLivestockGroup() && (isExpanded(index) || row.container->isEmpty()))
+            return {row, 0};
+        return {parent, index.row() + 1};
+    }
+    return {row, {}};
+}
+
+void TankOutlineView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->source() == this)
+        event->accept();
+    else
+        event->ignore(); // files are the window's to take
+}
+
+void TankOutlineView::dragMoveEvent(QDragMoveEvent *event)
+{
+    QTreeView::dragMoveEvent(event); // scrolls at the edges and opens rows that are hovered over
+    TreeItem row;
+    const DropProposal proposal = proposalAt(event->position().toPoint(), row);
+    const DropAnswer answer = validateDrop ? validateDrop(proposal, row, allowedActions(*event)) : DropAnswer{};
+    m_dropMark.reset();
+    if (answer.operation == DropOperation::Refused) {
+        event->ignore();
+    } else {
+        m_dropMark = answer.retargeted.value_or(proposal);
+        event->setDropAction(answer.operation == DropOperation::Copy ? Qt::CopyAction : Qt::MoveAction);
+        event->accept();
+    }
+    viewport()->update();
+}
+
+void TankOutlineView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    m_dropMark.reset();
+    viewport()->update();
+    QTreeView::dragLeaveEvent(event);
+}
+
+void TankOutlineView::dropEvent(QDropEvent *event)
+{
+    m_dropMark.reset();
+    viewport()->update();
+    TreeItem row;
+    const DropProposal proposal = proposalAt(event->position().toPoint(), row);
+    if (acceptDrop && acceptDrop(proposal, row, allowedActions(*event)))
+        event->accept();
+    else
+        event->ignore();
+    setState(NoState);
+}
+
+QLine TankOutlineView::dropMark(const DropProposal &proposal) const
+{
+    const QModelIndex parent = m_model.indexOf(proposal.parent);
+    const int index = proposal.childIndex.value_or(0);
+    const int rows = m_model.rowCount(parent);
+    int y = 0;
+    int x = 0;
+    if (index < rows) {
+        const QRect rect = visualRect(m_model.index(index, 0, parent));
+        y = rect.top();
+        x = rect.left();
+    } else if (rows > 0) {
+        QModelIndex last = m_model.index(rows - 1, 0, parent);
+        x = visualRect(last).left();
+        while (isExpanded(last) && m_model.rowCount(last) > 0)
+            last = m_model.index(m_model.rowCount(last) - 1, 0, last);
+        y = visualRect(last).bottom() + 1;
+    } else {
+        const QRect rect = visualRect(parent);
+        y = rect.bottom() + 1;
+        x = rect.left() + indentation();
+    }
+    return {x, y, viewport()->width() - 4, y};
+}
+
+void TankOutlineView::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (!m_dropMark)
+        return;
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().highlight(), 2));
+    const QLine line = dropMark(*m_dropMark);
+    painter.drawEllipse(QPointF(line.p1()) + QPointF(3, 0), 3, 3);
+    painter.drawLine(line.p1() + QPoint(6, 0), line.p2());
+}
+
+} // namespace brinemark

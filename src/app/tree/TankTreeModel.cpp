@@ -1,0 +1,150 @@
+#include "app/tree/TankTreeModel.h"
+
+#include "model/TankList.h"
+#include "ui/Icons.h"
+
+namespace brinemark
+{
+
+namespace
+{
+
+// An index carries the parent of its row: nothing for a tank, the tank for a container, the container for a record.
+// Both are at least four-byte aligned, so the lowest bit is free to tell them apart.
+constexpr quintptr containerBit = 1;
+
+quintptr idBelow(Tank *tank)
+{
+    return quintptr(tank);
+}
+quintptr idBelow(Container *container)
+{
+    return quintptr(container) | containerBit;
+}
+
+Tank *tankOf(quintptr id)
+{
+    return id & containerBit ? nullptr : reinterpret_cast<Tank *>(id);
+}
+Container *containerOf(quintptr id)
+{
+    return id & containerBit ? reinterpret_cast<Container *>(id & ~containerBit) : nullptr;
+}
+
+} // namespace
+
+TankTreeModel::TankTreeModel(TankList &list, QObject *parent)
+    : QAbstractItemModel(parent)
+    , m_list(list)
+{
+}
+
+void TankTreeModel::reload()
+{
+    beginResetModel();
+    endResetModel();
+}
+
+TreeItem TankTreeModel::itemAt(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return {};
+    if (Container *container = containerOf(index.internalId()))
+        return TreeItem(static_cast<ItemData &>(*container->recordAt(index.row())));
+    if (Tank *tank = tankOf(index.internalId()))
+        return TreeItem(*tank->tankItemsArray()[std::size_t(index.row())]);
+    return TreeItem(*m_list.at(index.row()));
+}
+
+QModelIndex TankTreeModel::indexOf(const TreeItem &item) const
+{
+    if (item.isNone())
+        return {};
+    const int tankRow = m_list.indexOf(item.tank);
+    if (tankRow < 0)
+        return {};
+    if (item.isTank())
+        return createIndex(tankRow, 0, quintptr(0));
+    if (item.isContainer())
+        return createIndex(int(item.container->kind()), 0, idBelow(item.tank));
+    const int row = item.container->indexOf(item.record);
+    return row < 0 ? QModelIndex() : createIndex(row, 0, idBelow(item.container));
+}
+
+QModelIndex TankTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (row < 0 || column != 0 || row >= rowCount(parent))
+        return {};
+    if (!parent.isValid())
+        return createIndex(row, column, quintptr(0));
+    const TreeItem item = itemAt(parent);
+    return createIndex(row, column, item.isTank() ? idBelow(item.tank) : idBelow(item.container));
+}
+
+QModelIndex TankTreeModel::parent(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return {};
+    if (Container *container = containerOf(index.internalId()))
+        return indexOf(TreeItem(*container));
+    if (Tank *tank = tankOf(index.internalId()))
+        return indexOf(TreeItem(*tank));
+    return {};
+}
+
+int TankTreeModel::rowCount(const QModelIndex &parent) const
+{
+    if (!parent.isValid())
+        return m_list.count();
+    const TreeItem item = itemAt(parent);
+    if (item.isTank())
+        return int(item.tank->tankItemsArray().size());
+    return item.isLivestockGroup() ? item.container->count() : 0;
+}
+
+bool TankTreeModel::hasChildren(const QModelIndex &parent) const
+{
+    return rowCount(parent) > 0;
+}
+
+QVariant TankTreeModel::data(const QModelIndex &index, int role) const
+{
+    const TreeItem item = itemAt(index);
+    if (item.isNone())
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return hasCurrentTank && !hasCurrentTank() ? QVariant() : item.name();
+    case Qt::EditRole:
+    case Qt::AccessibleTextRole:
+        return item.name();
+    case Qt::DecorationRole:
+        return icon(item.iconName());
+    default:
+        return {};
+    }
+}
+
+bool TankTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    const TreeItem item = itemAt(index);
+    if (role != Qt::EditRole || item.isNone() || !rename || !rename(item, value.toString()))
+        return false;
+    Q_EMIT dataChanged(index, index);
+    return true;
+}
+
+Qt::ItemFlags TankTreeModel::flags(const QModelIndex &index) const
+{
+    const TreeItem item = itemAt(index);
+    if (item.isNone())
+        return {};
+    Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDropEnabled;
+    // A collection's name is the program's own and is not stored in the file, so only what is the keeper's can be
+    // renamed.
+    if (!item.isContainer())
+        flags |= Qt::ItemIsEditable | Qt::ItemIsDragEnabled;
+    return flags;
+}
+
+} // namespace brinemark

@@ -1,0 +1,103 @@
+#include "app/window/MainViews.h"
+
+#include "chemistry/views/ConditionListController.h"
+#include "chemistry/views/TankDataController.h"
+#include "journals/views/ExpenseListController.h"
+#include "journals/views/InventoryListController.h"
+#include "journals/views/NoteListController.h"
+#include "journals/views/ScheduleListController.h"
+#include "livestock/views/FishDataController.h"
+#include "livestock/views/LivestockGroupController.h"
+
+#include <QStackedWidget>
+
+namespace brinemark
+{
+
+namespace
+{
+
+template <class Controller>
+MainViewController &shared()
+{
+    return Controller::sharedInstance();
+}
+
+/// By view constant; the empty view has no controller.
+constexpr std::array<MainViewController &(*)(), mainViewCount> controllers{
+    nullptr,
+    &shared<TankDataController>,
+    &shared<LivestockGroupController>,
+    &shared<FishDataController>,
+    &shared<ScheduleListController>,
+    &shared<NoteListController>,
+    &shared<ConditionListController>,
+    &shared<InventoryListController>,
+    &shared<ExpenseListController>,
+};
+
+bool isView(MainView view)
+{
+    return qint32(view) >= 0 && qint32(view) < mainViewCount;
+}
+
+} // namespace
+
+MainViews::MainViews(QStackedWidget &container, QWidget *tankTree, QWidget *helpButton)
+    : m_container(container)
+    , m_tankTree(tankTree)
+    , m_helpButton(helpButton)
+    , m_emptyView(new QWidget)
+{
+    m_emptyView->setObjectName(QStringLiteral("emptyView"));
+    m_container.addWidget(m_emptyView);
+}
+
+MainViewController &MainViews::prepared(MainView view)
+{
+    MainViewController *&controller = m_controllers[std::size_t(view)];
+    if (!controller) {
+        controller = &controllers[std::size_t(view)]();
+        m_container.addWidget(controller->view());
+        connect(controller, &MainViewController::selectionChanged, this, &MainViews::selectionChanged);
+    }
+    return *controller;
+}
+
+void MainViews::changeView(MainView view)
+{
+    updateColumnInfo();
+    if (view == MainView::None) {
+        QWidget::setTabOrder(m_tankTree, m_helpButton);
+        m_container.setCurrentWidget(m_emptyView);
+    } else if (isView(view)) {
+        MainViewController &controller = prepared(view);
+        controller.setKeyViewWithTankList(m_tankTree, m_helpButton);
+        m_container.setCurrentWidget(controller.view());
+    }
+    m_currentViewConstant = view;
+}
+
+QWidget *MainViews::currentView() const
+{
+    return m_container.currentWidget();
+}
+
+MainViewController *MainViews::controller(MainView view) const
+{
+    return isView(view) ? m_controllers[std::size_t(view)] : nullptr;
+}
+
+bool MainViews::hasSelectedRow(MainView view) const
+{
+    const MainViewController *controller = this->controller(view);
+    return controller && controller->hasSelectedRow();
+}
+
+void MainViews::updateColumnInfo()
+{
+    if (m_currentViewConstant == MainView::Conditions && controller(MainView::Conditions))
+        ConditionListController::sharedInstance().updateColumnInfo();
+}
+
+} // namespace brinemark

@@ -1,0 +1,142 @@
+#include "app/window/MainWindow.h"
+
+#include "app/menus/MainMenuBar.h"
+#include "app/toolbar/MainToolBar.h"
+#include "app/tree/TankOutlineView.h"
+#include "base/PreferenceKeys.h"
+#include "base/Preferences.h"
+#include "base/text/Texts.h"
+#include "ui/Icons.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QMimeData>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QToolButton>
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr QSize openingSize(1080, 720);
+constexpr int openingTreeWidth = 220;
+constexpr int smallestTreeWidth = 142;
+constexpr int smallestMainViewWidth = 320;
+
+QString droppedFile(const QDropEvent &event)
+{
+    const QList<QUrl> urls = event.mimeData()->urls();
+    return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
+}
+
+} // namespace
+
+MainWindow::MainWindow(TankOutlineView *tankList)
+    : m_menus(new MainMenuBar(this))
+    , m_toolbar(new MainToolBar(
+          [this](const QString &identifier) {
+              if (toolbarItemChosen)
+                  toolbarItemChosen(identifier);
+          },
+          this))
+    , m_splitView(new QSplitter(Qt::Horizontal))
+    , m_tankListView(new QWidget)
+    , m_mainView(new QStackedWidget)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setMenuBar(m_menus);
+    addToolBar(m_toolbar);
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is hidden by its own command, not by a stray menu
+    setAcceptDrops(true);
+
+    m_newButton = makeFootButton("New", text("TreeNewToolTip"), QStringLiteral("newButton"));
+    m_newButton->setPopupMode(QToolButton::InstantPopup);
+    m_deleteButton = makeFootButton("Remove", text("ToolbarDeleteToolTip"), QStringLiteral("deleteButton"));
+    m_helpButton = makeFootButton("Help", text("HelpButtonToolTip"), QStringLiteral("helpButton"));
+    auto *foot = new QHBoxLayout;
+    foot->setContentsMargins(4, 4, 4, 4);
+    foot->setSpacing(4);
+    foot->addWidget(m_newButton);
+    foot->addWidget(m_deleteButton);
+    foot->addStretch();
+    foot->addWidget(m_helpButton);
+
+    auto *left = new QVBoxLayout(m_tankListView);
+    left->setContentsMargins(0, 0, 0, 0);
+    left->setSpacing(0);
+    left->addWidget(tankList, 1);
+    left->addLayout(foot);
+
+    m_tankListView->setMinimumWidth(smallestTreeWidth);
+    m_mainView->setMinimumWidth(smallestMainViewWidth);
+    m_mainView->setObjectName(QStringLiteral("mainView"));
+    m_splitView->setObjectName(QStringLiteral("splitView"));
+    m_splitView->setChildrenCollapsible(false);
+    m_splitView->setHandleWidth(1);
+    m_splitView->addWidget(m_tankListView);
+    m_splitView->addWidget(m_mainView);
+    m_splitView->setStretchFactor(0, 0);
+    m_splitView->setStretchFactor(1, 1);
+    setCentralWidget(m_splitView);
+
+    resize(openingSize);
+    m_splitView->setSizes({openingTreeWidth, openingSize.width() - openingTreeWidth});
+}
+
+QToolButton *MainWindow::makeFootButton(const char *iconName, const QString &toolTip, const QString &objectName)
+{
+    auto *button = new QToolButton;
+    button->setObjectName(objectName);
+    button->setIcon(icon(iconName));
+    button->setIconSize({16, 16});
+    button->setAutoRaise(true);
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+void MainWindow::storeWidths() const
+{
+    Preferences &preferences = Preferences::shared();
+    preferences.set(preference::mainViewWidth, QString::number(m_mainView->width()));
+    preferences.set(preference::tankListViewWidth, QString::number(m_tankListView->width()));
+}
+
+void MainWindow::restoreWidths()
+{
+    const Preferences &preferences = Preferences::shared();
+    const std::optional<QString> mainWidth = preferences.value(preference::mainViewWidth);
+    if (!mainWidth)
+        return;
+    const int treeWidth = preferences.value(preference::tankListViewWidth, QString()).toInt();
+    // Both panes are given their widths, so the window takes the width that they had together.
+    resize(treeWidth + m_splitView->handleWidth() + mainWidth->toInt(), height());
+    m_splitView->setSizes({treeWidth, mainWidth->toInt()});
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    if (closeRequested)
+        closeRequested();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QString path = droppedFile(*event);
+    if (!path.isEmpty() && takesDroppedFile && takesDroppedFile(path))
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    const QString path = droppedFile(*event);
+    if (!path.isEmpty() && openDroppedFile && openDroppedFile(path))
+        event->acceptProposedAction();
+}
+
+} // namespace brinemark

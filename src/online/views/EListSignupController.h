@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ui/Shared.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QDialog;
+class QLineEdit;
+
+namespace brinemark
+{
+
+/// The mailing-list sign-up: a small modal window with one field for the address.
+class EListSignupController : public QObject, public Shared<EListSignupController>
+{
+    Q_OBJECT
+
+public:
+    ~EListSignupController() override;
+
+    /// Centres the window and shows it, the field filled from the user's e-mail setting.
+    void display();
+
+    [[nodiscard]] QDialog *window() const { return m_window.get(); }
+
+private:
+    friend class Shared<EListSignupController>;
+    EListSignupController();
+
+    void join(); ///< mails the field's text; an empty field only beeps
+
+    std::unique_ptr<QDialog> m_window;
+    QLineEdit *m_addressField;
+};
+
+} // namespace brinemark

@@ -1,0 +1,17 @@
+#include "ui/WindowPlacement.h"
+
+#include <QScreen>
+#include <QWidget>
+
+namespace brinemark
+{
+
+void centreOnScreen(QWidget &window)
+{
+    const QRect area = window.screen()->availableGeometry();
+    QRect frame(QPoint(), window.frameSize());
+    frame.moveCenter(area.center());
+    window.move(frame.topLeft());
+}
+
+} // namespace brinemark

@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace brinemark
+{
+
+/// Moves a window to the middle of the available area of the screen that it is on.
+void centreOnScreen(QWidget &window);
+
+} // namespace brinemark
