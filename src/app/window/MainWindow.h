@@ -44,6 +44,7 @@ public:
     std::function<bool(const QString &path)> takesDroppedFile;
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -59,6 +60,7 @@ private:
     QToolButton *m_newButton;
     QToolButton *m_deleteButton;
     QToolButton *m_helpButton;
+    bool m_painted = false;
 };
 
 } // namespace brinemark

@@ -1,0 +1,38 @@
+#include <QApplication>
+#include <QMainWindow>
+#include <QTextStream>
+#include <QTimer>
+
+// The yardstick for start-up: the smallest main window that the toolkit can show. Says so on its first paint, as the program
+// does in its log.
+
+namespace
+{
+
+class BareWindow : public QMainWindow
+{
+protected:
+    bool event(QEvent *event) override
+    {
+        const bool handled = QMainWindow::event(event);
+        if (event->type() == QEvent::Paint && !m_shown) {
+            m_shown = true;
+            QTextStream(stderr) << "the main window is on screen" << Qt::endl;
+        }
+        return handled;
+    }
+
+private:
+    bool m_shown = false;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    BareWindow window;
+    window.resize(1080, 720);
+    window.show();
+    return QApplication::exec();
+}
