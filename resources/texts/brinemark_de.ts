@@ -1118,6 +1118,15 @@ Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz 
         <translation>„^0“ ist keine Aquariendatei oder ist beschädigt. Die Datei wurde nicht geöffnet und nicht verändert; Ihre bisher geöffneten Aquarien sind weiterhin geöffnet.</translation>
     </message>
     <message>
+        <source>NotFullyReadMessage</source>
+        <extracomment>^0 is the file&apos;s name.</extracomment>
+        <translation>Nur ein Teil von „^0“ ist geöffnet. Beim Sichern in dieselbe Datei ginge verloren, was nicht gelesen werden konnte. Sichern Sie unter einem anderen Namen, um beides zu behalten.</translation>
+    </message>
+    <message>
+        <source>NotFullyReadTitle</source>
+        <translation>Nicht alles in dieser Datei konnte gelesen werden.</translation>
+    </message>
+    <message>
         <source>NotTested</source>
         <extracomment>Fills the table cells of values that were not tested: a few letters, no digits, not a lone hyphen.</extracomment>
         <translation>k. A.</translation>

@@ -1118,6 +1118,15 @@ In fresh water chloride protects fish from nitrite: about 1 gram of pure salt (s
         <translation>“^0” is not a tank file, or it is damaged. It was not opened and has not been changed; the tanks you had open are still open.</translation>
     </message>
     <message>
+        <source>NotFullyReadMessage</source>
+        <extracomment>^0 is the file&apos;s name.</extracomment>
+        <translation>Only part of “^0” is open. Saving to the same file would remove what could not be read. Save under another name to keep both.</translation>
+    </message>
+    <message>
+        <source>NotFullyReadTitle</source>
+        <translation>Not everything in this file could be read.</translation>
+    </message>
+    <message>
         <source>NotTested</source>
         <extracomment>Fills the table cells of values that were not tested: a few letters, no digits, not a lone hyphen.</extracomment>
         <translation>n/a</translation>

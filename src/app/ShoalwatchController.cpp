@@ -151,21 +151,23 @@ bool ShoalwatchController::askKeepBackupOfOlderFile()
     return runAlertPanel(m_window.get(), alert) == AlertDefault;
 }
 
-DocumentHost::ChangedOnDisk ShoalwatchController::askChangedOnDisk(const QString &path)
+DocumentHost::OverwriteAnswer ShoalwatchController::askBeforeOverwriting(const QString &path, OverwriteReason reason)
 {
+    const bool changed = reason == OverwriteReason::ChangedOnDisk;
     const Alert alert{AlertStyle::Critical,
-                      text("ChangedOnDiskTitle"),
-                      fillPlaceholders(text("ChangedOnDiskMessage"), {QFileInfo(path).fileName()}),
+                      text(changed ? "ChangedOnDiskTitle"_key : "NotFullyReadTitle"_key),
+                      fillPlaceholders(text(changed ? "ChangedOnDiskMessage"_key : "NotFullyReadMessage"_key),
+                                       {QFileInfo(path).fileName()}),
                       text("ChangedOnDiskSaveAs"),
                       text("ChangedOnDiskOverwrite"),
                       text("CancelLabel")};
     switch (runAlertPanel(m_window.get(), alert)) {
     case AlertDefault:
-        return ChangedOnDisk::SaveElsewhere;
+        return OverwriteAnswer::SaveElsewhere;
     case AlertAlternate:
-        return ChangedOnDisk::Overwrite;
+        return OverwriteAnswer::Overwrite;
     default:
-        return ChangedOnDisk::Cancel;
+        return OverwriteAnswer::Cancel;
     }
 }
 

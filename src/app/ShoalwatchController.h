@@ -81,7 +81,7 @@ private:
     void updateColumnInfo() override;
     void forgetUndo() override;
     bool askKeepBackupOfOlderFile() override;
-    ChangedOnDisk askChangedOnDisk(const QString &path) override;
+    OverwriteAnswer askBeforeOverwriting(const QString &path, OverwriteReason reason) override;
     void reportReadError() override;
     void reportSaveError(const QString &path, const QString &reason) override;
 

@@ -65,6 +65,7 @@ void TankDocument::resetToUntitled()
     m_host.reloadTree();
     m_documentDictionary = {};
     m_lastKnown = {};
+    m_notFullyRead = false;
     markUnchanged();
     m_host.display();
     m_host.fitTreeColumn();
@@ -79,7 +80,8 @@ bool TankDocument::readTankFileWithPath(const QString &path)
     if (path == m_representedFilename)
         return true;
     setRepresentedFilename(path);
-    const BusyCursor busy;
+    m_notFullyRead = true; // until the last tank is there, saving would lose what is still in the file
+    BusyCursor busy;
     TankFileContent content = readTankDictionary(path);
     if (!content.ok) {
         qCWarning(logFile) << "cannot read" << path << content.error;
@@ -104,6 +106,7 @@ bool TankDocument::readTankFileWithPath(const QString &path)
         m_host.reportReadError();
         return false;
     }
+    m_notFullyRead = false;
     m_host.fitTreeColumn();
     m_host.selectTreeRow(result.selectedRow);
     m_host.refreshTree();
@@ -112,18 +115,28 @@ bool TankDocument::readTankFileWithPath(const QString &path)
     return true;
 }
 
+TankDocument::WriteOutcome TankDocument::askIfOverwritingLoses(const QString &path)
+{
+    using Answer = DocumentHost::OverwriteAnswer;
+    using Reason = DocumentHost::OverwriteReason;
+    // Another file than the open one has been asked about where it was chosen.
+    if (path != m_representedFilename || !(m_notFullyRead || changedOnDisk(path, m_lastKnown)))
+        return WriteOutcome::Written;
+    switch (m_host.askBeforeOverwriting(path, m_notFullyRead ? Reason::NotFullyRead : Reason::ChangedOnDisk)) {
+    case Answer::Overwrite:
+        return WriteOutcome::Written;
+    case Answer::SaveElsewhere:
+        return WriteOutcome::SaveElsewhere;
+    case Answer::Cancel:
+        break;
+    }
+    return WriteOutcome::Cancelled;
+}
+
 TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &path)
 {
-    if (path == m_representedFilename && changedOnDisk(path, m_lastKnown)) {
-        switch (m_host.askChangedOnDisk(path)) {
-        case DocumentHost::ChangedOnDisk::Overwrite:
-            break;
-        case DocumentHost::ChangedOnDisk::SaveElsewhere:
-            return WriteOutcome::SaveElsewhere;
-        case DocumentHost::ChangedOnDisk::Cancel:
-            return WriteOutcome::Cancelled;
-        }
-    }
+    if (const WriteOutcome answer = askIfOverwritingLoses(path); answer != WriteOutcome::Written)
+        return answer;
     m_host.updateColumnInfo();
     plist::Dict root =
         tankFileDictionary(m_list, m_host.selectedTreeRow(), product::packedVersion(product::shortVersion()));
@@ -135,6 +148,7 @@ TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &pa
         return WriteOutcome::Failed;
     }
     m_lastKnown = written.stamp;
+    m_notFullyRead = false;
     m_changeCount = 0;
     setRepresentedFilename(path);
     m_documentDictionary = std::move(root);

@@ -33,8 +33,9 @@ public:
 
     /// The three questions and reports; each answers before it returns.
     virtual bool askKeepBackupOfOlderFile() = 0;
-    enum class ChangedOnDisk { Overwrite, SaveElsewhere, Cancel };
-    virtual ChangedOnDisk askChangedOnDisk(const QString &path) = 0;
+    enum class OverwriteAnswer { Overwrite, SaveElsewhere, Cancel };
+    enum class OverwriteReason { ChangedOnDisk, NotFullyRead };
+    virtual OverwriteAnswer askBeforeOverwriting(const QString &path, OverwriteReason reason) = 0;
     virtual void reportReadError() = 0;
     virtual void reportSaveError(const QString &path, const QString &reason) = 0;
 };
@@ -74,6 +75,7 @@ public:
 
 private:
     void resetToUntitled();
+    WriteOutcome askIfOverwritingLoses(const QString &path);
     void setRepresentedFilename(const QString &path);
     void setEdited(bool edited);
     void markUnchanged();
@@ -82,7 +84,8 @@ private:
     DocumentHost &m_host;
     QString m_representedFilename;
     plist::Dict m_documentDictionary;
-    FileStamp m_lastKnown; ///< the file as last read or written
+    FileStamp m_lastKnown;      ///< the file as last read or written
+    bool m_notFullyRead = false; ///< the file holds more than the tanks in memory
     quint32 m_changeCount = 0;
     bool m_edited = false;
 };

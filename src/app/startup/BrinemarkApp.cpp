@@ -16,6 +16,7 @@ BrinemarkApp::BrinemarkApp(int &argc, char **argv)
     setApplicationDisplayName(QLatin1String(product::name));
     setApplicationVersion(product::shortVersion());
     setDesktopFileName(QStringLiteral("brinemark"));
+    setQuitOnLastWindowClosed(false); // the delegate says when, after its questions
     setWindowIcon(icon("Brinemark"));
 }
 
