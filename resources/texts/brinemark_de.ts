@@ -682,12 +682,46 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Diagramm …</translation>
     </message>
     <message>
+        <source>HelpBack</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
         <source>HelpButton</source>
         <translation>Hilfe</translation>
     </message>
     <message>
         <source>HelpButtonToolTip</source>
         <translation>Diese Ansicht erklären</translation>
+    </message>
+    <message>
+        <source>HelpFind</source>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
+    <message>
+        <source>HelpFindCount</source>
+        <extracomment>^0 is how often the text occurs</extracomment>
+        <translation>^0 gefunden</translation>
+    </message>
+    <message>
+        <source>HelpFindNone</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>HelpForward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>HelpHome</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>HelpPageTitle</source>
+        <extracomment>^0 is the page&apos;s title</extracomment>
+        <translation>^0 – Brinemark-Hilfe</translation>
+    </message>
+    <message>
+        <source>HelpTitle</source>
+        <translation>Brinemark-Hilfe</translation>
     </message>
     <message>
         <source>HideCalculatorWindow</source>

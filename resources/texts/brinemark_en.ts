@@ -682,12 +682,46 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>Graph…</translation>
     </message>
     <message>
+        <source>HelpBack</source>
+        <translation>Back</translation>
+    </message>
+    <message>
         <source>HelpButton</source>
         <translation>Help</translation>
     </message>
     <message>
         <source>HelpButtonToolTip</source>
         <translation>Explain this view</translation>
+    </message>
+    <message>
+        <source>HelpFind</source>
+        <translation>Find on this page</translation>
+    </message>
+    <message>
+        <source>HelpFindCount</source>
+        <extracomment>^0 is how often the text occurs</extracomment>
+        <translation>^0 found</translation>
+    </message>
+    <message>
+        <source>HelpFindNone</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>HelpForward</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>HelpHome</source>
+        <translation>Start Page</translation>
+    </message>
+    <message>
+        <source>HelpPageTitle</source>
+        <extracomment>^0 is the page&apos;s title</extracomment>
+        <translation>^0 – Brinemark Help</translation>
+    </message>
+    <message>
+        <source>HelpTitle</source>
+        <translation>Brinemark Help</translation>
     </message>
     <message>
         <source>HideCalculatorWindow</source>

@@ -23,7 +23,8 @@ inline constexpr std::array iconNames{
     "StateInRange", "StateNear", "StateOut", "StateNotTested", "StateOverdue", "StateDone", "AlertCritical",
     "AlertQuestion", "AlertInformation",
     // Commands.
-    "Undo", "Redo", "Copy", "Paste", "Open", "Save", "NewFile", "Settings", "Mail", "Web", "Update",
+    "Undo", "Redo", "Copy", "Paste", "Open", "Save", "NewFile", "Settings", "Mail", "Web", "Update", "Back", "Forward",
+    "Home",
     // The program itself.
     "Brinemark"};
 

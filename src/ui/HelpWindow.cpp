@@ -1,0 +1,266 @@
+#include "ui/HelpWindow.h"
+
+#include "base/text/Texts.h"
+#include "ui/Colours.h"
+#include "ui/Desktop.h"
+#include "ui/Icons.h"
+
+#include <QAction>
+#include <QDir>
+#include <QEvent>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace brinemark
+{
+
+namespace
+{
+
+QString bookFolder()
+{
+    for (const QString &language : textLanguages()) {
+        const QString folder = QStringLiteral(":/help/") + language;
+        if (QFile::exists(folder + QStringLiteral("/start.html")))
+            return folder;
+    }
+    return QStringLiteral(":/help/en");
+}
+
+QUrl urlOfPage(const QString &fileName, const QString &fragment = {})
+{
+    QUrl url(QStringLiteral("qrc") + bookFolder() + QLatin1Char('/') + fileName);
+    if (!fragment.isEmpty())
+        url.setFragment(fragment);
+    return url;
+}
+
+/// The name of the page on which a heading or row has this id; empty when none has.
+QString pageWithId(const QString &id)
+{
+    const QRegularExpression mark(QStringLiteral("(?:id|name)=\"%1\"").arg(QRegularExpression::escape(id)));
+    const QDir folder(bookFolder());
+    for (const QString &name : folder.entryList({QStringLiteral("*.html")}, QDir::Files)) {
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::ReadOnly) && mark.match(QString::fromUtf8(file.readAll())).hasMatch())
+            return name;
+    }
+    return {};
+}
+
+} // namespace
+
+void showHelp(const QString &anchor)
+{
+    HelpWindow::sharedInstance().showAnchor(anchor);
+}
+
+void closeHelp()
+{
+    HelpWindow::destroyShared();
+}
+
+HelpWindow::HelpWindow()
+    : m_browser(new QTextBrowser)
+    , m_findField(new QLineEdit)
+    , m_findResult(new QLabel)
+{
+    setObjectName(QStringLiteral("helpWindow"));
+    setWindowTitle(text("HelpTitle"));
+    setWindowIcon(icon("Help"));
+    resize(720, 560);
+
+    m_browser->setObjectName(QStringLiteral("helpBrowser"));
+    m_browser->setAccessibleName(text("HelpTitle"));
+    m_browser->setOpenLinks(false); // web and mail addresses leave through the desktop's one door
+    m_browser->setFrameShape(QFrame::NoFrame);
+    connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
+    connect(m_browser, &QTextBrowser::sourceChanged, this, [this] {
+        setWindowTitle(fillPlaceholders(text("HelpPageTitle"), {m_browser->documentTitle()}));
+        markMatches();
+    });
+
+    m_findField->setObjectName(QStringLiteral("helpFind"));
+    m_findField->setAccessibleName(text("HelpFind"));
+    m_findField->setPlaceholderText(text("HelpFind"));
+    m_findField->setClearButtonEnabled(true);
+    m_findField->setFixedWidth(220);
+    connect(m_findField, &QLineEdit::textEdited, this, &HelpWindow::findFromStart);
+    connect(m_findField, &QLineEdit::textChanged, this, &HelpWindow::markMatches);
+    connect(m_findField, &QLineEdit::returnPressed, this, [this] { find(false); });
+    m_findResult->setObjectName(QStringLiteral("helpFindResult"));
+
+    buildButtons();
+    applyStyle();
+}
+
+void HelpWindow::buildButtons()
+{
+    auto *bar = new QHBoxLayout;
+    bar->setContentsMargins(8, 8, 8, 8);
+    bar->setSpacing(4);
+    const auto add = [&](const char *name, const char *iconName, const QString &title, const QKeySequence &shortcut) {
+        auto *button = new QToolButton;
+        button->setObjectName(QLatin1String(name));
+        button->setIcon(icon(iconName));
+        button->setIconSize(QSize(20, 20));
+        button->setAutoRaise(true);
+        button->setAccessibleName(title);
+        button->setToolTip(QStringLiteral("%1 (%2)").arg(title, shortcut.toString(QKeySequence::NativeText)));
+        button->setShortcut(shortcut);
+        bar->addWidget(button);
+        return button;
+    };
+    QToolButton *back = add("helpBack", "Back", text("HelpBack"), QKeySequence(Qt::ALT | Qt::Key_Left));
+    QToolButton *forward = add("helpForward", "Forward", text("HelpForward"), QKeySequence(Qt::ALT | Qt::Key_Right));
+    QToolButton *home = add("helpHome", "Home", text("HelpHome"), QKeySequence(Qt::ALT | Qt::Key_Home));
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(back, &QToolButton::clicked, m_browser, &QTextBrowser::backward);
+    connect(forward, &QToolButton::clicked, m_browser, &QTextBrowser::forward);
+    connect(home, &QToolButton::clicked, this, [this] { m_browser->setSource(urlOfAnchor({})); });
+    connect(m_browser, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+    connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+    bar->addStretch();
+    bar->addWidget(m_findResult);
+    bar->addSpacing(4);
+    bar->addWidget(m_findField);
+
+    const auto onKeys = [this](const QKeySequence &keys, auto act) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
+    };
+    onKeys(QKeySequence::Find, [this] {
+        m_findField->setFocus(Qt::ShortcutFocusReason);
+        m_findField->selectAll();
+    });
+    onKeys(QKeySequence(Qt::Key_F3), [this] { find(false); });
+    onKeys(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { find(true); });
+    onKeys(QKeySequence(Qt::Key_Escape), [this] { close(); });
+
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addLayout(bar);
+    auto *line = new QFrame;
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    rows->addWidget(line);
+    rows->addWidget(m_browser);
+    m_browser->setFocus();
+}
+
+QUrl HelpWindow::urlOfAnchor(const QString &anchor)
+{
+    const QString page = anchor + QStringLiteral(".html");
+    if (!anchor.isEmpty() && !anchor.contains(QLatin1Char('/')) &&
+        QFile::exists(bookFolder() + QLatin1Char('/') + page))
+        return urlOfPage(page);
+    const QString found = anchor.isEmpty() ? QString() : pageWithId(anchor);
+    return found.isEmpty() ? urlOfPage(QStringLiteral("start.html")) : urlOfPage(found, anchor);
+}
+
+void HelpWindow::showAnchor(const QString &anchor)
+{
+    show(); // laid out first: an anchor's place is known only at the window's real width
+    m_browser->setSource(urlOfAnchor(anchor));
+    raise();
+    activateWindow();
+}
+
+void HelpWindow::follow(const QUrl &url)
+{
+    if (url.isRelative() || url.scheme() == QLatin1String("qrc"))
+        m_browser->setSource(m_browser->source().resolved(url));
+    else
+        desktop::openUrl(url);
+}
+
+void HelpWindow::findFromStart()
+{
+    // Each further letter narrows the present match rather than jumping on to the next one.
+    QTextCursor cursor = m_browser->textCursor();
+    cursor.setPosition(cursor.selectionStart());
+    m_browser->setTextCursor(cursor);
+    if (!m_findField->text().isEmpty())
+        find(false);
+}
+
+void HelpWindow::find(bool backward)
+{
+    const QString wanted = m_findField->text();
+    const QTextDocument::FindFlags flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+    if (wanted.isEmpty() || m_browser->find(wanted, flags))
+        return;
+    const QTextCursor before = m_browser->textCursor();
+    m_browser->moveCursor(backward ? QTextCursor::End : QTextCursor::Start);
+    if (!m_browser->find(wanted, flags))
+        m_browser->setTextCursor(before);
+}
+
+void HelpWindow::markMatches()
+{
+    const QString wanted = m_findField->text();
+    QList<QTextEdit::ExtraSelection> marks;
+    QColor tint = palette().color(QPalette::Highlight);
+    tint.setAlpha(70);
+    QTextCursor cursor(m_browser->document());
+    while (!wanted.isEmpty() && !(cursor = m_browser->document()->find(wanted, cursor)).isNull()) {
+        QTextEdit::ExtraSelection mark;
+        mark.cursor = cursor;
+        mark.format.setBackground(tint);
+        marks.append(mark);
+    }
+    m_browser->setExtraSelections(marks);
+    if (wanted.isEmpty())
+        m_findResult->clear();
+    else if (marks.isEmpty())
+        m_findResult->setText(text("HelpFindNone"));
+    else
+        m_findResult->setText(fillPlaceholders(text("HelpFindCount"), {QString::number(marks.size())}));
+}
+
+void HelpWindow::applyStyle()
+{
+    // The match keeps its strong colour while the search field has the focus.
+    QPalette shown = palette();
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+        shown.setColor(QPalette::Inactive, role, shown.color(QPalette::Active, role));
+    m_browser->setPalette(shown);
+    QPalette secondary = palette();
+    secondary.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, palette()));
+    m_findResult->setPalette(secondary);
+
+    const QString link = colour(ColourRole::Accent, palette()).name();
+    m_browser->document()->setDocumentMargin(24);
+    m_browser->document()->setDefaultStyleSheet(
+        QStringLiteral("a { color: %1; text-decoration: none; } p, ul, ol { margin-top: 0; margin-bottom: 8px; }"
+                       "li { margin-bottom: 4px; } h1 { font-size: x-large; margin-top: 0; margin-bottom: 12px; }"
+                       "h2 { font-size: large; margin-top: 16px; margin-bottom: 8px; }"
+                       "table { margin-bottom: 8px; } td, th { padding: 3px 16px 3px 0; }")
+            .arg(link));
+}
+
+void HelpWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    // Colours go into a page when it is read, so it is read again, at the same place.
+    applyStyle();
+    if (m_browser->source().isEmpty())
+        return;
+    const int place = m_browser->verticalScrollBar()->value();
+    m_browser->reload();
+    m_browser->verticalScrollBar()->setValue(place);
+}
+
+} // namespace brinemark

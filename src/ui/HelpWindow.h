@@ -1,0 +1,50 @@
+#pragma once
+
+#include "ui/Shared.h"
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QTextBrowser;
+class QUrl;
+
+namespace brinemark
+{
+
+/// Shows the help book at an anchor: a page's name ("conditions") or the id of any heading in it ("targets"). An
+/// unknown or empty anchor shows the start page.
+void showHelp(const QString &anchor = {});
+
+/// Destroys the help window; called at quit.
+void closeHelp();
+
+/// The help book: pages of plain HTML in the user's language, English where there are none.
+class HelpWindow : public QWidget, public Shared<HelpWindow>
+{
+    Q_OBJECT
+    friend class Shared<HelpWindow>;
+    HelpWindow();
+
+public:
+    /// The address of an anchor in the book of the user's language.
+    [[nodiscard]] static QUrl urlOfAnchor(const QString &anchor);
+    void showAnchor(const QString &anchor);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void follow(const QUrl &url);
+    void find(bool backward);
+    void findFromStart();
+    void markMatches();
+    void applyStyle();
+    void buildButtons();
+
+    QTextBrowser *m_browser;
+    QLineEdit *m_findField;
+    QLabel *m_findResult;
+};
+
+} // namespace brinemark

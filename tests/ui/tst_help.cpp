@@ -1,0 +1,254 @@
+#include "ui/HelpWindow.h"
+
+#include "base/text/Texts.h"
+#include "ui/Desktop.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QSet>
+#include <QTest>
+#include <QTextBrowser>
+#include <QToolButton>
+
+using namespace brinemark;
+
+namespace
+{
+
+const QStringList &languages()
+{
+    static const QStringList all{QStringLiteral("en"), QStringLiteral("de")};
+    return all;
+}
+
+QStringList pagesOf(const QString &language)
+{
+    return QDir(QStringLiteral(":/help/") + language).entryList({QStringLiteral("*.html")}, QDir::Files);
+}
+
+QString contentOf(const QString &language, const QString &page)
+{
+    QFile file(QStringLiteral(":/help/%1/%2").arg(language, page));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStringList captured(const QString &content, const char *pattern)
+{
+    QStringList found;
+    auto matches = QRegularExpression(QLatin1String(pattern)).globalMatch(content);
+    while (matches.hasNext())
+        found.append(matches.next().captured(1));
+    return found;
+}
+
+QStringList anchorsOf(const QString &content)
+{
+    return captured(content, "(?:id|name)=\"([^\"]*)\"");
+}
+QStringList linksOf(const QString &content)
+{
+    return captured(content, "href=\"([^\"]*)\"");
+}
+
+QWidget *window()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (widget->objectName() == QLatin1String("helpWindow"))
+            return widget;
+    return nullptr;
+}
+
+template <class T>
+T *part(const char *name)
+{
+    return window()->findChild<T *>(QLatin1String(name));
+}
+
+QString shownPage()
+{
+    return part<QTextBrowser>("helpBrowser")->source().fileName();
+}
+
+} // namespace
+
+class TestHelp : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { setTextLanguages({QStringLiteral("en")}); }
+
+    void cleanup()
+    {
+        closeHelp();
+        QVERIFY(!window());
+        desktop::setUrlHandler({});
+    }
+
+    void everyPageIsWholeAndEveryLinkResolves_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("page");
+        for (const QString &language : languages())
+            for (const QString &page : pagesOf(language))
+                QTest::addRow("%s/%s", qPrintable(language), qPrintable(page)) << language << page;
+    }
+
+    void everyPageIsWholeAndEveryLinkResolves()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, page);
+        const QString content = contentOf(language, page);
+        QVERIFY(content.contains(QLatin1String("<html lang=\"%1\">").arg(language)));
+        QVERIFY(!captured(content, "<title>([^<]+)</title>").isEmpty());
+        QVERIFY(!content.contains(QRegularExpression(QStringLiteral("style=|color|<font"))));
+        for (const QString &link : linksOf(content)) {
+            const QUrl url(link);
+            if (!url.isRelative())
+                continue;
+            const QString target = url.path().isEmpty() ? page : url.path();
+            QVERIFY2(pagesOf(language).contains(target), qPrintable(link));
+            if (url.hasFragment())
+                QVERIFY2(anchorsOf(contentOf(language, target)).contains(url.fragment()), qPrintable(link));
+        }
+    }
+
+    void bothLanguagesHaveTheSamePagesAnchorsAndLinks()
+    {
+        QVERIFY(pagesOf(languages().first()).size() >= 12);
+        QCOMPARE(pagesOf(languages().last()), pagesOf(languages().first()));
+        QSet<QString> seen;
+        for (const QString &page : pagesOf(languages().first())) {
+            const QString english = contentOf(languages().first(), page);
+            const QString german = contentOf(languages().last(), page);
+            QCOMPARE(anchorsOf(german), anchorsOf(english));
+            QCOMPARE(linksOf(german), linksOf(english));
+            for (const QString &anchor : anchorsOf(english)) {
+                QVERIFY2(!seen.contains(anchor), qPrintable(anchor)); // an anchor alone has to name its page
+                seen.insert(anchor);
+            }
+        }
+    }
+
+    void everyPageCanBeReachedFromTheStart()
+    {
+        QStringList open{QStringLiteral("start.html")};
+        QSet<QString> reached;
+        while (!open.isEmpty()) {
+            const QString page = open.takeFirst();
+            if (reached.contains(page))
+                continue;
+            reached.insert(page);
+            for (const QString &link : linksOf(contentOf(QStringLiteral("en"), page)))
+                if (QUrl(link).isRelative() && !QUrl(link).path().isEmpty())
+                    open.append(QUrl(link).path());
+        }
+        QCOMPARE(reached.size(), pagesOf(QStringLiteral("en")).size());
+    }
+
+    void opensAtAnAnchor_data()
+    {
+        QTest::addColumn<QString>("anchor");
+        QTest::addColumn<QString>("page");
+        QTest::newRow("a page") << "conditions"
+                                << "conditions.html";
+        QTest::newRow("a heading") << "targets"
+                                   << "conditions.html";
+        QTest::newRow("unknown") << "kraken"
+                                 << "start.html";
+        QTest::newRow("a way out of the book") << "../de/conditions"
+                                               << "start.html";
+        QTest::newRow("a pattern") << ".*"
+                                   << "start.html";
+        QTest::newRow("none") << ""
+                              << "start.html";
+    }
+
+    void opensAtAnAnchor()
+    {
+        QFETCH(QString, anchor);
+        QFETCH(QString, page);
+        showHelp(anchor);
+        QVERIFY(window()->isVisible());
+        QVERIFY(!window()->isModal());
+        QCOMPARE(window()->size(), QSize(720, 560));
+        QCOMPARE(shownPage(), page);
+    }
+
+    void aHeadingIsScrolledTo()
+    {
+        showHelp(QStringLiteral("targets"));
+        QTRY_VERIFY(part<QTextBrowser>("helpBrowser")->verticalScrollBar()->value() > 100);
+    }
+
+    void oneWindowInTheUsersLanguage()
+    {
+        setTextLanguages({QStringLiteral("de_AT")});
+        showHelp();
+        QWidget *first = window();
+        QCOMPARE(part<QTextBrowser>("helpBrowser")->source().path(), QStringLiteral("/help/de/start.html"));
+        setTextLanguages({QStringLiteral("fr")});
+        showHelp();
+        QCOMPARE(window(), first);
+        QCOMPARE(part<QTextBrowser>("helpBrowser")->source().path(), QStringLiteral("/help/en/start.html"));
+    }
+
+    void linksOfTheBookStayAndOthersLeave()
+    {
+        QList<QUrl> opened;
+        desktop::setUrlHandler([&](const QUrl &url) {
+            opened.append(url);
+            return true;
+        });
+        showHelp();
+        auto *browser = part<QTextBrowser>("helpBrowser");
+        Q_EMIT browser->anchorClicked(QUrl(QStringLiteral("qrc:/help/en/schedule.html#overdue")));
+        QCOMPARE(shownPage(), QStringLiteral("schedule.html"));
+        QVERIFY(opened.isEmpty());
+        const QUrl outside(QStringLiteral("https://www.brinemark.example/"));
+        Q_EMIT browser->anchorClicked(outside);
+        QCOMPARE(opened, QList<QUrl>{outside});
+        QCOMPARE(shownPage(), QStringLiteral("schedule.html"));
+    }
+
+    void buttonsGoBackForwardAndHome()
+    {
+        showHelp();
+        QVERIFY(!part<QToolButton>("helpBack")->isEnabled());
+        showHelp(QStringLiteral("files"));
+        QTest::mouseClick(part<QToolButton>("helpBack"), Qt::LeftButton);
+        QCOMPARE(shownPage(), QStringLiteral("start.html"));
+        QTest::mouseClick(part<QToolButton>("helpForward"), Qt::LeftButton);
+        QCOMPARE(shownPage(), QStringLiteral("files.html"));
+        QTest::mouseClick(part<QToolButton>("helpHome"), Qt::LeftButton);
+        QCOMPARE(shownPage(), QStringLiteral("start.html"));
+    }
+
+    void findsOnThePage()
+    {
+        showHelp(QStringLiteral("files"));
+        auto *browser = part<QTextBrowser>("helpBrowser");
+        auto *field = part<QLineEdit>("helpFind");
+        QTest::keyClicks(field, QStringLiteral("BACKUP"));
+        const QTextCursor first = browser->textCursor();
+        QCOMPARE(first.selectedText().toLower(), QStringLiteral("backup"));
+        QTest::keyClick(field, Qt::Key_Return);
+        QVERIFY(browser->textCursor().selectionStart() > first.selectionEnd());
+        QVERIFY(browser->extraSelections().size() > 2);
+        for (qsizetype i = 1; i < browser->extraSelections().size(); ++i)
+            QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(browser->textCursor().selectionStart(), first.selectionStart()); // once round
+        field->clear();
+        QVERIFY(part<QLabel>("helpFindResult")->text().isEmpty());
+        QTest::keyClicks(field, QStringLiteral("kraken"));
+        QCOMPARE(part<QLabel>("helpFindResult")->text(), text("HelpFindNone"));
+    }
+};
+
+QTEST_MAIN(TestHelp)
+#include "tst_help.moc"
