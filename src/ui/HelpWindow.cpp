@@ -150,10 +150,6 @@ void HelpWindow::buildButtons()
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addLayout(bar);
-    auto *line = new QFrame;
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Sunken);
-    rows->addWidget(line);
     rows->addWidget(m_browser);
     m_browser->setFocus();
 }
@@ -241,11 +237,12 @@ void HelpWindow::applyStyle()
 
     const QString link = colour(ColourRole::Accent, palette()).name();
     m_browser->document()->setDocumentMargin(24);
+    m_browser->document()->setIndentWidth(28);
     m_browser->document()->setDefaultStyleSheet(
         QStringLiteral("a { color: %1; text-decoration: none; } p, ul, ol { margin-top: 0; margin-bottom: 8px; }"
                        "li { margin-bottom: 4px; } h1 { font-size: x-large; margin-top: 0; margin-bottom: 12px; }"
                        "h2 { font-size: large; margin-top: 16px; margin-bottom: 8px; }"
-                       "table { margin-bottom: 8px; } td, th { padding: 3px 16px 3px 0; }")
+                       "table { margin-bottom: 8px; } td { padding: 3px 16px 3px 0; } th { padding: 10px 16px 3px 0; }")
             .arg(link));
 }
 
