@@ -127,7 +127,13 @@ int AlertDialog::runAsPanel(AlertDialog *dialog, QWidget *parent)
     const int cancelled = panel->cancelAnswer();
     panel->setObjectName(QStringLiteral("alertPanel"));
     centreOver(parent, panel);
+    // Whoever is busy waits for the answer now: no waiting cursor over the question.
+    const bool busy = QGuiApplication::overrideCursor();
+    if (busy)
+        QGuiApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
     const int answer = panel->exec();
+    if (busy)
+        QGuiApplication::restoreOverrideCursor();
     if (!panel)
         return cancelled;
     delete panel;
