@@ -14,6 +14,13 @@ namespace
 /// Enough for declaration, document type, a comment or two and the first key.
 constexpr qint64 examinedBytes = 16 * 1024;
 
+/// Not every writer puts the keys in order, so that any tank may come first.
+bool isTankKey(const QString &key)
+{
+    const int position = key.toInt();
+    return position > 0 && key == tankfile::tankKey(position);
+}
+
 } // namespace
 
 bool looksLikeTankFile(const QString &path)
@@ -29,7 +36,7 @@ bool looksLikeTankFile(const QString &path)
     if (!xml.readNextStartElement() || xml.name() != u"key")
         return false;
     const QString firstKey = xml.readElementText();
-    return firstKey == tankfile::fileAttributesKey || firstKey == tankfile::tankKey(1);
+    return firstKey == tankfile::fileAttributesKey || isTankKey(firstKey);
 }
 
 } // namespace brinemark
