@@ -103,12 +103,18 @@ int TankListController::selectedRow() const
     return -1;
 }
 
-void TankListController::selectRow(int row)
+QModelIndex TankListController::visibleIndex(int row) const
 {
-    QModelIndex index = m_model->index(0, 0);
+    QModelIndex index = row < 0 ? QModelIndex() : m_model->index(0, 0);
     for (int i = 0; i < row && index.isValid(); ++i)
         index = m_outline->indexBelow(index);
-    m_outline->setCurrentIndex(row >= 0 && index.isValid() ? index : m_model->index(0, 0));
+    return index;
+}
+
+void TankListController::selectRow(int row)
+{
+    const QModelIndex index = visibleIndex(row);
+    m_outline->setCurrentIndex(index.isValid() ? index : m_model->index(0, 0));
 }
 
 TreeItem TankListController::currentSelectedItem() const
@@ -141,28 +147,31 @@ void TankListController::select(const TreeItem &item)
 void TankListController::forgetRows()
 {
     const QScopedValueRollback rebuilding(m_rebuilding, true);
-    m_list.clear();
+    const TankList going = std::exchange(m_list, {}); // until the rows no longer point to them
     m_model->reload();
+    m_selected = {};
     setCurrentTank(nullptr);
     m_dragData = {};
 }
 
 void TankListController::reload()
 {
-    const int row = selectedRow();
-    const TreeItem selected = currentSelectedItem();
+    // The list may have changed already, so the rows can no longer be asked what they stand for.
+    int row = selectedRow();
+    const TreeItem selected = m_selected.tank == currentTank() ? m_selected : TreeItem();
     const int scrolled = m_outline->verticalScrollBar()->value();
     {
         const QScopedValueRollback rebuilding(m_rebuilding, true);
         m_model->reload();
         for (const auto &tank : m_list)
             expandRows(*tank);
-        // A row that has gone leaves its place to the one that moved up.
-        const QModelIndex again = m_model->indexOf(selected);
+        // A row that has gone leaves its place to the one that moved up, the last one to the last.
+        QModelIndex again = m_model->indexOf(selected);
+        for (; !again.isValid() && row >= 0; --row)
+            again = visibleIndex(row);
         if (again.isValid())
             m_outline->setCurrentIndex(again);
-        else if (row >= 0 && !m_list.isEmpty())
-            selectRow(row);
+        m_selected = currentSelectedItem();
     }
     m_outline->verticalScrollBar()->setValue(scrolled);
 }
@@ -183,6 +192,7 @@ void TankListController::fitColumn()
 void TankListController::outlineViewSelectionDidChange()
 {
     const TreeItem item = currentSelectedItem();
+    m_selected = item;
     if (item.isNone()) {
         setCurrentTank(nullptr);
         m_shell->changeView(MainView::None);

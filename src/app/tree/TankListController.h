@@ -70,6 +70,7 @@ private:
     void livestockChanged(Tank &, ContainerKind) override { updateDisplay(); }
 
     void connectOutline();
+    [[nodiscard]] QModelIndex visibleIndex(int row) const; ///< invalid when there is no such row
     bool rename(const TreeItem &item, const QString &name);
     void rowExpanded(const QModelIndex &index, bool expanded);
     void doubleClickAction(const TreeItem &item);
@@ -89,6 +90,7 @@ private:
     std::weak_ptr<Tank> m_currentTank;
     TankTreeModel *m_model;
     QPointer<TankOutlineView> m_outline;
+    TreeItem m_selected; ///< as last shown; only compared, for by now it may be gone
     DragData m_dragData;
     bool m_rebuilding = false; ///< the rows are being put back: nobody has opened or selected anything
 };

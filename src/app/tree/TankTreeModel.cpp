@@ -49,11 +49,14 @@ TreeItem TankTreeModel::itemAt(const QModelIndex &index) const
 {
     if (!index.isValid())
         return {};
-    if (Container *container = containerOf(index.internalId()))
-        return TreeItem(static_cast<ItemData &>(*container->recordAt(index.row())));
+    // A row whose record or tank has just been taken out stands for nothing until the rows are shown afresh.
+    if (Container *container = containerOf(index.internalId())) {
+        return index.row() < container->count() ? TreeItem(static_cast<ItemData &>(*container->recordAt(index.row())))
+                                                : TreeItem();
+    }
     if (Tank *tank = tankOf(index.internalId()))
         return TreeItem(*tank->tankItemsArray()[std::size_t(index.row())]);
-    return TreeItem(*m_list.at(index.row()));
+    return index.row() < m_list.count() ? TreeItem(*m_list.at(index.row())) : TreeItem();
 }
 
 QModelIndex TankTreeModel::indexOf(const TreeItem &item) const
