@@ -107,7 +107,8 @@ int TankTreeModel::rowCount(const QModelIndex &parent) const
 
 bool TankTreeModel::hasChildren(const QModelIndex &parent) const
 {
-    return rowCount(parent) > 0;
+    // A group opens whether or not there is anything in it yet.
+    return parent.isValid() ? itemAt(parent).isExpandable() : !m_list.isEmpty();
 }
 
 QVariant TankTreeModel::data(const QModelIndex &index, int role) const
