@@ -50,7 +50,12 @@ TankOutlineView::TankOutlineView(TankTreeModel &model, QWidget *parent)
 
 void TankOutlineView::keyPressEvent(QKeyEvent *event)
 {
-    if (state() != EditingState && (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)) {
+    // The editor of a name hands on what it has dealt with itself, the Return that ends it among others.
+    if (state() == EditingState) {
+        QTreeView::keyPressEvent(event);
+        return;
+    }
+    if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
         Q_EMIT deleteKeyPressed();
         return;
     }
@@ -175,6 +180,7 @@ void TankOutlineView::dropEvent(QDropEvent *event)
         event->accept();
     else
         event->ignore();
+    stopAutoScroll();
     setState(NoState);
 }
 
