@@ -1,0 +1,172 @@
+#pragma once
+
+#include "app/documents/TankDocument.h"
+#include "app/menus/MenuRules.h"
+#include "app/tree/TankListController.h"
+#include "app/tree/TankTreeModel.h"
+#include "base/text/Texts.h"
+#include "model/LivestockData.h"
+#include "support/AlertDriver.h"
+#include "support/TestHome.h"
+#include "ui/Shell.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QTest>
+#include <QUndoStack>
+
+namespace brinemark::test
+{
+
+/// A window that holds the tank tree, its controller and the open document; the views that the program would put on
+/// screen are written down.
+class TreeWindow final : public Shell, private DocumentHost
+{
+public:
+    explicit TreeWindow(QString savePath = {})
+        : tree(TankListController::sharedInstance())
+        , outline(tree.tankList())
+        , model(static_cast<TankTreeModel *>(outline->model()))
+        , document(tree.list(), *this)
+        , m_savePath(std::move(savePath))
+    {
+        Shell::setShared(this);
+        tree.setShell(*this);
+        tree.openItemEditor = [this](ItemData &item) { edited << item.name; };
+        tree.resetDocument = [this] { document.readTankFileWithPath({}); };
+        tree.canDelete = [this] { return brinemark::canDelete(currentView(), false); };
+        window.setWindowTitle(QStringLiteral("[*]"));
+        window.setCentralWidget(outline);
+        window.resize(240, 700);
+        window.show();
+        window.activateWindow();
+        outline->setFocus();
+    }
+    ~TreeWindow() override
+    {
+        TankListController::destroyShared();
+        Shell::setShared(nullptr);
+    }
+
+    [[nodiscard]] bool read(const QString &path) { return document.readTankFileWithPath(path); }
+    /// Saves, so that nothing counts as changed.
+    [[nodiscard]] bool save()
+    {
+        return document.writeTankFileWithPath(m_savePath) == TankDocument::WriteOutcome::Written;
+    }
+
+    Tank &tank(int index) { return *tree.list().at(index); }
+    std::shared_ptr<Tank> addTank(const QString &name)
+    {
+        appendTank(std::make_shared<Tank>(name));
+        return tree.list().at(tree.list().count() - 1);
+    }
+    /// Adds a livestock record, without telling anybody but the tree.
+    template <class Kind>
+    std::shared_ptr<Kind> add(Tank &tank, const QString &name)
+    {
+        auto record = std::make_shared<Kind>(name, &tank);
+        tank.container(*containerKindOf(record->itemContext()))->appendRecord(record);
+        tree.reload();
+        return record;
+    }
+
+    QModelIndex indexOf(const TreeItem &item) const { return model->indexOf(item); }
+    QModelIndex indexOf(Tank &tank, ContainerKind kind) const { return indexOf(TreeItem(*tank.container(kind))); }
+    QRect rectOf(const TreeItem &item) const { return outline->visualRect(indexOf(item)); }
+    void click(const TreeItem &item) const
+    {
+        QTest::mouseClick(outline->viewport(), Qt::LeftButton, {}, rectOf(item).center());
+    }
+
+    // Shell
+    QWidget *mainWindow() override { return &window; }
+    TankList &tankList() override { return tree.list(); }
+    Tank *currentTank() override { return tree.currentTank(); }
+    QUndoStack &undoManager() override { return undo; }
+    QMenu &dockMenu() override { return dock; }
+    void rebuildDockMenu() override {}
+    void documentModifiedWithChange(bool made) override { document.documentModifiedWithChange(made); }
+    void setEnableDeleteButton(bool) override {}
+    void deleteItem() override
+    {
+        if (currentView() == MainView::LivestockItem)
+            tree.deleteItemDataEntry();
+        else if (brinemark::canDelete(currentView(), false))
+            tree.deleteTankEntry();
+    }
+    void orderFrontAndCheckModified() override {}
+    void showWarningSheet(const QString &, const QString &) override {}
+    void showPreferences() override {}
+    void changeView(MainView view) override
+    {
+        shown = view;
+        views << view;
+    }
+    MainView currentView() const override { return shown; }
+    void updateTree() override { tree.updateDisplay(); }
+    void appendTank(const std::shared_ptr<Tank> &tank) override
+    {
+        tree.list().append(tank);
+        tree.updateDisplay();
+        tree.select(TreeItem(*tank));
+    }
+    void selectInTree(Tank &tank) override { tree.select(TreeItem(tank)); }
+    void selectInTree(Container &container) override { tree.select(TreeItem(container)); }
+    void selectInTree(Record &livestock) override { tree.select(TreeItem(static_cast<ItemData &>(livestock))); }
+    void editNameInTree() override { tree.editName(); }
+
+    TankListController &tree;
+    QMainWindow window;
+    TankOutlineView *outline;
+    TankTreeModel *model;
+    TankDocument document;
+    QUndoStack undo;
+    QMenu dock;
+    MainView shown = MainView::None;
+    QList<MainView> views; ///< every view that was asked for, in order
+    QStringList edited;    ///< the names of the records that the item editor was asked for
+
+private:
+    // DocumentHost, as the main controller does it
+    void showDocumentTitle(const QString &) override {}
+    void showEditedMark(bool isEdited) override { window.setWindowModified(isEdited); }
+    void resetNotificationView() override {}
+    void forgetRows() override { tree.forgetRows(); }
+    void reloadTree() override { tree.reload(); }
+    void fitTreeColumn() override { tree.fitColumn(); }
+    void selectTreeRow(int row) override { tree.selectRow(row); }
+    int selectedTreeRow() const override { return tree.selectedRow(); }
+    void refreshTree() override { tree.updateDisplay(); }
+    void display() override
+    {
+        if (tree.list().isEmpty())
+            appendTank(std::make_shared<Tank>(text("NewTankName")));
+    }
+    void showNotificationIfOnScreen() override {}
+    void updateColumnInfo() override {}
+    void forgetUndo() override { undo.clear(); }
+    bool askKeepBackupOfOlderFile() override { return false; }
+    OverwriteAnswer askBeforeOverwriting(const QString &, OverwriteReason) override
+    {
+        return OverwriteAnswer::Overwrite;
+    }
+    void reportReadError() override {}
+    void reportSaveError(const QString &, const QString &) override {}
+
+    QString m_savePath;
+};
+
+/// Runs a test object with widgets, under a home of its own.
+template <class Test>
+int runWithWidgets(int argc, char **argv)
+{
+    TestHome home;
+    QApplication application(argc, argv);
+    setTextLanguages({QStringLiteral("en")});
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace brinemark::test

@@ -1,0 +1,304 @@
+#include "app/TreeWindow.h"
+
+#include <QAbstractItemModelTester>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+using namespace brinemark;
+using namespace brinemark::test;
+
+namespace
+{
+
+const QString sampleFile = QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml");
+constexpr auto testerMode = QAbstractItemModelTester::FailureReportingMode::QtTest;
+
+QString textOf(const QModelIndex &index)
+{
+    return index.data().toString();
+}
+
+QStringList childTexts(const QAbstractItemModel &model, const QModelIndex &parent)
+{
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(parent); ++row)
+        texts << textOf(model.index(row, 0, parent));
+    return texts;
+}
+
+/// The editor that is open in the tree; null when there is none.
+QLineEdit *openEditor(const TreeWindow &w)
+{
+    return w.outline->viewport()->findChild<QLineEdit *>();
+}
+
+/// Types a name into the editor that F2 opens on the selected row, and ends it with a key.
+void typeName(const TreeWindow &w, const QString &name, Qt::Key endsWith = Qt::Key_Return)
+{
+    QTest::keyClick(w.outline, Qt::Key_F2);
+    QLineEdit *editor = openEditor(w);
+    QVERIFY(editor);
+    editor->selectAll();
+    if (name.isEmpty())
+        QTest::keyClick(editor, Qt::Key_Delete);
+    else
+        QTest::keyClicks(editor, name);
+    QTest::keyClick(editor, endsWith);
+    QTRY_VERIFY(!openEditor(w));
+}
+
+} // namespace
+
+class TestTankTree : public QObject
+{
+    Q_OBJECT
+
+    QString savePath() const { return QDir::home().filePath("tree.xml"); }
+
+private Q_SLOTS:
+    void sampleFileIsAModel()
+    {
+        TreeWindow w(savePath());
+        const QAbstractItemModelTester tester(w.model, testerMode);
+        QVERIFY(w.read(sampleFile));
+        w.outline->expandAll();
+        w.tree.updateDisplay();
+        QVERIFY(!w.read({})); // the untitled document is not one that was read
+        QCOMPARE(w.model->rowCount(), 1);
+    }
+
+    void noTanksIsAModel()
+    {
+        TankList list;
+        TankTreeModel model(list);
+        const QAbstractItemModelTester tester(&model, testerMode);
+        QCOMPARE(model.rowCount(), 0);
+        QVERIFY(!model.hasChildren());
+        QVERIFY(!model.index(0, 0).isValid());
+        QVERIFY(model.itemAt({}).isNone());
+        list.append(std::make_shared<Tank>("only"));
+        model.reload();
+        QCOMPARE(model.rowCount(), 1);
+        list.clear();
+        model.reload();
+    }
+
+    void shapeAndOrder()
+    {
+        TreeWindow w;
+        QVERIFY(w.read(sampleFile));
+        QCOMPARE(w.model->rowCount(), w.tree.list().count());
+        for (int row = 0; row < w.model->rowCount(); ++row) {
+            Tank &tank = w.tank(row);
+            const QModelIndex tankIndex = w.model->index(row, 0);
+            QCOMPARE(textOf(tankIndex), tank.name);
+            QVERIFY(w.model->hasChildren(tankIndex));
+            const QStringList names{text("FishName"),      text("PlantName"),     text("InvertName"),
+                                    text("CoralName"),     text("ConditionName"), text("ScheduleName"),
+                                    text("InventoryName"), text("ExpenseName"),   text("NoteName")};
+            QCOMPARE(childTexts(*w.model, tankIndex), names);
+            for (int i = 0; i < int(containerCount); ++i) {
+                const Container &container = *tank.container(ContainerKind(i));
+                const QModelIndex index = w.model->index(i, 0, tankIndex);
+                const bool opens = i < 4;
+                QCOMPARE(w.model->hasChildren(index), opens);
+                QCOMPARE(w.model->rowCount(index), opens ? container.count() : 0);
+                QVERIFY(!(index.flags() & Qt::ItemIsEditable) && !(index.flags() & Qt::ItemIsDragEnabled));
+                for (int r = 0; r < w.model->rowCount(index); ++r) {
+                    const auto item = std::static_pointer_cast<ItemData>(container.recordAt(r));
+                    const QModelIndex record = w.model->index(r, 0, index);
+                    QCOMPARE(textOf(record), item->name);
+                    QVERIFY(!w.model->hasChildren(record));
+                    QCOMPARE(w.model->indexOf(TreeItem(*item)), record);
+                    QCOMPARE(record.parent(), index);
+                }
+            }
+        }
+    }
+
+    void icons()
+    {
+        const Tank tank("A");
+        QCOMPARE(TreeItem(const_cast<Tank &>(tank)).iconName(), "TankSmall");
+        const QStringList expected{"FishSmall",      "PlantSmall",      "InvertebratesSmall",
+                                   "CoralSmall",     "ConditionsSmall", "ScheduleSmall",
+                                   "InventorySmall", "ExpensesSmall",   "NotesSmall"};
+        QStringList names;
+        for (const Container *container : tank.tankItemsArray())
+            names << TreeItem(*tank.container(container->kind())).iconName();
+        QCOMPARE(names, expected);
+
+        TreeWindow w;
+        Tank &shown = *w.addTank("A");
+        QCOMPARE(TreeItem(*w.add<InvertData>(shown, "shrimp")).iconName(), "InvertebratesSmall");
+        QCOMPARE(TreeItem(*w.add<CoralData>(shown, "coral")).iconName(), "CoralSmall");
+        for (const QModelIndex &index : {w.model->index(0, 0), w.indexOf(shown, ContainerKind::Note)})
+            QVERIFY(!index.data(Qt::DecorationRole).value<QIcon>().isNull());
+    }
+
+    void textsAreBlankWithoutACurrentTank()
+    {
+        TreeWindow w;
+        w.addTank("A");
+        const QModelIndex tank = w.model->index(0, 0);
+        const QModelIndex fish = w.model->index(0, 0, tank);
+        QCOMPARE(textOf(tank), "A");
+        w.outline->setCurrentIndex({});
+        QCOMPARE(w.currentTank(), nullptr);
+        QCOMPARE(w.views.last(), MainView::None);
+        QVERIFY(!tank.data().isValid());
+        QVERIFY(!fish.data().isValid());
+        w.outline->setCurrentIndex(fish);
+        QCOMPARE(textOf(tank), "A");
+    }
+
+    void rename_data()
+    {
+        QTest::addColumn<bool>("record");
+        QTest::newRow("tank") << false;
+        QTest::newRow("record") << true;
+    }
+
+    void rename()
+    {
+        QFETCH(bool, record);
+        TreeWindow w(savePath());
+        Tank &tank = *w.addTank("before");
+        const auto fish = w.add<FishData>(tank, "before");
+        const TreeItem item = record ? TreeItem(*fish) : TreeItem(tank);
+        const QString &name = record ? fish->name : tank.name;
+        w.tree.select(item);
+        QVERIFY(w.save());
+        w.views.clear();
+
+        typeName(w, "after");
+        QCOMPARE(name, "after");
+        QCOMPARE(textOf(w.indexOf(item)), "after");
+        QCOMPARE(w.document.changeCount(), 1U);
+        QVERIFY(w.views.contains(record ? MainView::LivestockItem : MainView::Tank)); // the view follows
+        QVERIFY(w.edited.isEmpty()); // Return ended the editing and did nothing else
+
+        w.views.clear();
+        w.undo.undo();
+        QCOMPARE(name, "before");
+        QCOMPARE(w.document.changeCount(), 0U);
+        QVERIFY(!w.views.isEmpty());
+        w.undo.redo();
+        QCOMPARE(name, "after");
+        QCOMPARE(w.document.changeCount(), 1U);
+        QCOMPARE(w.tree.currentSelectedItem(), item);
+    }
+
+    void renameThatIsNone_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::newRow("empty") << "" << Qt::Key_Return;
+        QTest::newRow("the same") << "before" << Qt::Key_Return;
+        QTest::newRow("given up") << "after" << Qt::Key_Escape;
+    }
+
+    void renameThatIsNone()
+    {
+        QFETCH(QString, typed);
+        QFETCH(Qt::Key, key);
+        TreeWindow w(savePath());
+        Tank &tank = *w.addTank("before");
+        QVERIFY(w.save());
+        typeName(w, typed, key);
+        QCOMPARE(tank.name, "before");
+        QCOMPARE(w.document.changeCount(), 0U);
+        QVERIFY(!w.undo.canUndo());
+    }
+
+    /// A step of the undo stack may outlive what it renamed.
+    void renamesOfWhatIsGone()
+    {
+        TreeWindow w;
+        Tank &tank = *w.addTank("A");
+        const auto fish = w.add<FishData>(tank, "before");
+        w.tree.select(TreeItem(*fish));
+        typeName(w, "after");
+        tank.removeFromFishListArrayAtIndex(0);
+        w.undo.undo();
+        QCOMPARE(fish->name, "before");
+        w.undo.redo();
+        QCOMPARE(fish->name, "after");
+    }
+
+    void collectionsAreNotRenamed()
+    {
+        TreeWindow w;
+        Tank &tank = *w.addTank("A");
+        QVERIFY(!w.model->setData(w.indexOf(tank, ContainerKind::Fish), "Sharks", Qt::EditRole));
+        QVERIFY(!w.undo.canUndo());
+        w.tree.select(TreeItem(*tank.fish()));
+        QTest::keyClick(w.outline, Qt::Key_F2);
+        QVERIFY(!openEditor(w));
+    }
+
+    /// Whatever happens to the tanks while a name is being edited, the editor goes without a trace.
+    void editorOverAReload()
+    {
+        TreeWindow w;
+        w.addTank("A");
+        w.tree.editName();
+        QVERIFY(openEditor(w));
+        QTest::keyClicks(openEditor(w), "typed");
+        QVERIFY(w.read(sampleFile));
+        QTRY_VERIFY(!openEditor(w));
+        QVERIFY(w.tank(0).name != "typed");
+        QVERIFY(!w.undo.canUndo());
+    }
+
+    /// The row that was selected stays selected when rows come and go around it.
+    void selectionOverAReload()
+    {
+        TreeWindow w;
+        Tank &tank = *w.addTank("A");
+        const auto fish = w.add<FishData>(tank, "one");
+        w.tree.select(TreeItem(*fish));
+        tank.insertInFishListArray(std::make_shared<FishData>("zero", nullptr), 0);
+        QCOMPARE(w.tree.currentSelectedItem().record, fish.get());
+        QCOMPARE(w.indexOf(TreeItem(*fish)).row(), 1);
+        tank.removeFromFishListArrayAtIndex(0);
+        QCOMPARE(w.tree.currentSelectedItem().record, fish.get());
+        tank.removeFromFishListArrayAtIndex(0); // its place goes to the row that moves up
+        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*tank.plant()));
+        QCOMPARE(w.views.last(), MainView::LivestockGroup);
+    }
+
+    void reloadIsFast()
+    {
+        TreeWindow w;
+        for (int t = 0; t < 20; ++t) {
+            const auto tank = std::make_shared<Tank>(QString::number(t));
+            tank->tankExpanded = tank->fishExpanded = true;
+            for (int i = 0; i < 100; ++i)
+                tank->fish()->appendRecord(std::make_shared<FishData>(QString::number(i), tank.get()));
+            w.tree.list().append(tank);
+        }
+        w.tree.reload();
+        w.tree.select(TreeItem(*w.tank(19).fishListArray()[99]));
+        QElapsedTimer timer;
+        qint64 best = std::numeric_limits<qint64>::max();
+        for (int i = 0; i < 5; ++i) {
+            timer.start();
+            w.tree.updateDisplay();
+            QCoreApplication::processEvents(); // the layout that was put off, and the painting
+            best = std::min(best, timer.nsecsElapsed());
+        }
+        QVERIFY(w.tree.selectedRow() > 2000); // every group is open
+        qInfo("updateDisplay, 20 tanks, 2000 records: %.1f ms", double(best) / 1e6);
+        QVERIFY(best < 400'000'000); // far above what it takes: only a wrong order of growth comes near
+    }
+};
+
+int main(int argc, char **argv)
+{
+    return runWithWidgets<TestTankTree>(argc, argv);
+}
+
+#include "tst_tank_tree.moc"

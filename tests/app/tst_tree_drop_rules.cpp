@@ -1,0 +1,285 @@
+#include "app/tree/TreeDropRules.h"
+#include "model/LivestockData.h"
+#include "model/TankList.h"
+#include "support/TestHome.h"
+
+#include <QGuiApplication>
+#include <QTest>
+
+using namespace brinemark;
+
+Q_DECLARE_METATYPE(brinemark::DropOperation)
+
+namespace
+{
+
+/// Three tanks, A, B and C; A and B hold six fish each, "A0" to "A5" and "B0" to "B5", and A a plant.
+struct Tanks : TankList {
+    Tanks()
+    {
+        for (const char *name : {"A", "B", "C"}) {
+            append(std::make_shared<Tank>(QLatin1String(name)));
+            Tank &tank = *at(count() - 1);
+            for (int i = 0; i < 6 && tank.name != "C"; ++i)
+                tank.fish()->appendRecord(std::make_shared<FishData>(tank.name + QString::number(i), &tank));
+        }
+        at(0)->plant()->appendRecord(std::make_shared<PlantData>(QStringLiteral("plant"), at(0).get()));
+    }
+
+    Tank &named(QChar name) const
+    {
+        for (const auto &tank : *this) {
+            if (tank->name == name)
+                return *tank;
+        }
+        qFatal("no such tank");
+    }
+
+    /// "B": a tank; "A/fish", "A/note": a container; "A3": a fish; "A/plant/0": the plant; empty: no row.
+    TreeItem row(const QString &path) const
+    {
+        if (path.isEmpty())
+            return {};
+        Tank &tank = named(path[0]);
+        if (path.size() == 1)
+            return TreeItem(tank);
+        if (path[1] != '/')
+            return TreeItem(*tank.fishListArray()[std::size_t(path[1].digitValue())]);
+        if (path == "A/plant/0")
+            return TreeItem(*tank.plantListArray()[0]);
+        return TreeItem(path.endsWith("fish")    ? *static_cast<Container *>(tank.fish())
+                        : path.endsWith("plant") ? *static_cast<Container *>(tank.plant())
+                                                 : *static_cast<Container *>(tank.note()));
+    }
+
+    QString order() const
+    {
+        QString names;
+        for (const auto &tank : *this)
+            names += tank->name;
+        return names;
+    }
+};
+
+QStringList fishOf(const Tank &tank)
+{
+    QStringList names;
+    for (const auto &fish : tank.fishListArray())
+        names << fish->name;
+    return names;
+}
+
+} // namespace
+
+class TestTreeDropRules : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void recordValidation_data()
+    {
+        QTest::addColumn<QString>("dragged");
+        QTest::addColumn<QString>("parent");
+        QTest::addColumn<int>("index"); // -1: on the row
+        QTest::addColumn<Qt::DropActions>("allowed");
+        QTest::addColumn<DropOperation>("expected");
+
+        const Qt::DropActions any = Qt::CopyAction | Qt::MoveAction;
+        const Qt::DropActions copy = Qt::CopyAction;
+        const auto refused = DropOperation::Refused;
+        const auto move = DropOperation::Move;
+        QTest::newRow("on its own group") << "A0"
+                                          << "A/fish" << -1 << any << refused;
+        QTest::newRow("on another record") << "A0"
+                                           << "A3" << -1 << any << refused;
+        QTest::newRow("on a record, copying") << "A0"
+                                              << "A3" << -1 << copy << refused;
+        QTest::newRow("among its own") << "A0"
+                                       << "A/fish" << 3 << any << move;
+        QTest::newRow("first among its own") << "A5"
+                                             << "A/fish" << 0 << any << move;
+        QTest::newRow("among another tank's") << "A0"
+                                              << "B/fish" << 6 << any << move;
+        QTest::newRow("into an empty group") << "A0"
+                                             << "C/fish" << 0 << any << move;
+        QTest::newRow("below a record") << "A0"
+                                        << "B2" << 0 << any << move;
+        QTest::newRow("below a record of another kind") << "A0"
+                                                        << "A/plant/0" << 0 << any << move;
+        QTest::newRow("in a group of another kind") << "A0"
+                                                    << "A/plant" << 0 << any << refused;
+        QTest::newRow("a plant among fish") << "A/plant/0"
+                                            << "B/fish" << 0 << any << refused;
+        QTest::newRow("in a journal") << "A0"
+                                      << "A/note" << 0 << any << refused;
+        QTest::newRow("among a tank's containers") << "A0"
+                                                   << "B" << 1 << any << refused;
+        QTest::newRow("among the tanks") << "A0"
+                                         << "" << 1 << any << refused;
+        QTest::newRow("copy only") << "A0"
+                                   << "B/fish" << 1 << copy << DropOperation::Copy;
+        QTest::newRow("copy only, own tank") << "A0"
+                                             << "A/fish" << 1 << copy << DropOperation::Copy;
+        QTest::newRow("move only") << "A0"
+                                   << "B/fish" << 1 << Qt::DropActions(Qt::MoveAction) << move;
+        QTest::newRow("copy only, wrong kind") << "A0"
+                                               << "B/plant" << 0 << copy << refused;
+    }
+
+    void recordValidation()
+    {
+        QFETCH(QString, dragged);
+        QFETCH(QString, parent);
+        QFETCH(int, index);
+        QFETCH(Qt::DropActions, allowed);
+        const Tanks tanks;
+        const DropProposal proposal{tanks.row(parent), index < 0 ? std::nullopt : std::optional(index)};
+        QTEST(validateRecordDrop(*tanks.row(dragged).record, proposal, allowed), "expected");
+    }
+
+    void recordLanding_data()
+    {
+        QTest::addColumn<QString>("dragged");
+        QTest::addColumn<QString>("parent");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<bool>("copies");
+        QTest::addColumn<QString>("inA");
+        QTest::addColumn<QString>("inB");
+
+        const QString allA = "A0 A1 A2 A3 A4 A5";
+        const QString allB = "B0 B1 B2 B3 B4 B5";
+        const auto within = [&](const char *name, const char *dragged, int index, const char *inA,
+                                bool copies = false) {
+            QTest::newRow(name) << dragged << "A/fish" << index << copies << inA << allB;
+        };
+        within("at 3 from before it", "A0", 3, "A1 A2 A0 A3 A4 A5");
+        within("at 3 from behind it", "A5", 3, "A0 A1 A5 A2 A3 A4");
+        within("at 0", "A4", 0, "A4 A0 A1 A2 A3 A5");
+        within("at 0 from 0", "A0", 0, "A0 A1 A2 A3 A4 A5");
+        within("at 1 from 0", "A0", 1, "A0 A1 A2 A3 A4 A5");
+        within("at the end from the start", "A0", 6, "A1 A2 A3 A4 A5 A0");
+        within("at the end from the end", "A5", 6, "A0 A1 A2 A3 A4 A5");
+        within("without an index", "A1", -1, "A0 A2 A3 A4 A5 A1");
+        within("copied at 3", "A0", 3, "A0 A1 A0 A2 A3 A4 A5", true);
+        within("copied at 0", "A5", 0, "A5 A0 A1 A2 A3 A4 A5", true);
+
+        const auto across = [&](const char *name, const char *parent, int index, const char *inA, const char *inB,
+                                bool copies = false) {
+            QTest::newRow(name) << "A2" << parent << index << copies << inA << inB;
+        };
+        const char *rest = "A0 A1 A3 A4 A5";
+        across("across, not shifted", "B/fish", 3, rest, "B0 B1 B2 A2 B3 B4 B5");
+        across("across, at 0", "B/fish", 0, rest, "A2 B0 B1 B2 B3 B4 B5");
+        across("across, at the end", "B/fish", 6, rest, "B0 B1 B2 B3 B4 B5 A2");
+        across("across, past the end", "B/fish", 60, rest, "B0 B1 B2 B3 B4 B5 A2");
+        across("across, without an index", "B/fish", -1, rest, "B0 B1 B2 B3 B4 B5 A2");
+        across("across, below a record", "B4", 1, rest, "B0 A2 B1 B2 B3 B4 B5");
+        across("across, copied", "B/fish", 1, "A0 A1 A2 A3 A4 A5", "B0 A2 B1 B2 B3 B4 B5", true);
+    }
+
+    void recordLanding()
+    {
+        QFETCH(QString, dragged);
+        QFETCH(QString, parent);
+        QFETCH(int, index);
+        QFETCH(bool, copies);
+        Tanks tanks;
+        const auto fish = std::static_pointer_cast<ItemData>(tanks.row(dragged).record->shared_from_this());
+        Tank *source = fish->tank;
+        const DropProposal proposal{tanks.row(parent), index < 0 ? std::nullopt : std::optional(index)};
+        const auto landed = acceptRecordDrop(fish, proposal, copies ? DropOperation::Copy : DropOperation::Move);
+        QTEST(fishOf(tanks.named('A')).join(' '), "inA");
+        QTEST(fishOf(tanks.named('B')).join(' '), "inB");
+        QVERIFY(landed);
+        QCOMPARE(landed == fish, !copies);
+        QCOMPARE(landed->tank.get(), proposal.parent.tank);
+        QCOMPARE(fish->tank.get(), copies ? source : proposal.parent.tank);
+        QVERIFY(landed->tank->fish()->contains(landed.get()));
+    }
+
+    /// A copy takes the rules of copying along: nobody has said yet whether it is safe in a reef.
+    void copiedRecordIsACopy()
+    {
+        Tanks tanks;
+        const auto fish = tanks.named('A').fishListArray()[0];
+        fish->reefSafe = reefsafe::yes;
+        fish->count = 7;
+        const auto copy = acceptRecordDrop(fish, {tanks.row("C/fish"), 0}, DropOperation::Copy);
+        QCOMPARE(copy->count, 7);
+        QCOMPARE(copy->itemContext(), ItemContext::Fish);
+        QCOMPARE(copy->reefSafe, reefsafe::unknown);
+        copy->name = "changed";
+        QCOMPARE(fish->name, "A0");
+    }
+
+    void refusedOrHomelessRecordStays()
+    {
+        Tanks tanks;
+        const auto fish = tanks.named('A').fishListArray()[0];
+        QVERIFY(!acceptRecordDrop(fish, {tanks.row("B/fish"), 0}, DropOperation::Refused));
+        QVERIFY(!acceptRecordDrop(std::make_shared<FishData>(), {tanks.row("B/fish"), 0}, DropOperation::Move));
+        QVERIFY(!acceptRecordDrop(fish, {}, DropOperation::Move));
+        QCOMPARE(fishOf(tanks.named('A')).size(), 6);
+        QCOMPARE(fishOf(tanks.named('B')).size(), 6);
+    }
+
+    void tankDrop_data()
+    {
+        QTest::addColumn<QString>("dragged");
+        QTest::addColumn<QString>("row");
+        QTest::addColumn<int>("index"); // -1: refused
+        QTest::addColumn<QString>("order");
+
+        QTest::newRow("beside the rows") << "A"
+                                         << "" << -1 << "ABC";
+        QTest::newRow("its own row") << "A"
+                                     << "A" << -1 << "ABC";
+        QTest::newRow("its own group") << "A"
+                                       << "A/note" << -1 << "ABC";
+        QTest::newRow("its own fish") << "B"
+                                      << "B3" << -1 << "ABC";
+        QTest::newRow("the next tank") << "A"
+                                       << "B" << 2 << "BAC";
+        QTest::newRow("the last tank") << "A"
+                                       << "C" << 3 << "BCA";
+        QTest::newRow("a fish of the next tank") << "A"
+                                                 << "B3" << 2 << "BAC";
+        QTest::newRow("a group of the last tank") << "B"
+                                                  << "C/fish" << 3 << "ACB";
+        QTest::newRow("the tank before it") << "B"
+                                            << "A" << 1 << "ABC";
+        QTest::newRow("up, below the first") << "C"
+                                             << "A/plant/0" << 1 << "ACB";
+    }
+
+    void tankDrop()
+    {
+        QFETCH(QString, dragged);
+        QFETCH(QString, row);
+        Tanks tanks;
+        Tank &tank = tanks.named(dragged[0]);
+        const std::optional<int> index = validateTankDrop(tanks, tank, tanks.row(row));
+        QTEST(index.value_or(-1), "index");
+        if (index)
+            acceptTankDrop(tanks, tank, *index);
+        QTEST(tanks.order(), "order");
+    }
+
+    void tankThatIsGoneLandsNowhere()
+    {
+        Tanks tanks;
+        const std::shared_ptr<Tank> gone = tanks.removeAt(1);
+        acceptTankDrop(tanks, *gone, 0);
+        QCOMPARE(tanks.order(), "AC");
+    }
+};
+
+int main(int argc, char **argv)
+{
+    test::TestHome home;
+    QGuiApplication application(argc, argv);
+    TestTreeDropRules test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_tree_drop_rules.moc"
