@@ -137,8 +137,6 @@ public:
 
 private:
     friend class TankRef;
-    friend class TankDictReader;
-    friend class OlderTankReader;
 
     explicit Tank(Blank); ///< containers, but no targets or categories yet
 
