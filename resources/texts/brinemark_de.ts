@@ -117,6 +117,62 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Die Datei wurde von einem anderen Programm geändert.</translation>
     </message>
     <message>
+        <source>ColumnActivity</source>
+        <translation>Aufgabe</translation>
+    </message>
+    <message>
+        <source>ColumnAmount</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>ColumnCategory</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>ColumnCount</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>ColumnDeviation</source>
+        <translation>Toleranz</translation>
+    </message>
+    <message>
+        <source>ColumnDue</source>
+        <translation>Fällig</translation>
+    </message>
+    <message>
+        <source>ColumnExpense</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>ColumnItem</source>
+        <translation>Gegenstand</translation>
+    </message>
+    <message>
+        <source>ColumnNext</source>
+        <translation>Danach</translation>
+    </message>
+    <message>
+        <source>ColumnNote</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>ColumnParameter</source>
+        <translation>Messgröße</translation>
+    </message>
+    <message>
+        <source>ColumnPreferred</source>
+        <translation>Zielwert</translation>
+    </message>
+    <message>
+        <source>ColumnRepeats</source>
+        <translation>Wiederholt</translation>
+    </message>
+    <message>
+        <source>ColumnWarning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
         <source>CommandLineDark</source>
         <translation>Mit --render dunkle Farben verwenden.</translation>
     </message>
@@ -170,6 +226,15 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     <message>
         <source>Condition Columns...</source>
         <translation>Spalten der Wassertests …</translation>
+    </message>
+    <message>
+        <source>ConditionColumnsLabel</source>
+        <extracomment>^0 is the tank&apos;s name</extracomment>
+        <translation>Für ^0 diese Spalten zeigen:</translation>
+    </message>
+    <message>
+        <source>ConditionColumnsTitle</source>
+        <translation>Spalten der Wassertests</translation>
     </message>
     <message>
         <source>ConditionDataAmmonia</source>
@@ -305,6 +370,26 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Diese Datei stammt von einer früheren Version von Brinemark.</translation>
     </message>
     <message>
+        <source>ConverterConversion</source>
+        <translation>Umrechnung:</translation>
+    </message>
+    <message>
+        <source>ConverterKind</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>ConverterResult</source>
+        <translation>Ergebnis:</translation>
+    </message>
+    <message>
+        <source>ConverterSection</source>
+        <translation>Einheiten umrechnen</translation>
+    </message>
+    <message>
+        <source>ConverterValue</source>
+        <translation>Wert:</translation>
+    </message>
+    <message>
         <source>Copper</source>
         <translation>Kupfer</translation>
     </message>
@@ -407,6 +492,23 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     <message>
         <source>Edit...</source>
         <translation>Bearbeiten …</translation>
+    </message>
+    <message>
+        <source>EditItemTitle</source>
+        <extracomment>^0 is the name of a fish, plant or other animal</extracomment>
+        <translation>^0 bearbeiten</translation>
+    </message>
+    <message>
+        <source>EditItemToolTip</source>
+        <translation>Diesen Eintrag ändern</translation>
+    </message>
+    <message>
+        <source>EditTankTitle</source>
+        <translation>Aquarium bearbeiten</translation>
+    </message>
+    <message>
+        <source>EditTankToolTip</source>
+        <translation>Name, Größe, Art und Zielwerte ändern</translation>
     </message>
     <message>
         <source>EmptyCondition</source>
@@ -680,6 +782,14 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     <message>
         <source>Graph</source>
         <translation>Diagramm …</translation>
+    </message>
+    <message>
+        <source>GroupEntries</source>
+        <translation>Einträge: </translation>
+    </message>
+    <message>
+        <source>GroupSpecimens</source>
+        <translation>Tiere und Pflanzen: </translation>
     </message>
     <message>
         <source>HelpBack</source>
@@ -1076,6 +1186,10 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Neues Aquarium</translation>
     </message>
     <message>
+        <source>NewTankTitle</source>
+        <translation>Neues Aquarium</translation>
+    </message>
+    <message>
         <source>NewTitle</source>
         <translation>Neu</translation>
     </message>
@@ -1201,6 +1315,10 @@ Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz 
         <translation>Änderung an der Notiz</translation>
     </message>
     <message>
+        <source>NotificationGoTo</source>
+        <translation>Im Wartungsplan zeigen</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1254,6 +1372,22 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
     <message>
         <source>Phosphate</source>
         <translation>Phosphat</translation>
+    </message>
+    <message>
+        <source>PictureChoose</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>PictureFilter</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>PictureLabel</source>
+        <translation>Bild: </translation>
+    </message>
+    <message>
+        <source>PictureRemove</source>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>PlantBreedingMenu</source>
@@ -1542,6 +1676,10 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
         <source>TankListLabel</source>
         <extracomment>What a screen reader calls the tree of tanks.</extracomment>
         <translation>Aquarien</translation>
+    </message>
+    <message>
+        <source>TankNameLabel</source>
+        <translation>Name: </translation>
     </message>
     <message>
         <source>TankSaltwater</source>

@@ -117,6 +117,62 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>The file was changed by another program.</translation>
     </message>
     <message>
+        <source>ColumnActivity</source>
+        <translation>Activity</translation>
+    </message>
+    <message>
+        <source>ColumnAmount</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>ColumnCategory</source>
+        <translation>Category</translation>
+    </message>
+    <message>
+        <source>ColumnCount</source>
+        <translation>Count</translation>
+    </message>
+    <message>
+        <source>ColumnDeviation</source>
+        <translation>Tolerance</translation>
+    </message>
+    <message>
+        <source>ColumnDue</source>
+        <translation>Due</translation>
+    </message>
+    <message>
+        <source>ColumnExpense</source>
+        <translation>Expense</translation>
+    </message>
+    <message>
+        <source>ColumnItem</source>
+        <translation>Item</translation>
+    </message>
+    <message>
+        <source>ColumnNext</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>ColumnNote</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>ColumnParameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>ColumnPreferred</source>
+        <translation>Target</translation>
+    </message>
+    <message>
+        <source>ColumnRepeats</source>
+        <translation>Repeats</translation>
+    </message>
+    <message>
+        <source>ColumnWarning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
         <source>CommandLineDark</source>
         <translation>Use dark colours with --render.</translation>
     </message>
@@ -170,6 +226,15 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     <message>
         <source>Condition Columns...</source>
         <translation>Water-Test Columns…</translation>
+    </message>
+    <message>
+        <source>ConditionColumnsLabel</source>
+        <extracomment>^0 is the tank&apos;s name</extracomment>
+        <translation>Show these columns for ^0:</translation>
+    </message>
+    <message>
+        <source>ConditionColumnsTitle</source>
+        <translation>Water-Test Columns</translation>
     </message>
     <message>
         <source>ConditionDataAmmonia</source>
@@ -305,6 +370,26 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>This file was written by an earlier version of Brinemark.</translation>
     </message>
     <message>
+        <source>ConverterConversion</source>
+        <translation>Conversion:</translation>
+    </message>
+    <message>
+        <source>ConverterKind</source>
+        <translation>Quantity:</translation>
+    </message>
+    <message>
+        <source>ConverterResult</source>
+        <translation>Result:</translation>
+    </message>
+    <message>
+        <source>ConverterSection</source>
+        <translation>Unit Converter</translation>
+    </message>
+    <message>
+        <source>ConverterValue</source>
+        <translation>Value:</translation>
+    </message>
+    <message>
         <source>Copper</source>
         <translation>Copper</translation>
     </message>
@@ -407,6 +492,23 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     <message>
         <source>Edit...</source>
         <translation>Edit…</translation>
+    </message>
+    <message>
+        <source>EditItemTitle</source>
+        <extracomment>^0 is the name of a fish, plant or other animal</extracomment>
+        <translation>Edit ^0</translation>
+    </message>
+    <message>
+        <source>EditItemToolTip</source>
+        <translation>Change this entry</translation>
+    </message>
+    <message>
+        <source>EditTankTitle</source>
+        <translation>Edit Tank</translation>
+    </message>
+    <message>
+        <source>EditTankToolTip</source>
+        <translation>Change the name, size, type and targets</translation>
     </message>
     <message>
         <source>EmptyCondition</source>
@@ -680,6 +782,14 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     <message>
         <source>Graph</source>
         <translation>Graph…</translation>
+    </message>
+    <message>
+        <source>GroupEntries</source>
+        <translation>Entries: </translation>
+    </message>
+    <message>
+        <source>GroupSpecimens</source>
+        <translation>Specimens: </translation>
     </message>
     <message>
         <source>HelpBack</source>
@@ -1076,6 +1186,10 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>New Tank</translation>
     </message>
     <message>
+        <source>NewTankTitle</source>
+        <translation>New Tank</translation>
+    </message>
+    <message>
         <source>NewTitle</source>
         <translation>New</translation>
     </message>
@@ -1201,6 +1315,10 @@ In fresh water chloride protects fish from nitrite: about 1 gram of pure salt (s
         <translation>Change of Note</translation>
     </message>
     <message>
+        <source>NotificationGoTo</source>
+        <translation>Show in the maintenance schedule</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1254,6 +1372,22 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
     <message>
         <source>Phosphate</source>
         <translation>Phosphate</translation>
+    </message>
+    <message>
+        <source>PictureChoose</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>PictureFilter</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>PictureLabel</source>
+        <translation>Picture: </translation>
+    </message>
+    <message>
+        <source>PictureRemove</source>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>PlantBreedingMenu</source>
@@ -1542,6 +1676,10 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
         <source>TankListLabel</source>
         <extracomment>What a screen reader calls the tree of tanks.</extracomment>
         <translation>Tanks</translation>
+    </message>
+    <message>
+        <source>TankNameLabel</source>
+        <translation>Name: </translation>
     </message>
     <message>
         <source>TankSaltwater</source>

@@ -1,9 +1,20 @@
 #include "ui/RecordListController.h"
 
+#include "base/text/Texts.h"
+#include "model/ModelContext.h"
 #include "model/Tank.h"
+#include "ui/Alerts.h"
+#include "ui/EmptyState.h"
+#include "ui/Icons.h"
+#include "ui/RecordTableView.h"
 #include "ui/Shell.h"
+#include "ui/TitleLine.h"
+#include "ui/TruncatingDelegate.h"
 
-#include <QWidget>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QStackedWidget>
+#include <QToolButton>
 
 namespace brinemark
 {
@@ -13,29 +24,286 @@ RecordListController::RecordListController(const RecordListTraits &traits)
     , m_model(new RecordTableModel(traits.kind, this))
 {
 }
+
 RecordListController::~RecordListController()
 {
     delete m_view;
 }
-QWidget *RecordListController::view()
-{
-    if (!m_view)
-        m_view = new QWidget;
-    return m_view;
-}
-void RecordListController::setKeyViewWithTankList(QWidget *, QWidget *) {}
-bool RecordListController::hasSelectedRow() const
-{
-    return false;
-}
-void RecordListController::deleteSelected() {}
-void RecordListController::newEntry() {}
-void RecordListController::updateDisplay() {}
+
 Tank *RecordListController::currentTank()
 {
     return Shell::shared().currentTank();
 }
-void RecordListController::journalRecordInserted(Tank &, ContainerKind) {}
-void RecordListController::journalRecordRemoved(Tank &, ContainerKind) {}
+
+// ---- the view
+
+QWidget *RecordListController::view()
+{
+    if (!m_view)
+        makeView();
+    return m_view;
+}
+
+void RecordListController::makeView()
+{
+    QString listName = traitsOf(m_traits.kind).listKey.toString();
+    listName.chop(int(QStringLiteral("ListArray").size()));
+    m_view = new QWidget;
+    m_view->setObjectName(listName + QStringLiteral("View"));
+    m_titleLine = new TitleLine;
+    m_table = new RecordTableView([this] { deleteSelected(); });
+    m_table->setObjectName(listName + QStringLiteral("List"));
+    m_table->setModel(m_model);
+    m_table->setItemDelegate(new TruncatingDelegate(m_table));
+    m_emptyState = new EmptyState(icon(m_traits.emptyPicture), text(m_traits.emptySentenceKey), text("NewTitle"));
+    m_pages = new QStackedWidget;
+    m_pages->addWidget(m_table);
+    m_pages->addWidget(m_emptyState);
+    m_newButton = makeButton("New", "NewButtonToolTip"_key, QStringLiteral("newButton"));
+    m_deleteButton = makeButton("Remove", "DeleteButtonToolTip"_key, QStringLiteral("deleteButton"));
+    m_deleteButton->setEnabled(false);
+
+    m_buttonRow = new QHBoxLayout;
+    m_buttonRow->setContentsMargins(4, 4, 4, 4);
+    m_buttonRow->setSpacing(4);
+    m_buttonRow->addWidget(m_newButton);
+    m_buttonRow->addWidget(m_deleteButton);
+    m_buttonRow->addStretch();
+    auto *column = new QVBoxLayout(m_view);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_titleLine);
+    column->addWidget(m_pages, 1);
+    column->addLayout(m_buttonRow);
+
+    connect(m_emptyState, &EmptyState::addRequested, this, &RecordListController::newEntry);
+    connect(m_newButton, &QToolButton::clicked, this, &RecordListController::newEntry);
+    connect(m_deleteButton, &QToolButton::clicked, this, &RecordListController::deleteSelected);
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, &RecordListController::headerClicked);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &RecordListController::selectionDidChange);
+    // A reset takes the selection away without saying so; rows that come and go may empty the table.
+    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(m_model, signal, this, &RecordListController::showEmptyState);
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        showEmptyState();
+        selectionDidChange();
+    });
+    viewMade();
+    showTank(nullptr);
+}
+
+QToolButton *RecordListController::makeButton(const char *iconName, TextKey toolTip, const QString &objectName)
+{
+    auto *button = new QToolButton;
+    button->setObjectName(objectName);
+    button->setIcon(icon(iconName));
+    button->setIconSize({16, 16});
+    button->setAutoRaise(true);
+    button->setToolTip(text(toolTip));
+    button->setAccessibleName(text(toolTip));
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+int RecordListController::headerWidth(const RecordColumn &column) const
+{
+    constexpr int roomBesideText = 32; // margins and the sort indicator
+    return m_table->horizontalHeader()->fontMetrics().horizontalAdvance(text(column.header)) + roomBesideText;
+}
+
+void RecordListController::setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton)
+{
+    QWidget *shown = view();
+    showTank(currentTank());
+    QWidget::setTabOrder(tankTree, shown);
+    QWidget::setTabOrder(shown, m_table);
+    QWidget::setTabOrder(m_table, m_newButton);
+    QWidget::setTabOrder(m_newButton, m_deleteButton);
+    QWidget::setTabOrder(m_deleteButton, helpButton);
+}
+
+void RecordListController::showTank(Tank *tank)
+{
+    const Container *list = m_model->container();
+    const bool another = !tank || !list || list->tank() != tank;
+    const std::span<const RecordColumn> columns = columnsFor(tank);
+    if (another) {
+        m_model->setTank(tank, columns);
+        for (int i = 0; i < int(columns.size()); ++i) {
+            const RecordColumn &column = columns[std::size_t(i)];
+            m_table->setColumnWidth(i, std::max(column.width, headerWidth(column)));
+        }
+    } else {
+        m_model->refresh();
+    }
+    tankShown(tank);
+    showTitle(tank);
+    showSortIndicator();
+    showEmptyState();
+    selectionDidChange();
+}
+
+void RecordListController::showTitle(const Tank *tank)
+{
+    m_titleLine->setTitle(tank ? tank->container(m_traits.kind)->name() : text(traitsOf(m_traits.kind).nameKey));
+    m_titleLine->setSecondary(tank ? tank->name : QString());
+}
+
+void RecordListController::showEmptyState()
+{
+    const bool empty = m_model->container() && m_model->rowCount() == 0;
+    m_pages->setCurrentWidget(empty ? static_cast<QWidget *>(m_emptyState) : m_table);
+}
+
+void RecordListController::updateDisplay()
+{
+    if (m_view)
+        showTank(currentTank());
+}
+
+// ---- sorting
+
+void RecordListController::showSortIndicator()
+{
+    const Container *list = m_model->container();
+    const int section = list ? m_model->columnOf(list->sortIdentifier()) : -1;
+    m_table->horizontalHeader()->setSortIndicator(section, !list || list->sortAscending() ? Qt::AscendingOrder
+                                                                                          : Qt::DescendingOrder);
+}
+
+void RecordListController::headerClicked(int section)
+{
+    Container *list = m_model->container();
+    if (!list)
+        return;
+    const QString identifier = m_model->columns()[std::size_t(section)].identifier.toString();
+    if (identifier == list->sortIdentifier())
+        list->setSortAscending(!list->sortAscending());
+    list->setSortIdentifier(identifier);
+    sortAndSelect();
+    Shell::shared().documentModifiedWithChange(true);
+}
+
+void RecordListController::sortAndSelect(const std::shared_ptr<Record> &record)
+{
+    if (!m_view || !m_model->container())
+        return;
+    m_model->sortContainer();
+    showSortIndicator();
+    if (record)
+        selectRecord(*record);
+    m_table->setFocus();
+}
+
+// ---- the selection
+
+bool RecordListController::hasSelectedRow() const
+{
+    return m_view && m_table->selectionModel()->hasSelection();
+}
+
+std::vector<std::shared_ptr<Record>> RecordListController::selectedRecords() const
+{
+    std::vector<std::shared_ptr<Record>> records;
+    if (!m_view)
+        return records;
+    QList<std::pair<int, int>> ranges; // first and last rows; a range of a row selection covers all columns
+    for (const QItemSelectionRange &range : m_table->selectionModel()->selection())
+        ranges.append({range.top(), range.bottom()});
+    std::sort(ranges.begin(), ranges.end());
+    int next = 0;
+    for (const auto &[first, last] : ranges) {
+        for (int row = std::max(first, next); row <= last; ++row) {
+            if (std::shared_ptr<Record> record = m_model->recordAt(row))
+                records.push_back(std::move(record));
+        }
+        next = std::max(next, last + 1);
+    }
+    return records;
+}
+
+bool RecordListController::selectRecord(const Record &record)
+{
+    const Container *list = m_model->container();
+    const int row = m_view && list ? list->indexOf(&record) : -1;
+    if (row < 0)
+        return false;
+    m_table->selectRow(row);
+    m_table->scrollTo(m_model->index(row, 0));
+    return true;
+}
+
+void RecordListController::selectionDidChange()
+{
+    const bool selected = hasSelectedRow();
+    m_deleteButton->setEnabled(selected);
+    Shell::shared().setEnableDeleteButton(selected);
+    Q_EMIT selectionChanged();
+}
+
+// ---- adding and deleting
+
+void RecordListController::newEntry()
+{
+    Tank *tank = currentTank();
+    if (!tank)
+        return;
+    view();
+    showTank(tank);
+    const std::shared_ptr<Record> record = m_traits.makeRecord(*tank);
+    m_model->append(record);
+    sortAndSelect(record);
+    Shell::shared().documentModifiedWithChange(true);
+}
+
+void RecordListController::deleteSelected()
+{
+    if (!hasSelectedRow())
+        return;
+    const Alert question{AlertStyle::Critical,
+                         formatText(text("StandardWarning"), {text(m_traits.itemKey)}),
+                         text("CannotUndoMessage"),
+                         {},
+                         text("CancelLabel")};
+    beginAlertSheet(Shell::shared().mainWindow(), question, [this](int answer) {
+        if (answer == AlertDefault)
+            deleteRecords(selectedRecords());
+        Shell::shared().orderFrontAndCheckModified();
+    });
+}
+
+void RecordListController::deleteRecords(const std::vector<std::shared_ptr<Record>> &records)
+{
+    Container *list = m_model->container();
+    if (!list || records.empty())
+        return;
+    if (m_traits.kind == ContainerKind::Schedule) {
+        for (const auto &record : records)
+            ModelContext::sharedInstance().postScheduleDataDeleted(static_cast<ScheduleData &>(*record));
+    }
+    m_model->remove(records);
+    m_table->clearSelection();
+    if (m_traits.deletingCountsAChange)
+        Shell::shared().documentModifiedWithChange(true);
+}
+
+// ---- what the model tells
+
+void RecordListController::journalRecordInserted(Tank &tank, ContainerKind kind)
+{
+    const Container *list = m_model->container();
+    if (!m_view || kind != m_traits.kind || !list || list->tank() != &tank)
+        return;
+    m_model->sortContainer();
+    m_table->clearSelection();
+}
+
+void RecordListController::journalRecordRemoved(Tank &tank, ContainerKind kind)
+{
+    const Container *list = m_model->container();
+    if (m_view && kind == m_traits.kind && list && list->tank() == &tank)
+        updateDisplay();
+}
 
 } // namespace brinemark

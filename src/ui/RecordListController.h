@@ -17,6 +17,13 @@ namespace brinemark
 class EmptyState;
 class TitleLine;
 
+/// Makes a new record of the class with its default values.
+template <class R>
+[[nodiscard]] std::shared_ptr<Record> makeNewRecord(Tank &tank)
+{
+    return std::make_shared<R>(&tank);
+}
+
 /// What the journal tables differ in apart from their columns.
 struct RecordListTraits {
     ContainerKind kind;

@@ -11,8 +11,8 @@
 #include <QPalette>
 
 #include <algorithm>
-#include <functional>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace brinemark
 {
@@ -54,19 +54,9 @@ void RecordTableModel::setTank(Tank *tank, std::span<const RecordColumn> columns
 
 void RecordTableModel::setColumns(std::span<const RecordColumn> columns)
 {
-    const int before = int(m_columns.size());
-    const int after = int(columns.size());
-    // The columns are swapped as a whole: the rows, and what is selected of them, stay.
-    if (before > 0) {
-        beginRemoveColumns({}, 0, before - 1);
-        m_columns.clear();
-        endRemoveColumns();
-    }
-    if (after > 0) {
-        beginInsertColumns({}, 0, after - 1);
-        m_columns.assign(columns.begin(), columns.end());
-        endInsertColumns();
-    }
+    beginResetModel();
+    m_columns.assign(columns.begin(), columns.end());
+    endResetModel();
 }
 
 int RecordTableModel::append(std::shared_ptr<Record> record)
@@ -82,18 +72,28 @@ int RecordTableModel::append(std::shared_ptr<Record> record)
     return m_rowCount - 1;
 }
 
-void RecordTableModel::remove(std::vector<int> rows)
+void RecordTableModel::remove(const std::vector<std::shared_ptr<Record>> &records)
 {
     Container *list = container();
-    std::sort(rows.begin(), rows.end(), std::greater<>());
-    for (const int row : rows) {
-        if (!list || row < 0 || row >= m_rowCount || row >= list->count())
-            continue;
-        beginRemoveRows({}, row, row);
-        list->removeRecordAt(row);
-        --m_rowCount;
-        endRemoveRows();
+    if (!list || records.empty())
+        return;
+    // One pass over the list, however many go.
+    std::unordered_set<const Record *> going;
+    for (const auto &record : records)
+        going.insert(record.get());
+    beginResetModel();
+    std::vector<std::shared_ptr<Record>> staying;
+    staying.reserve(std::size_t(list->count()));
+    for (int row = 0; row < list->count(); ++row) {
+        std::shared_ptr<Record> record = list->recordAt(row);
+        if (!going.contains(record.get()))
+            staying.push_back(std::move(record));
     }
+    list->clear();
+    for (std::shared_ptr<Record> &record : staying)
+        list->appendRecord(std::move(record));
+    m_rowCount = list->count();
+    endResetModel();
 }
 
 void RecordTableModel::sortContainer()

@@ -42,7 +42,7 @@ public:
 
     /// Shows another tank, or none (null), and these columns; they are copied.
     void setTank(Tank *tank, std::span<const RecordColumn> columns);
-    void setColumns(std::span<const RecordColumn> columns);
+    void setColumns(std::span<const RecordColumn> columns); ///< takes the selection away
 
     [[nodiscard]] Container *container() const;                    ///< null without a tank, and after the tank is gone
     [[nodiscard]] std::shared_ptr<Record> recordAt(int row) const; ///< null out of range
@@ -50,7 +50,7 @@ public:
     [[nodiscard]] int columnOf(QStringView identifier) const; ///< -1 when it is not shown
 
     int append(std::shared_ptr<Record> record); ///< answers its row, or -1 without a tank
-    void remove(std::vector<int> rows);         ///< in any order
+    void remove(const std::vector<std::shared_ptr<Record>> &records);
     void sortContainer(); ///< by its own identifier and direction; selections follow their records
     void refresh();       ///< shows what the container holds now
 

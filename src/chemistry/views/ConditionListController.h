@@ -3,10 +3,10 @@
 #include "ui/RecordListController.h"
 #include "ui/Shared.h"
 
-class QDialog;
-
 namespace brinemark
 {
+
+class ConditionColumnWindow;
 
 /// The water tests of the current tank. Which columns it shows, in which order and how wide, belongs to the tank.
 class ConditionListController : public RecordListController, public Shared<ConditionListController>
@@ -14,6 +14,8 @@ class ConditionListController : public RecordListController, public Shared<Condi
     Q_OBJECT
 
 public:
+    ~ConditionListController() override;
+
     /// Stores the columns as they are on screen into the tank that is on screen.
     void updateColumnInfo();
 
@@ -34,15 +36,13 @@ private:
     friend class Shared<ConditionListController>;
     ConditionListController();
 
-    void toggleColumnWithTag(int tag);
-    void columnsChanged();
-    void makeColumnWindow();
+    void arrangeColumns();
     void showColumnChecks();
 
     std::vector<RecordColumn> m_shownColumns;
     std::weak_ptr<Tank> m_shownTank;
-    QPointer<QDialog> m_columnWindow;
-    bool m_arranging = false; ///< the columns move by the program, not by the user
+    QPointer<ConditionColumnWindow> m_columnWindow;
+    bool m_arranging = false; ///< the columns change by the program, not by the user
 };
 
 } // namespace brinemark

@@ -38,7 +38,6 @@ private:
 
     void makeView();
     void edit(const QModelIndex &row);
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
     QPointer<QWidget> m_view;
     TargetTableModel *m_model;

@@ -1,15 +1,42 @@
 #include "journals/views/ExpenseListController.h"
 
+#include "model/Tank.h"
+
 namespace brinemark
 {
 
+namespace
+{
+
+/// The category, if the tank still has it.
+QString shownCategory(const Record &record)
+{
+    const auto &expense = static_cast<const ExpenseData &>(record);
+    const Tank *tank = expense.tank;
+    return tank && tank->expenseCategoryArray.contains(expense.type) ? expense.type : text("ExpenseNoneItem");
+}
+
+constexpr std::array<RecordColumn, 4> columns{{
+    {u"date", "Date"_key, ColumnKind::Date},
+    {u"expense", "ColumnExpense"_key, ColumnKind::Text, 0, Qt::AlignLeft, 280},
+    {u"amount", "ColumnAmount"_key, ColumnKind::Amount, 2, Qt::AlignRight, 110},
+    {u"type", "ColumnCategory"_key, ColumnKind::Text, 0, Qt::AlignLeft, 0, &shownCategory},
+}};
+
+constexpr RecordListTraits traits{
+    ContainerKind::Expense, "ExpenseItem"_key, "EmptyExpense"_key, "ExpensesSmall", &makeNewRecord<ExpenseData>, true,
+};
+
+} // namespace
+
 ExpenseListController::ExpenseListController()
-    : RecordListController({ContainerKind::Expense, "ExpenseItem"_key, "EmptyExpense"_key, "ExpenseSmall", nullptr})
+    : RecordListController(traits)
 {
 }
+
 std::span<const RecordColumn> ExpenseListController::columnsFor(Tank *)
 {
-    return {};
+    return columns;
 }
 
 } // namespace brinemark

@@ -1,16 +1,33 @@
 #include "journals/views/InventoryListController.h"
 
+#include "model/Tank.h"
+
 namespace brinemark
 {
 
+namespace
+{
+
+constexpr std::array<RecordColumn, 2> columns{{
+    {u"item", "ColumnItem"_key, ColumnKind::Text, 0, Qt::AlignLeft, 360},
+    {u"count", "ColumnCount"_key, ColumnKind::Number},
+}};
+
+constexpr RecordListTraits traits{
+    ContainerKind::Inventory, "InventoryItem"_key,           "EmptyInventory"_key,
+    "InventorySmall",         &makeNewRecord<InventoryData>, false,
+};
+
+} // namespace
+
 InventoryListController::InventoryListController()
-    : RecordListController(
-          {ContainerKind::Inventory, "InventoryItem"_key, "EmptyInventory"_key, "InventorySmall", nullptr})
+    : RecordListController(traits)
 {
 }
+
 std::span<const RecordColumn> InventoryListController::columnsFor(Tank *)
 {
-    return {};
+    return columns;
 }
 
 } // namespace brinemark

@@ -1,15 +1,32 @@
 #include "journals/views/NoteListController.h"
 
+#include "model/Tank.h"
+
 namespace brinemark
 {
 
+namespace
+{
+
+constexpr std::array<RecordColumn, 2> columns{{
+    {u"date", "Date"_key, ColumnKind::Date},
+    {u"note", "ColumnNote"_key, ColumnKind::Text},
+}};
+
+constexpr RecordListTraits traits{
+    ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, "NotesSmall", &makeNewRecord<NoteData>, false,
+};
+
+} // namespace
+
 NoteListController::NoteListController()
-    : RecordListController({ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, "NoteSmall", nullptr})
+    : RecordListController(traits)
 {
 }
+
 std::span<const RecordColumn> NoteListController::columnsFor(Tank *)
 {
-    return {};
+    return columns;
 }
 
 } // namespace brinemark

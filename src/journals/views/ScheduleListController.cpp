@@ -1,15 +1,44 @@
 #include "journals/views/ScheduleListController.h"
 
+#include "base/text/DateText.h"
+#include "model/Tank.h"
+
 namespace brinemark
 {
 
+namespace
+{
+
+/// When the activity would be due the next time.
+QString nextDueDate(const Record &record)
+{
+    const auto &activity = static_cast<const ScheduleData &>(record);
+    return localeDateText(activity.date.addSecs(qint64(activity.nextDate)));
+}
+
+constexpr std::array<RecordColumn, 5> columns{{
+    {u"complete", "DoneColumnTooltip"_key, ColumnKind::Flag},
+    {u"date", "ColumnDue"_key, ColumnKind::Date},
+    {u"activity", "ColumnActivity"_key, ColumnKind::Text, 0, Qt::AlignLeft, 280},
+    {u"autoReschedule", "ColumnRepeats"_key, ColumnKind::Flag},
+    {u"next", "ColumnNext"_key, ColumnKind::Date, 0, Qt::AlignLeft, 0, &nextDueDate},
+}};
+
+constexpr RecordListTraits traits{
+    ContainerKind::Schedule, "ScheduleItem"_key,           "EmptySchedule"_key,
+    "ScheduleSmall",         &makeNewRecord<ScheduleData>, true,
+};
+
+} // namespace
+
 ScheduleListController::ScheduleListController()
-    : RecordListController({ContainerKind::Schedule, "ScheduleItem"_key, "EmptySchedule"_key, "ScheduleSmall", nullptr})
+    : RecordListController(traits)
 {
 }
+
 std::span<const RecordColumn> ScheduleListController::columnsFor(Tank *)
 {
-    return {};
+    return columns;
 }
 
 } // namespace brinemark

@@ -10,7 +10,8 @@ namespace brinemark
 {
 
 class Container;
-class LivestockGroupView;
+class EmptyState;
+class TitleLine;
 
 /// The view of a tank's fish, plants, invertebrates or corals as a group. The view's object name is "fishView".
 class LivestockGroupController : public MainViewController,
@@ -39,7 +40,9 @@ private:
 
     std::weak_ptr<Tank> m_tank;
     ContainerKind m_kind = ContainerKind::Fish;
-    QPointer<LivestockGroupView> m_view;
+    QPointer<QWidget> m_view;
+    TitleLine *m_titleLine = nullptr;
+    EmptyState *m_group = nullptr;
 };
 
 } // namespace brinemark

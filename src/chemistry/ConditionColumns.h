@@ -1,0 +1,61 @@
+#pragma once
+
+#include "base/text/Texts.h"
+#include "model/Condition.h"
+
+#include <QStringView>
+
+#include <array>
+#include <vector>
+
+namespace brinemark
+{
+
+/// A column that the water-test table can show.
+struct ConditionColumnTraits {
+    int tag; ///< names the column in menus
+    QStringView identifier;
+    TextKey headerKey;
+    float maximum; ///< the largest value that can be entered; 0 for the date
+    int decimals;
+    int width = 0; ///< pixels; 0 for as wide as the header's text
+};
+
+// clang-format off
+inline constexpr std::array<ConditionColumnTraits, 18> conditionColumnTable{{
+    {20, u"date",       "Date"_key,             0,    0},
+    {21, u"temp",       "TemperatureShort"_key, 150,  1},
+    {22, u"ph",         "Ph"_key,               99,   2},
+    {23, u"ammonia",    "Ammonia"_key,          99,   2},
+    {24, u"nitrate",    "Nitrate"_key,          600,  2},
+    {25, u"nitrite",    "Nitrite"_key,          300,  2},
+    {26, u"gH",         "GH"_key,               999,  2, 40},
+    {27, u"kH",         "KH"_key,               600,  2, 40},
+    {28, u"alkalinity", "Alkalinity"_key,       600,  1},
+    {29, u"calcium",    "Calcium"_key,          999,  0},
+    {30, u"copper",     "Copper"_key,           99,   2},
+    {31, u"iodine",     "Iodine"_key,           99,   2},
+    {32, u"iron",       "Iron"_key,             99,   1},
+    {33, u"salt",       "Salinity"_key,         10,   3},
+    {34, u"oxygen",     "OxygenShort"_key,      99,   1},
+    {35, u"phosphate",  "Phosphate"_key,        99,   1},
+    {38, u"dioxide",    "CarbonDioxide"_key,    99,   0},
+    {39, u"magnesium",  "Magnesium"_key,        2500, 0},
+}};
+// clang-format on
+
+/// The column of a tag or an identifier; null when there is none (36 and 37 are free).
+[[nodiscard]] const ConditionColumnTraits *conditionColumnFromTag(int tag);
+[[nodiscard]] const ConditionColumnTraits *conditionColumnFromIdentifier(QStringView identifier);
+
+/// A column to show, and how wide: 0 for its own width.
+struct ShownConditionColumn {
+    const ConditionColumnTraits *column;
+    double width;
+};
+
+/// What a saved layout shows. Every entry toggles its column: a column that is named twice is hidden again. Unknown
+/// identifiers are passed over.
+[[nodiscard]] std::vector<ShownConditionColumn> shownConditionColumns(const Condition::ColumnInfoArray &saved);
+
+} // namespace brinemark

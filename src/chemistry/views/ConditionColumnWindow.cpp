@@ -1,0 +1,61 @@
+#include "chemistry/views/ConditionColumnWindow.h"
+
+#include "chemistry/ConditionColumns.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+
+namespace brinemark
+{
+
+namespace
+{
+
+QString checkName(const ConditionColumnTraits &column)
+{
+    return QStringLiteral("column.") + column.identifier.toString();
+}
+
+} // namespace
+
+ConditionColumnWindow::ConditionColumnWindow(QWidget *parent)
+    : QDialog(parent, Qt::Tool)
+    , m_label(new QLabel)
+    , m_checks(new QWidget)
+{
+    setObjectName(QStringLiteral("customColumnWindow"));
+    setWindowTitle(text("ConditionColumnsTitle"));
+    m_label->setTextFormat(Qt::PlainText);
+    auto *grid = new QGridLayout(m_checks);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(8);
+    grid->setHorizontalSpacing(24);
+    constexpr int rows = int(conditionColumnTable.size() + 1) / 2;
+    int place = 0;
+    for (const ConditionColumnTraits &column : conditionColumnTable) {
+        auto *check = new QCheckBox(text(column.headerKey));
+        check->setObjectName(checkName(column));
+        connect(check, &QCheckBox::clicked, this, [this, tag = column.tag] { Q_EMIT columnToggled(tag); });
+        grid->addWidget(check, place % rows, place / rows);
+        ++place;
+    }
+    auto *content = new QVBoxLayout(this);
+    content->setContentsMargins(16, 16, 16, 16);
+    content->setSpacing(12);
+    content->addWidget(m_label);
+    content->addWidget(m_checks);
+    content->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void ConditionColumnWindow::showColumns(const QString &tankName, const std::function<bool(int)> &isShown)
+{
+    m_label->setText(fillPlaceholders(text("ConditionColumnsLabel"), {tankName}));
+    m_checks->setEnabled(!tankName.isNull());
+    for (const ConditionColumnTraits &column : conditionColumnTable) {
+        if (auto *check = m_checks->findChild<QCheckBox *>(checkName(column)))
+            check->setChecked(isShown(column.tag));
+    }
+}
+
+} // namespace brinemark

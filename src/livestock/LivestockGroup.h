@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/ContainerKind.h"
+
+#include <array>
+
+namespace brinemark
+{
+
+class Container;
+
+/// What the four kinds of livestock differ in for whoever shows and adds them.
+struct LivestockGroupTraits {
+    ContainerKind kind;
+    const char *picture;    ///< an icon's name
+    TextKey emptyKey;       ///< what an empty group says
+    TextKey addKey;         ///< title of the button that adds one
+    TextKey defaultNameKey; ///< name of a new record
+};
+
+// clang-format off
+inline constexpr std::array<LivestockGroupTraits, 4> livestockGroupTable{{
+    {ContainerKind::Fish,   "FishBig",       "EmptyFish"_key,   "ToolbarNewFish"_key,   "NewFishName"_key},
+    {ContainerKind::Plant,  "Plant",         "EmptyPlant"_key,  "ToolbarNewPlant"_key,  "NewPlantName"_key},
+    {ContainerKind::Invert, "Invertebrates", "EmptyInvert"_key, "ToolbarNewInvert"_key, "NewInvertName"_key},
+    {ContainerKind::Coral,  "Coral",         "EmptyCoral"_key,  "ToolbarNewCoral"_key,  "NewCoralName"_key},
+}};
+// clang-format on
+
+/// Null for a journal.
+[[nodiscard]] const LivestockGroupTraits *livestockGroupTraits(ContainerKind kind);
+
+/// The sum of the records' counts.
+[[nodiscard]] qint64 specimenCount(const Container &livestock);
+
+} // namespace brinemark

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "base/text/Texts.h"
+
+#include <QStringView>
+
+#include <array>
+
+namespace brinemark
+{
+
+struct ItemData;
+
+enum class ProfileKind { Text, Number, Count, ReefSafe };
+
+/// A field of a species profile as forms show it, apart from name, scientific name, family, notes and picture.
+struct ProfileField {
+    QStringView key; ///< of the record
+    TextKey captionKey;
+    ProfileKind kind;
+    int row;
+    int column; ///< 0 or 1; what stands alone in its row is in column 0
+};
+
+// clang-format off
+inline constexpr std::array<ProfileField, 14> profileFields{{
+    {u"tankLevel",   "FishDataTankLevel"_key, ProfileKind::Text,     0, 0},
+    {u"ph",          "FishDataPh"_key,        ProfileKind::Number,   0, 1},
+    {u"size",        "FishDataSize"_key,      ProfileKind::Text,     1, 0},
+    {u"gHardness",   "FishDataGh"_key,        ProfileKind::Number,   1, 1},
+    {u"breeding",    "FishDataBreeding"_key,  ProfileKind::Text,     2, 0},
+    {u"KH",          "FishDataKh"_key,        ProfileKind::Number,   2, 1},
+    {u"care",        "FishDataCare"_key,      ProfileKind::Text,     3, 0},
+    {u"salt",        "FishDataSalt"_key,      ProfileKind::Number,   3, 1},
+    {u"lifeSpan",    "FishDataLifeSpan"_key,  ProfileKind::Text,     4, 0},
+    {u"count",       "FishDataCount"_key,     ProfileKind::Count,    4, 1},
+    {u"temp",        "FishDataTemp"_key,      ProfileKind::Text,     5, 0},
+    {u"reefSafe",    "FishDataReef"_key,      ProfileKind::ReefSafe, 6, 0},
+    {u"socialLevel", "FishDataTraits"_key,    ProfileKind::Text,     7, 0},
+    {u"diet",        "FishDataDiet"_key,      ProfileKind::Text,     8, 0},
+}};
+// clang-format on
+
+/// The field's value as it is shown; numbers in the user's notation with up to seven digits.
+[[nodiscard]] QString profileText(const ItemData &item, const ProfileField &field);
+
+/// A number that a person typed; 0 when it is none.
+[[nodiscard]] double numberOfInput(const QString &typed);
+
+/// Whether a text stands for "nothing was said", in this language or as older files have it.
+[[nodiscard]] bool isUnspecified(const QString &stored);
+/// What a text field stores: an empty one the text of "Unspecified".
+[[nodiscard]] QString compareUnspecified(const QString &typed);
+
+} // namespace brinemark

@@ -1,0 +1,226 @@
+#include "livestock/views/ItemSheet.h"
+
+#include "livestock/ProfileFields.h"
+#include "livestock/views/PictureView.h"
+#include "model/ItemData.h"
+#include "model/KeyAccess.h"
+#include "ui/Alerts.h"
+#include "ui/CaptionForm.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QImageReader>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr QSize pictureSize(200, 150);
+constexpr int smallestFieldWidth = 150; ///< pixels
+
+struct NameField {
+    QStringView key;
+    TextKey captionKey;
+};
+constexpr std::array<NameField, 3> nameFields{{
+    {u"name", "FishDataName"_key},
+    {u"sciName", "FishDataSciName"_key},
+    {u"family", "FishDataFamily"_key},
+}};
+
+constexpr std::array reefSafeCodes{reefsafe::yes, reefsafe::no, reefsafe::unknown};
+
+} // namespace
+
+ItemSheet::ItemSheet(QWidget *parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("itemSheet"));
+    auto *buttons = new QDialogButtonBox;
+    QPushButton *okButton = buttons->addButton(text("OK"), QDialogButtonBox::AcceptRole);
+    okButton->setObjectName(QStringLiteral("okButton"));
+    okButton->setDefault(true);
+    buttons->addButton(text("CancelLabel"), QDialogButtonBox::RejectRole)
+        ->setObjectName(QStringLiteral("cancelButton"));
+
+    auto *content = new QHBoxLayout;
+    content->setSpacing(16);
+    content->addWidget(makeFields(), 1);
+    content->addWidget(makePictureColumn(), 0, Qt::AlignTop);
+    m_notes = new QPlainTextEdit;
+    m_notes->setObjectName(QStringLiteral("notes"));
+    m_notes->setTabChangesFocus(true);
+    m_notes->setMinimumHeight(72);
+    auto *notes = new QVBoxLayout;
+    notes->setSpacing(4);
+    notes->addWidget(makeCaption(text("FishDataNote")));
+    notes->addWidget(m_notes);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(16);
+    column->addLayout(content);
+    column->addLayout(notes, 1);
+    column->addWidget(buttons);
+
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void ItemSheet::addField(QGridLayout &grid, int row, int column, const QString &caption, const QString &key)
+{
+    auto *field = new QLineEdit;
+    field->setObjectName(key);
+    field->setMinimumWidth(smallestFieldWidth);
+    addCaptioned(grid, row, column, caption, field);
+    m_fields.insert(key, field);
+}
+
+QWidget *ItemSheet::makeFields()
+{
+    auto *fields = new QWidget;
+    auto *grid = new QGridLayout(fields);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    int row = 0;
+    for (const NameField &field : nameFields) {
+        addField(*grid, row, 0, text(field.captionKey), field.key.toString());
+        grid->addWidget(m_fields.value(field.key.toString()), row++, 1, 1, 3);
+    }
+    for (const ProfileField &field : profileFields) {
+        if (field.kind == ProfileKind::ReefSafe) {
+            m_reefSafe = new QComboBox;
+            m_reefSafe->setObjectName(field.key.toString());
+            for (const qint32 code : reefSafeCodes)
+                m_reefSafe->addItem(ItemData::reefSafeStringFromCode(code), code);
+            addCaptioned(*grid, row + field.row, field.column, text(field.captionKey), m_reefSafe);
+        } else {
+            addField(*grid, row + field.row, field.column, text(field.captionKey), field.key.toString());
+        }
+    }
+    return fields;
+}
+
+QWidget *ItemSheet::makePictureColumn()
+{
+    m_picture = new PictureView(pictureSize);
+    auto *chooseButton = new QPushButton(text("PictureChoose"));
+    chooseButton->setObjectName(QStringLiteral("chooseImageButton"));
+    m_deleteImageButton = new QPushButton(text("PictureRemove"));
+    m_deleteImageButton->setObjectName(QStringLiteral("deleteImageButton"));
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addWidget(chooseButton);
+    buttons->addWidget(m_deleteImageButton);
+    auto *pictureColumn = new QWidget;
+    auto *column = new QVBoxLayout(pictureColumn);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(8);
+    column->addWidget(makeCaption(text("PictureLabel")));
+    column->addWidget(m_picture);
+    column->addLayout(buttons);
+    connect(chooseButton, &QPushButton::clicked, this, &ItemSheet::chooseImageAction);
+    connect(m_deleteImageButton, &QPushButton::clicked, this, [this] {
+        showImage({});
+        m_imageChanged = true;
+    });
+    return pictureColumn;
+}
+
+void ItemSheet::showItem(const ItemData &item)
+{
+    setWindowTitle(fillPlaceholders(text("EditItemTitle"), {item.name}));
+    m_shown.clear();
+    for (const NameField &field : nameFields)
+        m_shown.insert(field.key.toString(), valueForKey(item, field.key).toString());
+    for (const ProfileField &field : profileFields) {
+        if (field.kind != ProfileKind::ReefSafe)
+            m_shown.insert(field.key.toString(), profileText(item, field));
+    }
+    for (auto shown = m_shown.begin(); shown != m_shown.end(); ++shown) {
+        QLineEdit *field = m_fields.value(shown.key());
+        if (isUnspecified(*shown))
+            shown->clear();
+        field->setPlaceholderText(text("UnspecifiedHolder"));
+        field->setText(*shown);
+        field->setCursorPosition(0);
+    }
+    m_reefSafe->setCurrentIndex(m_reefSafe->findData(item.reefSafe));
+    m_notes->setPlainText(item.notes);
+    showImage(item.itemImage.image());
+    m_deleteImageButton->setEnabled(!item.itemImage.isNone()); // also for bytes that are no picture
+    m_imageChanged = false;
+    QLineEdit *name = m_fields.value(QStringLiteral("name"));
+    name->setFocus();
+    name->selectAll();
+}
+
+void ItemSheet::storeInto(ItemData &item) const
+{
+    const auto changed = [this](const QString &key) { return m_fields.value(key)->text() != m_shown.value(key); };
+    for (const NameField &field : nameFields) {
+        const QString key = field.key.toString();
+        if (changed(key))
+            setValueForKey(item, field.key, compareUnspecified(m_fields.value(key)->text()));
+    }
+    for (const ProfileField &field : profileFields) {
+        const QString key = field.key.toString();
+        if (field.kind == ProfileKind::ReefSafe || !changed(key))
+            continue;
+        const QString typed = m_fields.value(key)->text();
+        if (field.kind == ProfileKind::Text)
+            setValueForKey(item, field.key, compareUnspecified(typed));
+        else
+            setValueForKey(item, field.key, numberOfInput(typed));
+    }
+    if (m_reefSafe->currentIndex() >= 0)
+        item.reefSafe = m_reefSafe->currentData().toInt();
+    if (m_notes->toPlainText() != item.notes && m_notes->document()->isModified())
+        item.notes = m_notes->toPlainText();
+    if (m_imageChanged)
+        item.itemImage = ItemImage::fromImage(m_image);
+}
+
+void ItemSheet::chooseImageAction()
+{
+    QStringList patterns;
+    for (const QByteArray &format : QImageReader::supportedImageFormats())
+        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
+    auto *panel = new QFileDialog(this, {}, {},
+                                  text("PictureFilter") + QStringLiteral(" (%1)").arg(patterns.join(QLatin1Char(' '))));
+    panel->setObjectName(QStringLiteral("imagePanel"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::ExistingFile);
+    connect(panel, &QFileDialog::fileSelected, this, &ItemSheet::chooseImage);
+    panel->open();
+}
+
+void ItemSheet::chooseImage(const QString &path)
+{
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        beep();
+        return;
+    }
+    showImage(image);
+    m_imageChanged = true;
+}
+
+void ItemSheet::showImage(const QImage &image)
+{
+    m_image = image;
+    m_picture->setImage(image);
+    m_deleteImageButton->setEnabled(!image.isNull());
+}
+
+} // namespace brinemark

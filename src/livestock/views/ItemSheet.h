@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QDialog>
+#include <QHash>
+#include <QImage>
+
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace brinemark
+{
+
+class PictureView;
+struct ItemData;
+
+/// The form in which a livestock record is edited. Object names: "itemSheet", each field by its key ("sciName" ...),
+/// "chooseImageButton", "deleteImageButton", "okButton", "cancelButton".
+class ItemSheet : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ItemSheet(QWidget *parent);
+
+    void showItem(const ItemData &item);
+    /// Stores what was changed; what was not touched stays exactly as it is in the record.
+    void storeInto(ItemData &item) const;
+
+    void chooseImage(const QString &path); ///< beeps at a file that is no picture
+
+private:
+    QWidget *makeFields();
+    QWidget *makePictureColumn();
+    void addField(QGridLayout &grid, int row, int column, const QString &caption, const QString &key);
+    void chooseImageAction();
+    void showImage(const QImage &image);
+
+    QHash<QString, QLineEdit *> m_fields;
+    QHash<QString, QString> m_shown; ///< the texts that the fields began with
+    QComboBox *m_reefSafe = nullptr;
+    QPlainTextEdit *m_notes = nullptr;
+    PictureView *m_picture = nullptr;
+    QPushButton *m_deleteImageButton = nullptr;
+    QImage m_image;
+    bool m_imageChanged = false;
+};
+
+} // namespace brinemark
