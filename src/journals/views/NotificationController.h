@@ -11,7 +11,6 @@
 #include <optional>
 #include <vector>
 
-class QAction;
 class QWidget;
 
 namespace brinemark
@@ -48,8 +47,8 @@ private:
 
     void doneChecked(ScheduleData &record) override;
     void scheduleDataDeleted(ScheduleData &record) override;
+    NotificationPanel &panel(); ///< made with the rows that there are
     void windowWillClose();
-    void addToDockMenu(NotificationContentController &row);
 
     std::vector<std::unique_ptr<NotificationContentController>> m_contentArray;
     QPointer<NotificationPanel> m_notePanel;

@@ -41,4 +41,9 @@ std::span<const RecordColumn> ScheduleListController::columnsFor(Tank *)
     return columns;
 }
 
+void ScheduleListController::doneChecked(ScheduleData &)
+{
+    updateDisplay();
+}
+
 } // namespace brinemark

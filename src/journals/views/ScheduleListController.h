@@ -13,6 +13,7 @@ class ScheduleListController : public RecordListController, public Shared<Schedu
 
 protected:
     [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
+    void doneChecked(ScheduleData &record) override; ///< wherever it was done
 
 private:
     friend class Shared<ScheduleListController>;

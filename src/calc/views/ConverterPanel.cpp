@@ -1,0 +1,99 @@
+#include "calc/views/ConverterPanel.h"
+
+#include "base/text/NumberText.h"
+#include "calc/UnitConversion.h"
+#include "ui/CaptionForm.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// The number at the start of what was typed, in the user's notation or with a full stop.
+float typedNumber(const QString &typed)
+{
+    bool ok = false;
+    const float number = QLocale().toFloat(typed.trimmed(), &ok);
+    return ok ? number : leadingFloat(typed);
+}
+
+} // namespace
+
+ConverterPanel::ConverterPanel(QWidget *parent)
+    : QDialog(parent, Qt::Tool)
+    , m_typePopup(new QComboBox)
+    , m_convertPopup(new QComboBox)
+    , m_convertValueField(new QLineEdit)
+    , m_convertResultField(new QLineEdit)
+{
+    setObjectName(QStringLiteral("convertWindow"));
+    setWindowTitle(text("ToolbarCalculate"));
+    m_typePopup->setObjectName(QStringLiteral("typePopup"));
+    m_typePopup->addItems(conversionKindTitles());
+    m_convertPopup->setObjectName(QStringLiteral("convertPopup"));
+    m_convertPopup->setMinimumContentsLength(32);
+    m_convertValueField->setObjectName(QStringLiteral("convertValueField"));
+    m_convertResultField->setObjectName(QStringLiteral("convertResultField"));
+    m_convertResultField->setReadOnly(true);
+
+    auto *form = new QGridLayout;
+    form->setHorizontalSpacing(8);
+    form->setVerticalSpacing(8);
+    addCaptioned(*form, 0, 0, text("ConverterKind"), m_typePopup);
+    addCaptioned(*form, 1, 0, text("ConverterConversion"), m_convertPopup);
+    addCaptioned(*form, 2, 0, text("ConverterValue"), m_convertValueField);
+    addCaptioned(*form, 3, 0, text("ConverterResult"), m_convertResultField);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 12, 16, 16);
+    column->setSpacing(12);
+    column->addWidget(makeCaption(text("ConverterSection")));
+    column->addLayout(form);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+
+    connect(m_typePopup, &QComboBox::currentIndexChanged, this, &ConverterPanel::typePopupAction);
+    connect(m_convertPopup, &QComboBox::currentIndexChanged, this, &ConverterPanel::convertTypesAction);
+    connect(m_convertValueField, &QLineEdit::textChanged, this, &ConverterPanel::convertTypesAction);
+    typePopupAction();
+}
+
+void ConverterPanel::typePopupAction()
+{
+    const QSignalBlocker quiet(m_convertPopup);
+    m_convertPopup->clear();
+    m_convertPopup->addItems(conversionTitles(m_typePopup->currentIndex()));
+    convertTypesAction();
+}
+
+void ConverterPanel::convertTypesAction()
+{
+    if (m_convertValueField->text().trimmed().isEmpty()) {
+        m_convertResultField->clear();
+        return;
+    }
+    const float result = convertUnits(m_typePopup->currentIndex(), m_convertPopup->currentIndex(),
+                                      typedNumber(m_convertValueField->text()));
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    m_convertResultField->setText(locale.toString(double(result), 'g', 6));
+}
+
+void ConverterPanel::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    Q_EMIT closedByUser();
+}
+
+void ConverterPanel::reject()
+{
+    close();
+}
+
+} // namespace brinemark

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "model/ScheduleData.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class QAction;
+class QCheckBox;
+class QMenu;
+class QToolButton;
+class QWidget;
+
+namespace brinemark
+{
+
+/// One row of the overdue notice, and its item in the dock menu. Object names: the row "notificationView", its controls
+/// "noteComplete" and "linkButton".
+class NotificationContentController : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit NotificationContentController(std::shared_ptr<ScheduleData> data);
+    ~NotificationContentController() override;
+
+    [[nodiscard]] const ScheduleData &data() const { return *m_data; }
+    [[nodiscard]] QWidget *contentView(); ///< made when it is first asked for; whoever shows it owns it
+
+    void addToDockMenu(QMenu &menu);
+
+    void scheduleDataChecked(); ///< shows the record's done mark
+    void scheduleDataDeleted(); ///< the record goes: nothing can be done to it any longer
+
+private:
+    void setComplete(bool complete);
+    void gotoDataAction();
+
+    std::shared_ptr<ScheduleData> m_data;
+    bool m_deleted = false;
+    QPointer<QWidget> m_contentView;
+    QPointer<QCheckBox> m_noteComplete;
+    QPointer<QToolButton> m_linkButton;
+    QPointer<QAction> m_dockItem;
+};
+
+} // namespace brinemark

@@ -1,0 +1,67 @@
+#include "journals/views/NotificationPanel.h"
+
+#include "base/text/Texts.h"
+
+#include <QCloseEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr int openingWidth = 420; ///< pixels
+constexpr int scrollingStep = 20; ///< pixels
+
+} // namespace
+
+NotificationPanel::NotificationPanel(QWidget *parent)
+    : QDialog(parent, Qt::Tool)
+    , m_scrollView(new QScrollArea)
+{
+    setObjectName(QStringLiteral("notePanel"));
+    setWindowTitle(text("DockMenuTitle"));
+    auto *content = new QWidget;
+    m_rows = new QVBoxLayout(content);
+    m_rows->setContentsMargins(0, 4, 0, 4);
+    m_rows->setSpacing(0);
+    m_rows->setAlignment(Qt::AlignTop);
+    m_scrollView->setFrameShape(QFrame::NoFrame);
+    m_scrollView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollView->setWidgetResizable(true);
+    m_scrollView->verticalScrollBar()->setSingleStep(scrollingStep);
+    m_scrollView->setWidget(content);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_scrollView);
+    resize(openingWidth, sizeHint().height());
+}
+
+void NotificationPanel::addRow(QWidget *row)
+{
+    if (m_rows->indexOf(row) < 0)
+        m_rows->addWidget(row);
+    setMaximumHeight(m_rows->sizeHint().height());
+}
+
+void NotificationPanel::fitHeight(int wanted)
+{
+    setMaximumHeight(m_rows->sizeHint().height());
+    resize(width(), std::min(wanted, maximumHeight()));
+}
+
+void NotificationPanel::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    Q_EMIT closing();
+}
+
+void NotificationPanel::reject()
+{
+    close();
+}
+
+} // namespace brinemark

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+
+class QScrollArea;
+class QVBoxLayout;
+
+namespace brinemark
+{
+
+/// The window of the overdue notice: rows one below the other, never taller than they need.
+class NotificationPanel : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit NotificationPanel(QWidget *parent);
+
+    void addRow(QWidget *row);  ///< a row that is there already stays where it is
+    void fitHeight(int wanted); ///< takes the height, as far as there are rows for it
+
+Q_SIGNALS:
+    void closing();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void reject() override; ///< Escape closes like the title bar's button
+
+private:
+    QScrollArea *m_scrollView;
+    QVBoxLayout *m_rows;
+};
+
+} // namespace brinemark
