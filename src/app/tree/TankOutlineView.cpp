@@ -1,5 +1,6 @@
 #include "app/tree/TankOutlineView.h"
 
+#include "app/tree/PasteboardTypes.h"
 #include "app/tree/TankTreeModel.h"
 #include "base/text/Texts.h"
 #include "ui/TruncatingDelegate.h"
@@ -140,7 +141,8 @@ DropProposal TankOutlineView::proposalAt(const QPoint &position, TreeItem &row) 
 
 void TankOutlineView::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (event->source() == this)
+    const QMimeData *data = event->mimeData();
+    if (data->hasFormat(pasteboard::livestock) || data->hasFormat(pasteboard::tank))
         event->accept();
     else
         event->ignore(); // files are the window's to take

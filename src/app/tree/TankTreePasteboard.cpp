@@ -1,5 +1,6 @@
 #include "app/tree/TankListController.h"
 
+#include "app/tree/PasteboardTypes.h"
 #include "app/tree/TankTreeModel.h"
 #include "base/Log.h"
 #include "base/plist/XmlReader.h"
@@ -20,11 +21,6 @@ namespace brinemark
 namespace
 {
 
-// Pasteboard types; each carries a property list.
-const QString tankType = QStringLiteral("TankOutlineViewPboardType");
-const QString livestockType = QStringLiteral("FishOutlineViewPboardType");
-const QString contextType = QStringLiteral("ItemContext");
-
 QByteArray propertyList(const QString &text)
 {
     return plist::writeXml(plist::Value(text));
@@ -39,10 +35,10 @@ QMimeData *TankListController::writeItem(const TreeItem &item)
     auto *data = new QMimeData;
     if (item.isRecord()) {
         m_dragData = {nullptr, std::static_pointer_cast<ItemData>(item.record->shared_from_this())};
-        data->setData(livestockType, propertyList(QStringLiteral("fish available")));
+        data->setData(pasteboard::livestock, propertyList(QStringLiteral("fish available")));
     } else {
         m_dragData = {item.tank->shared_from_this(), nullptr};
-        data->setData(tankType, propertyList(QStringLiteral("tank available")));
+        data->setData(pasteboard::tank, propertyList(QStringLiteral("tank available")));
     }
     return data;
 }
@@ -98,7 +94,7 @@ bool TankListController::canCopy() const
 bool TankListController::canPaste() const
 {
     const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasFormat(livestockType);
+    return data && data->hasFormat(pasteboard::livestock);
 }
 
 void TankListController::copy()
@@ -108,8 +104,8 @@ void TankListController::copy()
         return;
     auto *data = new QMimeData;
     data->setText(item.record->name);
-    data->setData(livestockType, plist::writeXml(recordDict(*item.record)));
-    data->setData(contextType, propertyList(item.container->traits().fileKey.toString()));
+    data->setData(pasteboard::livestock, plist::writeXml(recordDict(*item.record)));
+    data->setData(pasteboard::itemContext, propertyList(item.container->traits().fileKey.toString()));
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
@@ -119,8 +115,8 @@ void TankListController::paste()
     if (!tank || !canPaste())
         return;
     const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-    const plist::ReadResult context = plist::readXml(data->data(contextType));
-    const plist::ReadResult dict = plist::readXml(data->data(livestockType));
+    const plist::ReadResult context = plist::readXml(data->data(pasteboard::itemContext));
+    const plist::ReadResult dict = plist::readXml(data->data(pasteboard::livestock));
     const QString *fileKey = context.value.string();
     const std::optional<ContainerKind> kind = fileKey ? containerKindFromFileKey(*fileKey) : std::nullopt;
     if (!kind || !traitsOf(*kind).isLivestock() || !dict.value.dict())
