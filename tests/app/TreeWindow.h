@@ -21,7 +21,7 @@ namespace brinemark::test
 
 /// A window that holds the tank tree, its controller and the open document; the views that the program would put on
 /// screen are written down.
-class TreeWindow final : public Shell, private DocumentHost
+class TreeWindow : public Shell, private DocumentHost
 {
 public:
     explicit TreeWindow(QString savePath = {})
