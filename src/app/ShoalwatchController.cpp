@@ -17,6 +17,7 @@
 #include "ui/Alerts.h"
 #include "ui/MainViewController.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QTimer>
 #include <QToolButton>
@@ -41,6 +42,9 @@ ShoalwatchController::ShoalwatchController()
 
 ShoalwatchController::~ShoalwatchController()
 {
+    // The window lets go of its focus while it is taken down; nobody is left to validate anything for.
+    disconnect(qApp, nullptr, this, nullptr);
+    disconnect(&undoManager(), nullptr, this, nullptr);
     Shell::setShared(nullptr);
 }
 
