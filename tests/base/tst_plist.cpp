@@ -467,6 +467,10 @@ void PlistTest::depthIsLimited_data()
     QTest::newRow("one too deep") << arrays(maximumDepth + 1) << false << false;
     QTest::newRow("far too deep") << arrays(100000) << false << false;
     QTest::newRow("dictionaries far too deep") << dicts(100000) << false << false;
+    QTest::newRow("deeper than the stack") << arrays(500000) << false << false;
+    QTest::newRow("a key deeper than the stack") << inPlist("<dict><key>a</key><dict><key>" + repeated("<x>", 500000) +
+                                                            repeated("</x>", 500000) + "</key><true/></dict></dict>")
+                                                 << false << false;
     QTest::newRow("never closed") << repeated("<array>", 100000) << false << false;
     QTest::newRow("strings in strings") << inPlist(repeated("<string>", 100000) + repeated("</string>", 100000))
                                         << false << false;

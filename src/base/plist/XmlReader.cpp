@@ -164,11 +164,12 @@ private:
     }
 
     /// The node after `child`. A child with children of its own has been read and goes: by the time the last record is
-    /// read the tree is small, and the values have taken its place in memory instead of standing beside it.
-    static pugi::xml_node leave(pugi::xml_node parent, pugi::xml_node child)
+    /// read the tree is small, and the values have taken its place in memory instead of standing beside it. What was
+    /// refused stays: pugixml removes recursively, and it may be nested deeper than the stack holds.
+    pugi::xml_node leave(pugi::xml_node parent, pugi::xml_node child) const
     {
         const pugi::xml_node next = child.next_sibling();
-        if (child.first_child())
+        if (m_error.isEmpty() && child.first_child())
             parent.remove_child(child);
         return next;
     }
