@@ -2,6 +2,8 @@
 
 #include "base/text/NumberText.h"
 
+#include <cmath>
+
 namespace brinemark
 {
 
@@ -10,7 +12,7 @@ double Amount::toDouble() const
     if (const qint64 *whole = integer())
         return double(*whole);
     const double *fractional = real();
-    return fractional ? *fractional : 0;
+    return fractional && !std::isnan(*fractional) ? *fractional : 0;
 }
 
 QVariant Amount::toVariant() const

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] bool isNone() const { return std::holds_alternative<std::monostate>(m_value); }
     [[nodiscard]] const qint64 *integer() const { return std::get_if<qint64>(&m_value); }
     [[nodiscard]] const double *real() const { return std::get_if<double>(&m_value); }
-    [[nodiscard]] double toDouble() const; ///< 0 when there is none
+    [[nodiscard]] double toDouble() const; ///< 0 when there is none and when it is not a number
 
     [[nodiscard]] QVariant toVariant() const; ///< invalid, qlonglong or double
     /// Takes whole numbers as whole, other numbers as real, text by its leading number; anything else is none.

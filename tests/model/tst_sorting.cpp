@@ -25,6 +25,7 @@ private Q_SLOTS:
     void livestockKeepsItsOrder();
     void unknownIdentifierKeepsTheOrder();
     void datesByMomentNotByText();
+    void amountThatIsNoNumber();
 };
 
 void SortingTest::byIdentifier_data()
@@ -128,6 +129,21 @@ void SortingTest::datesByMomentNotByText()
     }
     tank.condition()->sortWithIdentifier(QStringLiteral("date"), true);
     QCOMPARE(tank.conditionListArray().front()->date, early);
+}
+
+/// A file can hold one. It counts as 0 and leaves the others in order.
+void SortingTest::amountThatIsNoNumber()
+{
+    Tank tank(QStringLiteral("T"));
+    for (const double amount : {9.0, qQNaN(), -2.5, 10.25, qQNaN(), 3.0}) {
+        tank.expense()->appendRecord(std::make_shared<ExpenseData>());
+        tank.expenseListArray().back()->amount = amount;
+    }
+    tank.expense()->sortWithIdentifier(QStringLiteral("amount"), false);
+    QList<double> sorted;
+    for (const auto &expense : tank.expenseListArray())
+        sorted << expense->amount.toDouble();
+    QCOMPARE(sorted, QList<double>({10.25, 9.0, 3.0, 0.0, 0.0, -2.5}));
 }
 
 int main(int argc, char **argv)
