@@ -16,6 +16,18 @@ const auto listPropertiesKey = QStringLiteral("TankListProperties");
 const auto listsKey = QStringLiteral("TankLists");
 const auto bundleVersionKey = QStringLiteral("bundleVersion");
 
+/// The version as a number; 0 for one that says none, because only its presence counts and it refuses no tank.
+qint64 versionNumber(const plist::Value &version)
+{
+    if (const qint64 *number = version.integer())
+        return *number;
+    try {
+        return plistfield::integerOf(version, bundleVersionKey);
+    } catch (const TankReadError &) {
+        return 0;
+    }
+}
+
 /// The dictionary under a key, an empty one when it is missing.
 const plist::Dict &part(const plist::Dict &dict, const QString &key)
 {
@@ -34,8 +46,7 @@ std::shared_ptr<Tank> Tank::fromDict(const plist::Dict &tankDictionary)
 
     const std::shared_ptr<Tank> tank(new Tank(Blank{}));
     if (const plist::Value *version = tankDictionary.find(bundleVersionKey))
-        tank->bundleVersion =
-            version->integer() ? *version->integer() : plistfield::integerOf(*version, bundleVersionKey);
+        tank->bundleVersion = versionNumber(*version);
     readTankProperties(*tank, properties);
     for (const ParameterTraits &traits : parameterTable)
         tank->setTarget(traits.parameter, readTarget(traits.parameter, properties));

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void listsSortOnReading();
     void columns();
     void numbersInPlaceOfTexts();
+    void versionOfAnyKind();
     void olderTanks();
     void backupOfAnOlderFile();
     void callbacksInOrder();
@@ -313,6 +314,19 @@ void TankFileTest::numbersInPlaceOfTexts()
     const Document texts(good(QStringLiteral("three-tanks.xml")));
     QVERIFY(numbers.result.ok);
     QVERIFY(tankFileDictionary(numbers.tanks, 2, 1) == tankFileDictionary(texts.tanks, 2, 1));
+}
+
+void TankFileTest::versionOfAnyKind()
+{
+    plist::Dict root = readTankDictionary(good(QStringLiteral("three-tanks.xml"))).root;
+    for (const plist::Value &version :
+         {plist::Value(plist::Array{}), plist::Value(true), plist::Value(QDateTime(QDate(2026, 1, 1), QTime(0, 0)))}) {
+        root.insert(QStringLiteral("FileAttributes"), plist::Dict{{QStringLiteral("bundleVersion"), version}});
+        TankList tanks;
+        const TankFileResult result = readTanks(root, {}, tanks);
+        QVERIFY2(result.ok, qPrintable(result.error));
+        QCOMPARE(tanks.count(), 3);
+    }
 }
 
 void TankFileTest::olderTanks()
