@@ -1,5 +1,6 @@
 #include "ui/RecordListController.h"
 
+#include "base/text/DateText.h"
 #include "base/text/Texts.h"
 #include "model/ModelContext.h"
 #include "model/Tank.h"
@@ -106,10 +107,17 @@ QToolButton *RecordListController::makeButton(const char *iconName, TextKey tool
     return button;
 }
 
-int RecordListController::headerWidth(const RecordColumn &column) const
+int RecordListController::ownWidth(const RecordColumn &column) const
 {
-    constexpr int roomBesideText = 32; // margins and the sort indicator
-    return m_table->horizontalHeader()->fontMetrics().horizontalAdvance(text(column.header)) + roomBesideText;
+    constexpr int roomBesideHeader = 32; // margins and the sort indicator
+    constexpr int roomBesideText = 20;
+    const QFontMetrics header = m_table->horizontalHeader()->fontMetrics();
+    int width = std::max(column.width, header.horizontalAdvance(text(column.header)) + roomBesideHeader);
+    if (column.kind == ColumnKind::Date) {
+        const QDateTime longDate(QDate(2000, 12, 28), QTime(0, 0));
+        width = std::max(width, m_table->fontMetrics().horizontalAdvance(localeDateText(longDate)) + roomBesideText);
+    }
+    return width;
 }
 
 void RecordListController::setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton)
@@ -130,10 +138,8 @@ void RecordListController::showTank(Tank *tank)
     const std::span<const RecordColumn> columns = columnsFor(tank);
     if (another) {
         m_model->setTank(tank, columns);
-        for (int i = 0; i < int(columns.size()); ++i) {
-            const RecordColumn &column = columns[std::size_t(i)];
-            m_table->setColumnWidth(i, std::max(column.width, headerWidth(column)));
-        }
+        for (int i = 0; i < int(columns.size()); ++i)
+            m_table->setColumnWidth(i, ownWidth(columns[std::size_t(i)]));
     } else {
         m_model->refresh();
     }

@@ -72,7 +72,7 @@ protected:
     [[nodiscard]] RecordTableModel &model() const { return *m_model; }
     [[nodiscard]] QHBoxLayout *buttonRow() const { return m_buttonRow; }
     [[nodiscard]] static Tank *currentTank();
-    [[nodiscard]] int headerWidth(const RecordColumn &column) const; ///< pixels that the header's text needs
+    [[nodiscard]] int ownWidth(const RecordColumn &column) const; ///< pixels that the header and a date need
 
     void journalRecordInserted(Tank &tank, ContainerKind kind) override;
     void journalRecordRemoved(Tank &tank, ContainerKind kind) override;

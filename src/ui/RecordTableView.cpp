@@ -3,14 +3,38 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QProxyStyle>
+
+#include <algorithm>
 
 namespace brinemark
 {
+
+namespace
+{
+
+/// Gives the texts of cells and headers some air at their sides.
+class AirySides : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        constexpr int air = 6;
+        const int own = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? std::max(own, air) : own;
+    }
+};
+
+} // namespace
 
 RecordTableView::RecordTableView(std::function<void()> deletePressed, QWidget *parent)
     : QTableView(parent)
     , m_deletePressed(std::move(deletePressed))
 {
+    auto *airy = new AirySides;
+    airy->setParent(this);
+    setStyle(airy);
+    horizontalHeader()->setStyle(airy);
     setAlternatingRowColors(true);
     setShowGrid(false);
     setWordWrap(false);

@@ -102,9 +102,8 @@ void ConditionListController::arrangeColumns()
         int section = 0;
         for (const ShownConditionColumn &shown : shownConditionColumns(condition->columnInfoArray())) {
             const RecordColumn &column = model().columns()[std::size_t(section)];
-            const bool ownWidth = !(shown.width > 0);
-            const double width = ownWidth ? std::max(column.width, headerWidth(column)) : shown.width;
-            header.resizeSection(section++, int(std::min(std::ceil(width), double(largestWidth))));
+            const double width = shown.width > 0 ? std::ceil(shown.width) : ownWidth(column);
+            header.resizeSection(section++, int(std::min(width, double(largestWidth))));
         }
     }
     m_arranging = false;

@@ -17,6 +17,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace brinemark
 {
 
@@ -35,6 +37,14 @@ constexpr std::array<NameField, 3> nameFields{{
     {u"sciName", "FishDataSciName"_key},
     {u"family", "FishDataFamily"_key},
 }};
+
+/// Whether nothing stands beside the field, so that it can be as wide as the form.
+constexpr bool standsAlone(const ProfileField &field)
+{
+    return std::none_of(profileFields.begin(), profileFields.end(), [&](const ProfileField &other) {
+        return other.row == field.row && other.column != field.column;
+    });
+}
 
 constexpr std::array reefSafeCodes{reefsafe::yes, reefsafe::no, reefsafe::unknown};
 
@@ -104,6 +114,8 @@ QWidget *ItemSheet::makeFields()
             addCaptioned(*grid, row + field.row, field.column, text(field.captionKey), m_reefSafe);
         } else {
             addField(*grid, row + field.row, field.column, text(field.captionKey), field.key.toString());
+            if (standsAlone(field))
+                grid->addWidget(m_fields.value(field.key.toString()), row + field.row, 1, 1, 3);
         }
     }
     return fields;
@@ -116,6 +128,8 @@ QWidget *ItemSheet::makePictureColumn()
     chooseButton->setObjectName(QStringLiteral("chooseImageButton"));
     m_deleteImageButton = new QPushButton(text("PictureRemove"));
     m_deleteImageButton->setObjectName(QStringLiteral("deleteImageButton"));
+    for (QPushButton *button : {chooseButton, m_deleteImageButton})
+        button->setAutoDefault(false); // Return is OK's
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     buttons->addWidget(chooseButton);

@@ -33,7 +33,7 @@ void PictureView::paintEvent(QPaintEvent *)
         m_scaled.setDevicePixelRatio(ratio);
     }
     const QSizeF shown = m_scaled.deviceIndependentSize();
-    painter.drawPixmap(QPointF((width() - shown.width()) / 2, (height() - shown.height()) / 2), m_scaled);
+    painter.drawPixmap(QPointF((width() - shown.width()) / 2, 0), m_scaled); // in line with the text beside it
 }
 
 } // namespace brinemark

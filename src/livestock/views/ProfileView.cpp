@@ -66,11 +66,11 @@ QWidget *ProfileView::makePage()
     names->addWidget(m_name);
     names->addWidget(m_sciName);
     names->addWidget(m_family);
-    names->addStretch();
     auto *head = new QHBoxLayout;
     head->setSpacing(16);
     head->addWidget(m_picture, 0, Qt::AlignTop);
     head->addLayout(names, 1);
+    head->setAlignment(names, Qt::AlignTop);
 
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(8);

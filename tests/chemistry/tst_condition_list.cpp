@@ -1,0 +1,235 @@
+#include "chemistry/ConditionColumns.h"
+#include "chemistry/views/ConditionListController.h"
+#include "chemistry/views/TankDataController.h"
+#include "chemistry/views/TankDataEntryController.h"
+#include "support/RecordingShell.h"
+#include "support/TestHome.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QTest>
+
+using namespace brinemark;
+
+class TestConditionList : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_shell = std::make_unique<test::RecordingShell>();
+        QVERIFY(m_shell->readTanks(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml")));
+        for (const auto &tank : m_shell->tanks) {
+            if (tank->condition()->count() > m_shell->current->condition()->count())
+                m_shell->current = tank.get();
+        }
+        m_shell->window.show();
+    }
+    void cleanup()
+    {
+        ConditionListController::destroyShared();
+        TankDataController::destroyShared();
+        TankDataEntryController::destroyShared();
+        m_shell.reset();
+    }
+
+    void layoutRules_data()
+    {
+        QTest::addColumn<QStringList>("saved");
+        QTest::addColumn<QStringList>("shown");
+        QTest::newRow("order") << QStringList{"ph", "date"} << QStringList{"ph", "date"};
+        QTest::newRow("unknown") << QStringList{"date", "colour", "", "kH"} << QStringList{"date", "kH"};
+        QTest::newRow("twice hides") << QStringList{"date", "ph", "date"} << QStringList{"ph"};
+        QTest::newRow("three times") << QStringList{"date", "ph", "date", "date"} << QStringList{"ph", "date"};
+        QTest::newRow("none") << QStringList{} << QStringList{};
+    }
+    void layoutRules()
+    {
+        QFETCH(QStringList, saved);
+        Condition::ColumnInfoArray columns;
+        for (const QString &identifier : saved)
+            columns.push_back({identifier, 0});
+        m_shell->current->condition()->setColumnInfoArray(columns);
+        auto &controller = show();
+        QTEST(storedIdentifiers(controller), "shown");
+    }
+
+    void showsTheLog()
+    {
+        auto &controller = show();
+        const QAbstractItemModel &model = *controller.table()->model();
+        const QAbstractItemModelTester tester(controller.table()->model());
+        const auto &tests = m_shell->current->conditionListArray();
+        QCOMPARE(model.rowCount(), int(tests.size()));
+        const int iron = 2;
+        m_shell->current->condition()->setColumnInfoArray({{"date", 0}, {"ph", 77}, {"iron", 0}});
+        ConditionListController::destroyShared();
+        auto &again = show();
+        const QAbstractItemModel &three = *again.table()->model();
+        QCOMPARE(three.columnCount(), 3);
+        QCOMPARE(again.table()->columnWidth(1), 77);
+        tests.front()->iron = -1;
+        tests.front()->ph = 8.126F;
+        QCOMPARE(three.index(0, iron).data().toString(), text("NotTested"));
+        QVERIFY(three.index(0, iron).data(Qt::ForegroundRole).isValid());
+        QCOMPARE(three.index(0, 1).data().toString(), QLocale().toString(8.13, 'f', 2));
+    }
+
+    void columnsAreStoredIntoTheirTank()
+    {
+        auto &controller = show();
+        Tank *first = m_shell->current;
+        const QStringList before = storedIdentifiers(controller);
+        QHeaderView *header = controller.table()->horizontalHeader();
+        header->moveSection(0, 2);
+        header->resizeSection(0, 131);
+        const auto &stored = first->condition()->columnInfoArray();
+        QCOMPARE(stored[2].identifier, before[0]);
+        QCOMPARE(stored[2].width, 131);
+        QCOMPARE(m_shell->changes, 0);
+
+        // Another tank does not inherit the order on screen, and storing never mixes the two up.
+        const auto other = std::make_shared<Tank>(QStringLiteral("Other"));
+        m_shell->tanks.append(other);
+        m_shell->current = other.get();
+        controller.updateColumnInfo();
+        QCOMPARE(stored[2].identifier, before[0]);
+        show();
+        QCOMPARE(storedIdentifiers(controller).mid(0, 3), QStringList({"date", "temp", "ph"}));
+        m_shell->current = first;
+        show();
+        QCOMPARE(storedIdentifiers(controller)[2], before[0]);
+        QCOMPARE(controller.table()->columnWidth(2), 131);
+    }
+
+    void choosingColumns()
+    {
+        m_shell->current->condition()->setColumnInfoArray({{"date", 90}, {"ph", 300}});
+        auto &controller = show();
+        controller.showCustomizeConditionColumns();
+        auto *window = m_shell->window.findChild<QDialog *>(QStringLiteral("customColumnWindow"));
+        QVERIFY(window && window->isVisible());
+        auto *iron = window->findChild<QCheckBox *>(QStringLiteral("column.iron"));
+        QVERIFY(!iron->isChecked());
+        iron->click();
+        QCOMPARE(storedIdentifiers(controller), QStringList({"date", "ph", "iron"}));
+        QVERIFY(controller.table()->columnWidth(1) < 300); // no longer the one that fills the table
+        QVERIFY(controller.isColumnVisible(32));
+        window->findChild<QCheckBox *>(QStringLiteral("column.date"))->click();
+        QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
+        controller.toogleConditionColumn(36); // no such column
+        QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
+    }
+
+    void tankView()
+    {
+        auto &controller = TankDataController::sharedInstance();
+        controller.view()->setParent(&m_shell->window);
+        controller.setKeyViewWithTankList(&m_shell->window, &m_shell->window);
+        auto *table = controller.view()->findChild<QTableView *>(QStringLiteral("conditionTableView"));
+        const QAbstractItemModelTester tester(table->model());
+        QCOMPARE(table->model()->rowCount(), 17);
+        QStringList names;
+        for (int row = 0; row < 17; ++row)
+            names.append(table->model()->index(row, 0).data().toString());
+        QStringList sorted = names;
+        std::sort(sorted.begin(), sorted.end(),
+                  [](const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+        QCOMPARE(names, sorted);
+
+        TankData &ph = *m_shell->current->phData();
+        ph.preferredValue = 8.25F;
+        ph.warningOn = ph.deviationOn = true;
+        ph.deviationValue = 0.5F;
+        const int row = int(names.indexOf(ph.name));
+        const auto cell = [&](int column, int role = Qt::DisplayRole) {
+            return table->model()->index(row, column).data(role);
+        };
+        const QString point = QLocale().decimalPoint();
+        QCOMPARE(cell(1).toString(), QStringLiteral("8") + point + QStringLiteral("25"));
+        QCOMPARE(cell(2).toString(), text("OnLabel"));
+        QCOMPARE(cell(3).toString(), QStringLiteral("± 0") + point + QStringLiteral("5"));
+        QVERIFY(!cell(3, Qt::ForegroundRole).isValid());
+        ph.deviationOn = false;
+        QVERIFY(cell(3, Qt::ForegroundRole).isValid());
+
+        controller.view()->findChild<QPushButton *>(QStringLiteral("editButton"))->click();
+        QVERIFY(sheet() && sheet()->isVisible());
+        QVERIFY(!sheet()->findChild<QPushButton *>(QStringLiteral("cancelButton"))->isVisible());
+    }
+
+    void tankSheet_data()
+    {
+        QTest::addColumn<bool>("isNew");
+        QTest::addColumn<bool>("confirmed");
+        QTest::newRow("new, OK") << true << true;
+        QTest::newRow("new, cancel") << true << false;
+        QTest::newRow("there, OK") << false << true;
+    }
+    void tankSheet()
+    {
+        QFETCH(bool, isNew);
+        QFETCH(bool, confirmed);
+        const int before = m_shell->tanks.count();
+        Tank *current = m_shell->current;
+        auto &controller = TankDataEntryController::sharedInstance();
+        controller.displayTank(isNew ? nullptr : current->shared_from_this(), isNew, {});
+        QTRY_VERIFY(sheet()->isVisible());
+        auto *name = sheet()->findChild<QLineEdit *>(QStringLiteral("nameField"));
+        QCOMPARE(name->text(), isNew ? text("NewTankName") : current->name);
+        name->setText(QStringLiteral("Cube"));
+        sheet()->findChild<QLineEdit *>(QStringLiteral("sizeField"))->setText(QStringLiteral("60 l"));
+        sheet()->findChild<QRadioButton *>(QStringLiteral("marineButton"))->click();
+        const char *button = confirmed ? "okButton" : "cancelButton";
+        QTest::mouseClick(sheet()->findChild<QPushButton *>(QLatin1String(button)), Qt::LeftButton);
+        QVERIFY(!sheet()->isVisible());
+        QCOMPARE(m_shell->tanks.count(), before + (isNew && confirmed ? 1 : 0));
+        QCOMPARE(m_shell->changes, confirmed ? 1 : 0);
+        QCOMPARE(m_shell->ordersFront, 1);
+        if (confirmed) {
+            QCOMPARE(m_shell->current->name, QStringLiteral("Cube"));
+            QCOMPARE(m_shell->current->size, QStringLiteral("60 l"));
+            QVERIFY(!m_shell->current->freshwater);
+        }
+    }
+
+private:
+    ConditionListController &show()
+    {
+        auto &controller = ConditionListController::sharedInstance();
+        controller.view()->setParent(&m_shell->window);
+        controller.view()->resize(m_shell->window.size());
+        controller.view()->show();
+        controller.setKeyViewWithTankList(&m_shell->window, &m_shell->window);
+        return controller;
+    }
+    QStringList storedIdentifiers(ConditionListController &controller) const
+    {
+        controller.updateColumnInfo();
+        QStringList identifiers;
+        for (const ColumnInfo &column : m_shell->current->condition()->columnInfoArray())
+            identifiers.append(column.identifier);
+        return identifiers;
+    }
+    QDialog *sheet() const { return m_shell->window.findChild<QDialog *>(QStringLiteral("tankSheet")); }
+
+    std::unique_ptr<test::RecordingShell> m_shell;
+};
+
+int main(int argc, char **argv)
+{
+    const test::TestHome home;
+    QApplication app(argc, argv);
+    TestConditionList test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_condition_list.moc"

@@ -1,0 +1,205 @@
+#include "livestock/ProfileFields.h"
+#include "livestock/views/FishDataController.h"
+#include "livestock/views/FishDataEntryController.h"
+#include "livestock/views/ItemSheet.h"
+#include "livestock/views/LivestockGroupController.h"
+#include "support/RecordingShell.h"
+#include "support/TestHome.h"
+#include "ui/Alerts.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+
+using namespace brinemark;
+
+class TestLivestockViews : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_shell = std::make_unique<test::RecordingShell>();
+        m_tank = std::make_shared<Tank>(QStringLiteral("Reef"));
+        m_shell->tanks.append(m_tank);
+        m_shell->current = m_tank.get();
+        m_shell->window.show();
+    }
+    void cleanup()
+    {
+        LivestockGroupController::destroyShared();
+        FishDataController::destroyShared();
+        FishDataEntryController::destroyShared();
+        m_tank.reset();
+        m_shell.reset();
+    }
+
+    void newRecord_data()
+    {
+        QTest::addColumn<ContainerKind>("kind");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("fish") << ContainerKind::Fish << text("NewFishName");
+        QTest::newRow("plant") << ContainerKind::Plant << text("NewPlantName");
+        QTest::newRow("invert") << ContainerKind::Invert << text("NewInvertName");
+        QTest::newRow("coral") << ContainerKind::Coral << text("NewCoralName");
+    }
+    void newRecord()
+    {
+        QFETCH(ContainerKind, kind);
+        auto &group = LivestockGroupController::sharedInstance();
+        group.setContainer(m_tank->container(kind));
+        group.view()->setParent(&m_shell->window);
+        group.view()->show();
+        const auto sentence = [&] {
+            return group.view()->findChild<QLabel *>(QStringLiteral("emptyStateSentence"))->text();
+        };
+        const QString empty = sentence();
+        group.view()->findChild<QPushButton *>(QStringLiteral("emptyStateButton"))->click();
+        QCOMPARE(m_tank->container(kind)->count(), 1);
+        const auto &item = static_cast<ItemData &>(*m_tank->container(kind)->recordAt(0));
+        QTEST(item.name, "name");
+        QCOMPARE(item.itemContext(), traitsOf(kind).itemContext);
+        QCOMPARE(m_shell->selectedRecord, &item);
+        QCOMPARE(m_shell->namesEdited, 1);
+        QCOMPARE(m_shell->changes, 1);
+        group.updateDisplay();
+        QVERIFY(sentence() != empty);
+        QVERIFY(sentence().contains(u'1'));
+    }
+
+    void withoutATankNothingIsMade()
+    {
+        m_shell->current = nullptr;
+        FishDataEntryController::sharedInstance().displayItemData(nullptr, ItemContext::Fish);
+        QCOMPARE(m_tank->fish()->count(), 0);
+        QCOMPARE(m_shell->changes, 0);
+    }
+
+    void untouchedStaysExactly()
+    {
+        FishData &fish = addFish();
+        fish.ph = 8.1234567F; // more digits than are shown
+        fish.sciName = QString();
+        fish.diet = QStringLiteral("(unspecified)");
+        fish.reefSafe = 42; // no code
+        fish.itemImage = ItemImage(QByteArrayLiteral("no picture"));
+        fish.notes = QStringLiteral("one\r\ntwo");
+        ItemSheet &sheet = open(fish);
+        QVERIFY(field(sheet, "diet").text().isEmpty());
+        press(sheet, "okButton");
+        QCOMPARE(fish.ph, 8.1234567F);
+        QCOMPARE(fish.sciName, QString());
+        QCOMPARE(fish.diet, QStringLiteral("(unspecified)"));
+        QCOMPARE(fish.reefSafe, 42);
+        QCOMPARE(fish.itemImage.encoded(), QByteArrayLiteral("no picture"));
+        QCOMPARE(fish.notes, QStringLiteral("one\r\ntwo"));
+    }
+
+    void changesAreStored()
+    {
+        FishData &fish = addFish();
+        FishDataController::sharedInstance().view();
+        ItemSheet &sheet = open(fish);
+        field(sheet, "name").setText(QStringLiteral("Tang"));
+        field(sheet, "family").clear();
+        field(sheet, "ph").setText(QStringLiteral("8") + QLocale().decimalPoint() + QStringLiteral("25"));
+        field(sheet, "salt").setText(QStringLiteral("salty"));
+        field(sheet, "count").setText(QStringLiteral("7"));
+        sheet.findChild<QComboBox *>(QStringLiteral("reefSafe"))->setCurrentIndex(0);
+        QTest::keyClicks(sheet.findChild<QPlainTextEdit *>(QStringLiteral("notes")), QStringLiteral("shy"));
+        QImage picture(20, 10, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        const QString path = m_home.filePath(QStringLiteral("tang.png"));
+        QVERIFY(picture.save(path));
+        sheet.chooseImage(path);
+        press(sheet, "okButton");
+        QCOMPARE(fish.name, QStringLiteral("Tang"));
+        QCOMPARE(fish.family, text("Unspecified"));
+        QCOMPARE(fish.ph, 8.25F);
+        QCOMPARE(fish.salt, 0.0F);
+        QCOMPARE(fish.count, 7);
+        QCOMPARE(fish.reefSafe, reefsafe::yes);
+        QCOMPARE(fish.notes, QStringLiteral("shy"));
+        QCOMPARE(fish.itemImage.image().size(), QSize(20, 10));
+        QCOMPARE(m_shell->changes, 1);
+        QWidget *profile = FishDataController::sharedInstance().view();
+        QCOMPARE(profile->findChild<QLabel *>(QStringLiteral("ph"))->text(), QLocale().toString(8.25));
+        QCOMPARE(profile->findChild<QLabel *>(QStringLiteral("count"))->text(), QStringLiteral("7"));
+
+        ItemSheet &again = open(fish);
+        again.findChild<QPushButton *>(QStringLiteral("deleteImageButton"))->click();
+        field(again, "name").setText(QStringLiteral("nobody"));
+        press(again, "cancelButton");
+        QVERIFY(!fish.itemImage.isNone());
+        QCOMPARE(fish.name, QStringLiteral("Tang"));
+        QCOMPARE(m_shell->changes, 1);
+        open(fish).findChild<QPushButton *>(QStringLiteral("deleteImageButton"))->click();
+        press(again, "okButton");
+        QVERIFY(fish.itemImage.isNone());
+    }
+
+    void noPictureBeeps()
+    {
+        int beeps = 0;
+        setBeepHandler([&] { ++beeps; });
+        ItemSheet sheet(nullptr);
+        FishData &fish = addFish();
+        sheet.showItem(fish);
+        sheet.chooseImage(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml"));
+        setBeepHandler({});
+        QCOMPARE(beeps, 1);
+        sheet.storeInto(fish);
+        QVERIFY(fish.itemImage.isNone());
+    }
+
+    void profileForgetsWhatIsGone()
+    {
+        FishDataController &controller = FishDataController::sharedInstance();
+        controller.view();
+        controller.displayItemData(&addFish());
+        m_tank->fish()->clear();
+        QCOMPARE(controller.currentItem(), nullptr);
+        controller.updateDisplay();
+        QVERIFY(!controller.view()->findChild<QPushButton *>(QStringLiteral("editButton"))->isEnabled());
+    }
+
+private:
+    FishData &addFish()
+    {
+        auto fish = std::make_shared<FishData>(QStringLiteral("Fish"), m_tank.get());
+        m_tank->fish()->appendRecord(fish);
+        return *fish;
+    }
+    ItemSheet &open(FishData &fish)
+    {
+        FishDataEntryController::sharedInstance().displayItemData(&fish, fish.itemContext());
+        return *m_shell->window.findChild<ItemSheet *>(QStringLiteral("itemSheet"));
+    }
+    static QLineEdit &field(ItemSheet &sheet, const char *key)
+    {
+        return *sheet.findChild<QLineEdit *>(QLatin1String(key));
+    }
+    static void press(ItemSheet &sheet, const char *button)
+    {
+        QTest::mouseClick(sheet.findChild<QPushButton *>(QLatin1String(button)), Qt::LeftButton);
+    }
+
+    test::TestHome m_home;
+    std::unique_ptr<test::RecordingShell> m_shell;
+    std::shared_ptr<Tank> m_tank;
+};
+
+int main(int argc, char **argv)
+{
+    const test::TestHome home;
+    QApplication app(argc, argv);
+    TestLivestockViews test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_livestock_views.moc"
