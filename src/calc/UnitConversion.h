@@ -25,7 +25,7 @@ inline constexpr std::array<Conversion, 10> measurement{
     [](float x) -> double { return x / 17.9; },
     [](float x) -> double { return (x - 0.999) * 1300 + 1.1; }, // specific gravity to salinity
     [](float x) -> double { return (x - 1.1) / 1300 + 0.999; },
-    [](float x) -> double { return x * 3.0F; },                 // see the titles for the rest
+    [](float x) -> double { return x * 3.0F; },                 // tablespoons to teaspoons
     [](float x) -> double { return x * 60.0F; },
     [](float x) -> double { return x * 0.2028841; },            // millilitres to teaspoons
     [](float x) -> double { return x * 4.9289216; },
