@@ -218,10 +218,13 @@ void TankOutlineView::paintEvent(QPaintEvent *event)
         return;
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().highlight(), 2));
     const QLine line = dropMark(*m_dropMark);
-    painter.drawEllipse(QPointF(line.p1()) + QPointF(3, 0), 3, 3);
-    painter.drawLine(line.p1() + QPoint(6, 0), line.p2());
+    // Edged in the background's colour, so that it shows beside the selected row as well.
+    for (const QPen &pen : {QPen(palette().base(), 6), QPen(palette().highlight(), 2)}) {
+        painter.setPen(pen);
+        painter.drawEllipse(QPointF(line.p1()) + QPointF(3, 0), 3, 3);
+        painter.drawLine(line.p1() + QPoint(6, 0), line.p2());
+    }
 }
 
 } // namespace brinemark
