@@ -1,15 +1,10 @@
-#include "app/TreeWindow.h"
+#include "app/TwoTanks.h"
 #include "app/tree/PasteboardTypes.h"
 #include "base/plist/XmlReader.h"
 #include "base/plist/XmlWriter.h"
-#include "model/Containers.h"
 #include "model/RecordDict.h"
-#include "model/TankFile.h"
 
-#include <QBuffer>
 #include <QClipboard>
-#include <QDir>
-#include <QDragMoveEvent>
 #include <QMimeData>
 
 using namespace brinemark;
@@ -18,86 +13,16 @@ using namespace brinemark::test;
 namespace
 {
 
-/// Two tanks with one record of each livestock kind in the first, three more fish, and an activity.
-struct Tanks : TreeWindow {
-    std::shared_ptr<Tank> first;
-    std::shared_ptr<Tank> second;
-    std::vector<std::shared_ptr<ItemData>> records; ///< one of each kind, in the order of the containers
-
-    Tanks()
-        : TreeWindow(QDir::home().filePath("tanks.xml"))
-    {
-        first = addTank("first");
-        second = addTank("second");
-        records = {add<FishData>(*first, "fish"), add<PlantData>(*first, "plant"), add<InvertData>(*first, "invert"),
-                   add<CoralData>(*first, "coral")};
-        for (const char *name : {"two", "three", "four"})
-            add<FishData>(*first, QLatin1String(name));
-        first->scheduleListArray().push_back(std::make_shared<ScheduleData>());
-        first->scheduleListArray().push_back(std::make_shared<ScheduleData>());
-    }
-
-    ItemData &record(ContainerKind kind) { return *records[std::size_t(kind)]; }
-    QStringList fishOf(const Tank &tank) const
-    {
-        QStringList names;
-        for (const auto &fish : tank.fishListArray())
-            names << fish->name;
-        return names;
-    }
-    quint32 changes() const { return document.changeCount(); }
-};
-
 /// Counts "ScheduleDataDeleted".
 struct DeletedActivities : ModelObserver {
     int count = 0;
     void scheduleDataDeleted(ScheduleData &) override { ++count; }
 };
 
-std::unique_ptr<QMimeData> pasteboardWith(const QByteArray &livestock, const QByteArray &context)
+/// Answers the sheet on the screen; false when there is none.
+bool answer(const char *button)
 {
-    auto data = std::make_unique<QMimeData>();
-    data->setData(pasteboard::livestock, livestock);
-    data->setData(pasteboard::itemContext, context);
-    return data;
-}
-
-QByteArray xml(const QString &text)
-{
-    return plist::writeXml(plist::Value(text));
-}
-
-/// Drags a row to a place and drops it there, as the toolkit does it between the press and the release; answers what
-/// the tree said while the drag hovered. Holding the copy key is a keyboard modifier. `beforeDrop` runs over that
-/// place.
-Qt::DropAction drag(TreeWindow &w, const TreeItem &item, QPoint to, Qt::KeyboardModifiers modifiers = {},
-                    const std::function<void()> &beforeDrop = {})
-{
-    const std::unique_ptr<QMimeData> data(w.outline->writeItem(item));
-    const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter(to, possible, data.get(), Qt::LeftButton, modifiers);
-    QApplication::sendEvent(w.outline->viewport(), &enter);
-    QDragMoveEvent move(to, possible, data.get(), Qt::LeftButton, modifiers);
-    QApplication::sendEvent(w.outline->viewport(), &move);
-    w.outline->repaint(); // with its mark
-    if (beforeDrop)
-        beforeDrop();
-    if (move.isAccepted()) {
-        QDropEvent drop(to, possible, data.get(), Qt::LeftButton, modifiers);
-        QApplication::sendEvent(w.outline->viewport(), &drop);
-    } else {
-        QDragLeaveEvent leave;
-        QApplication::sendEvent(w.outline->viewport(), &leave);
-    }
-    w.outline->dragEnded();
-    QCoreApplication::processEvents();
-    return move.isAccepted() ? move.dropAction() : Qt::IgnoreAction;
-}
-
-/// The lower edge of a row: a drop between it and the next one.
-QPoint below(const TreeWindow &w, const TreeItem &item)
-{
-    return w.rectOf(item).bottomLeft() + QPoint(20, -1);
+    return pressAlertButton(button) && QTest::qWaitFor([] { return !shownAlert(); });
 }
 
 } // namespace
@@ -113,7 +38,7 @@ private Q_SLOTS:
 
     void selectionChoosesTheView()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.second));
         const auto expect = [&](const TreeItem &item, MainView view) {
             QVERIFY(w.save());
@@ -141,27 +66,21 @@ private Q_SLOTS:
 
     void noSelection()
     {
-        Tanks w;
+        TwoTanks w;
         QVERIFY(w.save());
         w.outline->setCurrentIndex({});
         QCOMPARE(w.currentView(), MainView::None);
         QCOMPARE(w.currentTank(), nullptr);
         QCOMPARE(w.tree.selectedRow(), -1);
         QCOMPARE(w.changes(), 1U);
-    }
-
-    void currentSelectedArray()
-    {
-        Tanks w;
+        QVERIFY(w.tree.currentSelectedArray().empty());
         w.tree.select(TreeItem(*w.records[0]));
         QCOMPARE(w.tree.currentSelectedArray().size(), w.first->fishListArray().size());
-        w.tree.select(TreeItem(*w.first->fish()));
-        QVERIFY(w.tree.currentSelectedArray().empty());
     }
 
     void updateDisplayCountsNothing()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(w.record(ContainerKind::Coral)));
         QVERIFY(w.save());
         w.views.clear();
@@ -176,7 +95,7 @@ private Q_SLOTS:
 
     void openingAndClosing()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.second));
         QVERIFY(w.save());
         w.outline->expand(w.indexOf(TreeItem(*w.first)));
@@ -211,7 +130,7 @@ private Q_SLOTS:
     void closingOverTheSelection()
     {
         QFETCH(bool, tank);
-        Tanks w;
+        TwoTanks w;
         const TreeItem closing = tank ? TreeItem(*w.first) : TreeItem(*w.first->plant());
         w.tree.select(TreeItem(w.record(ContainerKind::Plant)));
         QVERIFY(w.save());
@@ -225,7 +144,7 @@ private Q_SLOTS:
     {
         const QString path = QDir::home().filePath("tanks.xml");
         {
-            Tanks w;
+            TwoTanks w;
             w.outline->collapseAll();
             w.outline->expand(w.indexOf(TreeItem(*w.first)));
             w.outline->expand(w.indexOf(*w.first, ContainerKind::Coral));
@@ -259,7 +178,7 @@ private Q_SLOTS:
     {
         QFETCH(int, kind);
         QFETCH(QString, title);
-        Tanks w;
+        TwoTanks w;
         const auto record = w.records[std::size_t(kind)];
         record->name = "50 %@ \"^0\"";
         Container &list = *w.first->container(ContainerKind(kind));
@@ -273,14 +192,12 @@ private Q_SLOTS:
         QVERIFY(shownAlert()->title().contains(record->name));
         QCOMPARE(shownAlert()->message(), text("CannotUndoMessage"));
         QCOMPARE(shownAlert()->button(AlertAlternate)->text(), text("CancelLabel"));
-        QVERIFY(pressAlertButton("alternateButton"));
-        QTRY_VERIFY(!shownAlert());
+        QVERIFY(answer("alternateButton"));
         QCOMPARE(list.count(), before);
         QCOMPARE(w.changes(), 0U);
 
         QTest::keyClick(w.outline, Qt::Key_Backspace);
-        QVERIFY(pressAlertButton("defaultButton"));
-        QTRY_VERIFY(!shownAlert());
+        QVERIFY(answer("defaultButton"));
         QCOMPARE(list.count(), before - 1);
         QVERIFY(!list.contains(record.get()));
         QVERIFY(w.window.isWindowModified());
@@ -290,20 +207,18 @@ private Q_SLOTS:
 
     void deleteTank()
     {
-        Tanks w;
+        TwoTanks w;
         DeletedActivities deleted;
         w.tree.select(TreeItem(*w.first));
         w.tree.deleteTankEntry();
         QVERIFY(shownAlert());
         QCOMPARE(shownAlert()->title(), formatText(text("DeleteTankWarning"), {"first"}));
-        QVERIFY(pressAlertButton("alternateButton"));
-        QTRY_VERIFY(!shownAlert());
+        QVERIFY(answer("alternateButton"));
         QCOMPARE(w.tree.list().count(), 2);
 
         QVERIFY(w.save());
         w.tree.deleteTankEntry();
-        QVERIFY(pressAlertButton("defaultButton"));
-        QTRY_VERIFY(!shownAlert());
+        QVERIFY(answer("defaultButton"));
         QCOMPARE(w.tree.list().count(), 1);
         QCOMPARE(deleted.count, 2);
         QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.second)); // moved up into its place
@@ -313,12 +228,11 @@ private Q_SLOTS:
 
     void deleteTheLowestTank()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.second));
         w.outline->collapseAll();
         w.tree.deleteTankEntry();
-        QVERIFY(pressAlertButton("defaultButton"));
-        QTRY_VERIFY(!shownAlert());
+        QVERIFY(answer("defaultButton"));
         QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.first));
         w.second.reset(); // nothing may point there any more
         w.outline->expandAll();
@@ -331,8 +245,7 @@ private Q_SLOTS:
         w.addTank("only");
         QVERIFY(w.save());
         w.tree.deleteTankEntry();
-        QVERIFY(pressAlertButton("defaultButton"));
-        QTRY_VERIFY(!shownAlert());
+        QVERIFY(answer("defaultButton"));
         QCOMPARE(w.document.representedFilename(), QString());
         QCOMPARE(w.tree.list().count(), 1);
         QCOMPARE(w.tank(0).name, text("NewTankName"));
@@ -342,20 +255,18 @@ private Q_SLOTS:
     /// Between question and answer the record or tank may have gone another way.
     void deleteWhatIsGone()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.records[0]));
         w.tree.deleteItemDataEntry();
         w.first->fish()->removeEveryOccurrence(w.records[0].get());
-        QVERIFY(pressAlertButton("defaultButton"));
-        QTRY_VERIFY(!shownAlert());
+        QVERIFY(answer("defaultButton"));
         QCOMPARE(w.fishOf(*w.first), QStringList({"two", "three", "four"}));
 
         DeletedActivities deleted;
         w.tree.select(TreeItem(*w.first));
         w.tree.deleteTankEntry();
         w.tree.list().removeAt(0);
-        QVERIFY(pressAlertButton("defaultButton"));
-        QTRY_VERIFY(!shownAlert());
+        QVERIFY(answer("defaultButton"));
         QCOMPARE(w.tree.list().count(), 1);
         QCOMPARE(deleted.count, 0);
         w.tree.updateDisplay();
@@ -364,7 +275,7 @@ private Q_SLOTS:
 
     void nothingToDeleteAsksNothing()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.first->fish()));
         QTest::keyClick(w.outline, Qt::Key_Delete);
         w.tree.deleteTankEntry();
@@ -392,7 +303,7 @@ private Q_SLOTS:
     {
         QFETCH(int, kind);
         QFETCH(QString, context);
-        Tanks w;
+        TwoTanks w;
         QImage picture(9, 7, QImage::Format_RGB32);
         picture.fill(Qt::darkCyan);
         ItemData &source = w.record(ContainerKind(kind));
@@ -430,7 +341,7 @@ private Q_SLOTS:
 
     void copyTakesOnlyRecords()
     {
-        Tanks w;
+        TwoTanks w;
         QApplication::clipboard()->setText("before");
         w.tree.select(TreeItem(*w.first));
         QVERIFY(!w.tree.canCopy());
@@ -446,7 +357,7 @@ private Q_SLOTS:
 
     void pasteWithoutATank()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.records[0]));
         w.tree.copy();
         w.outline->setCurrentIndex({});
@@ -483,7 +394,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, livestock);
         QFETCH(QByteArray, context);
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.second));
         QVERIFY(w.save());
         QApplication::clipboard()->setMimeData(pasteboardWith(livestock, context).release());
@@ -498,7 +409,7 @@ private Q_SLOTS:
 
     void contextMenu()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.records[0]));
         const auto menuAt = [&](const TreeItem &item) -> QMenu * {
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -549,7 +460,7 @@ private Q_SLOTS:
 
     void doubleClick()
     {
-        Tanks w;
+        TwoTanks w;
         const auto doubleClick = [&](const TreeItem &item) {
             QTest::mouseDClick(w.outline->viewport(), Qt::LeftButton, {}, w.rectOf(item).center());
         };
@@ -571,7 +482,7 @@ private Q_SLOTS:
 
     void keyboard()
     {
-        Tanks w;
+        TwoTanks w;
         w.outline->collapseAll();
         w.tree.select(TreeItem(*w.first));
         QTest::keyClick(w.outline, Qt::Key_Right);
@@ -598,7 +509,7 @@ private Q_SLOTS:
 
     void clickBesideTheRowsKeepsTheSelection()
     {
-        Tanks w;
+        TwoTanks w;
         w.tree.select(TreeItem(*w.first));
         QTest::mouseClick(w.outline->viewport(), Qt::LeftButton, {}, {5, w.outline->viewport()->height() - 2});
         w.click(TreeItem(*w.first));
@@ -606,155 +517,6 @@ private Q_SLOTS:
                           w.rectOf(TreeItem(*w.first)).center());
         QCOMPARE(w.currentTank(), w.first.get());
         QVERIFY(w.outline->selectionModel()->isSelected(w.indexOf(TreeItem(*w.first))));
-    }
-
-    // ---- dragging
-
-    void dragRecord_data()
-    {
-        QTest::addColumn<int>("row"); // of the fish that is dragged
-        QTest::addColumn<QString>("to");
-        QTest::addColumn<bool>("copies");
-        QTest::addColumn<QString>("inFirst");
-        QTest::addColumn<QString>("inSecond");
-        const QString all = "fish two three four";
-        QTest::newRow("below the third") << 0 << "third" << false << "two three fish four"
-                                         << "";
-        QTest::newRow("to the other tank") << 1 << "second" << false << "fish three four"
-                                           << "two";
-        QTest::newRow("copied to the other tank") << 1 << "second" << true << all << "two";
-        QTest::newRow("copied within the tank") << 0 << "third" << true << "fish two fish three four"
-                                                << "";
-        QTest::newRow("on a row") << 0 << "on" << false << all << "";
-        QTest::newRow("into a wrong group") << 0 << "plants" << false << all << "";
-        QTest::newRow("beside the rows") << 0 << "nowhere" << false << all << "";
-    }
-
-    void dragRecord()
-    {
-        QFETCH(int, row);
-        QFETCH(QString, to);
-        QFETCH(bool, copies);
-        QFETCH(QString, inFirst);
-        Tanks w;
-        w.outline->collapseAll();
-        for (const auto &tank : {w.first, w.second}) {
-            w.outline->expand(w.indexOf(TreeItem(*tank)));
-            w.outline->expand(w.indexOf(*tank, ContainerKind::Fish));
-        }
-        const auto fish = w.first->fishListArray()[std::size_t(row)];
-        w.tree.select(TreeItem(*fish));
-        QVERIFY(w.save());
-
-        const TreeItem third(*w.first->fishListArray()[2]);
-        const QPoint position = to == "third"    ? below(w, third)
-                                : to == "second" ? below(w, TreeItem(*w.second->fish()))
-                                : to == "on"     ? w.rectOf(third).center()
-                                : to == "plants" ? below(w, TreeItem(*w.first->plant()))
-                                                 : QPoint(20, w.outline->viewport()->height() - 3);
-        const bool changed = to == "third" || to == "second";
-        const Qt::DropAction action = drag(w, TreeItem(*fish), position, copies ? Qt::ControlModifier : Qt::NoModifier);
-
-        QCOMPARE(action, !changed ? Qt::IgnoreAction : copies ? Qt::CopyAction : Qt::MoveAction);
-        QCOMPARE(w.fishOf(*w.first).join(' '), inFirst);
-        QTEST(w.fishOf(*w.second).join(' '), "inSecond");
-        QCOMPARE(w.window.isWindowModified(), changed);
-        const TreeItem selected = w.tree.currentSelectedItem();
-        QVERIFY(selected.isRecord());
-        QCOMPARE(selected.name(), fish->name);
-        QCOMPARE(selected.record != fish.get(), copies);
-        QCOMPARE(selected.record->tank.get(), selected.tank);
-        QCOMPARE(selected.tank, to == "second" ? w.second.get() : w.first.get());
-        QCOMPARE(w.currentTank(), selected.tank);
-        QCOMPARE(w.currentView(), MainView::LivestockItem);
-    }
-
-    void dragTank()
-    {
-        Tanks w;
-        const auto third = w.addTank("third");
-        w.outline->collapseAll();
-        w.tree.select(TreeItem(*w.first));
-        QVERIFY(w.save());
-        const auto order = [&] {
-            QStringList names;
-            for (const auto &tank : w.tree.list())
-                names << tank->name;
-            return names.join(' ');
-        };
-        drag(w, TreeItem(*w.first), w.rectOf(TreeItem(*w.first)).center() + QPoint(0, 2));
-        QCOMPARE(order(), "first second third");
-        QVERIFY(!w.window.isWindowModified());
-        drag(w, TreeItem(*w.first), w.rectOf(TreeItem(*w.second)).center());
-        QCOMPARE(order(), "second first third");
-        QVERIFY(w.window.isWindowModified());
-        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.first));
-        QCOMPARE(w.currentTank(), w.first.get());
-        drag(w, TreeItem(*third), w.rectOf(TreeItem(*w.second)).center());
-        QCOMPARE(order(), "second third first");
-        QCOMPARE(w.currentTank(), third.get());
-    }
-
-    void collectionsAreNotDragged()
-    {
-        Tanks w;
-        for (const TreeItem &item : {TreeItem(*w.first->fish()), TreeItem(*w.first->note()), TreeItem()})
-            QVERIFY(!w.outline->writeItem(item));
-        const std::unique_ptr<QMimeData> tank(w.outline->writeItem(TreeItem(*w.first)));
-        QCOMPARE(*plist::readXml(tank->data(pasteboard::tank)).value.string(), "tank available");
-        const std::unique_ptr<QMimeData> fish(w.outline->writeItem(TreeItem(*w.records[0])));
-        QCOMPARE(*plist::readXml(fish->data(pasteboard::livestock)).value.string(), "fish available");
-        w.outline->dragEnded();
-    }
-
-    /// What another program drags here may look the same; there is no record behind it. Files are not the tree's.
-    void foreignDragIsRefused()
-    {
-        Tanks w;
-        QWidget *viewport = w.outline->viewport();
-        const QPoint position = below(w, TreeItem(*w.first->fish()));
-        QMimeData files;
-        files.setUrls({QUrl::fromLocalFile("/tank.xml")});
-        QDragEnterEvent withFiles(position, Qt::CopyAction, &files, Qt::LeftButton, {});
-        QApplication::sendEvent(viewport, &withFiles);
-        QVERIFY(!withFiles.isAccepted());
-
-        const auto data = pasteboardWith(xml("fish available"), xml("TankFish"));
-        const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
-        QDragEnterEvent enter(position, possible, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(viewport, &enter);
-        QVERIFY(enter.isAccepted());
-        QDragMoveEvent move(position, possible, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(viewport, &move);
-        QVERIFY(!move.isAccepted());
-        QDropEvent drop(position, possible, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(viewport, &drop);
-        QVERIFY(!drop.isAccepted());
-        QCOMPARE(w.first->fishListArray().size(), 4U);
-    }
-
-    /// The tanks may be replaced under a drag, by an open-file request say.
-    void documentReplacedDuringADrag()
-    {
-        Tanks w;
-        w.tree.select(TreeItem(*w.records[0]));
-        const QPoint position = below(w, TreeItem(*w.first->fish()));
-        const auto replace = [&] {
-            w.first.reset();
-            w.second.reset();
-            w.records.clear();
-            QVERIFY(w.read(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml")));
-        };
-        const int before = [&] {
-            TankList list;
-            return readTanks(readTankDictionary(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml")).root, {}, list).ok
-                       ? list.at(0)->fish()->count()
-                       : -1;
-        }();
-        drag(w, TreeItem(*w.records[0]), position, {}, replace);
-        QCOMPARE(w.tank(0).fish()->count(), before);
-        QVERIFY(!w.window.isWindowModified());
-        w.tree.updateDisplay();
     }
 };
 

@@ -1,0 +1,202 @@
+#include "app/TwoTanks.h"
+#include "base/plist/XmlReader.h"
+
+#include <QDragMoveEvent>
+
+using namespace brinemark;
+using namespace brinemark::test;
+
+namespace
+{
+
+/// Drags a row to a place and drops it there, as the toolkit does it between the press and the release; answers what
+/// the tree said while the drag hovered. Holding the copy key is a keyboard modifier. `beforeDrop` runs over that
+/// place.
+Qt::DropAction drag(TreeWindow &w, const TreeItem &item, QPoint to, Qt::KeyboardModifiers modifiers = {},
+                    const std::function<void()> &beforeDrop = {})
+{
+    const std::unique_ptr<QMimeData> data(w.outline->writeItem(item));
+    const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(to, possible, data.get(), Qt::LeftButton, modifiers);
+    QApplication::sendEvent(w.outline->viewport(), &enter);
+    QDragMoveEvent move(to, possible, data.get(), Qt::LeftButton, modifiers);
+    QApplication::sendEvent(w.outline->viewport(), &move);
+    w.outline->repaint(); // with its mark
+    if (beforeDrop)
+        beforeDrop();
+    if (move.isAccepted()) {
+        QDropEvent drop(to, possible, data.get(), Qt::LeftButton, modifiers);
+        QApplication::sendEvent(w.outline->viewport(), &drop);
+    } else {
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(w.outline->viewport(), &leave);
+    }
+    w.outline->dragEnded();
+    QCoreApplication::processEvents();
+    return move.isAccepted() ? move.dropAction() : Qt::IgnoreAction;
+}
+
+/// The lower edge of a row: a drop between it and the next one.
+QPoint below(const TreeWindow &w, const TreeItem &item)
+{
+    return w.rectOf(item).bottomLeft() + QPoint(20, -1);
+}
+
+} // namespace
+
+class TestTankDrags : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dragRecord_data()
+    {
+        QTest::addColumn<int>("row"); // of the fish that is dragged
+        QTest::addColumn<QString>("to");
+        QTest::addColumn<bool>("copies");
+        QTest::addColumn<QString>("inFirst");
+        QTest::addColumn<QString>("inSecond");
+        const QString all = "fish two three four";
+        QTest::newRow("below the third") << 0 << "third" << false << "two three fish four"
+                                         << "";
+        QTest::newRow("to the other tank") << 1 << "second" << false << "fish three four"
+                                           << "two";
+        QTest::newRow("copied to the other tank") << 1 << "second" << true << all << "two";
+        QTest::newRow("copied within the tank") << 0 << "third" << true << "fish two fish three four"
+                                                << "";
+        QTest::newRow("on a row") << 0 << "on" << false << all << "";
+        QTest::newRow("into a wrong group") << 0 << "plants" << false << all << "";
+        QTest::newRow("beside the rows") << 0 << "nowhere" << false << all << "";
+    }
+
+    void dragRecord()
+    {
+        QFETCH(int, row);
+        QFETCH(QString, to);
+        QFETCH(bool, copies);
+        QFETCH(QString, inFirst);
+        TwoTanks w;
+        w.outline->collapseAll();
+        for (const auto &tank : {w.first, w.second}) {
+            w.outline->expand(w.indexOf(TreeItem(*tank)));
+            w.outline->expand(w.indexOf(*tank, ContainerKind::Fish));
+        }
+        const auto fish = w.first->fishListArray()[std::size_t(row)];
+        w.tree.select(TreeItem(*fish));
+        QVERIFY(w.save());
+
+        const TreeItem third(*w.first->fishListArray()[2]);
+        const QPoint position = to == "third"    ? below(w, third)
+                                : to == "second" ? below(w, TreeItem(*w.second->fish()))
+                                : to == "on"     ? w.rectOf(third).center()
+                                : to == "plants" ? below(w, TreeItem(*w.first->plant()))
+                                                 : QPoint(20, w.outline->viewport()->height() - 3);
+        const bool changed = to == "third" || to == "second";
+        const Qt::DropAction action = drag(w, TreeItem(*fish), position, copies ? Qt::ControlModifier : Qt::NoModifier);
+
+        QCOMPARE(action, !changed ? Qt::IgnoreAction : copies ? Qt::CopyAction : Qt::MoveAction);
+        QCOMPARE(w.fishOf(*w.first).join(' '), inFirst);
+        QTEST(w.fishOf(*w.second).join(' '), "inSecond");
+        QCOMPARE(w.window.isWindowModified(), changed);
+        const TreeItem selected = w.tree.currentSelectedItem();
+        QVERIFY(selected.isRecord());
+        QCOMPARE(selected.name(), fish->name);
+        QCOMPARE(selected.record != fish.get(), copies);
+        QCOMPARE(selected.record->tank.get(), selected.tank);
+        QCOMPARE(selected.tank, to == "second" ? w.second.get() : w.first.get());
+        QCOMPARE(w.currentTank(), selected.tank);
+        QCOMPARE(w.currentView(), MainView::LivestockItem);
+    }
+
+    void dragTank()
+    {
+        TwoTanks w;
+        const auto third = w.addTank("third");
+        w.outline->collapseAll();
+        w.tree.select(TreeItem(*w.first));
+        QVERIFY(w.save());
+        const auto order = [&] {
+            QStringList names;
+            for (const auto &tank : w.tree.list())
+                names << tank->name;
+            return names.join(' ');
+        };
+        drag(w, TreeItem(*w.first), w.rectOf(TreeItem(*w.first)).center() + QPoint(0, 2));
+        QCOMPARE(order(), "first second third");
+        QVERIFY(!w.window.isWindowModified());
+        drag(w, TreeItem(*w.first), w.rectOf(TreeItem(*w.second)).center());
+        QCOMPARE(order(), "second first third");
+        QVERIFY(w.window.isWindowModified());
+        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.first));
+        QCOMPARE(w.currentTank(), w.first.get());
+        drag(w, TreeItem(*third), w.rectOf(TreeItem(*w.second)).center());
+        QCOMPARE(order(), "second third first");
+        QCOMPARE(w.currentTank(), third.get());
+    }
+
+    void collectionsAreNotDragged()
+    {
+        TwoTanks w;
+        for (const TreeItem &item : {TreeItem(*w.first->fish()), TreeItem(*w.first->note()), TreeItem()})
+            QVERIFY(!w.outline->writeItem(item));
+        const std::unique_ptr<QMimeData> tank(w.outline->writeItem(TreeItem(*w.first)));
+        QCOMPARE(*plist::readXml(tank->data(pasteboard::tank)).value.string(), "tank available");
+        const std::unique_ptr<QMimeData> fish(w.outline->writeItem(TreeItem(*w.records[0])));
+        QCOMPARE(*plist::readXml(fish->data(pasteboard::livestock)).value.string(), "fish available");
+        w.outline->dragEnded();
+    }
+
+    /// What another program drags here may look the same; there is no record behind it. Files are not the tree's.
+    void foreignDragIsRefused()
+    {
+        TwoTanks w;
+        QWidget *viewport = w.outline->viewport();
+        const QPoint position = below(w, TreeItem(*w.first->fish()));
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile("/tank.xml")});
+        QDragEnterEvent withFiles(position, Qt::CopyAction, &files, Qt::LeftButton, {});
+        QApplication::sendEvent(viewport, &withFiles);
+        QVERIFY(!withFiles.isAccepted());
+
+        const auto data = pasteboardWith(xml("fish available"), xml("TankFish"));
+        const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter(position, possible, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(viewport, &enter);
+        QVERIFY(enter.isAccepted());
+        QDragMoveEvent move(position, possible, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(viewport, &move);
+        QVERIFY(!move.isAccepted());
+        QDropEvent drop(position, possible, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(viewport, &drop);
+        QVERIFY(!drop.isAccepted());
+        QCOMPARE(w.first->fishListArray().size(), 4U);
+    }
+
+    /// The tanks may be replaced under a drag, by an open-file request say.
+    void documentReplacedDuringADrag()
+    {
+        TwoTanks w;
+        w.tree.select(TreeItem(*w.records[0]));
+        const QPoint position = below(w, TreeItem(*w.first->fish()));
+        int before = 0;
+        const auto replace = [&] {
+            w.first.reset();
+            w.second.reset();
+            w.records.clear();
+            QVERIFY(w.read(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml")));
+            before = w.tank(0).fish()->count();
+        };
+        drag(w, TreeItem(*w.records[0]), position, {}, replace);
+        QVERIFY(before > 0);
+        QCOMPARE(w.tank(0).fish()->count(), before);
+        QVERIFY(!w.window.isWindowModified());
+        w.tree.updateDisplay();
+    }
+};
+
+int main(int argc, char **argv)
+{
+    return runWithWidgets<TestTankDrags>(argc, argv);
+}
+
+#include "tst_tank_drags.moc"
