@@ -44,8 +44,12 @@ QByteArray ItemImage::fileData() const
 {
     if (m_encoded.isEmpty() || m_encoded.startsWith("\x89PNG\r\n\x1a\n"))
         return m_encoded;
-    const QByteArray png = image().isNull() ? QByteArray() : pngOf(image());
-    return png.isEmpty() ? m_encoded : png;
+    // Once only, and without keeping the decoded picture: a file may hold thousands that nobody looks at.
+    const QByteArray png = m_converted ? QByteArray() : pngOf(m_looked ? m_decoded : QImage::fromData(m_encoded));
+    m_converted = true;
+    if (!png.isEmpty())
+        m_encoded = png;
+    return m_encoded;
 }
 
 } // namespace brinemark

@@ -32,7 +32,8 @@ public:
     friend bool operator==(const ItemImage &a, const ItemImage &b) { return a.m_encoded == b.m_encoded; }
 
 private:
-    QByteArray m_encoded;
+    mutable QByteArray m_encoded; ///< becomes PNG when it is first saved
+    mutable bool m_converted = false;
     mutable QImage m_decoded;
     mutable bool m_looked = false;
 };
