@@ -172,6 +172,22 @@ private Q_SLOTS:
         QCOMPARE(w.first->fishListArray().size(), 4U);
     }
 
+    /// A closed row opens below a drag that stays on it; an open one stays open.
+    void hoveringOpens()
+    {
+        TwoTanks w;
+        w.outline->collapseAll();
+        w.tree.select(TreeItem(*w.first));
+        const TreeItem second(*w.second);
+        const auto wait = [] { QTest::qWait(900); };
+        drag(w, TreeItem(*w.first), w.rectOf(second).center() - QPoint(0, 1));
+        QVERIFY(!w.tree.isExpanded(second)); // dropped at once
+        drag(w, TreeItem(*w.first), w.rectOf(second).center(), {}, wait);
+        QVERIFY(w.tree.isExpanded(second));
+        drag(w, TreeItem(*w.first), w.rectOf(second).center(), {}, wait);
+        QVERIFY(w.tree.isExpanded(second));
+    }
+
     /// The tanks may be replaced under a drag, by an open-file request say.
     void documentReplacedDuringADrag()
     {

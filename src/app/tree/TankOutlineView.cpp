@@ -20,6 +20,7 @@ namespace
 
 constexpr int iconExtent = 16;
 constexpr int smallestColumnWidth = 80;
+constexpr std::chrono::milliseconds openDelay(700);
 constexpr int betweenRowsZone = 4; // this near to a row's edge a drop lands between rows, farther in on the row
 
 } // namespace
@@ -45,7 +46,9 @@ TankOutlineView::TankOutlineView(TankTreeModel &model, QWidget *parent)
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(false); // the rules say where a drop lands, so the mark is drawn here
-    setAutoExpandDelay(700);
+    m_openTimer.setSingleShot(true);
+    m_openTimer.setInterval(openDelay);
+    connect(&m_openTimer, &QTimer::timeout, this, [this] { expand(m_hovered); });
     setFrameShape(QFrame::NoFrame);
 }
 
@@ -148,9 +151,27 @@ void TankOutlineView::dragEnterEvent(QDragEnterEvent *event)
         event->ignore(); // files are the window's to take
 }
 
+// The toolkit's own delay would close the open rows as well, and with them the rows that a drag is on its way to.
+void TankOutlineView::hoverOver(const QModelIndex &index)
+{
+    if (index == m_hovered)
+        return;
+    endHovering();
+    m_hovered = index;
+    if (m_model.itemAt(index).isExpandable())
+        m_openTimer.start();
+}
+
+void TankOutlineView::endHovering()
+{
+    m_openTimer.stop();
+    m_hovered = QModelIndex();
+}
+
 void TankOutlineView::dragMoveEvent(QDragMoveEvent *event)
 {
-    QTreeView::dragMoveEvent(event); // scrolls at the edges and opens rows that are hovered over
+    QTreeView::dragMoveEvent(event); // scrolls at the edges
+    hoverOver(indexAt(event->position().toPoint()));
     TreeItem row;
     const DropProposal proposal = proposalAt(event->position().toPoint(), row);
     const DropAnswer answer = validateDrop ? validateDrop(proposal, row, allowedActions(*event)) : DropAnswer{};
@@ -167,6 +188,7 @@ void TankOutlineView::dragMoveEvent(QDragMoveEvent *event)
 
 void TankOutlineView::dragLeaveEvent(QDragLeaveEvent *event)
 {
+    endHovering();
     m_dropMark.reset();
     viewport()->update();
     QTreeView::dragLeaveEvent(event);
@@ -174,6 +196,7 @@ void TankOutlineView::dragLeaveEvent(QDragLeaveEvent *event)
 
 void TankOutlineView::dropEvent(QDropEvent *event)
 {
+    endHovering();
     m_dropMark.reset();
     viewport()->update();
     TreeItem row;

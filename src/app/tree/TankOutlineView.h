@@ -2,6 +2,7 @@
 
 #include "app/tree/TreeDropRules.h"
 
+#include <QTimer>
 #include <QTreeView>
 
 #include <functional>
@@ -49,12 +50,16 @@ protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 
 private:
+    void hoverOver(const QModelIndex &index); ///< opens a closed row over which a drag stays
+    void endHovering();
     [[nodiscard]] DropProposal proposalAt(const QPoint &position, TreeItem &row) const;
     [[nodiscard]] QLine dropMark(const DropProposal &proposal) const;
     [[nodiscard]] static Qt::DropActions allowedActions(const QDropEvent &event);
 
     TankTreeModel &m_model;
     std::optional<DropProposal> m_dropMark;
+    QPersistentModelIndex m_hovered; ///< the row below a drag
+    QTimer m_openTimer;
 };
 
 } // namespace brinemark
