@@ -103,7 +103,7 @@ MenuState ShoalwatchController::menuState()
 
 void ShoalwatchController::validate()
 {
-    if (m_validating) // enabling a focused control away moves the focus, which leads here again
+    if (m_validating || m_ending) // enabling a focused control away moves the focus, which leads here again
         return;
     const QScopedValueRollback validating(m_validating, true);
     m_window->menus().validate();

@@ -87,6 +87,12 @@ void ShoalwatchController::windowWillClose()
     m_window->storeWidths();
 }
 
+void ShoalwatchController::programWillEnd()
+{
+    m_window->hide();
+    m_ending = true;
+}
+
 QWidget *ShoalwatchController::mainWindow()
 {
     return m_window.get();

@@ -40,6 +40,7 @@ public:
 
     void display() override; ///< brings the window to the front; an empty tree gets its first tank
     void windowWillClose();  ///< stores what the window remembers
+    void programWillEnd(); ///< hides the window; nothing is validated any more, since what that looks at is about to go
 
     // Shell
     [[nodiscard]] QWidget *mainWindow() override;
@@ -98,6 +99,7 @@ private:
     std::unique_ptr<DocumentCommands> m_documents;
     std::unique_ptr<MainViews> m_views;
     bool m_validating = false;
+    bool m_ending = false;
 };
 
 } // namespace brinemark

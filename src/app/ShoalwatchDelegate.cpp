@@ -58,6 +58,8 @@ ShoalwatchDelegate::~ShoalwatchDelegate() = default;
 void ShoalwatchDelegate::destroyEverything()
 {
     closeHelp();
+    if (ShoalwatchController::hasSharedInstance())
+        ShoalwatchController::sharedInstance().programWillEnd();
     // Undo steps hold records and call back into the controllers, so they go first.
     if (hasSharedInstance())
         sharedInstance().m_undoManager->clear();
