@@ -34,6 +34,7 @@ void ShoalwatchController::connectWindow()
     MainMenuBar &menus = m_window->menus();
     menus.setStateProvider([this] { return menuState(); });
     connect(&menus, &MainMenuBar::commandChosen, this, &ShoalwatchController::performCommand);
+    connect(&menus, &MainMenuBar::menuWillOpen, this, &ShoalwatchController::validate);
     m_window->toolbarItemChosen = [this](const QString &identifier) { performToolbarItem(identifier); };
 
     ShoalwatchDelegate &delegate = ShoalwatchDelegate::sharedInstance();

@@ -46,7 +46,7 @@ MainMenuBar::MainMenuBar(QWidget *parent)
     for (const MenuTitle &title : mainMenus()) {
         QMenu *menu = addMenu(text(title.title));
         menu->setObjectName(QLatin1String(title.title.key));
-        connect(menu, &QMenu::aboutToShow, this, &MainMenuBar::validate);
+        connect(menu, &QMenu::aboutToShow, this, &MainMenuBar::menuWillOpen);
         for (const MenuRow &row : title.rows) {
             if (row.title.isEmpty()) {
                 menu->addSeparator();

@@ -10,8 +10,8 @@
 namespace brinemark
 {
 
-/// The menu bar, built from the menu table. Items are validated when a menu opens and whenever the owner says that the
-/// state has changed, so that shortcuts obey the same rules.
+/// The menu bar, built from the menu table. Its owner validates the items when a menu opens and whenever the state has
+/// changed, so that shortcuts obey the same rules.
 class MainMenuBar : public QMenuBar
 {
     Q_OBJECT
@@ -24,10 +24,10 @@ public:
 
     [[nodiscard]] QAction *action(Command command) const { return m_actions.at(command); }
 
-public Q_SLOTS:
     void validate();
 
 Q_SIGNALS:
+    void menuWillOpen(); ///< its owner validates now, by these rules and by what it knows beyond them
     void commandChosen(brinemark::Command command);
 
 private:
