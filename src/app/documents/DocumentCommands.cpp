@@ -44,6 +44,12 @@ void DocumentCommands::newDataFile()
 
 void DocumentCommands::openDataFile()
 {
+    m_handedOver.clear(); // by somebody who called it off on the way
+    goOnOpening();
+}
+
+void DocumentCommands::goOnOpening()
+{
     if (m_document.isEdited()) {
         askBeforeLosingChanges(Context::OpenFile);
         return;
@@ -109,7 +115,7 @@ void DocumentCommands::goOn(Context context)
         m_document.readTankFileWithPath({});
         break;
     case Context::OpenFile:
-        openDataFile();
+        goOnOpening();
         break;
     case Context::Quit:
         m_replyToQuit(true);

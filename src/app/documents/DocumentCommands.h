@@ -48,6 +48,7 @@ private:
     void openFileDidEnd(const FilePanelAnswer &answer);
     void savePanelDidEnd(const FilePanelAnswer &answer, Context context);
     void goOn(Context context);
+    void goOnOpening();
     bool writeToCurrentPath(Context context);
 
     TankDocument &m_document;
