@@ -100,6 +100,11 @@ bool TankDocument::readTankFileWithPath(const QString &path)
         m_documentDictionary = content.root;
     };
     const TankFileResult result = readTanks(content.root, path, m_list, callbacks);
+    if (result.refused) { // no more of a tank file than one that is no property list
+        qCWarning(logFile) << "cannot read" << path << result.error;
+        m_host.fitTreeColumn();
+        return false;
+    }
     m_host.reloadTree();
     if (!result.ok) {
         qCWarning(logFile) << "cannot build the tanks of" << path << result.error;
