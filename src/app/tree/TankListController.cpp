@@ -146,6 +146,8 @@ void TankListController::select(const TreeItem &item)
 
 void TankListController::forgetRows()
 {
+    // The view on screen lets go of its tank while that is still there.
+    m_shell->changeView(MainView::None);
     const QScopedValueRollback rebuilding(m_rebuilding, true);
     const TankList going = std::exchange(m_list, {}); // until the rows no longer point to them
     m_model->reload();
