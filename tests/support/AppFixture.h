@@ -1,0 +1,243 @@
+#pragma once
+
+#include "app/ShoalwatchController.h"
+#include "app/ShoalwatchDelegate.h"
+#include "app/documents/DocumentCommands.h"
+#include "app/startup/BrinemarkApp.h"
+#include "app/tree/TankListController.h"
+#include "app/window/MainWindow.h"
+#include "base/Clock.h"
+#include "base/PreferenceKeys.h"
+#include "base/PropertyListSettings.h"
+#include "model/Tank.h"
+#include "model/TankFile.h"
+#include "support/AlertDriver.h"
+#include "support/TestHome.h"
+#include "ui/Desktop.h"
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <initializer_list>
+#include <memory>
+
+namespace brinemark::test
+{
+
+/// Answers every alert that comes up, sheet or panel, with the next of the given answers, for as long as it lives, and
+/// keeps their titles. An alert too many is cancelled, so that the titles show it and nothing hangs.
+class AlertScript : public QObject
+{
+public:
+    AlertScript(std::initializer_list<AlertAnswer> answers = {})
+        : m_answers(answers.begin(), answers.end())
+    {
+        startTimer(2);
+    }
+
+    void answerWith(AlertAnswer answer) { m_answers << answer; }
+
+    QStringList titles;
+    QStringList messages;
+
+protected:
+    void timerEvent(QTimerEvent *) override
+    {
+        AlertDialog *alert = shownAlert();
+        if (!alert)
+            return;
+        titles << alert->title();
+        messages << alert->message();
+        const AlertAnswer answer = m_answers.isEmpty() ? alert->cancelAnswer() : m_answers.takeFirst();
+        if (QPushButton *button = alert->button(answer))
+            button->click();
+    }
+
+private:
+    QList<AlertAnswer> m_answers;
+};
+
+/// The window of this object name that is on the screen; null when there is none.
+template <class Window>
+Window *shownWindow(const char *name)
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->objectName() == QLatin1String(name))
+            return qobject_cast<Window *>(window);
+    }
+    return nullptr;
+}
+
+/// Waits for a window to come up; null when it does not.
+template <class Window = QDialog>
+Window *awaitWindow(const char *name)
+{
+    return QTest::qWaitFor([name] { return shownWindow<Window>(name) != nullptr; }, 2000) ? shownWindow<Window>(name)
+                                                                                          : nullptr;
+}
+
+/// Waits for the open or save panel, leaves its make-default box as told, and chooses `path`, or cancels when it is
+/// empty. False when no panel came up.
+inline bool answerPanel(const char *name, const QString &path, std::optional<bool> makeDefault = {})
+{
+    auto *panel = awaitWindow<QFileDialog>(name);
+    if (!panel)
+        return false;
+    if (makeDefault)
+        panel->findChild<QCheckBox *>("makeDefaultCheck")->setChecked(*makeDefault);
+    if (path.isEmpty()) {
+        panel->reject();
+    } else {
+        panel->findChild<QLineEdit *>("fileNameEdit")->setText(path);
+        QMetaObject::invokeMethod(panel, "accept");
+    }
+    QCoreApplication::processEvents(); // what the answer leads to is queued
+    return !shownWindow<QFileDialog>(name);
+}
+
+inline QString testFile(const QString &name)
+{
+    return QStringLiteral(BRINEMARK_TEST_DATA "/tanks/") + name;
+}
+
+/// The names of the tanks in a file, read without the program.
+inline QStringList tankNamesIn(const QString &path)
+{
+    TankList tanks;
+    const TankFileContent content = readTankDictionary(path);
+    QStringList names;
+    if (content.ok && readTanks(content.root, path, tanks).ok) {
+        for (const auto &tank : tanks)
+            names << tank->name;
+    }
+    return names;
+}
+
+/// The program as main() starts it, with fresh preferences and a folder of its own, and its end. Nothing is shown
+/// before start(). It has run before, unless told otherwise.
+class Program
+{
+public:
+    enum History { RanBefore, NeverRan, KeepPreferences };
+
+    explicit Program(History history = RanBefore)
+    {
+        if (history != KeepPreferences) {
+            // A second object of the same file shares the values of the program's own.
+            QSettings(Preferences::shared().path(), propertyListSettingsFormat()).clear();
+            Preferences::shared().flush();
+        }
+        if (history == RanBefore) {
+            Preferences::shared().set(preference::autoSaveOnQuit, false);
+            Preferences::shared().set(preference::updateAuto, false);
+        }
+        desktop::setUrlHandler([this](const QUrl &url) {
+            openedUrls << url.toString(QUrl::FullyEncoded);
+            return true;
+        });
+        m_beepBefore = setBeepHandler([this] { ++beeps; });
+        delegate().applicationWillFinishLaunching();
+    }
+
+    ~Program()
+    {
+        ShoalwatchDelegate::destroyEverything();
+        desktop::setUrlHandler({});
+        setBeepHandler(m_beepBefore);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+
+    /// Goes through start-up, with the file when one is given; then the document is clean and no sheet is up.
+    void start(const QString &file = {})
+    {
+        if (!file.isEmpty())
+            delegate().applicationOpenFile(file);
+        delegate().applicationDidFinishLaunching();
+        settle();
+    }
+
+    /// Confirms the sheet that an untitled document opens on its new tank, and counts the changes so far as saved.
+    void settle()
+    {
+        QCoreApplication::processEvents();
+        if (auto *sheet = shownWindow<QDialog>("tankSheet"))
+            sheet->findChild<QPushButton *>("okButton")->click();
+        QCoreApplication::processEvents();
+        while (document().changeCount() != 0)
+            document().documentModifiedWithChange(false);
+    }
+
+    /// Runs the event loop as main() does, with `act` in it. Whether the program then ended by itself.
+    static bool endsAfter(const std::function<void()> &act)
+    {
+        constexpr int stillRunning = 1;
+        QTimer giveUp; // goes with this function: an exit() later would end the next panel instead
+        giveUp.setSingleShot(true);
+        QObject::connect(&giveUp, &QTimer::timeout, [] { QCoreApplication::exit(stillRunning); });
+        QTimer::singleShot(0, qApp, [&] {
+            act();
+            giveUp.start(30);
+        });
+        return QCoreApplication::exec() != stillRunning;
+    }
+
+    [[nodiscard]] static ShoalwatchDelegate &delegate() { return ShoalwatchDelegate::sharedInstance(); }
+    [[nodiscard]] static ShoalwatchController &controller() { return ShoalwatchController::sharedInstance(); }
+    [[nodiscard]] static MainWindow &window() { return controller().window(); }
+    [[nodiscard]] static TankDocument &document() { return controller().document(); }
+    [[nodiscard]] static DocumentCommands &commands() { return controller().documents(); }
+    [[nodiscard]] static TankListController &tree() { return TankListController::sharedInstance(); }
+    [[nodiscard]] static QString path() { return document().representedFilename(); }
+
+    [[nodiscard]] static QStringList tankNames()
+    {
+        QStringList names;
+        for (const auto &tank : tree().list())
+            names << tank->name;
+        return names;
+    }
+
+    /// An edit as a person makes it: gives the first tank another name in the tree.
+    static bool renameFirstTank(const QString &name)
+    {
+        QAbstractItemModel *rows = tree().tankList()->model();
+        return rows->setData(rows->index(0, 0), name);
+    }
+
+    [[nodiscard]] QString filePath(const QString &name) const { return m_folder.filePath(name); }
+
+    /// A copy, in the program's own folder, of a file that a test may write to.
+    QString copyOf(const QString &source, const QString &name = QStringLiteral("tanks.xml")) const
+    {
+        QFile::copy(source, filePath(name));
+        QFile(filePath(name)).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        return filePath(name);
+    }
+
+    QStringList openedUrls; ///< what was handed to the browser or mail program
+    int beeps = 0;
+
+private:
+    QTemporaryDir m_folder;
+    std::function<void()> m_beepBefore;
+};
+
+/// Runs a test object under the application object, a home of its own and a fixed clock.
+template <class Test>
+int runWithApp(int argc, char **argv)
+{
+    TestHome home;
+    BrinemarkApp application(argc, argv);
+    const clock::FixedClock clock(QDateTime(QDate(2026, 3, 14), QTime(12, 0)));
+    setTextLanguages({QStringLiteral("en")});
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace brinemark::test
