@@ -1,0 +1,619 @@
+#include "base/Preferences.h"
+#include "base/Product.h"
+#include "base/text/Texts.h"
+#include "support/AppFixture.h"
+#include "ui/MainView.h"
+
+#include <QDropEvent>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMimeData>
+#include <QProcess>
+#include <QUndoStack>
+
+using namespace brinemark;
+using namespace brinemark::test;
+
+namespace
+{
+
+constexpr quint32 wrapped = 0xFFFFFFFF;
+
+AlertAnswer answerOf(const QString &word)
+{
+    return word == "save" ? AlertDefault : word == "cancel" ? AlertOther : AlertAlternate;
+}
+
+/// Answers panels written as "save:ok", "open:cancel"; "ok" chooses the file of that panel.
+bool answerPanels(const QStringList &panels, const QString &saveTo, const QString &open)
+{
+    for (const QString &step : panels) {
+        const bool ok = step.endsWith(u":ok");
+        const bool save = step.startsWith(u"save");
+        if (!answerPanel(save ? "savePanel" : "openPanel", ok ? (save ? saveTo : open) : QString()))
+            return false;
+    }
+    return true;
+}
+
+bool panelShown()
+{
+    return shownWindow<QFileDialog>("openPanel") || shownWindow<QFileDialog>("savePanel");
+}
+
+/// Hands a file over by drag and drop; what the window made of the drag and of the drop.
+std::pair<bool, bool> dropOnWindow(MainWindow &window, const QList<QUrl> &urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(&window, &enter);
+    if (!enter.isAccepted())
+        return {false, false};
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    drop.ignore();
+    QCoreApplication::sendEvent(&window, &drop);
+    return {true, drop.isAccepted()};
+}
+
+} // namespace
+
+class TestDocuments : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newAndOpen_data()
+    {
+        QTest::addColumn<QString>("command"); // "new" or "open"
+        QTest::addColumn<bool>("titled");
+        QTest::addColumn<QString>("answer"); // to the question; "clean": there is nothing to ask
+        QTest::addColumn<QStringList>("panels");
+        QTest::addColumn<QString>("endsAt"); // "" untitled, "old", "saved", "other"
+        QTest::addColumn<bool>("keepsEdits");
+        QTest::addColumn<QString>("written"); // the file that got the edits
+
+        struct Row {
+            const char *command;
+            bool titled;
+            const char *answer, *panels, *endsAt;
+            bool keepsEdits;
+            const char *written;
+        };
+        static constexpr Row rows[] = {
+            {"new", true, "clean", "", "", false, ""},
+            {"new", false, "clean", "", "", false, ""},
+            {"new", true, "save", "", "", false, "old"},
+            {"new", true, "don't save", "", "", false, ""},
+            {"new", true, "cancel", "", "old", true, ""},
+            {"new", false, "save", "save:ok", "", false, "saved"},
+            {"new", false, "save", "save:cancel", "", true, ""},
+            {"new", false, "don't save", "", "", false, ""},
+            {"new", false, "cancel", "", "", true, ""},
+            {"open", true, "clean", "open:ok", "other", false, ""},
+            {"open", true, "clean", "open:cancel", "old", false, ""},
+            {"open", true, "save", "open:ok", "other", false, "old"},
+            {"open", true, "don't save", "open:ok", "other", false, ""},
+            {"open", true, "cancel", "", "old", true, ""},
+            {"open", false, "save", "save:ok open:ok", "other", false, "saved"},
+            {"open", false, "save", "save:ok open:cancel", "saved", false, "saved"},
+            {"open", false, "save", "save:cancel", "", true, ""},
+        };
+        for (const Row &row : rows)
+            QTest::addRow("%s, %s, %s, %s", row.command, row.titled ? "titled" : "untitled", row.answer, row.panels)
+                << QString(row.command) << row.titled << QString(row.answer)
+                << QString(row.panels).split(' ', Qt::SkipEmptyParts) << QString(row.endsAt) << row.keepsEdits
+                << QString(row.written);
+    }
+
+    void newAndOpen()
+    {
+        QFETCH(QString, command);
+        QFETCH(bool, titled);
+        QFETCH(QString, answer);
+        QFETCH(QStringList, panels);
+        QFETCH(QString, endsAt);
+        QFETCH(bool, keepsEdits);
+        QFETCH(QString, written);
+        Program program;
+        const QMap<QString, QString> files{{"", {}},
+                                           {"old", program.copyOf(testFile("every-field.xml"))},
+                                           {"saved", program.filePath("saved.xml")},
+                                           {"other", testFile("three-tanks.xml")}};
+        program.start(titled ? files["old"] : QString());
+        const QStringList namesBefore = program.tankNames();
+        const bool edited = answer != "clean";
+        if (edited)
+            QVERIFY(program.renameFirstTank("Edited"));
+        QCOMPARE(program.window().isWindowModified(), edited);
+
+        AlertScript script;
+        if (edited)
+            script.answerWith(answerOf(answer));
+        program.controller().performCommand(command == "new" ? Command::NewFile : Command::OpenFile);
+        QTRY_COMPARE(script.titles, edited ? QStringList{text("SaveTitle")} : QStringList{});
+        QVERIFY(answerPanels(panels, files["saved"], files["other"]));
+        QVERIFY(!panelShown());
+
+        QCOMPARE(program.path(), files[endsAt]);
+        QCOMPARE(program.window().windowFilePath(), files[endsAt]);
+        QCOMPARE(program.tankNames().contains("Edited"), keepsEdits || endsAt == "saved");
+        if (keepsEdits)
+            QVERIFY(program.document().isEdited() && program.window().isWindowModified());
+        else if (!endsAt.isEmpty())
+            QVERIFY(!program.document().isEdited() && !program.window().isWindowModified());
+        else
+            QCOMPARE(program.tankNames(), QStringList{text("NewTankName")});
+        if (endsAt == "old" && !keepsEdits)
+            QCOMPARE(program.tankNames(), namesBefore);
+        QCOMPARE(tankNamesIn(files["old"]).contains("Edited"), written == "old");
+        QCOMPARE(tankNamesIn(files["saved"]).contains("Edited"), written == "saved");
+    }
+
+    void cancelledOpenAfterDontSaveKeepsTheEditsUnmarked()
+    {
+        Program program;
+        const QString path = program.copyOf(testFile("every-field.xml"));
+        program.start(path);
+        QVERIFY(program.renameFirstTank("Edited"));
+        const quint32 count = program.document().changeCount();
+        AlertScript script{AlertAlternate};
+        program.commands().openDataFile();
+        QVERIFY(answerPanel("openPanel", {}));
+        QCOMPARE(program.path(), path);
+        QVERIFY(!program.window().isWindowModified());
+        QCOMPARE(program.document().changeCount(), count);
+        QCOMPARE(program.tankNames().first(), "Edited");
+        // The next edit marks it again.
+        QVERIFY(program.renameFirstTank("Again"));
+        QVERIFY(program.window().isWindowModified());
+    }
+
+    void saving()
+    {
+        Program program;
+        program.start();
+        QCOMPARE(program.path(), QString());
+        QCOMPARE(program.window().windowTitle(), text("UntitledFileName") + "[*]");
+        QVERIFY(program.renameFirstTank("First"));
+
+        program.controller().performCommand(Command::Save);
+        auto *panel = awaitWindow<QFileDialog>("savePanel");
+        QVERIFY(panel);
+        QCOMPARE(QFileInfo(panel->selectedFiles().value(0)).completeBaseName(),
+                 QFileInfo(text("FileName")).completeBaseName());
+        QVERIFY(answerPanel("savePanel", program.filePath("mine"))); // the extension is added
+        const QString mine = program.filePath("mine.xml");
+        QCOMPARE(program.path(), mine);
+        QCOMPARE(program.window().windowTitle(), QString("mine.xml[*]"));
+        QVERIFY(!program.document().isEdited());
+        QCOMPARE(program.document().changeCount(), 0U);
+
+        QVERIFY(program.renameFirstTank("Second"));
+        program.controller().performCommand(Command::Save);
+        QVERIFY(!panelShown());
+        QVERIFY(!program.document().isEdited());
+        QCOMPARE(tankNamesIn(mine), QStringList{"Second"});
+
+        QVERIFY(program.renameFirstTank("Third"));
+        program.controller().performCommand(Command::SaveAs);
+        QVERIFY(answerPanel("savePanel", {}));
+        QVERIFY(program.document().isEdited());
+        QCOMPARE(program.path(), mine);
+        program.controller().performCommand(Command::SaveAs);
+        QVERIFY(answerPanel("savePanel", program.filePath("other.xml")));
+        QCOMPARE(program.path(), program.filePath("other.xml"));
+        QCOMPARE(tankNamesIn(mine), QStringList{"Second"});
+        QCOMPARE(tankNamesIn(program.path()), QStringList{"Third"});
+        QVERIFY(!program.document().isEdited());
+    }
+
+    void makeDefaultBox()
+    {
+        Program program;
+        program.start(testFile("minimal.xml"));
+        Preferences &preferences = Preferences::shared();
+        const auto boxOf = [](const char *panel) {
+            return awaitWindow<QFileDialog>(panel)->findChild<QCheckBox *>("makeDefaultCheck")->isChecked();
+        };
+        program.commands().openDataFile();
+        QVERIFY(!boxOf("openPanel"));
+        QVERIFY(answerPanel("openPanel", {}));
+        // Without a default file the save panel ticks it, every time; unticked it stores nothing.
+        for (int i = 0; i < 2; ++i) {
+            program.commands().saveAsCurrentFile();
+            QVERIFY(boxOf("savePanel"));
+            QVERIFY(answerPanel("savePanel", program.filePath(QString::number(i) + ".xml"), false));
+            QVERIFY(!preferences.contains(preference::defaultFile));
+        }
+        program.commands().saveAsCurrentFile();
+        QVERIFY(answerPanel("savePanel", program.filePath("default.xml")));
+        QCOMPARE(preferences.value(preference::defaultFile), program.filePath("default.xml"));
+        // From now on it stays as it was left, in both panels.
+        program.commands().saveAsCurrentFile();
+        QVERIFY(boxOf("savePanel"));
+        QVERIFY(answerPanel("savePanel", {}, false));
+        program.commands().openDataFile();
+        QVERIFY(!boxOf("openPanel"));
+        QVERIFY(answerPanel("openPanel", testFile("minimal.xml"), false));
+        QCOMPARE(preferences.value(preference::defaultFile), program.filePath("default.xml"));
+        program.commands().openDataFile();
+        QVERIFY(answerPanel("openPanel", testFile("three-tanks.xml"), true));
+        QCOMPARE(preferences.value(preference::defaultFile), testFile("three-tanks.xml"));
+    }
+
+    void revert()
+    {
+        Program program;
+        program.start(program.copyOf(testFile("minimal.xml")));
+        QVERIFY(program.renameFirstTank("Edited"));
+        const quint32 count = program.document().changeCount();
+        for (const AlertAnswer answer : {AlertDefault, AlertAlternate}) {
+            AlertScript script{answer};
+            program.controller().performCommand(Command::Revert);
+            QCOMPARE(script.titles, QStringList{text("RevertTitle")});
+            QVERIFY(script.messages.first().contains("tanks.xml"));
+            QVERIFY(!script.messages.first().contains("^0"));
+            QCOMPARE(program.tankNames(), QStringList{"Edited"});
+            QCOMPARE(program.document().changeCount(), count);
+            QVERIFY(program.document().isEdited());
+        }
+    }
+
+    void quit_data()
+    {
+        QTest::addColumn<bool>("autoSave");
+        QTest::addColumn<bool>("titled");
+        QTest::addColumn<QString>("answer"); // "clean": no edits; "none": edits, but no question
+        QTest::addColumn<QStringList>("panels");
+        QTest::addColumn<bool>("ends");
+        QTest::addColumn<QString>("written");
+        const auto row = [](bool autoSave, bool titled, const char *answer, const char *panels, bool ends,
+                            const char *written) {
+            QTest::addRow("%s, %s, %s, %s", autoSave ? "auto-save" : "ask", titled ? "titled" : "untitled", answer,
+                          panels)
+                << autoSave << titled << QString(answer) << QString(panels).split(' ', Qt::SkipEmptyParts) << ends
+                << QString(written);
+        };
+        for (const bool autoSave : {false, true}) {
+            row(autoSave, true, "clean", "", true, "");
+            row(autoSave, false, "save", "save:ok", true, "saved");
+            row(autoSave, false, "save", "save:cancel", false, "");
+            row(autoSave, false, "don't save", "", true, "");
+            row(autoSave, false, "cancel", "", false, "");
+        }
+        row(true, true, "none", "", true, "old");
+        row(false, true, "save", "", true, "old");
+        row(false, true, "don't save", "", true, "");
+        row(false, true, "cancel", "", false, "");
+    }
+
+    void quit()
+    {
+        QFETCH(bool, autoSave);
+        QFETCH(bool, titled);
+        QFETCH(QString, answer);
+        QFETCH(QStringList, panels);
+        QFETCH(bool, ends);
+        QFETCH(QString, written);
+        Program program;
+        Preferences::shared().set(preference::autoSaveOnQuit, autoSave);
+        const QString old = program.copyOf(testFile("minimal.xml"));
+        const QString saved = program.filePath("saved.xml");
+        program.start(titled ? old : QString());
+        if (answer != "clean")
+            QVERIFY(program.renameFirstTank("Edited"));
+        const bool asks = answer != "clean" && answer != "none";
+        AlertScript script;
+        if (asks)
+            script.answerWith(answerOf(answer));
+        const bool ended = program.endsAfter([&] {
+            program.window().close(); // leads to the same question as the Quit command
+            QTRY_COMPARE(script.titles, asks ? QStringList{text("SaveQuitTitle")} : QStringList{});
+            QVERIFY(answerPanels(panels, saved, {}));
+        });
+        QCOMPARE(ended, ends);
+        QVERIFY(program.window().isVisible()); // it never closes by itself
+        QCOMPARE(tankNamesIn(old).contains("Edited"), written == "old");
+        QCOMPARE(tankNamesIn(saved).contains("Edited"), written == "saved");
+        if (ends)
+            return;
+        // A quit that was called off can be asked for again.
+        script.answerWith(AlertAlternate);
+        QVERIFY(program.endsAfter([&] {
+            program.controller().performCommand(Command::Quit);
+            QTRY_COMPARE(script.titles.size(), 2);
+        }));
+    }
+
+    void changeCountWraps()
+    {
+        Program program;
+        program.start(program.copyOf(testFile("minimal.xml")));
+        QCOMPARE(program.document().changeCount(), 0U);
+        program.controller().documentModifiedWithChange(false);
+        QCOMPARE(program.document().changeCount(), wrapped);
+        QVERIFY(program.window().isWindowModified());
+        program.commands().saveCurrentFile();
+        QCOMPARE(program.document().changeCount(), 0U);
+        QVERIFY(!program.window().isWindowModified());
+    }
+
+    void openPathIsNotReadAgain()
+    {
+        Program program;
+        const QString path = program.copyOf(testFile("minimal.xml"));
+        program.start(path);
+        QVERIFY(program.renameFirstTank("Edited"));
+        QFile::remove(path);
+        program.copyOf(testFile("three-tanks.xml"));
+        const AlertScript script;
+        QVERIFY(program.delegate().applicationOpenFile(path));
+        QCOMPARE(program.tankNames(), QStringList{"Edited"});
+        QVERIFY(program.document().isEdited());
+        QVERIFY(script.titles.isEmpty());
+    }
+
+    void unreadableFileChangesOnlyTheTitle()
+    {
+        Program program;
+        program.start(testFile("three-tanks.xml"));
+        const QStringList names = program.tankNames();
+        const AlertScript script;
+        for (const QString &name : {QStringLiteral("missing.xml"), QStringLiteral("garbage.xml")}) {
+            const QString path = program.filePath(name);
+            if (name == "garbage.xml")
+                QVERIFY(writeFile(path, "no property list"));
+            QVERIFY(!program.document().readTankFileWithPath(path));
+            QCOMPARE(program.path(), path);
+            QCOMPARE(program.window().windowTitle(), name + "[*]");
+            QCOMPARE(program.tankNames(), names);
+            QVERIFY(program.tree().currentTank());
+        }
+        QVERIFY(script.titles.isEmpty());
+        QCOMPARE(program.beeps, 0);
+    }
+
+    void readErrorKeepsTheTanksBefore_data()
+    {
+        QTest::addColumn<int>("view"); // that is on screen while the old tanks go
+        for (int view = 1; view < mainViewCount; ++view)
+            QTest::addRow("view %d", view) << view;
+    }
+
+    void readErrorKeepsTheTanksBefore()
+    {
+        QFETCH(int, view);
+        Program program;
+        program.start(testFile("every-field.xml"));
+        for (int row = 0; int(program.controller().currentView()) != view && row < 100; ++row)
+            program.tree().selectRow(row);
+        QCOMPARE(int(program.controller().currentView()), view);
+        AlertScript script;
+        QVERIFY(!program.document().readTankFileWithPath(BRINEMARK_TEST_DATA "/broken/tank-integer.xml"));
+        QCOMPARE(script.titles, QStringList{text("Error")});
+        QCOMPARE(script.messages, QStringList{text("ReadErrorMessage")});
+        QCOMPARE(program.beeps, 1);
+        QCOMPARE(program.tankNames().size(), 1);
+        // Nothing of the old tanks is on screen or can be edited.
+        QCOMPARE(program.controller().currentView(), MainView::None);
+        QVERIFY(!program.tree().currentTank());
+        QVERIFY(!program.delegate().undoManager().canUndo());
+        program.tree().selectRow(0);
+        QCOMPARE(program.controller().currentView(), MainView::Tank);
+    }
+
+    void olderFile()
+    {
+        Program program;
+        const QString older = program.copyOf(testFile("older-six.xml"));
+        const QString backup = program.filePath(text("ConvertBackup") + " tanks.xml");
+        program.start();
+        const auto open = [&](AlertAnswer answer) {
+            AlertScript script{answer};
+            const bool read = program.document().readTankFileWithPath(older);
+            return read && script.titles == QStringList{text("ConvertTitle")} && program.path() == older &&
+                   !program.document().isEdited();
+        };
+        QVERIFY(open(AlertAlternate));
+        QCOMPARE(program.beeps, 1);
+        QVERIFY(!QFile::exists(backup));
+        program.document().readTankFileWithPath({});
+        program.settle();
+        QVERIFY(open(AlertDefault));
+        QCOMPARE(bytesOf(backup), bytesOf(testFile("older-six.xml")));
+        // The older copy stays when there is one already.
+        QVERIFY(writeFile(backup, "kept"));
+        program.document().readTankFileWithPath({});
+        program.settle();
+        QVERIFY(open(AlertDefault));
+        QCOMPARE(bytesOf(backup), QByteArray("kept"));
+        // Once saved it is of the current form, and nothing is asked.
+        program.commands().saveCurrentFile();
+        program.document().readTankFileWithPath({});
+        program.settle();
+        const AlertScript script;
+        QVERIFY(program.document().readTankFileWithPath(older));
+        QVERIFY(script.titles.isEmpty());
+    }
+
+    void failingWrite()
+    {
+        Program program;
+        const QString path = program.copyOf(testFile("minimal.xml"));
+        const QByteArray before = bytesOf(path);
+        program.start(path);
+        QVERIFY(program.renameFirstTank("Edited"));
+        const QString folder = program.filePath("folder.xml");
+        QVERIFY(QDir().mkpath(folder + "/inside"));
+        AlertScript script;
+        QCOMPARE(program.document().writeTankFileWithPath(folder), TankDocument::WriteOutcome::Failed);
+        QCOMPARE(script.titles, QStringList{text("Error")});
+        QCOMPARE(script.messages, QStringList{text("SaveErrorMessage")});
+        QVERIFY(QFileInfo(folder + "/inside").isDir());
+        QCOMPARE(program.path(), path);
+        QCOMPARE(bytesOf(path), before);
+        QVERIFY(program.document().isEdited() && program.document().changeCount() > 0);
+    }
+
+    void changedByAnother_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("theirFile"); // its tank afterwards
+        QTest::addColumn<bool>("edited");
+        QTest::newRow("overwrite") << int(AlertAlternate) << "Edited" << false;
+        QTest::newRow("elsewhere") << int(AlertDefault) << "Theirs" << false;
+        QTest::newRow("cancel") << int(AlertOther) << "Theirs" << true;
+    }
+
+    void changedByAnother()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, theirFile);
+        QFETCH(bool, edited);
+        Program program;
+        const QString path = program.copyOf(testFile("minimal.xml"));
+        program.start(path);
+        const QString name = program.tankNames().first();
+        QVERIFY(program.renameFirstTank("Edited"));
+        QVERIFY(writeFile(path, bytesOf(path).replace(name.toUtf8(), "Theirs")));
+        AlertScript script{AlertAnswer(answer)};
+        program.commands().saveCurrentFile();
+        QCOMPARE(script.titles, QStringList{text("ChangedOnDiskTitle")});
+        if (answer == AlertDefault) {
+            QVERIFY(answerPanel("savePanel", program.filePath("mine.xml")));
+            QCOMPARE(tankNamesIn(program.filePath("mine.xml")), QStringList{"Edited"});
+        }
+        QCOMPARE(tankNamesIn(path), QStringList{theirFile});
+        QCOMPARE(program.document().isEdited(), edited);
+        // What was just written is known: the next save asks nothing.
+        if (!edited)
+            program.commands().saveCurrentFile();
+        QCOMPARE(script.titles.size(), 1);
+    }
+
+    void dropping()
+    {
+        Program program;
+        const QString first = program.copyOf(testFile("minimal.xml"), "first.xml");
+        const QString second = program.copyOf(testFile("three-tanks.xml"), "second.xml");
+        const QString other = program.filePath("list.xml");
+        QVERIFY(writeFile(other, "<html><body/></html>"));
+        program.start(first);
+        const auto url = [](const QString &path) { return QUrl::fromLocalFile(path); };
+        const auto refused = std::pair(false, false);
+        QCOMPARE(dropOnWindow(program.window(), {url(other)}), refused);
+        QCOMPARE(dropOnWindow(program.window(), {url(program.filePath("none.xml"))}), refused);
+        QCOMPARE(dropOnWindow(program.window(), {url(second), url(first)}), refused);
+        QCOMPARE(dropOnWindow(program.window(), {QUrl("https://www.brinemark.example/tanks.xml")}), refused);
+        QCOMPARE(program.path(), first);
+        QCOMPARE(dropOnWindow(program.window(), {url(second)}), std::pair(true, true));
+        QCOMPARE(program.path(), second);
+
+        QVERIFY(program.renameFirstTank("Edited"));
+        AlertScript script{AlertOther, AlertAlternate};
+        QVERIFY(dropOnWindow(program.window(), {url(first)}).second);
+        QTRY_COMPARE(script.titles, QStringList{text("SaveTitle")});
+        QCOMPARE(program.path(), second);
+        QVERIFY(program.document().isEdited());
+        QVERIFY(dropOnWindow(program.window(), {url(first)}).second);
+        QTRY_COMPARE(program.path(), first);
+        QVERIFY(!program.document().isEdited());
+    }
+
+    void handedOverFileIsForgottenWhenCalledOff()
+    {
+        Program program;
+        program.start();
+        QVERIFY(program.renameFirstTank("Edited"));
+        AlertScript script{AlertDefault, AlertAlternate};
+        QVERIFY(program.delegate().applicationOpenFile(testFile("minimal.xml")));
+        QVERIFY(answerPanel("savePanel", {}));
+        QCOMPARE(program.path(), QString());
+        // The Open command now asks for a file as ever.
+        program.controller().performCommand(Command::OpenFile);
+        QVERIFY(answerPanel("openPanel", testFile("three-tanks.xml")));
+        QCOMPARE(program.path(), testFile("three-tanks.xml"));
+    }
+
+    void openRequestRefusesOtherFiles()
+    {
+        Program program;
+        program.start(testFile("minimal.xml"));
+        const QString link = program.filePath("link.xml");
+        QVERIFY(QFile::link(testFile("three-tanks.xml"), link));
+        QVERIFY(writeFile(program.filePath("tanks.txt"), bytesOf(testFile("three-tanks.xml"))));
+        const AlertScript script;
+        for (const QString &path : {program.filePath("none.xml"), program.filePath("tanks.txt"), program.filePath(""),
+                                    QStringLiteral(BRINEMARK_TEST_DATA "/plist/everything.plist"),
+                                    QStringLiteral(BRINEMARK_TEST_DATA "/broken/html-well-formed.xml")}) {
+            QVERIFY2(!program.delegate().applicationOpenFile(path), qPrintable(path));
+            QCOMPARE(program.path(), testFile("minimal.xml"));
+        }
+        QVERIFY(script.titles.isEmpty());
+        QVERIFY(program.delegate().applicationOpenFile(link));
+        QCOMPARE(program.tankNames().size(), 3);
+    }
+
+    void brokenFiles()
+    {
+        const QString folder = QStringLiteral(BRINEMARK_TEST_DATA "/broken/");
+        const QJsonObject all = QJsonDocument::fromJson(bytesOf(folder + "expected.json")).object();
+        QVERIFY(all.size() > 200);
+        Program program;
+        program.start();
+        for (auto it = all.begin(); it != all.end(); ++it) {
+            const QJsonObject expected = it.value().toObject();
+            if (expected.contains(u"generate"))
+                continue; // made, and read, by the tests of the file reader
+            const QByteArray context = it.key().toUtf8();
+            const QString outcome = expected.value(u"outcome").toString();
+            program.document().readTankFileWithPath(testFile("minimal.xml"));
+            QStringList titles;
+            if (expected.value(u"question").toBool())
+                titles << text("ConvertTitle");
+            if (outcome == "read-error")
+                titles << text("Error");
+            const AlertScript script;
+            const bool read = program.document().readTankFileWithPath(folder + it.key());
+            QCoreApplication::processEvents();
+            QVERIFY2(read == (outcome == "reads"), context);
+            QVERIFY2(script.titles == titles, context + ": " + script.titles.join(", ").toUtf8());
+            const QStringList names = program.tankNames();
+            QVERIFY2(expected.value(u"tanks").isString() ? names == tankNamesIn(testFile("minimal.xml"))
+                                                         : names.size() == expected.value(u"tanks").toInt(),
+                     context);
+            program.tree().selectRow(0);
+        }
+    }
+
+    void roundTrip()
+    {
+        const QString python = QStandardPaths::findExecutable("python3");
+        if (python.isEmpty())
+            QSKIP("python3 is not installed");
+        Program program;
+        const QString sample = QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml");
+        program.start(sample);
+        program.tree().selectRow(4);
+        QCOMPARE(program.tree().selectedRow(), 4);
+        program.commands().saveAsCurrentFile();
+        const QString saved = program.filePath("saved.xml");
+        QVERIFY(answerPanel("savePanel", saved));
+
+        QProcess process;
+        process.start(python, {QStringLiteral(BRINEMARK_SOURCE_DIR "/tests/model/compare-tank-files"), sample, saved});
+        QVERIFY(process.waitForFinished());
+        const QString version = QString::number(product::packedVersion(product::shortVersion()));
+        QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()).trimmed(),
+                 "/FileAttributes/SelectedRow: 0 became 4\n/FileAttributes/bundleVersion: 16777216 became " + version);
+        QCOMPARE(process.readAllStandardError(), QByteArray());
+    }
+};
+
+int main(int argc, char **argv)
+{
+    return runWithApp<TestDocuments>(argc, argv);
+}
+#include "tst_documents.moc"
