@@ -200,7 +200,7 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     </message>
     <message>
         <source>CommandLinePrint</source>
-        <translation>Alles aus der Datei drucken und beenden.</translation>
+        <translation>Die Datei drucken und beenden.</translation>
     </message>
     <message>
         <source>CommandLineRender</source>

@@ -200,7 +200,7 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     </message>
     <message>
         <source>CommandLinePrint</source>
-        <translation>Print everything in the file and leave.</translation>
+        <translation>Print the file and leave.</translation>
     </message>
     <message>
         <source>CommandLineRender</source>

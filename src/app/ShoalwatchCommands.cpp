@@ -4,6 +4,7 @@
 #include "app/documents/DocumentCommands.h"
 #include "app/menus/EditCommands.h"
 #include "app/menus/MainMenuBar.h"
+#include "app/printing/PrintView.h"
 #include "app/toolbar/MainToolBar.h"
 #include "app/tree/TankListController.h"
 #include "app/window/MainViews.h"
@@ -158,7 +159,7 @@ void ShoalwatchController::performCommand(Command command)
         m_documents->revertFile();
         break;
     case Command::Print:
-        printWindow();
+        printWindow(true);
         break;
     case Command::Quit:
         delegate.terminate();
@@ -274,9 +275,14 @@ void ShoalwatchController::deleteItem()
     }
 }
 
-void ShoalwatchController::printWindow()
+bool ShoalwatchController::printWindow(bool interaction)
 {
     updateColumnInfo();
+    QWidget &view = *m_views->currentView();
+    if (!interaction)
+        return printViewWithoutDialog(view);
+    printView(m_window.get(), view);
+    return true;
 }
 
 } // namespace brinemark

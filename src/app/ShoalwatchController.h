@@ -37,6 +37,7 @@ public:
     [[nodiscard]] MenuState menuState();
     void performCommand(Command command);
     void performToolbarItem(const QString &identifier);
+    bool printWindow(bool interaction); ///< prints the main view, after asking for a printer or at once
 
     void display() override; ///< brings the window to the front; an empty tree gets its first tank
     void windowWillClose();  ///< stores what the window remembers
@@ -91,7 +92,6 @@ private:
     void buildNewMenu();
     void validate();
     void newLivestock(ItemContext context);
-    void printWindow();
 
     TankListController &m_tankListController;
     std::unique_ptr<MainWindow> m_window;

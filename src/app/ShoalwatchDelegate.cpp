@@ -97,12 +97,17 @@ void ShoalwatchDelegate::applicationDidFinishLaunching()
     if (startup::isFirstRun())
         firstRun();
     startup::applicationSupportFolderCheck(startup::applicationSupportFolder());
-    const QString defaultFile = startup::defaultFileExistsCheck();
-    if (m_shoalwatchController->document().representedFilename().isEmpty())
-        m_shoalwatchController->document().readTankFileWithPath(defaultFile);
+    openDefaultFile();
     m_shoalwatchController->display();
     QZUpdateController::sharedInstance().launchUpdateCheck();
     startup::updatePreferenceFile();
+}
+
+void ShoalwatchDelegate::openDefaultFile()
+{
+    const QString defaultFile = startup::defaultFileExistsCheck();
+    if (m_shoalwatchController->document().representedFilename().isEmpty())
+        m_shoalwatchController->document().readTankFileWithPath(defaultFile);
 }
 
 void ShoalwatchDelegate::firstRun()
@@ -130,10 +135,7 @@ bool ShoalwatchDelegate::applicationOpenFile(const QString &path)
 
 bool ShoalwatchDelegate::applicationPrintFile(const QString &path)
 {
-    if (!applicationOpenFile(path))
-        return false;
-    m_shoalwatchController->performCommand(Command::Print);
-    return true;
+    return applicationOpenFile(path) && m_shoalwatchController->printWindow(false);
 }
 
 void ShoalwatchDelegate::applicationWillBecomeActive()

@@ -33,6 +33,7 @@ public:
     // Start-up
     void applicationWillFinishLaunching();
     void applicationDidFinishLaunching();
+    void openDefaultFile(); ///< unless a file is open already; without one an untitled document
     void showConverterIfWanted();
 
     // The desktop's requests

@@ -3,7 +3,6 @@
 #include "app/startup/BrinemarkApp.h"
 #include "app/startup/CommandLine.h"
 #include "app/startup/RenderToPicture.h"
-
 #include "base/text/Texts.h"
 
 #include <QFileInfo>
@@ -32,10 +31,15 @@ int main(int argc, char **argv)
                              delegate.applicationWillBecomeActive();
                      });
     delegate.applicationWillFinishLaunching();
-    if (!commandLine->file.isEmpty() && !delegate.applicationOpenFile(QFileInfo(commandLine->file).absoluteFilePath()))
+    const QString file = commandLine->file.isEmpty() ? QString() : QFileInfo(commandLine->file).absoluteFilePath();
+    const bool opened = !file.isEmpty() && delegate.applicationOpenFile(file);
+    if (!opened && !file.isEmpty())
         QTextStream(stderr) << fillPlaceholders(text("CommandLineNoFile"), {commandLine->file}) << '\n';
 
-    if (!commandLine->renderTo.isEmpty()) {
+    if (commandLine->print) {
+        exitCode = opened && delegate.applicationPrintFile(file) ? 0 : 1;
+    } else if (!commandLine->renderTo.isEmpty()) {
+        delegate.openDefaultFile();
         exitCode = renderToPicture(commandLine->renderTo) ? 0 : 1;
     } else {
         delegate.applicationDidFinishLaunching();

@@ -15,8 +15,9 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, text("CommandLineHelp"));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, text("CommandLineVersion"));
     const QCommandLineOption render(QStringLiteral("render"), text("CommandLineRender"), QStringLiteral("PNG"));
+    const QCommandLineOption print(QStringLiteral("print"), text("CommandLinePrint"));
     const QCommandLineOption dark(QStringLiteral("dark"), text("CommandLineDark"));
-    parser.addOptions({help, version, render, dark});
+    parser.addOptions({help, version, render, print, dark});
     parser.addPositionalArgument(QStringLiteral("FILE"), text("CommandLineFile"), QStringLiteral("[FILE]"));
 
     exitCode = 0;
@@ -36,6 +37,7 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
     CommandLine line;
     line.file = parser.positionalArguments().value(0);
     line.renderTo = parser.value(render);
+    line.print = parser.isSet(print);
     line.dark = parser.isSet(dark);
     return line;
 }

@@ -12,6 +12,7 @@ namespace brinemark
 struct CommandLine {
     QString file;      ///< the tank file to open; empty for the default file
     QString renderTo;  ///< write a picture of the main window to this path and end
+    bool print = false;   ///< print the file without a question and end
     bool dark = false; ///< use the dark palette whatever the desktop says
 };
 
