@@ -1,7 +1,7 @@
-#include "base/Clock.h"
 #include "base/text/AmountText.h"
 #include "base/text/DateText.h"
 #include "base/text/NumberText.h"
+#include "support/DataRow.h"
 
 #include <QTest>
 
@@ -10,7 +10,7 @@
 #include <limits>
 
 using namespace brinemark;
-using namespace std::chrono_literals;
+using brinemark::test::row;
 
 /// Numbers and dates as text, in files (never by the locale) and as shown (always by it).
 class TestNumbersDates : public QObject
@@ -18,380 +18,267 @@ class TestNumbersDates : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-    void leadingNumbers_data();
-    void leadingNumbers();
-    void leadingIntegers_data();
-    void leadingIntegers();
-    void floatTexts_data();
-    void floatTexts();
-    void everyShortNumberReadsBack();
-    void shownNumbers_data();
-    void shownNumbers();
-    void amounts();
-    void fileDates_data();
-    void fileDates();
-    void notAFileDate_data();
-    void notAFileDate();
-    void fileDateOfLocalTime();
-    void formatsFromTheToolkit_data();
-    void formatsFromTheToolkit();
-    void shortDateFormats_data();
-    void shortDateFormats();
-    void calendarTextAgreesWithTheCLibrary();
-    void calendarTexts_data();
-    void calendarTexts();
-    void heldClock();
-};
-
-void TestNumbersDates::initTestCase()
-{
-    // As a toolkit does at start-up: from here on the C library writes "7,5" when the locale says so.
-    QVERIFY(std::setlocale(LC_ALL, ""));
-}
-
-void TestNumbersDates::cleanup()
-{
-    QLocale::setDefault(QLocale::system());
-}
-
-void TestNumbersDates::leadingNumbers_data()
-{
-    constexpr double largest = std::numeric_limits<double>::max();
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("number");
-    QTest::newRow("whole") << "7" << 7.0;
-    QTest::newRow("fraction") << "7.25" << 7.25;
-    QTest::newRow("negative") << "-1" << -1.0;
-    QTest::newRow("plus sign") << "+3.5" << 3.5;
-    QTest::newRow("blanks") << " \t 8.4 ppm" << 8.4;
-    QTest::newRow("unit") << "78°F" << 78.0;
-    QTest::newRow("exponent") << "1.5e3" << 1500.0;
-    QTest::newRow("letter after a number") << "5e" << 5.0;
-    QTest::newRow("sign of an exponent without one") << "5e+x" << 5.0;
-    QTest::newRow("point first") << ".5" << 0.5;
-    QTest::newRow("point last") << "5." << 5.0;
-    QTest::newRow("second point") << "1.2.3" << 1.2;
-    QTest::newRow("comma ends it") << "7,5" << 7.0;
-    QTest::newRow("empty") << "" << 0.0;
-    QTest::newRow("blank") << "  " << 0.0;
-    QTest::newRow("sign alone") << "-" << 0.0;
-    QTest::newRow("two signs") << "--5" << 0.0;
-    QTest::newRow("point alone") << "." << 0.0;
-    QTest::newRow("word") << "abc 5" << 0.0;
-    QTest::newRow("infinity") << "inf" << 0.0;
-    QTest::newRow("not a number") << "nan" << 0.0;
-    QTest::newRow("hexadecimal") << "0x10" << 0.0;
-    QTest::newRow("too large") << "1e400" << largest;
-    QTest::newRow("too large, negative") << "-1e400" << -largest;
-    QTest::newRow("too large without an exponent") << QString(400, u'9') << largest;
-    QTest::newRow("too small") << "1e-400" << 0.0;
-    QTest::newRow("too small without an exponent") << "0." + QString(400, u'0') + "1" << 0.0;
-    QTest::newRow("monstrous exponent") << "1e99999999999999999999" << largest;
-    QTest::newRow("zero with a monstrous exponent") << "0e99999999999999999999" << 0.0;
-    QTest::newRow("many digits") << "0.1000000000000000055511151231257827021181583404541015625" << 0.1;
-}
-
-void TestNumbersDates::leadingNumbers()
-{
-    QFETCH(QString, text);
-    QFETCH(double, number);
-    QCOMPARE(leadingNumber(text), number);
-    const float largest = std::numeric_limits<float>::max();
-    QCOMPARE(leadingFloat(text), float(std::clamp(number, double(-largest), double(largest))));
-}
-
-void TestNumbersDates::leadingIntegers_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("number");
-    QTest::newRow("plain") << "42" << 42;
-    QTest::newRow("negative") << "-1" << -1;
-    QTest::newRow("fraction cut off") << "7.9" << 7;
-    QTest::newRow("blanks and words") << "  12 fish" << 12;
-    QTest::newRow("word") << "twelve" << 0;
-    QTest::newRow("empty") << "" << 0;
-    QTest::newRow("largest") << "2147483647" << 2147483647;
-    QTest::newRow("beyond") << "2147483648" << 2147483647;
-    QTest::newRow("smallest") << "-2147483648" << std::numeric_limits<int>::min();
-    QTest::newRow("far below") << "-99999999999999999999999" << std::numeric_limits<int>::min();
-}
-
-void TestNumbersDates::leadingIntegers()
-{
-    QFETCH(QString, text);
-    QTEST(leadingInteger(text), "number");
-}
-
-void TestNumbersDates::floatTexts_data()
-{
-    QTest::addColumn<float>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("whole") << 7.0F << "7";
-    QTest::newRow("not tested") << -1.0F << "-1";
-    QTest::newRow("zero") << 0.0F << "0";
-    QTest::newRow("negative zero") << -0.0F << "0";
-    QTest::newRow("one decimal") << 7.2F << "7.2";
-    QTest::newRow("specific gravity") << 1.0245F << "1.0245";
-    QTest::newRow("seven digits") << 1234.567F << "1234.567";
-    QTest::newRow("sum with noise in the eighth digit") << 0.1F + 0.2F << "0.3";
-    QTest::newRow("a third") << 1.0F / 3.0F << "0.3333333";
-    QTest::newRow("a week in seconds") << 604800.0F << "604800";
-    QTest::newRow("52 weeks in seconds") << 31449600.0F << "31449600";
-    QTest::newRow("every bit of a float") << 16777215.0F << "16777215";
-    QTest::newRow("beyond 32 bits") << 1e20F << "1e+20";
-    QTest::newRow("tiny") << 1e-7F << "1e-07";
-    QTest::newRow("not a number") << std::numeric_limits<float>::quiet_NaN() << "0";
-    QTest::newRow("infinite") << std::numeric_limits<float>::infinity() << "0";
-}
-
-void TestNumbersDates::floatTexts()
-{
-    QFETCH(float, value);
-    QTEST(floatText(value), "text");
-}
-
-// What people type: up to three decimals. The text must be that number's shortest, and read back to the same float.
-void TestNumbersDates::everyShortNumberReadsBack()
-{
-    for (int thousandths = -2000; thousandths <= 120'000; ++thousandths) {
-        QString typed = QString::number(thousandths / 1000.0, 'f', 3);
-        while (typed.endsWith(u'0'))
-            typed.chop(1);
-        if (typed.endsWith(u'.'))
-            typed.chop(1);
-        const float value = leadingFloat(typed);
-        QCOMPARE(value, float(thousandths / 1000.0));
-        QCOMPARE(floatText(value), thousandths == 0 ? QStringLiteral("0") : typed);
-    }
-}
-
-void TestNumbersDates::shownNumbers_data()
-{
-    QTest::addColumn<float>("value");
-    QTest::addColumn<QString>("withFullStop");
-    QTest::newRow("one decimal") << 7.5F << "7.5";
-    QTest::newRow("whole keeps one") << 7.0F << "7.0";
-    QTest::newRow("three decimals") << 6.125F << "6.125";
-    QTest::newRow("rounded") << 1.02456F << "1.025";
-    QTest::newRow("zero inside") << 8.05F << "8.05";
-    QTest::newRow("hundreds stay") << 400.0F << "400.0";
-    QTest::newRow("no grouping") << 12345.5F << "12345.5";
-    QTest::newRow("negative") << -1.0F << "-1.0";
-}
-
-void TestNumbersDates::shownNumbers()
-{
-    QFETCH(float, value);
-    QFETCH(QString, withFullStop);
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    QCOMPARE(localizeAndTrimZeros(value), withFullStop);
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QCOMPARE(localizeAndTrimZeros(value), withFullStop.replace(u'.', u','));
-}
-
-void TestNumbersDates::amounts()
-{
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    QCOMPARE(formatObjectForLocale(1234.5), QStringLiteral("$1,234.50"));
-    QCOMPARE(formatObjectForLocale(7), QStringLiteral("$7.00"));
-    QCOMPARE(formatObjectForLocale(qint64(0)), QStringLiteral("$0.00"));
-    QCOMPARE(formatObjectForLocale(QVariant()), QString());
-    QCOMPARE(formatObjectForLocale(QStringLiteral("a lot")), QString());
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QCOMPARE(formatObjectForLocale(1234.5), QStringLiteral("1.234,50\u00a0€"));
-}
-
-void TestNumbersDates::fileDates_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QDateTime>("moment");
-    const auto utc = [](int y, int m, int d, int h, int min, int s) {
-        return QDateTime(QDate(y, m, d), QTime(h, min, s), Qt::UTC);
-    };
-    QTest::newRow("west") << "2007-03-14 18:22:05 -0500" << utc(2007, 3, 14, 23, 22, 5);
-    QTest::newRow("east") << "2026-07-01 00:30:00 +0200" << utc(2026, 6, 30, 22, 30, 0);
-    QTest::newRow("quarter of an hour") << "2010-01-01 00:00:00 +0545" << utc(2009, 12, 31, 18, 15, 0);
-    QTest::newRow("leap day") << "2024-02-29 12:00:00 +0000" << utc(2024, 2, 29, 12, 0, 0);
-    QTest::newRow("distant past") << "0001-01-01 00:00:00 +0000" << utc(1, 1, 1, 0, 0, 0);
-}
-
-void TestNumbersDates::fileDates()
-{
-    QFETCH(QString, text);
-    const QDateTime read = dateFromFileText(text);
-    QTEST(read, "moment");
-    QCOMPARE(fileDateText(read), text);
-}
-
-void TestNumbersDates::notAFileDate_data()
-{
-    QTest::addColumn<QString>("text");
-    for (const char *text : {"",
-                             "2007-03-14",
-                             "2007-03-14 18:22:05",
-                             "2007-03-14 18:22:05 -05:00",
-                             "2007-03-14T18:22:05 -0500",
-                             "2007-3-14 18:22:05 -0500",
-                             "2007-03-14 18:22:05 -0500 ",
-                             " 2007-03-14 18:22:05 -0500",
-                             "2007-02-31 18:22:05 -0500",
-                             "2023-02-29 00:00:00 +0000",
-                             "2007-13-01 18:22:05 -0500",
-                             "2007-03-14 24:00:00 -0500",
-                             "2007-03-14 18:60:05 -0500",
-                             "2007-03-14 18:22:05  0500",
-                             "2007-03-14 18:22:05 -0560",
-                             "2007-03-14 18:22:05 +9900",
-                             "0000-01-01 00:00:00 +0000",
-                             "2007-03-14 18:22:05 GMT00",
-                             "-007-03-14 18:22:05 -0500",
-                             "٢٠٠٧-03-14 18:22:05 -0500"})
-        QTest::newRow(text) << QString::fromUtf8(text);
-}
-
-void TestNumbersDates::notAFileDate()
-{
-    QFETCH(QString, text);
-    QVERIFY(dateFromFileText(text).isNull());
-}
-
-void TestNumbersDates::fileDateOfLocalTime()
-{
-    QCOMPARE(qgetenv("TZ"), QByteArray("Europe/Berlin"));
-    QCOMPARE(fileDateText(QDateTime(QDate(2026, 7, 1), QTime(12, 0))), QStringLiteral("2026-07-01 12:00:00 +0200"));
-    QCOMPARE(fileDateText(QDateTime(QDate(2026, 1, 1), QTime(12, 0))), QStringLiteral("2026-01-01 12:00:00 +0100"));
-    QCOMPARE(fileDateText(QDateTime()), QString());
-    QCOMPARE(fileDateText(QDateTime(QDate(10000, 1, 1), QTime(12, 0), Qt::UTC)), QString());
-
-    // Local mean time, 53 minutes and 28 seconds ahead: the seconds do not fit the text, the moment must stay.
-    const QDateTime old(QDate(1880, 1, 1), QTime(12, 0));
-    QCOMPARE(dateFromFileText(fileDateText(old)), old);
-}
-
-void TestNumbersDates::formatsFromTheToolkit_data()
-{
-    QTest::addColumn<QString>("qtFormat");
-    QTest::addColumn<QString>("calendarFormat");
-    QTest::newRow("American") << "M/d/yy"
-                              << "%m/%d/%y";
-    QTest::newRow("German") << "dd.MM.yy"
-                            << "%d.%m.%y";
-    QTest::newRow("long year") << "yyyy-MM-dd"
-                               << "%Y-%m-%d";
-    QTest::newRow("names") << "dddd, d. MMMM yyyy"
-                           << "%A, %d. %B %Y";
-    QTest::newRow("short names") << "ddd MMM d"
-                                 << "%a %b %d";
-    QTest::newRow("24 hours") << "HH:mm:ss t"
-                              << "%H:%M:%S %Z";
-    QTest::newRow("24 hours by a small h") << "h:mm"
-                                           << "%H:%M";
-    QTest::newRow("12 hours") << "h:mm AP"
-                              << "%I:%M %p";
-    QTest::newRow("quoted") << "d 'de' MMMM 'o''clock'"
-                            << "%d de %B o'clock";
-    QTest::newRow("per-cent sign") << "d%M"
-                                   << "%d%%%m";
-    QTest::newRow("open quote") << "d 'dM"
-                                << "%d dM";
-}
-
-void TestNumbersDates::formatsFromTheToolkit()
-{
-    QFETCH(QString, qtFormat);
-    QTEST(calendarFormatFromQt(qtFormat), "calendarFormat");
-}
-
-void TestNumbersDates::shortDateFormats_data()
-{
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("en_US") << QLocale("en_US") << "%m/%d/%y"
-                           << "03/04/07";
-    QTest::newRow("en_GB") << QLocale("en_GB") << "%d/%m/%Y"
-                           << "04/03/2007";
-    QTest::newRow("de_DE") << QLocale("de_DE") << "%d.%m.%y"
-                           << "04.03.07";
-    QTest::newRow("sv_SE") << QLocale("sv_SE") << "%Y-%m-%d"
-                           << "2007-03-04";
-}
-
-void TestNumbersDates::shortDateFormats()
-{
-    QFETCH(QLocale, locale);
-    QLocale::setDefault(locale);
-    QTEST(dateFormatterForLocale(), "format");
-    QTEST(localeDateText(QDateTime(QDate(2007, 3, 4), QTime(18, 22))), "shown");
-}
-
-void TestNumbersDates::calendarTextAgreesWithTheCLibrary()
-{
-    const std::string before = std::setlocale(LC_TIME, nullptr);
-    std::setlocale(LC_TIME, "C");
-    const char *format = "%a %A %b %B %d %e %m %y %Y %H %I %M %S %p %z %j %w %%";
-    for (int step = 0; step < 400; ++step) {
-        const QDateTime date = QDateTime(QDate(1999, 12, 31), QTime(0, 0)).addSecs(step * 25 * 3607LL);
-        const std::time_t seconds = date.toSecsSinceEpoch();
-        char expected[200];
-        QVERIFY(std::strftime(expected, sizeof expected, format, std::localtime(&seconds)) > 0);
-        QCOMPARE(calendarText(date, QLatin1String(format), QLocale::c()), QString::fromLatin1(expected));
-    }
-    std::setlocale(LC_TIME, before.c_str());
-}
-
-void TestNumbersDates::calendarTexts_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("last check") << "%a, %b %1d, %Y, %1I:%M %p"
-                                << "Sun, Mar 4, 2007, 6:05 PM";
-    QTest::newRow("without padding") << "%1m/%1d %1H:%1M:%1S"
-                                     << "3/4 18:5:9";
-    QTest::newRow("milliseconds and a percentage") << "%F 100%%"
-                                                   << "042 100%";
-    QTest::newRow("literal text") << "Year: %Y!"
-                                  << "Year: 2007!";
-    QTest::newRow("unknown field") << "[%Q]"
-                                   << "[]";
-    QTest::newRow("open end") << "%d%"
-                              << "04%";
-    QTest::newRow("empty") << ""
-                           << "";
-}
-
-void TestNumbersDates::calendarTexts()
-{
-    QFETCH(QString, format);
-    const QDateTime date(QDate(2007, 3, 4), QTime(18, 5, 9, 42));
-    QTEST(calendarText(date, format, QLocale(QLocale::English, QLocale::UnitedStates)), "text");
-    QCOMPARE(calendarText(QDateTime(), format), QString());
-    // Names follow the user's language unless told otherwise.
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QCOMPARE(calendarText(date, QStringLiteral("%A %B")), QStringLiteral("Sonntag März"));
-}
-
-void TestNumbersDates::heldClock()
-{
-    const QDateTime start(QDate(2026, 3, 14), QTime(9, 0));
+    void initTestCase()
     {
-        clock::FixedClock held(start);
-        QCOMPARE(clock::now(), start);
-        held.advance(24h);
-        QCOMPARE(clock::now(), start.addDays(1));
-        {
-            clock::FixedClock inner(start.addYears(1));
-            QCOMPARE(clock::now(), start.addYears(1));
-        }
-        QCOMPARE(clock::now(), start.addDays(1));
-        held.set(start.addDays(-1));
-        QCOMPARE(clock::now(), start.addDays(-1));
+        // As a toolkit does at start-up: from here on the C library writes "7,5" when the locale says so.
+        QVERIFY(std::setlocale(LC_ALL, ""));
     }
-    const QDateTime system = QDateTime::currentDateTime();
-    QVERIFY(qAbs(clock::now().msecsTo(system)) < 60'000);
-}
+
+    void cleanup() { QLocale::setDefault(QLocale::system()); }
+
+    void leadingNumbers_data()
+    {
+        constexpr double largest = std::numeric_limits<double>::max();
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("number");
+        QTest::newRow("fraction") << "7.25" << 7.25;
+        QTest::newRow("plus sign") << "+3.5" << 3.5;
+        QTest::newRow("blanks") << " \t 8.4 ppm" << 8.4;
+        QTest::newRow("unit") << "78°F" << 78.0;
+        QTest::newRow("exponent") << "1.5e3" << 1500.0;
+        QTest::newRow("sign of an exponent without one") << "5e+x" << 5.0;
+        QTest::newRow("point first") << ".5" << 0.5;
+        QTest::newRow("point last") << "5." << 5.0;
+        QTest::newRow("second point") << "1.2.3" << 1.2;
+        QTest::newRow("comma ends it") << "7,5" << 7.0;
+        QTest::newRow("empty") << "" << 0.0;
+        QTest::newRow("sign alone") << "-" << 0.0;
+        QTest::newRow("word") << "abc 5" << 0.0;
+        QTest::newRow("infinity") << "inf" << 0.0;
+        QTest::newRow("hexadecimal") << "0x10" << 0.0;
+        QTest::newRow("too large") << "1e400" << largest;
+        QTest::newRow("too large without an exponent") << QString(400, u'9') << largest;
+        QTest::newRow("too small") << "1e-400" << 0.0;
+        QTest::newRow("monstrous exponent") << "1e99999999999999999999" << largest;
+        QTest::newRow("many digits") << "0.1000000000000000055511151231257827021181583404541015625" << 0.1;
+    }
+
+    void leadingNumbers()
+    {
+        QFETCH(QString, text);
+        QFETCH(double, number);
+        QCOMPARE(leadingNumber(text), number);
+        const float largest = std::numeric_limits<float>::max();
+        QCOMPARE(leadingFloat(text), float(std::clamp(number, double(-largest), double(largest))));
+    }
+
+    void leadingIntegers_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("number");
+        QTest::newRow("negative") << "-1" << -1;
+        QTest::newRow("fraction cut off") << "7.9" << 7;
+        QTest::newRow("blanks and words") << "  12 fish" << 12;
+        QTest::newRow("largest") << "2147483647" << 2147483647;
+        QTest::newRow("beyond") << "2147483648" << 2147483647;
+        QTest::newRow("far below") << "-99999999999999999999999" << std::numeric_limits<int>::min();
+    }
+
+    void leadingIntegers()
+    {
+        QFETCH(QString, text);
+        QTEST(leadingInteger(text), "number");
+    }
+
+    void floatTexts_data()
+    {
+        QTest::addColumn<float>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("whole") << 7.0F << "7";
+        QTest::newRow("not tested") << -1.0F << "-1";
+        QTest::newRow("negative zero") << -0.0F << "0";
+        QTest::newRow("specific gravity") << 1.0245F << "1.0245";
+        QTest::newRow("seven digits") << 1234.567F << "1234.567";
+        QTest::newRow("sum with noise in the eighth digit") << 0.1F + 0.2F << "0.3";
+        QTest::newRow("a week in seconds") << 604800.0F << "604800";
+        QTest::newRow("every bit of a float") << 16777215.0F << "16777215";
+        QTest::newRow("beyond 32 bits") << 1e20F << "1e+20";
+        QTest::newRow("tiny") << 1e-7F << "1e-07";
+        QTest::newRow("not a number") << std::numeric_limits<float>::quiet_NaN() << "0";
+    }
+
+    void floatTexts()
+    {
+        QFETCH(float, value);
+        QTEST(floatText(value), "text");
+    }
+
+    // What people type: up to three decimals. The text must be that number's shortest, and read back to the same float.
+    void everyShortNumberReadsBack()
+    {
+        for (int thousandths = -2000; thousandths <= 120'000; ++thousandths) {
+            QString typed = QString::number(thousandths / 1000.0, 'f', 3);
+            while (typed.endsWith(u'0'))
+                typed.chop(1);
+            if (typed.endsWith(u'.'))
+                typed.chop(1);
+            const float value = leadingFloat(typed);
+            QCOMPARE(value, float(thousandths / 1000.0));
+            QCOMPARE(floatText(value), thousandths == 0 ? QStringLiteral("0") : typed);
+        }
+    }
+
+    void shownNumbers_data()
+    {
+        QTest::addColumn<float>("value");
+        QTest::addColumn<QString>("withFullStop");
+        QTest::newRow("one decimal") << 7.5F << "7.5";
+        QTest::newRow("whole keeps one") << 7.0F << "7.0";
+        QTest::newRow("three decimals") << 6.125F << "6.125";
+        QTest::newRow("rounded") << 1.02456F << "1.025";
+        QTest::newRow("hundreds stay") << 400.0F << "400.0";
+        QTest::newRow("no grouping") << 12345.5F << "12345.5";
+    }
+
+    void shownNumbers()
+    {
+        QFETCH(float, value);
+        QFETCH(QString, withFullStop);
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        QCOMPARE(localizeAndTrimZeros(value), withFullStop);
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        QCOMPARE(localizeAndTrimZeros(value), withFullStop.replace(u'.', u','));
+    }
+
+    void amounts()
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        QCOMPARE(formatObjectForLocale(1234.5), QStringLiteral("$1,234.50"));
+        QCOMPARE(formatObjectForLocale(7), QStringLiteral("$7.00"));
+        QCOMPARE(formatObjectForLocale(qint64(0)), QStringLiteral("$0.00"));
+        QCOMPARE(formatObjectForLocale(QVariant()), QString());
+        QCOMPARE(formatObjectForLocale(QStringLiteral("a lot")), QString());
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        QCOMPARE(formatObjectForLocale(1234.5), QStringLiteral("1.234,50\u00a0€"));
+    }
+
+    void fileDates_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QDateTime>("moment");
+        const auto utc = [](int y, int m, int d, int h, int min, int s) {
+            return QDateTime(QDate(y, m, d), QTime(h, min, s), Qt::UTC);
+        };
+        QTest::newRow("west") << "2007-03-14 18:22:05 -0500" << utc(2007, 3, 14, 23, 22, 5);
+        QTest::newRow("east") << "2026-07-01 00:30:00 +0200" << utc(2026, 6, 30, 22, 30, 0);
+        QTest::newRow("quarter of an hour") << "2010-01-01 00:00:00 +0545" << utc(2009, 12, 31, 18, 15, 0);
+        QTest::newRow("distant past") << "0001-01-01 00:00:00 +0000" << utc(1, 1, 1, 0, 0, 0);
+    }
+
+    void fileDates()
+    {
+        QFETCH(QString, text);
+        const QDateTime read = dateFromFileText(text);
+        QTEST(read, "moment");
+        QCOMPARE(fileDateText(read), text);
+    }
+
+    void notAFileDate_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (const char *text : {"", "2007-03-14", "2007-03-14 18:22:05", "2007-03-14 18:22:05 -05:00",
+                                 "2007-03-14T18:22:05 -0500", "2007-3-14 18:22:05 -0500", "2007-03-14 18:22:05 -0500 ",
+                                 "2007-02-31 18:22:05 -0500", "2007-03-14 24:00:00 -0500", "2007-03-14 18:22:05  0500",
+                                 "2007-03-14 18:22:05 -0560", "2007-03-14 18:22:05 +9900", "0000-01-01 00:00:00 +0000",
+                                 "-007-03-14 18:22:05 -0500", "٢٠٠٧-03-14 18:22:05 -0500"})
+            QTest::newRow(text) << QString::fromUtf8(text);
+    }
+
+    void notAFileDate()
+    {
+        QFETCH(QString, text);
+        QVERIFY(dateFromFileText(text).isNull());
+    }
+
+    void fileDateOfLocalTime()
+    {
+        QCOMPARE(qgetenv("TZ"), QByteArray("Europe/Berlin"));
+        QCOMPARE(fileDateText(QDateTime(QDate(2026, 7, 1), QTime(12, 0))), QStringLiteral("2026-07-01 12:00:00 +0200"));
+        QCOMPARE(fileDateText(QDateTime(QDate(2026, 1, 1), QTime(12, 0))), QStringLiteral("2026-01-01 12:00:00 +0100"));
+        QCOMPARE(fileDateText(QDateTime()), QString());
+        QCOMPARE(fileDateText(QDateTime(QDate(10000, 1, 1), QTime(12, 0), Qt::UTC)), QString());
+
+        // Local mean time, 53 minutes and 28 seconds ahead: the seconds do not fit the text, the moment must stay.
+        const QDateTime old(QDate(1880, 1, 1), QTime(12, 0));
+        QCOMPARE(dateFromFileText(fileDateText(old)), old);
+    }
+
+    void formatsFromTheToolkit_data()
+    {
+        QTest::addColumn<QString>("qtFormat");
+        QTest::addColumn<QString>("calendarFormat");
+        row("American", "M/d/yy", "%m/%d/%y");
+        row("names", "dddd, d. MMMM yyyy", "%A, %d. %B %Y");
+        row("short names", "ddd MMM d", "%a %b %d");
+        row("24 hours", "HH:mm:ss t", "%H:%M:%S %Z");
+        row("24 hours by a small h", "h:mm", "%H:%M");
+        row("12 hours", "h:mm AP", "%I:%M %p");
+        row("quoted", "d 'de' MMMM 'o''clock'", "%d de %B o'clock");
+        row("per-cent sign", "d%M", "%d%%%m");
+        row("open quote", "d 'dM", "%d dM");
+    }
+
+    void formatsFromTheToolkit()
+    {
+        QFETCH(QString, qtFormat);
+        QTEST(calendarFormatFromQt(qtFormat), "calendarFormat");
+    }
+
+    void shortDateFormats_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("shown");
+        row("en_US", QLocale("en_US"), "%m/%d/%y", "03/04/07");
+        row("en_GB", QLocale("en_GB"), "%d/%m/%Y", "04/03/2007");
+        row("de_DE", QLocale("de_DE"), "%d.%m.%y", "04.03.07");
+    }
+
+    void shortDateFormats()
+    {
+        QFETCH(QLocale, locale);
+        QLocale::setDefault(locale);
+        QTEST(dateFormatterForLocale(), "format");
+        QTEST(localeDateText(QDateTime(QDate(2007, 3, 4), QTime(18, 22))), "shown");
+    }
+
+    void calendarTextAgreesWithTheCLibrary()
+    {
+        const std::string before = std::setlocale(LC_TIME, nullptr);
+        std::setlocale(LC_TIME, "C");
+        const char *format = "%a %A %b %B %d %e %m %y %Y %H %I %M %S %p %z %j %w %%";
+        for (int step = 0; step < 400; ++step) {
+            const QDateTime date = QDateTime(QDate(1999, 12, 31), QTime(0, 0)).addSecs(step * 25 * 3607LL);
+            const std::time_t seconds = date.toSecsSinceEpoch();
+            char expected[200];
+            QVERIFY(std::strftime(expected, sizeof expected, format, std::localtime(&seconds)) > 0);
+            QCOMPARE(calendarText(date, QLatin1String(format), QLocale::c()), QString::fromLatin1(expected));
+        }
+        std::setlocale(LC_TIME, before.c_str());
+    }
+
+    void calendarTexts_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("text");
+        row("last check", "%a, %b %1d, %Y, %1I:%M %p", "Sun, Mar 4, 2007, 6:05 PM");
+        row("without padding", "%1m/%1d %1H:%1M:%1S", "3/4 18:5:9");
+        row("milliseconds and a percentage", "%F 100%%", "042 100%");
+        row("unknown field", "[%Q]", "[]");
+        row("open end", "%d%", "04%");
+    }
+
+    void calendarTexts()
+    {
+        QFETCH(QString, format);
+        const QDateTime date(QDate(2007, 3, 4), QTime(18, 5, 9, 42));
+        QTEST(calendarText(date, format, QLocale(QLocale::English, QLocale::UnitedStates)), "text");
+        QCOMPARE(calendarText(QDateTime(), format), QString());
+        // Names follow the user's language unless told otherwise.
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        QCOMPARE(calendarText(date, QStringLiteral("%A %B")), QStringLiteral("Sonntag März"));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestNumbersDates)
 #include "tst_numbers_dates.moc"

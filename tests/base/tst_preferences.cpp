@@ -1,5 +1,6 @@
 #include "base/PreferenceKeys.h"
 #include "base/plist/XmlReader.h"
+#include "support/DataRow.h"
 #include "support/TestHome.h"
 
 #include <QDir>
@@ -8,25 +9,7 @@
 #include <QTest>
 
 using namespace brinemark;
-
-/// The preferences store: types survive the file, absence is absence, a damaged file is kept and costs nothing else.
-class TestPreferences : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void sharedStoreLivesInTheConfigurationFolder();
-    void absentUntilSet();
-    void readsAFileThatPythonWrote();
-    void typesSurviveTheFile();
-    void lenientReading_data();
-    void lenientReading();
-    void untypedValues();
-    void damagedFileIsSetAside_data();
-    void damagedFileIsSetAside();
-    void everyDamagedFileIsKept();
-    void failedFlushIsToldAndCanBeMendedLater();
-};
+using brinemark::test::row;
 
 namespace
 {
@@ -70,204 +53,192 @@ QStringList filesBeside(const QString &path)
 
 } // namespace
 
-void TestPreferences::sharedStoreLivesInTheConfigurationFolder()
+/// The preferences store: types survive the file, absence is absence, a damaged file is kept and costs nothing else.
+class TestPreferences : public QObject
 {
-    Preferences &shared = Preferences::shared();
-    QCOMPARE(&shared, &Preferences::shared());
-    QVERIFY(shared.path().startsWith(home.path()));
-    QVERIFY(shared.path().endsWith(QStringLiteral("/Brinemark/Brinemark.plist")));
-    // Not even the folder is there yet.
-    shared.set(preference::convertVisible, true);
-    QVERIFY(shared.flush());
-    QVERIFY(QFile::exists(shared.path()));
-}
+    Q_OBJECT
 
-void TestPreferences::absentUntilSet()
-{
-    Preferences store(freshPath());
-    QVERIFY(!store.contains(preference::autoSaveOnQuit));
-    QVERIFY(!store.value(preference::autoSaveOnQuit).has_value());
-    QCOMPARE(store.value(preference::autoSaveOnQuit, true), true);
-
-    store.set(preference::autoSaveOnQuit, false);
-    QVERIFY(store.contains(preference::autoSaveOnQuit));
-    QCOMPARE(store.value(preference::autoSaveOnQuit, true), false);
-
-    store.remove(preference::autoSaveOnQuit);
-    QVERIFY(!store.contains(preference::autoSaveOnQuit));
-
-    // The empty text is a value.
-    store.set(preference::defaultFile, QString());
-    QCOMPARE(store.value(preference::defaultFile), QString());
-    QVERIFY(store.contains(preference::defaultFile));
-}
-
-void TestPreferences::readsAFileThatPythonWrote()
-{
-    const QString path = copyElsewhere(QStringLiteral(BRINEMARK_TEST_DATA "/preferences/written-by-python.plist"));
-    const Preferences store(path);
-    QCOMPARE(store.value(preference::autoSaveOnQuit), true);
-    QCOMPARE(store.value(preference::activityOverdue), false);
-    QCOMPARE(store.value(preference::defaultFile), QStringLiteral("/home/käthe/Aquarien & mehr.xml"));
-    QCOMPARE(store.value(preference::bundleVersion), 16809984);
-    QCOMPARE(store.value(preference::updateFrequency), -1);
-    QCOMPARE(store.value(preference::updateLastChecked), distantPast());
-    QCOMPARE(store.value(preference::notificationWindowHeight), 117.5F);
-    QCOMPARE(store.value(preference::mainViewWidth), QStringLiteral("642"));
-    QCOMPARE(store.value(preference::convertWindowState),
-             (QVariantMap{
-                 {"ConvertState", true}, {"VolumeState", false}, {"ConvertWindowPoint", QStringLiteral("{12, 640}")}}));
-    QCOMPARE(store.variant(preference::dontAskAgainName(QStringLiteral("DontShowAgainNotTested"))).toInt(), 1);
-    QCOMPARE(store.variant(QStringLiteral("recent")),
-             QVariant(QVariantList{QStringLiteral("a"), qint64(2), QByteArray("\x00\xff", 2)}));
-    QVERIFY(!store.contains(preference::calName));
-}
-
-void TestPreferences::typesSurviveTheFile()
-{
-    const QDateTime checked(QDate(2026, 3, 14), QTime(8, 30), Qt::OffsetFromUTC, 3600);
-    const QVariantMap window{{"ConvertState", true}, {"ConvertWindowPoint", QStringLiteral("{1.5, 2}")}};
-    const QString path = freshPath();
+private Q_SLOTS:
+    void sharedStoreLivesInTheConfigurationFolder()
     {
-        Preferences store(path);
-        store.set(preference::autoSaveOnQuit, true);
-        store.set(preference::updateFrequency, 604800);
-        store.set(preference::bundleVersion, qint64(0xFFFFFFFF));
-        store.set(preference::updateLastChecked, checked);
-        store.set(preference::notificationWindowHeight, 117);
-        store.set(preference::tankListViewWidth, QStringLiteral("220"));
-        store.set(preference::convertWindowState, window);
-        QVERIFY(store.flush());
+        Preferences &shared = Preferences::shared();
+        QCOMPARE(&shared, &Preferences::shared());
+        QVERIFY(shared.path().startsWith(home.path()));
+        QVERIFY(shared.path().endsWith(QStringLiteral("/Brinemark/Brinemark.plist")));
+        // Not even the folder is there yet.
+        shared.set(preference::convertVisible, true);
+        QVERIFY(shared.flush());
+        QVERIFY(QFile::exists(shared.path()));
     }
-    const plist::ReadResult file = plist::readXml(bytesOf(path));
-    QVERIFY2(bool(file), qPrintable(file.error));
-    QCOMPARE(file.value,
-             plist::Value(plist::Dict{
-                 {"autoSaveOnQuit", plist::Value(true)},
-                 {"UpdateFrequency", plist::Value(604800)},
-                 {"bundleVersion", plist::Value(qint64(0xFFFFFFFF))},
-                 {"UpdateLastChecked", plist::Value(checked.toUTC())},
-                 {"NotificationWindowHeight", plist::Value(117.0)},
-                 {"tankListViewWidth", plist::Value(QStringLiteral("220"))},
-                 {"ConvertWindowState",
-                  plist::Value(plist::Dict{{"ConvertState", plist::Value(true)},
-                                           {"ConvertWindowPoint", plist::Value(QStringLiteral("{1.5, 2}"))}})},
-             }));
 
-    const Preferences again(copyElsewhere(path));
-    QCOMPARE(again.value(preference::autoSaveOnQuit), true);
-    QCOMPARE(again.value(preference::updateLastChecked), checked);
-    QCOMPARE(again.value(preference::convertWindowState), window);
-}
-
-void TestPreferences::lenientReading_data()
-{
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QVariant>("flag"); // an invalid one where the value reads as absent
-    QTest::addColumn<QVariant>("number");
-    QTest::addColumn<QVariant>("text");
-    const QVariant absent;
-    QTest::newRow("flag") << QVariant(true) << QVariant(true) << QVariant(1) << QVariant("true");
-    QTest::newRow("number") << QVariant(7) << QVariant(true) << QVariant(7) << QVariant("7");
-    QTest::newRow("zero") << QVariant(0) << QVariant(false) << QVariant(0) << QVariant("0");
-    QTest::newRow("real") << QVariant(2.75) << QVariant(true) << QVariant(2) << QVariant("2.75");
-    QTest::newRow("number as text") << QVariant(" 42 ") << QVariant(true) << QVariant(42) << QVariant(" 42 ");
-    QTest::newRow("YES") << QVariant("YES") << QVariant(true) << absent << QVariant("YES");
-    QTest::newRow("no") << QVariant("no") << QVariant(false) << absent << QVariant("no");
-    QTest::newRow("word") << QVariant("often") << absent << absent << QVariant("often");
-    QTest::newRow("comma") << QVariant("2,5") << absent << absent << QVariant("2,5");
-    QTest::newRow("infinite") << QVariant("inf") << absent << absent << QVariant("inf");
-    QTest::newRow("beyond 32 bits") << QVariant(qint64(1) << 40) << QVariant(true) << absent
-                                    << QVariant("1099511627776");
-    QTest::newRow("date") << QVariant(distantPast()) << absent << absent << absent;
-    QTest::newRow("list") << QVariant(QVariantList{1}) << absent << absent << absent;
-    QTest::newRow("map") << QVariant(QVariantMap{{"a", 1}}) << absent << absent << absent;
-}
-
-void TestPreferences::lenientReading()
-{
-    QFETCH(QVariant, stored);
-    QFETCH(QVariant, flag);
-    QFETCH(QVariant, number);
-    QFETCH(QVariant, text);
-    Preferences store(freshPath());
-    store.setVariant(QStringLiteral("key"), stored);
-    QCOMPARE(store.value(PreferenceKey<bool>{"key"}), flag.isValid() ? std::optional(flag.toBool()) : std::nullopt);
-    QCOMPARE(store.value(PreferenceKey<int>{"key"}), number.isValid() ? std::optional(number.toInt()) : std::nullopt);
-    QCOMPARE(store.value(PreferenceKey<QString>{"key"}),
-             text.isValid() ? std::optional(text.toString()) : std::nullopt);
-    const bool isDate = stored.typeId() == QMetaType::QDateTime;
-    QCOMPARE(store.value(PreferenceKey<QDateTime>{"key"}).has_value(), isDate);
-    const bool isMap = stored.typeId() == QMetaType::QVariantMap;
-    QCOMPARE(store.value(PreferenceKey<QVariantMap>{"key"}).has_value(), isMap);
-}
-
-void TestPreferences::untypedValues()
-{
-    Preferences store(freshPath());
-    const QString name = preference::dontAskAgainName(QStringLiteral("Sure?"));
-    QCOMPARE(name, QStringLiteral("dont.ask.again.result.Sure?"));
-    QVERIFY(!store.variant(name).isValid());
-    store.setVariant(name, 0);
-    QVERIFY(store.contains(name));
-    QCOMPARE(store.variant(name), QVariant(0));
-    store.setVariant(name, QVariant());
-    QVERIFY(!store.contains(name));
-}
-
-void TestPreferences::damagedFileIsSetAside_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    const QByteArray good = bytesOf(QStringLiteral(BRINEMARK_TEST_DATA "/preferences/written-by-python.plist"));
-    QTest::newRow("cut short") << good.left(good.size() / 2);
-    QTest::newRow("not a property list") << QByteArray("[General]\nautoSaveOnQuit=true\n");
-    QTest::newRow("not a dictionary") << QByteArray("<plist version=\"1.0\"><array/></plist>");
-    QTest::newRow("bytes") << QByteArray(1000, '\0');
-}
-
-void TestPreferences::damagedFileIsSetAside()
-{
-    QFETCH(QByteArray, bytes);
-    const QString path = freshPath();
-    writeBytes(path, bytes);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^The preferences could not be read: .+")));
-    Preferences store(path);
-    QVERIFY(!store.contains(preference::autoSaveOnQuit));
-    QCOMPARE(bytesOf(QFileInfo(path).path() + QStringLiteral("/Brinemark-damaged-1.plist")), bytes);
-
-    store.set(preference::autoSaveOnQuit, true);
-    QVERIFY(store.flush());
-    QCOMPARE(Preferences(copyElsewhere(path)).value(preference::autoSaveOnQuit), true);
-}
-
-void TestPreferences::everyDamagedFileIsKept()
-{
-    const QString path = freshPath();
-    for (const char *bytes : {"first", "second"}) {
-        writeBytes(path, bytes);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^The preferences could not be read")));
-        const Preferences store(path);
+    void absentUntilSet()
+    {
+        Preferences store(freshPath());
+        QCOMPARE(store.value(preference::autoSaveOnQuit), std::nullopt);
+        store.set(preference::autoSaveOnQuit, false);
+        QCOMPARE(store.value(preference::autoSaveOnQuit, true), false);
+        store.remove(preference::autoSaveOnQuit);
         QVERIFY(!store.contains(preference::autoSaveOnQuit));
+
+        // The empty text is a value.
+        store.set(preference::defaultFile, QString());
+        QCOMPARE(store.value(preference::defaultFile), QString());
+        QVERIFY(store.contains(preference::defaultFile));
     }
-    QCOMPARE(filesBeside(path), (QStringList{"Brinemark-damaged-1.plist", "Brinemark-damaged-2.plist"}));
-    QCOMPARE(bytesOf(QFileInfo(path).path() + QStringLiteral("/Brinemark-damaged-2.plist")), QByteArray("second"));
-}
 
-void TestPreferences::failedFlushIsToldAndCanBeMendedLater()
-{
-    // A file where the folder should be: not even the superuser can write below it.
-    const QString blocker = freshPath(QStringLiteral("folder"));
-    writeBytes(blocker, "in the way");
-    const QString path = blocker + QStringLiteral("/Brinemark.plist");
-    Preferences store(path);
-    store.set(preference::updateFrequency, -1);
-    QVERIFY(!store.flush());
-    QCOMPARE(store.value(preference::updateFrequency), -1);
+    void readsAFileThatPythonWrote()
+    {
+        const QString path = copyElsewhere(QStringLiteral(BRINEMARK_TEST_DATA "/preferences/written-by-python.plist"));
+        const Preferences store(path);
+        QCOMPARE(store.value(preference::autoSaveOnQuit), true);
+        QCOMPARE(store.value(preference::activityOverdue), false);
+        QCOMPARE(store.value(preference::defaultFile), QStringLiteral("/home/käthe/Aquarien & mehr.xml"));
+        QCOMPARE(store.value(preference::bundleVersion), 16809984);
+        QCOMPARE(store.value(preference::updateFrequency), -1);
+        QCOMPARE(store.value(preference::updateLastChecked), distantPast());
+        QCOMPARE(store.value(preference::notificationWindowHeight), 117.5F);
+        QCOMPARE(store.value(preference::mainViewWidth), QStringLiteral("642"));
+        QCOMPARE(store.value(preference::convertWindowState),
+                 (QVariantMap{{"ConvertState", true},
+                              {"VolumeState", false},
+                              {"ConvertWindowPoint", QStringLiteral("{12, 640}")}}));
+        QCOMPARE(store.variant(preference::dontAskAgainName(QStringLiteral("DontShowAgainNotTested"))).toInt(), 1);
+        QCOMPARE(store.variant(QStringLiteral("recent")),
+                 QVariant(QVariantList{QStringLiteral("a"), qint64(2), QByteArray("\x00\xff", 2)}));
+        QVERIFY(!store.contains(preference::calName));
+    }
 
-    QVERIFY(QFile::remove(blocker));
-    QVERIFY(store.flush());
-    QCOMPARE(Preferences(copyElsewhere(path)).value(preference::updateFrequency), -1);
-}
+    void typesSurviveTheFile()
+    {
+        const QDateTime checked(QDate(2026, 3, 14), QTime(8, 30), Qt::OffsetFromUTC, 3600);
+        const QVariantMap window{{"ConvertState", true}, {"ConvertWindowPoint", QStringLiteral("{1.5, 2}")}};
+        const QString path = freshPath();
+        {
+            Preferences store(path);
+            store.set(preference::autoSaveOnQuit, true);
+            store.set(preference::updateFrequency, 604800);
+            store.set(preference::bundleVersion, qint64(0xFFFFFFFF));
+            store.set(preference::updateLastChecked, checked);
+            store.set(preference::notificationWindowHeight, 117);
+            store.set(preference::tankListViewWidth, QStringLiteral("220"));
+            store.set(preference::convertWindowState, window);
+            QVERIFY(store.flush());
+        }
+        const plist::ReadResult file = plist::readXml(bytesOf(path));
+        QVERIFY2(bool(file), qPrintable(file.error));
+        QCOMPARE(file.value,
+                 plist::Value(plist::Dict{
+                     {"autoSaveOnQuit", plist::Value(true)},
+                     {"UpdateFrequency", plist::Value(604800)},
+                     {"bundleVersion", plist::Value(qint64(0xFFFFFFFF))},
+                     {"UpdateLastChecked", plist::Value(checked.toUTC())},
+                     {"NotificationWindowHeight", plist::Value(117.0)},
+                     {"tankListViewWidth", plist::Value(QStringLiteral("220"))},
+                     {"ConvertWindowState",
+                      plist::Value(plist::Dict{{"ConvertState", plist::Value(true)},
+                                               {"ConvertWindowPoint", plist::Value(QStringLiteral("{1.5, 2}"))}})},
+                 }));
+
+        const Preferences again(copyElsewhere(path));
+        QCOMPARE(again.value(preference::autoSaveOnQuit), true);
+        QCOMPARE(again.value(preference::updateLastChecked), checked);
+        QCOMPARE(again.value(preference::convertWindowState), window);
+    }
+
+    void lenientReading_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<QVariant>("flag"); // an invalid one where the value reads as absent
+        QTest::addColumn<QVariant>("number");
+        QTest::addColumn<QVariant>("text");
+        const QVariant absent;
+        row("flag", QVariant(true), QVariant(true), QVariant(1), QVariant("true"));
+        row("number", QVariant(7), QVariant(true), QVariant(7), QVariant("7"));
+        row("zero", QVariant(0), QVariant(false), QVariant(0), QVariant("0"));
+        row("number as text", QVariant(" 42 "), QVariant(true), QVariant(42), QVariant(" 42 "));
+        row("YES", QVariant("YES"), QVariant(true), absent, QVariant("YES"));
+        row("word", QVariant("often"), absent, absent, QVariant("often"));
+        row("comma", QVariant("2,5"), absent, absent, QVariant("2,5"));
+        row("beyond 32 bits", QVariant(qint64(1) << 40), QVariant(true), absent, QVariant("1099511627776"));
+        row("date", QVariant(distantPast()), absent, absent, absent);
+        row("map", QVariant(QVariantMap{{"a", 1}}), absent, absent, absent);
+    }
+
+    void lenientReading()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(QVariant, flag);
+        QFETCH(QVariant, number);
+        QFETCH(QVariant, text);
+        Preferences store(freshPath());
+        store.setVariant(QStringLiteral("key"), stored);
+        QCOMPARE(store.value(PreferenceKey<bool>{"key"}), flag.isValid() ? std::optional(flag.toBool()) : std::nullopt);
+        QCOMPARE(store.value(PreferenceKey<int>{"key"}),
+                 number.isValid() ? std::optional(number.toInt()) : std::nullopt);
+        QCOMPARE(store.value(PreferenceKey<QString>{"key"}),
+                 text.isValid() ? std::optional(text.toString()) : std::nullopt);
+        const bool isDate = stored.typeId() == QMetaType::QDateTime;
+        QCOMPARE(store.value(PreferenceKey<QDateTime>{"key"}).has_value(), isDate);
+        const bool isMap = stored.typeId() == QMetaType::QVariantMap;
+        QCOMPARE(store.value(PreferenceKey<QVariantMap>{"key"}).has_value(), isMap);
+    }
+
+    void damagedFileIsSetAside_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray good = bytesOf(QStringLiteral(BRINEMARK_TEST_DATA "/preferences/written-by-python.plist"));
+        QTest::newRow("cut short") << good.left(good.size() / 2);
+        QTest::newRow("not a property list") << QByteArray("[General]\nautoSaveOnQuit=true\n");
+        QTest::newRow("not a dictionary") << QByteArray("<plist version=\"1.0\"><array/></plist>");
+        QTest::newRow("bytes") << QByteArray(1000, '\0');
+    }
+
+    void damagedFileIsSetAside()
+    {
+        QFETCH(QByteArray, bytes);
+        const QString path = freshPath();
+        writeBytes(path, bytes);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("^The preferences could not be read: .+")));
+        Preferences store(path);
+        QVERIFY(!store.contains(preference::autoSaveOnQuit));
+        QCOMPARE(bytesOf(QFileInfo(path).path() + QStringLiteral("/Brinemark-damaged-1.plist")), bytes);
+
+        store.set(preference::autoSaveOnQuit, true);
+        QVERIFY(store.flush());
+        QCOMPARE(Preferences(copyElsewhere(path)).value(preference::autoSaveOnQuit), true);
+    }
+
+    void everyDamagedFileIsKept()
+    {
+        const QString path = freshPath();
+        for (const char *bytes : {"first", "second"}) {
+            writeBytes(path, bytes);
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(QStringLiteral("^The preferences could not be read")));
+            const Preferences store(path);
+            QVERIFY(!store.contains(preference::autoSaveOnQuit));
+        }
+        QCOMPARE(filesBeside(path), (QStringList{"Brinemark-damaged-1.plist", "Brinemark-damaged-2.plist"}));
+        QCOMPARE(bytesOf(QFileInfo(path).path() + QStringLiteral("/Brinemark-damaged-2.plist")), QByteArray("second"));
+    }
+
+    void failedFlushIsToldAndCanBeMendedLater()
+    {
+        // A file where the folder should be: not even the superuser can write below it.
+        const QString blocker = freshPath(QStringLiteral("folder"));
+        writeBytes(blocker, "in the way");
+        const QString path = blocker + QStringLiteral("/Brinemark.plist");
+        Preferences store(path);
+        store.set(preference::updateFrequency, -1);
+        QVERIFY(!store.flush());
+        QCOMPARE(store.value(preference::updateFrequency), -1);
+
+        QVERIFY(QFile::remove(blocker));
+        QVERIFY(store.flush());
+        QCOMPARE(Preferences(copyElsewhere(path)).value(preference::updateFrequency), -1);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestPreferences)
 #include "tst_preferences.moc"

@@ -1,4 +1,5 @@
 #include "base/SafeFile.h"
+#include "support/DataRow.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,39 +15,7 @@
 #endif
 
 using namespace brinemark;
-
-/// Saving: the old file stands until the new one is whole. Noticing: a file that somebody else changed is known as
-/// such.
-class TestSafeFile : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init();
-    void writesAndReads();
-    void keepsPermissions();
-    void replacesTheTargetOfALink_data();
-    void replacesTheTargetOfALink();
-    void failedWriteLeavesTheOldFile_data();
-    void failedWriteLeavesTheOldFile();
-    void fullDiskLeavesTheOldFile();
-    void cleanErrors_data();
-    void cleanErrors();
-    void noticesChanges_data();
-    void noticesChanges();
-    void stampsAgree();
-    void readingWhatIsNoFile();
-
-private:
-    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
-    [[nodiscard]] QStringList entries() const
-    {
-        return QDir(m_folder->path())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-};
+using brinemark::test::row;
 
 namespace
 {
@@ -97,203 +66,185 @@ private:
 
 } // namespace
 
-void TestSafeFile::init()
+/// Saving: the old file stands until the new one is whole. Noticing: a file that somebody else changed is known as
+/// such.
+class TestSafeFile : public QObject
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-}
+    Q_OBJECT
 
-void TestSafeFile::writesAndReads()
-{
-    const QByteArray bytes("one\0two\r\n", 9);
-    for (const QByteArray &content : {bytes, QByteArray(3'000'000, 'x'), QByteArray()}) {
-        const WriteResult written = writeFileSafely(path("tanks.xml"), content);
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+
+    void writesAndReads()
+    {
+        const QByteArray bytes("one\0two\r\n", 9);
+        for (const QByteArray &content : {bytes, QByteArray(3'000'000, 'x'), QByteArray()}) {
+            const WriteResult written = writeFileSafely(path("tanks.xml"), content);
+            QVERIFY2(written.ok, qPrintable(written.error));
+            const FileContent read = readFile(path("tanks.xml"));
+            QVERIFY(read.ok);
+            QCOMPARE(read.bytes, content);
+            QVERIFY(!changedOnDisk(path("tanks.xml"), written.stamp));
+            QVERIFY(!changedOnDisk(path("tanks.xml"), read.stamp));
+            QCOMPARE(entries(), QStringList{"tanks.xml"});
+        }
+    }
+
+    void keepsPermissions()
+    {
+        put(path("tanks.xml"), "old");
+        const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+        QVERIFY(QFile::setPermissions(path("tanks.xml"), permissions));
+        const QFile::Permissions before = QFile::permissions(path("tanks.xml"));
+        QVERIFY(writeFileSafely(path("tanks.xml"), "new").ok);
+        QCOMPARE(QFile::permissions(path("tanks.xml")), before);
+    }
+
+    void replacesTheTargetOfALink_data()
+    {
+        QTest::addColumn<QString>("link");
+        QTest::addColumn<QString>("target");
+        row("link to a link", "outer.xml", "real.xml");
+        row("link to a file that is not there", "dangling.xml", "later.xml");
+    }
+
+    void replacesTheTargetOfALink()
+    {
+#ifdef Q_OS_UNIX
+        QFETCH(QString, link);
+        QFETCH(QString, target);
+        put(path("real.xml"), "old");
+        QVERIFY(QFile::link("real.xml", path("link.xml")));
+        QVERIFY(QFile::link(path("link.xml"), path("outer.xml")));
+        QVERIFY(QFile::link("later.xml", path("dangling.xml")));
+        const WriteResult written = writeFileSafely(path(link), "new");
         QVERIFY2(written.ok, qPrintable(written.error));
-        const FileContent read = readFile(path("tanks.xml"));
-        QVERIFY(read.ok);
-        QCOMPARE(read.bytes, content);
-        QVERIFY(!changedOnDisk(path("tanks.xml"), written.stamp));
-        QVERIFY(!changedOnDisk(path("tanks.xml"), read.stamp));
+        QVERIFY(QFileInfo(path(link)).isSymLink());
+        QVERIFY(!QFileInfo(path(target)).isSymLink());
+        QCOMPARE(contentOf(path(target)), QByteArray("new"));
+        QVERIFY(!changedOnDisk(path(link), written.stamp));
+#endif
+    }
+
+    void failedWriteLeavesTheOldFile()
+    {
+        put(path("tanks.xml"), "old and good");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write .*disk is full")));
+        {
+            FailingSaveFile file(path("tanks.xml"), 99'999);
+            const WriteResult written = writeFileSafely(file, QByteArray(100'000, 'x'));
+            QVERIFY(!written.ok);
+            QCOMPARE(written.error, QStringLiteral("The disk is full"));
+        }
+        QCOMPARE(contentOf(path("tanks.xml")), QByteArray("old and good"));
         QCOMPARE(entries(), QStringList{"tanks.xml"});
     }
-}
 
-void TestSafeFile::keepsPermissions()
-{
-    put(path("tanks.xml"), "old");
-    const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
-    QVERIFY(QFile::setPermissions(path("tanks.xml"), permissions));
-    const QFile::Permissions before = QFile::permissions(path("tanks.xml"));
-    QVERIFY(writeFileSafely(path("tanks.xml"), "new").ok);
-    QCOMPARE(QFile::permissions(path("tanks.xml")), before);
-}
-
-void TestSafeFile::replacesTheTargetOfALink_data()
-{
-    QTest::addColumn<QString>("link");
-    QTest::addColumn<QString>("target");
-    QTest::newRow("link") << "link.xml"
-                          << "real.xml";
-    QTest::newRow("link to a link") << "outer.xml"
-                                    << "real.xml";
-    QTest::newRow("link to a file that is not there") << "dangling.xml"
-                                                      << "later.xml";
-}
-
-void TestSafeFile::replacesTheTargetOfALink()
-{
-#ifdef Q_OS_UNIX
-    QFETCH(QString, link);
-    QFETCH(QString, target);
-    put(path("real.xml"), "old");
-    QVERIFY(QFile::link("real.xml", path("link.xml")));
-    QVERIFY(QFile::link(path("link.xml"), path("outer.xml")));
-    QVERIFY(QFile::link("later.xml", path("dangling.xml")));
-    const WriteResult written = writeFileSafely(path(link), "new");
-    QVERIFY2(written.ok, qPrintable(written.error));
-    QVERIFY(QFileInfo(path(link)).isSymLink());
-    QVERIFY(!QFileInfo(path(target)).isSymLink());
-    QCOMPARE(contentOf(path(target)), QByteArray("new"));
-    QVERIFY(!changedOnDisk(path(link), written.stamp));
-#endif
-}
-
-void TestSafeFile::failedWriteLeavesTheOldFile_data()
-{
-    QTest::addColumn<qint64>("room");
-    QTest::newRow("nothing") << qint64(0);
-    QTest::newRow("a little") << qint64(100);
-    QTest::newRow("all but one") << qint64(99'999);
-}
-
-void TestSafeFile::failedWriteLeavesTheOldFile()
-{
-    QFETCH(qint64, room);
-    put(path("tanks.xml"), "old and good");
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write .*disk is full")));
+    // The system itself refuses to write on, as on a full disk.
+    void fullDiskLeavesTheOldFile()
     {
-        FailingSaveFile file(path("tanks.xml"), room);
-        const WriteResult written = writeFileSafely(file, QByteArray(100'000, 'x'));
+#ifdef Q_OS_UNIX
+        put(path("tanks.xml"), "old and good");
+        rlimit before{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        rlimit small = before;
+        small.rlim_cur = 64 * 1024;
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write")));
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const WriteResult written = writeFileSafely(path("tanks.xml"), QByteArray(1'000'000, 'x'));
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+        std::signal(SIGXFSZ, handler);
         QVERIFY(!written.ok);
-        QCOMPARE(written.error, QStringLiteral("The disk is full"));
-    }
-    QCOMPARE(contentOf(path("tanks.xml")), QByteArray("old and good"));
-    QCOMPARE(entries(), QStringList{"tanks.xml"});
-}
-
-// The system itself refuses to write on, as on a full disk.
-void TestSafeFile::fullDiskLeavesTheOldFile()
-{
-#ifdef Q_OS_UNIX
-    put(path("tanks.xml"), "old and good");
-    rlimit before{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-    rlimit small = before;
-    small.rlim_cur = 64 * 1024;
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write")));
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const WriteResult written = writeFileSafely(path("tanks.xml"), QByteArray(1'000'000, 'x'));
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, handler);
-    QVERIFY(!written.ok);
-    QVERIFY(!written.error.isEmpty());
-    QCOMPARE(contentOf(path("tanks.xml")), QByteArray("old and good"));
-    QCOMPARE(entries(), QStringList{"tanks.xml"});
+        QVERIFY(!written.error.isEmpty());
+        QCOMPARE(contentOf(path("tanks.xml")), QByteArray("old and good"));
+        QCOMPARE(entries(), QStringList{"tanks.xml"});
 #endif
-}
+    }
 
-void TestSafeFile::cleanErrors_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::newRow("a folder") << "%1";
-    QTest::newRow("in a missing folder") << "%1/missing/tanks.xml";
-    QTest::newRow("below a file") << "%1/file/tanks.xml";
-    QTest::newRow("a name too long") << "%1/" + QString(5000, u'x');
-    QTest::newRow("no name") << "";
+    void cleanErrors_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("a folder") << "%1";
+        QTest::newRow("in a missing folder") << "%1/missing/tanks.xml";
+        QTest::newRow("below a file") << "%1/file/tanks.xml";
+        QTest::newRow("a name too long") << "%1/" + QString(5000, u'x');
+        QTest::newRow("no name") << "";
 #ifdef Q_OS_LINUX
-    QTest::newRow("where nobody can write") << "/proc/tanks.xml";
-    QTest::newRow("a pipe") << "%1/pipe";
+        QTest::newRow("where nobody can write") << "/proc/tanks.xml";
+        QTest::newRow("a pipe") << "%1/pipe";
 #endif
-}
+    }
 
-void TestSafeFile::cleanErrors()
-{
-    QFETCH(QString, target);
-    put(path("file"), "in the way");
+    void cleanErrors()
+    {
+        QFETCH(QString, target);
+        put(path("file"), "in the way");
 #ifdef Q_OS_UNIX
-    QCOMPARE(mkfifo(qPrintable(path("pipe")), 0600), 0);
+        QCOMPARE(mkfifo(qPrintable(path("pipe")), 0600), 0);
 #endif
-    const QStringList before = entries();
-    if (target.contains("%1"))
-        target = target.arg(m_folder->path());
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write")));
-    const WriteResult written = writeFileSafely(target, "new");
-    QVERIFY(!written.ok);
-    QVERIFY(!written.error.isEmpty());
-    QVERIFY(!written.stamp.isKnown());
-    QCOMPARE(entries(), before);
-    QVERIFY(!changedOnDisk(target, FileStamp()));
-    QVERIFY(!readFile(target).ok);
-}
-
-void TestSafeFile::noticesChanges_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<int>("secondsLater");
-    QTest::addColumn<bool>("changed");
-    QTest::newRow("untouched") << QByteArray("old") << 0 << false;
-    QTest::newRow("only touched") << QByteArray("old") << 60 << false;
-    QTest::newRow("touched back in time") << QByteArray("old") << -60 << false;
-    QTest::newRow("same size, other content") << QByteArray("new") << 60 << true;
-    QTest::newRow("same size, older copy put back") << QByteArray("new") << -60 << true;
-    QTest::newRow("longer, time kept") << QByteArray("older") << 0 << true;
-    QTest::newRow("emptied") << QByteArray() << 60 << true;
-}
-
-void TestSafeFile::noticesChanges()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(int, secondsLater);
-    QFETCH(bool, changed);
-    const QString file = path("tanks.xml");
-    QVERIFY(writeFileSafely(file, "old").ok);
-    const FileStamp stamp = readFile(file).stamp;
-    QVERIFY(stamp.isKnown());
-
-    put(file, content);
-    setModified(file, stamp.modified.addSecs(secondsLater));
-    QCOMPARE(changedOnDisk(file, stamp), changed);
-    // Of a file never seen before anything may be news.
-    QVERIFY(changedOnDisk(file, FileStamp()));
-
-    QVERIFY(QFile::remove(file));
-    QVERIFY(!changedOnDisk(file, stamp));
-}
-
-void TestSafeFile::stampsAgree()
-{
-    const QByteArray bytes(100'000, 'x');
-    const WriteResult written = writeFileSafely(path("tanks.xml"), bytes);
-    for (const FileStamp &stamp : {FileStamp::of(path("tanks.xml")), FileStamp::of(path("tanks.xml"), bytes),
-                                   readFile(path("tanks.xml")).stamp}) {
-        QCOMPARE(stamp.size, bytes.size());
-        QCOMPARE(stamp.modified, written.stamp.modified);
-        QCOMPARE(stamp.hash, written.stamp.hash);
+        const QStringList before = entries();
+        if (target.contains("%1"))
+            target = target.arg(m_folder->path());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write")));
+        const WriteResult written = writeFileSafely(target, "new");
+        QVERIFY(!written.ok);
+        QVERIFY(!written.error.isEmpty());
+        QVERIFY(!written.stamp.isKnown());
+        QCOMPARE(entries(), before);
+        QVERIFY(!changedOnDisk(target, FileStamp()));
+        QVERIFY(!readFile(target).ok);
     }
-    QVERIFY(!FileStamp::of(path("nothing.xml")).isKnown());
-    QVERIFY(!FileStamp::of(m_folder->path()).isKnown());
-}
 
-void TestSafeFile::readingWhatIsNoFile()
-{
-    for (const QString &name : {path("nothing.xml"), m_folder->path(), QString()}) {
-        const FileContent read = readFile(name);
-        QVERIFY(!read.ok);
-        QVERIFY(!read.error.isEmpty());
-        QVERIFY(!read.stamp.isKnown());
+    void noticesChanges_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("secondsLater");
+        QTest::addColumn<bool>("changed");
+        QTest::newRow("untouched") << QByteArray("old") << 0 << false;
+        QTest::newRow("only touched") << QByteArray("old") << 60 << false;
+        QTest::newRow("same size, other content") << QByteArray("new") << 60 << true;
+        QTest::newRow("same size, older copy put back") << QByteArray("new") << -60 << true;
+        QTest::newRow("longer, time kept") << QByteArray("older") << 0 << true;
     }
-}
+
+    void noticesChanges()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, secondsLater);
+        QFETCH(bool, changed);
+        const QString file = path("tanks.xml");
+        QVERIFY(writeFileSafely(file, "old").ok);
+        const FileStamp stamp = readFile(file).stamp;
+        QVERIFY(stamp.isKnown());
+
+        put(file, content);
+        setModified(file, stamp.modified.addSecs(secondsLater));
+        QCOMPARE(changedOnDisk(file, stamp), changed);
+        // Of a file never seen before anything may be news.
+        QVERIFY(changedOnDisk(file, FileStamp()));
+
+        QVERIFY(QFile::remove(file));
+        QVERIFY(!changedOnDisk(file, stamp));
+    }
+
+private:
+    [[nodiscard]] QString path(const QString &name) const
+    {
+        return m_folder->filePath(name);
+    }
+    [[nodiscard]] QStringList entries() const
+    {
+        return QDir(m_folder->path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
 
 QTEST_GUILESS_MAIN(TestSafeFile)
 #include "tst_safe_file.moc"

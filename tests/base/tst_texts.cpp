@@ -4,26 +4,6 @@
 
 using namespace brinemark;
 
-/// Texts by key: which language answers, what a missing text gives, how placeholders are filled.
-class TestTexts : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void languagesOfTheSystem();
-    void languageChain_data();
-    void languageChain();
-    void lookUp_data();
-    void lookUp();
-    void tablesAreApart();
-    void numbers_data();
-    void numbers();
-    void placeholders_data();
-    void placeholders();
-    void formats_data();
-    void formats();
-};
-
 namespace
 {
 
@@ -34,126 +14,133 @@ constexpr TextKey unwritten{"NoTableHoldsThisKey"};
 
 } // namespace
 
-// First of all tests, before any of them chooses languages.
-void TestTexts::languagesOfTheSystem()
+/// Texts by key: which language answers, what a missing text gives, how placeholders are filled.
+class TestTexts : public QObject
 {
-    QCOMPARE(textLanguages().first().left(2), QString::fromLatin1(qgetenv("LC_ALL").left(2)));
-    QCOMPARE(textLanguages().last(), QStringLiteral("en"));
-}
+    Q_OBJECT
 
-void TestTexts::languageChain_data()
-{
-    QTest::addColumn<QStringList>("chosen");
-    QTest::addColumn<QStringList>("chain");
-    QTest::newRow("region") << QStringList{"de-AT"} << QStringList{"de_AT", "de", "en"};
-    QTest::newRow("English region") << QStringList{"en_US"} << QStringList{"en_US", "en"};
-    QTest::newRow("script") << QStringList{"en-Latn-US", "en-US", "en"} << QStringList{"en_US", "en"};
-    QTest::newRow("two languages") << QStringList{"de-CH", "en-US"} << QStringList{"de_CH", "de", "en_US", "en"};
-    QTest::newRow("none") << QStringList{} << QStringList{"en"};
-}
+private Q_SLOTS:
+    // First of all tests, before any of them chooses languages.
+    void languagesOfTheSystem()
+    {
+        QCOMPARE(textLanguages().first().left(2), QString::fromLatin1(qgetenv("LC_ALL").left(2)));
+        QCOMPARE(textLanguages().last(), QStringLiteral("en"));
+    }
 
-void TestTexts::languageChain()
-{
-    QFETCH(QStringList, chosen);
-    setTextLanguages(chosen);
-    QTEST(textLanguages(), "chain");
-}
+    void languageChain_data()
+    {
+        QTest::addColumn<QStringList>("chosen");
+        QTest::addColumn<QStringList>("chain");
+        QTest::newRow("region") << QStringList{"de-AT"} << QStringList{"de_AT", "de", "en"};
+        QTest::newRow("English region") << QStringList{"en_US"} << QStringList{"en_US", "en"};
+        QTest::newRow("script") << QStringList{"en-Latn-US", "en-US", "en"} << QStringList{"en_US", "en"};
+        QTest::newRow("two languages") << QStringList{"de-CH", "en-US"} << QStringList{"de_CH", "de", "en_US", "en"};
+        QTest::newRow("none") << QStringList{} << QStringList{"en"};
+    }
 
-void TestTexts::lookUp_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("cancelText");
-    QTest::newRow("German") << "de"
-                            << "Abbrechen";
-    QTest::newRow("German region") << "de_AT"
-                                   << "Abbrechen";
-    QTest::newRow("region that has only what differs") << "en_US"
-                                                       << "Cancel";
-    QTest::newRow("language without a table") << "fr_FR"
-                                              << "Cancel";
-}
+    void languageChain()
+    {
+        QFETCH(QStringList, chosen);
+        setTextLanguages(chosen);
+        QTEST(textLanguages(), "chain");
+    }
 
-void TestTexts::lookUp()
-{
-    QFETCH(QString, language);
-    setTextLanguages({language});
-    QTEST(text(cancel), "cancelText");
-    QVERIFY(hasText(cancel));
-    QCOMPARE(text(unwritten), QStringLiteral("NoTableHoldsThisKey"));
-    QVERIFY(!hasText(unwritten));
-    QCOMPARE(text(TextKey()), QString());
-}
+    void lookUp_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("cancelText");
+        QTest::newRow("German") << "de"
+                                << "Abbrechen";
+        QTest::newRow("German region") << "de_AT"
+                                       << "Abbrechen";
+        QTest::newRow("region that has only what differs") << "en_US"
+                                                           << "Cancel";
+        QTest::newRow("language without a table") << "fr_FR"
+                                                  << "Cancel";
+    }
 
-void TestTexts::tablesAreApart()
-{
-    QVERIFY(!hasText(newTankTemperature, TextTable::Update));
-    QVERIFY(!hasText(newTankTemperature, TextTable::Transfer));
-}
+    void lookUp()
+    {
+        QFETCH(QString, language);
+        setTextLanguages({language});
+        QTEST(text(cancel), "cancelText");
+        QVERIFY(hasText(cancel));
+        QCOMPARE(text(unwritten), QStringLiteral("NoTableHoldsThisKey"));
+        QVERIFY(!hasText(unwritten));
+        QCOMPARE(text(TextKey()), QString());
+    }
 
-void TestTexts::numbers_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<double>("temperature");
-    QTest::newRow("Celsius") << "de_DE" << 25.0;
-    QTest::newRow("Celsius, English") << "en_GB" << 25.0;
-    QTest::newRow("Fahrenheit") << "en_US" << 78.0;
-}
+    void tablesAreApart()
+    {
+        QVERIFY(!hasText(newTankTemperature, TextTable::Update));
+        QVERIFY(!hasText(newTankTemperature, TextTable::Transfer));
+    }
 
-void TestTexts::numbers()
-{
-    QFETCH(QString, language);
-    setTextLanguages({language});
-    QTEST(numberOfText(newTankTemperature), "temperature");
-    // A fraction, whatever the locale's decimal separator.
-    QVERIFY(numberOfText("AmmoniaFreshValue"_key) > 0.0 && numberOfText("AmmoniaFreshValue"_key) < 1.0);
-    QCOMPARE(numberOfText(cancel), 0.0);
-    QCOMPARE(numberOfText(unwritten), 0.0);
-}
+    void numbers_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<double>("temperature");
+        QTest::newRow("Celsius") << "de_DE" << 25.0;
+        QTest::newRow("Celsius, English") << "en_GB" << 25.0;
+        QTest::newRow("Fahrenheit") << "en_US" << 78.0;
+    }
 
-void TestTexts::placeholders_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QStringList>("values");
-    QTest::addColumn<QString>("filled");
-    QTest::newRow("three") << "^0: ^1 of ^2" << QStringList{"a", "b", "c"} << "a: b of c";
-    QTest::newRow("other order") << "^1 ^0" << QStringList{"a", "b"} << "b a";
-    QTest::newRow("first occurrence only") << "^0 ^0" << QStringList{"a"} << "a ^0";
-    QTest::newRow("value with a placeholder") << "^0 ^1" << QStringList{"^1", "b"} << "^1 b";
-    QTest::newRow("value with its own placeholder") << "^0" << QStringList{"^0"} << "^0";
-    QTest::newRow("no value") << "^0 ^1" << QStringList{"a"} << "a ^1";
-    QTest::newRow("surplus value") << "plain" << QStringList{"a"} << "plain";
-    QTest::newRow("no number after the mark") << "^ ^x 2^" << QStringList{"a"} << "^ ^x 2^";
-}
+    void numbers()
+    {
+        QFETCH(QString, language);
+        setTextLanguages({language});
+        QTEST(numberOfText(newTankTemperature), "temperature");
+        // A fraction, whatever the locale's decimal separator.
+        QVERIFY(numberOfText("AmmoniaFreshValue"_key) > 0.0 && numberOfText("AmmoniaFreshValue"_key) < 1.0);
+        QCOMPARE(numberOfText(cancel), 0.0);
+        QCOMPARE(numberOfText(unwritten), 0.0);
+    }
 
-void TestTexts::placeholders()
-{
-    QFETCH(QString, format);
-    QFETCH(QStringList, values);
-    QTEST(fillPlaceholders(format, values), "filled");
-}
+    void placeholders_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QStringList>("values");
+        QTest::addColumn<QString>("filled");
+        QTest::newRow("three") << "^0: ^1 of ^2" << QStringList{"a", "b", "c"} << "a: b of c";
+        QTest::newRow("other order") << "^1 ^0" << QStringList{"a", "b"} << "b a";
+        QTest::newRow("first occurrence only") << "^0 ^0" << QStringList{"a"} << "a ^0";
+        QTest::newRow("value with a placeholder") << "^0 ^1" << QStringList{"^1", "b"} << "^1 b";
+        QTest::newRow("value with its own placeholder") << "^0" << QStringList{"^0"} << "^0";
+        QTest::newRow("no value") << "^0 ^1" << QStringList{"a"} << "a ^1";
+        QTest::newRow("surplus value") << "plain" << QStringList{"a"} << "plain";
+        QTest::newRow("no number after the mark") << "^ ^x 2^" << QStringList{"a"} << "^ ^x 2^";
+    }
 
-void TestTexts::formats_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QVariantList>("values");
-    QTest::addColumn<QString>("filled");
-    QTest::newRow("text and number") << "%@: %i" << QVariantList{"Reef", 7} << "Reef: 7";
-    QTest::newRow("per-cent sign") << "%i%% %@" << QVariantList{50, "full"} << "50% full";
-    QTest::newRow("missing values") << "%@-%i-%@" << QVariantList{"a"} << "a--";
-    QTest::newRow("surplus value") << "%@" << QVariantList{"a", "b"} << "a";
-    QTest::newRow("value with a format") << "%@ %@" << QVariantList{"%@", "b"} << "%@ b";
-    QTest::newRow("fraction as whole number") << "%i" << QVariantList{-7.9} << "-7";
-    QTest::newRow("large number") << "%i" << QVariantList{qint64(9007199254740993)} << "9007199254740993";
-    QTest::newRow("text as whole number") << "%i" << QVariantList{"many"} << "0";
-    QTest::newRow("other notations") << "5 %s %" << QVariantList{"a"} << "5 %s %";
-}
+    void placeholders()
+    {
+        QFETCH(QString, format);
+        QFETCH(QStringList, values);
+        QTEST(fillPlaceholders(format, values), "filled");
+    }
 
-void TestTexts::formats()
-{
-    QFETCH(QString, format);
-    QFETCH(QVariantList, values);
-    QTEST(formatText(format, values), "filled");
-}
+    void formats_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QVariantList>("values");
+        QTest::addColumn<QString>("filled");
+        QTest::newRow("text and number") << "%@: %i" << QVariantList{"Reef", 7} << "Reef: 7";
+        QTest::newRow("per-cent sign") << "%i%% %@" << QVariantList{50, "full"} << "50% full";
+        QTest::newRow("missing values") << "%@-%i-%@" << QVariantList{"a"} << "a--";
+        QTest::newRow("surplus value") << "%@" << QVariantList{"a", "b"} << "a";
+        QTest::newRow("value with a format") << "%@ %@" << QVariantList{"%@", "b"} << "%@ b";
+        QTest::newRow("fraction as whole number") << "%i" << QVariantList{-7.9} << "-7";
+        QTest::newRow("large number") << "%i" << QVariantList{qint64(9007199254740993)} << "9007199254740993";
+        QTest::newRow("text as whole number") << "%i" << QVariantList{"many"} << "0";
+        QTest::newRow("other notations") << "5 %s %" << QVariantList{"a"} << "5 %s %";
+    }
+
+    void formats()
+    {
+        QFETCH(QString, format);
+        QFETCH(QVariantList, values);
+        QTEST(formatText(format, values), "filled");
+    }
+};
 
 QTEST_GUILESS_MAIN(TestTexts)
 #include "tst_texts.moc"
