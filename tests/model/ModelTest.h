@@ -1,12 +1,11 @@
 #pragma once
 
 #include "base/Clock.h"
-#include "base/text/Texts.h"
 #include "model/LivestockData.h"
 #include "model/ModelContext.h"
 #include "model/Tank.h"
 #include "model/TankList.h"
-#include "support/TestHome.h"
+#include "support/RunTest.h"
 
 #include <QGuiApplication>
 #include <QTest>
@@ -67,17 +66,6 @@ inline std::shared_ptr<Record> newRecord(ContainerKind kind)
     default:
         return makeItemData(traitsOf(kind).itemContext, nullptr);
     }
-}
-
-/// Runs a test object under a home of its own.
-template <class Test>
-int run(int argc, char **argv)
-{
-    TestHome home;
-    QGuiApplication application(argc, argv);
-    setTextLanguages({QStringLiteral("en")});
-    Test test;
-    return QTest::qExec(&test, argc, argv);
 }
 
 } // namespace brinemark::test

@@ -1,4 +1,5 @@
 #include "ModelTest.h"
+#include "support/DataRow.h"
 
 #include "model/KeyAccess.h"
 #include "model/LivestockData.h"
@@ -9,6 +10,7 @@
 #include <QSet>
 
 using namespace brinemark;
+using brinemark::test::row;
 
 namespace
 {
@@ -143,30 +145,20 @@ void checkRecordType(R &record, std::shared_ptr<Record> read, const QStringList 
     }
 }
 
+template <class R>
+std::shared_ptr<Record> make(bool blank)
+{
+    return blank ? std::make_shared<R>(Blank{}) : std::make_shared<R>(static_cast<Tank *>(nullptr));
+}
+
 std::shared_ptr<Record> newRecord(const QString &type, bool blank)
 {
-    const auto make = [blank]<class R>() -> std::shared_ptr<Record> {
-        return blank ? std::make_shared<R>(Blank{}) : std::make_shared<R>(static_cast<Tank *>(nullptr));
-    };
-    if (type == u"fish")
-        return make.operator()<FishData>();
-    if (type == u"plant")
-        return make.operator()<PlantData>();
-    if (type == u"coral")
-        return make.operator()<CoralData>();
-    if (type == u"invert")
-        return make.operator()<InvertData>();
-    if (type == u"condition")
-        return make.operator()<ConditionData>();
-    if (type == u"expense")
-        return make.operator()<ExpenseData>();
-    if (type == u"inventory")
-        return make.operator()<InventoryData>();
-    if (type == u"note")
-        return make.operator()<NoteData>();
-    if (type == u"schedule")
-        return make.operator()<ScheduleData>();
-    return make.operator()<TankData>();
+    static const QMap<QString, std::shared_ptr<Record> (*)(bool)> makers{
+        {"fish", &make<FishData>},           {"plant", &make<PlantData>},         {"coral", &make<CoralData>},
+        {"invert", &make<InvertData>},       {"condition", &make<ConditionData>}, {"expense", &make<ExpenseData>},
+        {"inventory", &make<InventoryData>}, {"note", &make<NoteData>},           {"schedule", &make<ScheduleData>},
+        {"target", &make<TankData>}};
+    return makers[type](blank);
 }
 
 } // namespace
@@ -176,337 +168,282 @@ class RecordsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyFieldEverywhere_data();
-    void everyFieldEverywhere();
-    void newRecords();
-    void missingKeys_data();
-    void missingKeys();
-    void missingTextFails();
-    void writtenTexts_data();
-    void writtenTexts();
-    void nothingByKey_data();
-    void nothingByKey();
-    void convertedByKey_data();
-    void convertedByKey();
-    void unknownKeys();
-    void copiesKeepTheirClass();
-    void scheduleSetters();
-    void reefSafeWords();
-    void pictures();
-};
+    void everyFieldEverywhere_data()
+    {
+        QTest::addColumn<QStringList>("notCopied");
+        for (const char *type : {"fish", "plant", "coral", "invert"})
+            QTest::newRow(type) << QStringList{QStringLiteral("reefSafe")};
+        QTest::newRow("condition") << QStringList{QStringLiteral("magnesium")};
+        for (const char *type : {"expense", "inventory", "note", "schedule", "target"})
+            QTest::newRow(type) << QStringList();
+    }
 
-void RecordsTest::everyFieldEverywhere_data()
-{
-    QTest::addColumn<QStringList>("notCopied");
-    for (const char *type : {"fish", "plant", "coral", "invert"})
-        QTest::newRow(type) << QStringList{QStringLiteral("reefSafe")};
-    QTest::newRow("condition") << QStringList{QStringLiteral("magnesium")};
-    for (const char *type : {"expense", "inventory", "note", "schedule", "target"})
-        QTest::newRow(type) << QStringList();
-}
+    void everyFieldEverywhere()
+    {
+        QFETCH(QStringList, notCopied);
+        const QString type = QString::fromLatin1(QTest::currentDataTag());
+        const auto record = newRecord(type, false);
+        visitRecord(*record, [&](auto &typed) { checkRecordType(typed, newRecord(type, true), notCopied); });
+    }
 
-void RecordsTest::everyFieldEverywhere()
-{
-    QFETCH(QStringList, notCopied);
-    const QString type = QString::fromLatin1(QTest::currentDataTag());
-    const auto record = newRecord(type, false);
-    visitRecord(*record, [&](auto &typed) { checkRecordType(typed, newRecord(type, true), notCopied); });
-}
+    void newRecords()
+    {
+        const QDateTime now(QDate(2026, 3, 14), QTime(9, 26, 53));
+        const clock::FixedClock fixed(now);
+        Tank tank(QStringLiteral("Reef"));
 
-void RecordsTest::newRecords()
-{
-    const QDateTime now(QDate(2026, 3, 14), QTime(9, 26, 53));
-    const clock::FixedClock fixed(now);
-    Tank tank(QStringLiteral("Reef"));
+        const FishData fish(&tank);
+        QCOMPARE(fish.tank.get(), &tank);
+        QCOMPARE(fish.name, text("NewFishName"_key));
+        QCOMPARE(fish.temp, text("Unspecified"_key));
+        QCOMPARE(fish.count, 1);
+        QCOMPARE(fish.reefSafe, 1970151456);
 
-    const FishData fish(&tank);
-    QCOMPARE(fish.tank.get(), &tank);
-    QCOMPARE(fish.name, text("NewFishName"_key));
-    QCOMPARE(fish.temp, text("Unspecified"_key));
-    QCOMPARE(fish.care, text("Unspecified"_key));
-    QCOMPARE(fish.notes, QString());
-    QCOMPARE(fish.count, 1);
-    QCOMPARE(fish.reefSafe, 1970151456);
-    QVERIFY(fish.itemImage.isNone());
-    QCOMPARE(PlantData(QStringLiteral("Fern"), &tank).name, QStringLiteral("Fern"));
+        const ConditionData test(&tank);
+        QCOMPARE(test.date, now);
+        for (const Parameter parameter : recordFieldOrder)
+            QCOMPARE(valueForKey(test, traitsOf(parameter).identifier).toFloat(), -1.0F);
 
-    const ConditionData test(&tank);
-    QCOMPARE(test.date, now);
-    for (const Parameter parameter : recordFieldOrder)
-        QCOMPARE(valueForKey(test, traitsOf(parameter).identifier).toFloat(), -1.0F);
+        const ExpenseData expense;
+        QCOMPARE(expense.type, text("ExpenseNoneItem"_key));
+        QVERIFY(expense.amount == Amount(0.0));
+        const ScheduleData activity;
+        QCOMPARE(activity.date, now);
+        QVERIFY(!activity.complete() && !activity.autoReschedule() && activity.nextDate == 0);
+    }
 
-    const ExpenseData expense;
-    QCOMPARE(expense.type, text("ExpenseNoneItem"_key));
-    QVERIFY(expense.amount == Amount(0.0));
-    QCOMPARE(InventoryData().item, text("NewInventoryItem"_key));
-    QCOMPARE(NoteData().note, text("NewNoteItem"_key));
-    const ScheduleData activity;
-    QCOMPARE(activity.date, now);
-    QVERIFY(!activity.complete() && !activity.autoReschedule() && activity.nextDate == 0);
-}
+    void missingKeys_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QStringList>("removed");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        const auto row = [](const char *name, const char *type, const QStringList &removed, const char *key,
+                            const QVariant &value) {
+            QTest::newRow(name) << QString::fromLatin1(type) << removed << QString::fromLatin1(key) << value;
+        };
+        row("dioxide", "condition", {QStringLiteral("dioxide")}, "dioxide", -1);
+        for (const char *key : {"alkalinity", "phosphate", "iodine", "oxygen", "copper", "iron"})
+            row(key, "condition", {QStringLiteral("alkalinity")}, key, 0.0F);
+        row("calcium", "condition", {QStringLiteral("alkalinity")}, "calcium", 0);
+        row("dioxide without alkalinity", "condition", {QStringLiteral("alkalinity")}, "dioxide", 117);
+        row("notes", "fish", {QStringLiteral("Notes")}, "notes", QString());
+        row("reef-safe code", "fish", {QStringLiteral("ReefSafe")}, "reefSafe", 1970151456);
+        row("picture", "fish", {QStringLiteral("FishImage")}, "itemImage", QVariant());
+        row("count of an item", "inventory", {QStringLiteral("Count")}, "count", 0);
+        row("amount", "expense", {QStringLiteral("Amount")}, "amount", QVariant());
+        row("date", "note", {QStringLiteral("Date")}, "date", QVariant());
+        row("interval of no rescheduling", "schedule", {QStringLiteral("AutoReschedule")}, "nextDate", 0.0F);
+        row("target's value", "target", {QStringLiteral("preferred")}, "preferredValue", 0.0F);
+    }
 
-void RecordsTest::missingKeys_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QStringList>("removed");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    const auto row = [](const char *name, const char *type, const QStringList &removed, const char *key,
-                        const QVariant &value) {
-        QTest::newRow(name) << QString::fromLatin1(type) << removed << QString::fromLatin1(key) << value;
-    };
-    row("ph of a test", "condition", {QStringLiteral("ph")}, "ph", 0.0F);
-    row("dioxide", "condition", {QStringLiteral("dioxide")}, "dioxide", -1);
-    row("magnesium", "condition", {QStringLiteral("magnesium")}, "magnesium", -1);
-    for (const char *key : {"alkalinity", "phosphate", "iodine", "oxygen", "copper", "iron"})
-        row(key, "condition", {QStringLiteral("alkalinity")}, key, 0.0F);
-    row("calcium", "condition", {QStringLiteral("alkalinity")}, "calcium", 0);
-    row("dioxide without alkalinity", "condition", {QStringLiteral("alkalinity")}, "dioxide", 117);
-    row("notes", "fish", {QStringLiteral("Notes")}, "notes", QString());
-    row("count of a fish", "fish", {QStringLiteral("Count")}, "count", 0);
-    row("salt", "fish", {QStringLiteral("Salt")}, "salt", 0.0F);
-    row("reef-safe code", "fish", {QStringLiteral("ReefSafe")}, "reefSafe", 1970151456);
-    row("picture", "fish", {QStringLiteral("FishImage")}, "itemImage", QVariant());
-    row("count of an item", "inventory", {QStringLiteral("Count")}, "count", 0);
-    row("amount", "expense", {QStringLiteral("Amount")}, "amount", QVariant());
-    row("date", "note", {QStringLiteral("Date")}, "date", QVariant());
-    row("done", "schedule", {QStringLiteral("Complete")}, "complete", false);
-    row("interval of no rescheduling", "schedule", {QStringLiteral("AutoReschedule")}, "nextDate", 0.0F);
-    row("target's name", "target", {QStringLiteral("name")}, "name", QString());
-    row("target's value", "target", {QStringLiteral("preferred")}, "preferredValue", 0.0F);
-}
+    void missingKeys()
+    {
+        QFETCH(QString, type);
+        QFETCH(QStringList, removed);
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        const auto record = newRecord(type, false);
+        const auto read = newRecord(type, true);
+        visitRecord(*record, [&](auto &typed) {
+            fill(typed);
+            plist::Dict dict = recordDict(typed);
+            for (const QString &fileKey : removed)
+                dict.remove(fileKey);
+            readRecord(static_cast<std::remove_reference_t<decltype(typed)> &>(*read), dict);
+        });
+        QCOMPARE(valueForKey(*read, key), value);
+    }
 
-void RecordsTest::missingKeys()
-{
-    QFETCH(QString, type);
-    QFETCH(QStringList, removed);
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
-    const auto record = newRecord(type, false);
-    const auto read = newRecord(type, true);
-    visitRecord(*record, [&](auto &typed) {
-        fill(typed);
-        plist::Dict dict = recordDict(typed);
-        for (const QString &fileKey : removed)
-            dict.remove(fileKey);
-        readRecord(static_cast<std::remove_reference_t<decltype(typed)> &>(*read), dict);
-    });
-    QCOMPARE(valueForKey(*read, key), value);
-}
-
-void RecordsTest::missingTextFails()
-{
-    const QSet<QString> optional{QStringLiteral("Notes"), QStringLiteral("Date")};
-    int needed = 0;
-    for (const ContainerTraits &traits : containerTraitsTable) {
-        const auto record = newRecord(traits.attributePrefix.toString().toLower(), false);
-        visitRecord(*record, [](auto &typed) { fill(typed); });
-        const plist::Dict whole = recordDict(*record);
-        for (const auto &[key, value] : whole) {
-            // Words that no number can stand for.
-            const bool isNeeded = value.string() && value.string()->startsWith(u"text") && !optional.contains(key);
-            plist::Dict part = whole;
-            part.remove(key);
-            bool failed = false;
-            try {
-                (void)recordFromDict(traits.kind, part, nullptr);
-            } catch (const TankReadError &) {
-                failed = true;
+    void missingTextFails()
+    {
+        const QSet<QString> optional{QStringLiteral("Notes"), QStringLiteral("Date")};
+        int needed = 0;
+        for (const ContainerTraits &traits : containerTraitsTable) {
+            const auto record = newRecord(traits.attributePrefix.toString().toLower(), false);
+            visitRecord(*record, [](auto &typed) { fill(typed); });
+            const plist::Dict whole = recordDict(*record);
+            for (const auto &[key, value] : whole) {
+                // Words that no number can stand for.
+                const bool isNeeded = value.string() && value.string()->startsWith(u"text") && !optional.contains(key);
+                plist::Dict part = whole;
+                part.remove(key);
+                bool failed = false;
+                try {
+                    (void)recordFromDict(traits.kind, part, nullptr);
+                } catch (const TankReadError &) {
+                    failed = true;
+                }
+                QVERIFY2(failed == isNeeded, qPrintable(key));
+                needed += isNeeded;
             }
-            QVERIFY2(failed == isNeeded, qPrintable(key));
-            needed += isNeeded;
+        }
+        QCOMPARE(needed, 4 * 11 + 5);
+    }
+
+    void writtenTexts_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("fileKey");
+        QTest::addColumn<QString>("written");
+        const auto row = [](const char *type, const char *key, const QVariant &value, const char *fileKey,
+                            const char *written) {
+            QTest::addRow("%s %s", key, written) << QString::fromLatin1(type) << QString::fromLatin1(key) << value
+                                                 << QString::fromLatin1(fileKey) << QString::fromLatin1(written);
+        };
+        row("fish", "ph", 7.2F, "ph", "7.2");
+        row("fish", "gHardness", 7.9F, "GHardness", "7");
+        row("fish", "gHardness", -7.9F, "GHardness", "-7");
+        row("condition", "gH", 0.125F, "GH", "0.125");
+        row("schedule", "nextDate", 31449600.0F, "NextDate", "31449600");
+        row("schedule", "complete", true, "Complete", "1");
+        row("note", "date", QDateTime(QDate(2007, 3, 14), QTime(18, 22, 5), Qt::OffsetFromUTC, -5 * 3600), "Date",
+            "2007-03-14 18:22:05 -0500");
+    }
+
+    void writtenTexts()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QFETCH(QString, fileKey);
+        QFETCH(QString, written);
+        const auto record = newRecord(type, false);
+        QVERIFY(setValueForKey(*record, key, value));
+        QVERIFY(fileValue(*record, fileKey).string());
+        QCOMPARE(*fileValue(*record, fileKey).string(), written);
+    }
+
+    void nothingByKey_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<bool>("taken");
+        QTest::addColumn<QVariant>("after");
+        row("float of a test", "condition", "ph", true, QVariant(0.0F));
+        row("date of a test", "condition", "date", true, QVariant());
+        row("inventory count", "inventory", "count", true, QVariant(1));
+        row("amount", "expense", "amount", true, QVariant());
+        row("fish count", "fish", "count", false, QVariant(117));
+    }
+
+    void nothingByKey()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, key);
+        QFETCH(bool, taken);
+        QFETCH(QVariant, after);
+        const auto record = newRecord(type, false);
+        visitRecord(*record, [](auto &typed) { fill(typed); });
+        QCOMPARE(setValueForKey(*record, key, QVariant()), taken);
+        QCOMPARE(valueForKey(*record, key), after);
+    }
+
+    void convertedByKey_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QVariant>("after");
+        row("double to float", "condition", "ph", QVariant(7.2), QVariant(7.2F));
+        row("text to float", "condition", "ph", QVariant(QStringLiteral("7.5 or so")), QVariant(7.5F));
+        row("fraction cut", "condition", "calcium", QVariant(420.9), QVariant(420));
+        row("beyond 32 bits", "condition", "calcium", QVariant(1e12), QVariant(2147483647));
+        row("not a number", "condition", "ph", QVariant(qQNaN()), QVariant(0.0F));
+        row("number to flag", "schedule", "autoReschedule", QVariant(2), QVariant(true));
+        row("number to text", "note", "note", QVariant(7.2F), QVariant(QStringLiteral("7.2")));
+        row("whole amount", "expense", "amount", QVariant(12), QVariant(qint64(12)));
+    }
+
+    void convertedByKey()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QFETCH(QVariant, after);
+        const auto record = newRecord(type, false);
+        QVERIFY(setValueForKey(*record, key, value));
+        QCOMPARE(valueForKey(*record, key), after);
+    }
+
+    void unknownKeys()
+    {
+        ConditionData test;
+        for (const QString &key : {QString(), QStringLiteral("PH"), QStringLiteral("name"), QStringLiteral("tank")}) {
+            QVERIFY(!valueForKey(test, key).isValid());
+            QVERIFY(!setValueForKey(test, key, 5));
         }
     }
-    QCOMPARE(needed, 4 * 11 + 5);
-}
 
-void RecordsTest::writtenTexts_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("fileKey");
-    QTest::addColumn<QString>("written");
-    const auto row = [](const char *type, const char *key, const QVariant &value, const char *fileKey,
-                        const char *written) {
-        QTest::addRow("%s %s", key, written) << QString::fromLatin1(type) << QString::fromLatin1(key) << value
-                                             << QString::fromLatin1(fileKey) << QString::fromLatin1(written);
-    };
-    row("fish", "ph", 7.0F, "ph", "7");
-    row("fish", "ph", 7.2F, "ph", "7.2");
-    row("fish", "gHardness", 7.9F, "GHardness", "7");
-    row("fish", "gHardness", -7.9F, "GHardness", "-7");
-    row("condition", "ph", -1.0F, "ph", "-1");
-    row("condition", "gH", 0.125F, "GH", "0.125");
-    row("condition", "calcium", 1250, "calcium", "1250");
-    row("schedule", "nextDate", 31449600.0F, "NextDate", "31449600");
-    row("schedule", "complete", true, "Complete", "1");
-    row("schedule", "autoReschedule", false, "AutoReschedule", "0");
-    row("note", "date", QDateTime(QDate(2007, 3, 14), QTime(18, 22, 5), Qt::OffsetFromUTC, -5 * 3600), "Date",
-        "2007-03-14 18:22:05 -0500");
-}
-
-void RecordsTest::writtenTexts()
-{
-    QFETCH(QString, type);
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
-    QFETCH(QString, fileKey);
-    QFETCH(QString, written);
-    const auto record = newRecord(type, false);
-    QVERIFY(setValueForKey(*record, key, value));
-    QVERIFY(fileValue(*record, fileKey).string());
-    QCOMPARE(*fileValue(*record, fileKey).string(), written);
-}
-
-void RecordsTest::nothingByKey_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<bool>("taken");
-    QTest::addColumn<QVariant>("after");
-    QTest::newRow("float of a test") << "condition"
-                                     << "ph" << true << QVariant(0.0F);
-    QTest::newRow("whole number of a test") << "condition"
-                                            << "magnesium" << true << QVariant(0);
-    QTest::newRow("date of a test") << "condition"
-                                    << "date" << true << QVariant();
-    QTest::newRow("inventory count") << "inventory"
-                                     << "count" << true << QVariant(1);
-    QTest::newRow("inventory item") << "inventory"
-                                    << "item" << true << QVariant(QString());
-    QTest::newRow("amount") << "expense"
-                            << "amount" << true << QVariant();
-    QTest::newRow("fish count") << "fish"
-                                << "count" << false << QVariant(117);
-    QTest::newRow("done mark") << "schedule"
-                               << "complete" << false << QVariant(true);
-}
-
-void RecordsTest::nothingByKey()
-{
-    QFETCH(QString, type);
-    QFETCH(QString, key);
-    QFETCH(bool, taken);
-    QFETCH(QVariant, after);
-    const auto record = newRecord(type, false);
-    visitRecord(*record, [](auto &typed) { fill(typed); });
-    QCOMPARE(setValueForKey(*record, key, QVariant()), taken);
-    QCOMPARE(valueForKey(*record, key), after);
-}
-
-void RecordsTest::convertedByKey_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QVariant>("after");
-    QTest::newRow("double to float") << "condition"
-                                     << "ph" << QVariant(7.2) << QVariant(7.2F);
-    QTest::newRow("text to float") << "condition"
-                                   << "ph" << QVariant(QStringLiteral("7.5 or so")) << QVariant(7.5F);
-    QTest::newRow("fraction cut") << "condition"
-                                  << "calcium" << QVariant(420.9) << QVariant(420);
-    QTest::newRow("beyond 32 bits") << "condition"
-                                    << "calcium" << QVariant(1e12) << QVariant(2147483647);
-    QTest::newRow("not a number") << "condition"
-                                  << "ph" << QVariant(qQNaN()) << QVariant(0.0F);
-    QTest::newRow("number to flag") << "schedule"
-                                    << "autoReschedule" << QVariant(2) << QVariant(true);
-    QTest::newRow("number to text") << "note"
-                                    << "note" << QVariant(7.2F) << QVariant(QStringLiteral("7.2"));
-    QTest::newRow("whole amount") << "expense"
-                                  << "amount" << QVariant(12) << QVariant(qint64(12));
-    QTest::newRow("real amount") << "expense"
-                                 << "amount" << QVariant(12.5) << QVariant(12.5);
-}
-
-void RecordsTest::convertedByKey()
-{
-    QFETCH(QString, type);
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
-    QFETCH(QVariant, after);
-    const auto record = newRecord(type, false);
-    QVERIFY(setValueForKey(*record, key, value));
-    QCOMPARE(valueForKey(*record, key), after);
-}
-
-void RecordsTest::unknownKeys()
-{
-    ConditionData test;
-    for (const QString &key : {QString(), QStringLiteral("PH"), QStringLiteral("name"), QStringLiteral("tank")}) {
-        QVERIFY(!valueForKey(test, key).isValid());
-        QVERIFY(!setValueForKey(test, key, 5));
+    void copiesKeepTheirClass()
+    {
+        for (const ItemContext context :
+             {ItemContext::None, ItemContext::Fish, ItemContext::Plant, ItemContext::Coral, ItemContext::Invert})
+            QCOMPARE(copyOf(*makeItemData(context, nullptr))->itemContext(), context);
     }
-}
 
-void RecordsTest::copiesKeepTheirClass()
-{
-    for (const ItemContext context :
-         {ItemContext::None, ItemContext::Fish, ItemContext::Plant, ItemContext::Coral, ItemContext::Invert})
-        QCOMPARE(copyOf(*makeItemData(context, nullptr))->itemContext(), context);
-}
+    void scheduleSetters()
+    {
+        test::NoticeLog log;
+        QStringList rescheduled;
+        ModelContext::sharedInstance().setReScheduleRule([&](ScheduleData &record) { rescheduled << record.activity; });
+        ScheduleData record;
+        record.activity = QStringLiteral("Filter");
+        record.setComplete(true);
+        QCOMPARE(log.notices, QStringList{QStringLiteral("done Filter")});
+        QVERIFY(rescheduled.isEmpty());
 
-void RecordsTest::scheduleSetters()
-{
-    test::NoticeLog log;
-    QStringList rescheduled;
-    ModelContext::sharedInstance().setReScheduleRule([&](ScheduleData &record) { rescheduled << record.activity; });
-    ScheduleData record;
-    record.activity = QStringLiteral("Filter");
-    record.setComplete(true);
-    QCOMPARE(log.notices, QStringList{QStringLiteral("done Filter")});
-    QVERIFY(rescheduled.isEmpty());
+        record.setAutoReschedule(true);
+        record.nextDate = 604800;
+        QVERIFY(setValueForKey(record, u"complete", false));
+        QCOMPARE(rescheduled, QStringList{QStringLiteral("Filter")});
+        QCOMPARE(log.notices.size(), 2);
 
-    record.setAutoReschedule(true);
-    record.nextDate = 604800;
-    QVERIFY(setValueForKey(record, u"complete", false));
-    QCOMPARE(rescheduled, QStringList{QStringLiteral("Filter")});
-    QCOMPARE(log.notices.size(), 2);
+        // A copy announces its done mark; it does not reschedule, since its own flag comes later.
+        const auto copied = copyOf(record);
+        QCOMPARE(log.notices.size(), 3);
+        QCOMPARE(rescheduled.size(), 1);
+        QVERIFY(copied->autoReschedule());
+        QCOMPARE(copied->nextDate, 604800.0F);
 
-    // A copy announces its done mark; it does not reschedule, since its own flag comes later.
-    const auto copied = copyOf(record);
-    QCOMPARE(log.notices.size(), 3);
-    QCOMPARE(rescheduled.size(), 1);
-    QVERIFY(copied->autoReschedule());
-    QCOMPARE(copied->nextDate, 604800.0F);
+        QVERIFY(setValueForKey(record, u"autoReschedule", false));
+        QCOMPARE(record.nextDate, 0.0F);
+        ModelContext::sharedInstance().setReScheduleRule({});
+    }
 
-    QVERIFY(setValueForKey(record, u"autoReschedule", false));
-    QCOMPARE(record.nextDate, 0.0F);
-    ModelContext::sharedInstance().setReScheduleRule({});
-}
+    void reefSafeWords()
+    {
+        const QStringList words = text("ReefSafeMenu"_key).split(QStringLiteral(", "));
+        QCOMPARE(words.size(), 3);
+        QCOMPARE(ItemData::reefSafeStringFromCode(2036691744), words.at(0));
+        QCOMPARE(ItemData::reefSafeStringFromCode(1852776480), words.at(1));
+        for (const qint32 code : {1970151456, 0, -1})
+            QCOMPARE(ItemData::reefSafeStringFromCode(code), words.at(2));
+    }
 
-void RecordsTest::reefSafeWords()
-{
-    const QStringList words = text("ReefSafeMenu"_key).split(QStringLiteral(", "));
-    QCOMPARE(words.size(), 3);
-    QCOMPARE(ItemData::reefSafeStringFromCode(2036691744), words.at(0));
-    QCOMPARE(ItemData::reefSafeStringFromCode(1852776480), words.at(1));
-    for (const qint32 code : {1970151456, 0, -1})
-        QCOMPARE(ItemData::reefSafeStringFromCode(code), words.at(2));
-}
-
-void RecordsTest::pictures()
-{
-    const QByteArray png = picture(10);
-    QCOMPARE(ItemImage(png).fileData(), png);
-    QCOMPARE(ItemImage(png).image().size(), QSize(3, 2));
-    const ItemImage bitmap(picture(10, "BMP"));
-    QVERIFY(bitmap.fileData().startsWith("\x89PNG"));
-    QCOMPARE(QImage::fromData(bitmap.fileData()).pixelColor(1, 1), QColor(10, 100, 50));
-    const ItemImage none("no picture at all");
-    QVERIFY(none.image().isNull());
-    QCOMPARE(none.fileData(), QByteArray("no picture at all"));
-    FishData fish;
-    fish.setItemImageWithData(png);
-    fish.setItemImageWithData({});
-    QVERIFY(fish.itemImage.isNone());
-    QVERIFY(!recordDict(fish).contains(u"FishImage"));
-}
+    void pictures()
+    {
+        const QByteArray png = picture(10);
+        QCOMPARE(ItemImage(png).fileData(), png);
+        QCOMPARE(ItemImage(png).image().size(), QSize(3, 2));
+        const ItemImage bitmap(picture(10, "BMP"));
+        QVERIFY(bitmap.fileData().startsWith("\x89PNG"));
+        QCOMPARE(QImage::fromData(bitmap.fileData()).pixelColor(1, 1), QColor(10, 100, 50));
+        const ItemImage none("no picture at all");
+        QVERIFY(none.image().isNull());
+        QCOMPARE(none.fileData(), QByteArray("no picture at all"));
+        FishData fish;
+        fish.setItemImageWithData(png);
+        fish.setItemImageWithData({});
+        QVERIFY(fish.itemImage.isNone());
+        QVERIFY(!recordDict(fish).contains(u"FishImage"));
+    }
+};
 
 int main(int argc, char **argv)
 {
-    return test::run<RecordsTest>(argc, argv);
+    return brinemark::test::run<QGuiApplication, RecordsTest>(argc, argv);
 }
 #include "tst_records.moc"

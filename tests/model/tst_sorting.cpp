@@ -20,134 +20,127 @@ class SortingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void byIdentifier_data();
-    void byIdentifier();
-    void livestockKeepsItsOrder();
-    void unknownIdentifierKeepsTheOrder();
-    void datesByMomentNotByText();
-    void amountThatIsNoNumber();
+    void byIdentifier_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("identifier");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariantList>("ascending");
+        const auto row = [](ContainerKind kind, const char *identifier, const char *key, const QVariantList &values) {
+            QTest::addRow("%s by %s", qPrintable(traitsOf(kind).attributePrefix.toString()), identifier)
+                << int(kind) << QString::fromLatin1(identifier) << QString::fromLatin1(key) << values;
+        };
+        const QVariantList dates{QVariant(), day(2), day(9), day(10)};
+        const QVariantList words{QStringLiteral("anubias"), QStringLiteral("Bucket"), QStringLiteral("filter"),
+                                 QStringLiteral("Zeolite")};
+        row(ContainerKind::Condition, "date", "date", dates);
+        row(ContainerKind::Condition, "ph", "ph", {-1.0F, 6.5F, 7.0F, 10.0F});
+        row(ContainerKind::Condition, "calcium", "calcium", {-1, 9, 80, 400});
+        row(ContainerKind::Expense, "date", "date", dates);
+        row(ContainerKind::Expense, "amount", "amount", {-2.5, QVariant(), 9, 10.25});
+        row(ContainerKind::Expense, "expense", "expense", words);
+        row(ContainerKind::Expense, "type", "type", words);
+        row(ContainerKind::Inventory, "item", "item", words);
+        row(ContainerKind::Inventory, "count", "count", {-3, 0, 9, 10});
+        row(ContainerKind::Note, "date", "date", dates);
+        row(ContainerKind::Note, "note", "note", words);
+        row(ContainerKind::Schedule, "date", "date", dates);
+        row(ContainerKind::Schedule, "next", "date", dates);
+        row(ContainerKind::Schedule, "activity", "activity", words);
+        row(ContainerKind::Schedule, "complete", "complete", {false, false, true, true});
+        row(ContainerKind::Schedule, "autoReschedule", "autoReschedule", {false, false, true, true});
+    }
+
+    void byIdentifier()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, identifier);
+        QFETCH(QString, key);
+        QFETCH(QVariantList, ascending);
+        Tank tank(QStringLiteral("T"));
+        Container &list = *tank.container(ContainerKind(kind));
+
+        const auto valuesNow = [&] {
+            QVariantList values;
+            for (int i = 0; i < list.count(); ++i)
+                values << valueForKey(*list.recordAt(i), key);
+            return values;
+        };
+        for (const int place : {2, 0, 3, 1}) {
+            const auto record = test::newRecord(ContainerKind(kind));
+            QVERIFY(setValueForKey(*record, key, ascending.at(place)));
+            list.appendRecord(record);
+        }
+
+        list.sortWithIdentifier(identifier, true);
+        const QVariantList up = valuesNow();
+        list.sortWithIdentifier(identifier, false);
+        QVariantList down = valuesNow();
+        std::reverse(down.begin(), down.end());
+        for (int i = 0; i < 4; ++i) {
+            QCOMPARE(up.at(i).toString(), ascending.at(i).toString());
+            QCOMPARE(down.at(i).toString(), ascending.at(i).toString());
+        }
+        QCOMPARE(list.sortIdentifier(), identifier);
+        QVERIFY(!list.sortAscending());
+
+        // With the stored values.
+        list.setSortAscending(true);
+        list.sort();
+        QCOMPARE(valuesNow(), up);
+    }
+
+    void livestockKeepsItsOrder()
+    {
+        Tank tank(QStringLiteral("T"));
+        for (const char *name : {"b", "a", "c"})
+            tank.fish()->appendRecord(std::make_shared<FishData>(QString::fromLatin1(name), &tank));
+        tank.fish()->sortWithIdentifier(QStringLiteral("name"), true);
+        QCOMPARE(tank.fishListArray().front()->name, QStringLiteral("b"));
+    }
+
+    void unknownIdentifierKeepsTheOrder()
+    {
+        Tank tank(QStringLiteral("T"));
+        for (const char *note : {"b", "a"}) {
+            tank.note()->appendRecord(std::make_shared<NoteData>());
+            tank.noteListArray().back()->note = QString::fromLatin1(note);
+        }
+        tank.note()->sortWithIdentifier(QStringLiteral("colour"), true);
+        QCOMPARE(tank.noteListArray().front()->note, QStringLiteral("b"));
+    }
+
+    void datesByMomentNotByText()
+    {
+        Tank tank(QStringLiteral("T"));
+        const QDateTime early(QDate(2026, 1, 2), QTime(1, 0), Qt::OffsetFromUTC, 5 * 3600); // 20:00 UTC the day before
+        const QDateTime late(QDate(2026, 1, 1), QTime(22, 0), Qt::OffsetFromUTC, 0);
+        for (const QDateTime &date : {late, early}) {
+            tank.condition()->appendRecord(std::make_shared<ConditionData>());
+            tank.conditionListArray().back()->date = date;
+        }
+        tank.condition()->sortWithIdentifier(QStringLiteral("date"), true);
+        QCOMPARE(tank.conditionListArray().front()->date, early);
+    }
+
+    /// A file can hold one. It counts as 0 and leaves the others in order.
+    void amountThatIsNoNumber()
+    {
+        Tank tank(QStringLiteral("T"));
+        for (const double amount : {9.0, qQNaN(), -2.5, 10.25, qQNaN(), 3.0}) {
+            tank.expense()->appendRecord(std::make_shared<ExpenseData>());
+            tank.expenseListArray().back()->amount = amount;
+        }
+        tank.expense()->sortWithIdentifier(QStringLiteral("amount"), false);
+        QList<double> sorted;
+        for (const auto &expense : tank.expenseListArray())
+            sorted << expense->amount.toDouble();
+        QCOMPARE(sorted, QList<double>({10.25, 9.0, 3.0, 0.0, 0.0, -2.5}));
+    }
 };
-
-void SortingTest::byIdentifier_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("identifier");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariantList>("ascending");
-    const auto row = [](ContainerKind kind, const char *identifier, const char *key, const QVariantList &values) {
-        QTest::addRow("%s by %s", qPrintable(traitsOf(kind).attributePrefix.toString()), identifier)
-            << int(kind) << QString::fromLatin1(identifier) << QString::fromLatin1(key) << values;
-    };
-    const QVariantList dates{QVariant(), day(2), day(9), day(10)};
-    const QVariantList words{QStringLiteral("anubias"), QStringLiteral("Bucket"), QStringLiteral("filter"),
-                             QStringLiteral("Zeolite")};
-    row(ContainerKind::Condition, "date", "date", dates);
-    row(ContainerKind::Condition, "ph", "ph", {-1.0F, 6.5F, 7.0F, 10.0F});
-    row(ContainerKind::Condition, "calcium", "calcium", {-1, 9, 80, 400});
-    row(ContainerKind::Expense, "date", "date", dates);
-    row(ContainerKind::Expense, "amount", "amount", {-2.5, QVariant(), 9, 10.25});
-    row(ContainerKind::Expense, "expense", "expense", words);
-    row(ContainerKind::Expense, "type", "type", words);
-    row(ContainerKind::Inventory, "item", "item", words);
-    row(ContainerKind::Inventory, "count", "count", {-3, 0, 9, 10});
-    row(ContainerKind::Note, "date", "date", dates);
-    row(ContainerKind::Note, "note", "note", words);
-    row(ContainerKind::Schedule, "date", "date", dates);
-    row(ContainerKind::Schedule, "next", "date", dates);
-    row(ContainerKind::Schedule, "activity", "activity", words);
-    row(ContainerKind::Schedule, "complete", "complete", {false, false, true, true});
-    row(ContainerKind::Schedule, "autoReschedule", "autoReschedule", {false, false, true, true});
-}
-
-void SortingTest::byIdentifier()
-{
-    QFETCH(int, kind);
-    QFETCH(QString, identifier);
-    QFETCH(QString, key);
-    QFETCH(QVariantList, ascending);
-    Tank tank(QStringLiteral("T"));
-    Container &list = *tank.container(ContainerKind(kind));
-
-    const auto valuesNow = [&] {
-        QVariantList values;
-        for (int i = 0; i < list.count(); ++i)
-            values << valueForKey(*list.recordAt(i), key);
-        return values;
-    };
-    for (const int place : {2, 0, 3, 1}) {
-        const auto record = test::newRecord(ContainerKind(kind));
-        QVERIFY(setValueForKey(*record, key, ascending.at(place)));
-        list.appendRecord(record);
-    }
-
-    list.sortWithIdentifier(identifier, true);
-    const QVariantList up = valuesNow();
-    list.sortWithIdentifier(identifier, false);
-    QVariantList down = valuesNow();
-    std::reverse(down.begin(), down.end());
-    for (int i = 0; i < 4; ++i) {
-        QCOMPARE(up.at(i).toString(), ascending.at(i).toString());
-        QCOMPARE(down.at(i).toString(), ascending.at(i).toString());
-    }
-    QCOMPARE(list.sortIdentifier(), identifier);
-    QVERIFY(!list.sortAscending());
-
-    // With the stored values.
-    list.setSortAscending(true);
-    list.sort();
-    QCOMPARE(valuesNow(), up);
-}
-
-void SortingTest::livestockKeepsItsOrder()
-{
-    Tank tank(QStringLiteral("T"));
-    for (const char *name : {"b", "a", "c"})
-        tank.fish()->appendRecord(std::make_shared<FishData>(QString::fromLatin1(name), &tank));
-    tank.fish()->sortWithIdentifier(QStringLiteral("name"), true);
-    QCOMPARE(tank.fishListArray().front()->name, QStringLiteral("b"));
-}
-
-void SortingTest::unknownIdentifierKeepsTheOrder()
-{
-    Tank tank(QStringLiteral("T"));
-    for (const char *note : {"b", "a"}) {
-        tank.note()->appendRecord(std::make_shared<NoteData>());
-        tank.noteListArray().back()->note = QString::fromLatin1(note);
-    }
-    tank.note()->sortWithIdentifier(QStringLiteral("colour"), true);
-    QCOMPARE(tank.noteListArray().front()->note, QStringLiteral("b"));
-}
-
-void SortingTest::datesByMomentNotByText()
-{
-    Tank tank(QStringLiteral("T"));
-    const QDateTime early(QDate(2026, 1, 2), QTime(1, 0), Qt::OffsetFromUTC, 5 * 3600); // 20:00 UTC the day before
-    const QDateTime late(QDate(2026, 1, 1), QTime(22, 0), Qt::OffsetFromUTC, 0);
-    for (const QDateTime &date : {late, early}) {
-        tank.condition()->appendRecord(std::make_shared<ConditionData>());
-        tank.conditionListArray().back()->date = date;
-    }
-    tank.condition()->sortWithIdentifier(QStringLiteral("date"), true);
-    QCOMPARE(tank.conditionListArray().front()->date, early);
-}
-
-/// A file can hold one. It counts as 0 and leaves the others in order.
-void SortingTest::amountThatIsNoNumber()
-{
-    Tank tank(QStringLiteral("T"));
-    for (const double amount : {9.0, qQNaN(), -2.5, 10.25, qQNaN(), 3.0}) {
-        tank.expense()->appendRecord(std::make_shared<ExpenseData>());
-        tank.expenseListArray().back()->amount = amount;
-    }
-    tank.expense()->sortWithIdentifier(QStringLiteral("amount"), false);
-    QList<double> sorted;
-    for (const auto &expense : tank.expenseListArray())
-        sorted << expense->amount.toDouble();
-    QCOMPARE(sorted, QList<double>({10.25, 9.0, 3.0, 0.0, 0.0, -2.5}));
-}
 
 int main(int argc, char **argv)
 {
-    return test::run<SortingTest>(argc, argv);
+    return brinemark::test::run<QGuiApplication, SortingTest>(argc, argv);
 }
 #include "tst_sorting.moc"

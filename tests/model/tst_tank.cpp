@@ -1,5 +1,6 @@
 #include "ModelTest.h"
 
+#include "model/KeyAccess.h"
 #include "model/LivestockData.h"
 #include "model/ObjectSpecifier.h"
 
@@ -28,255 +29,204 @@ class TankTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void newTank();
-    void insertingByTheDestinationsTest();
-    void insertingMovesWithinTheFirstTank();
-    void everyListByItsKey_data();
-    void everyListByItsKey();
-    void namedOperations();
-    void observersComeAndGo();
-    void recordsOutliveTheirTank();
-    void searchMetadata();
-    void addresses();
+    void newTank()
+    {
+        const Tank tank(QStringLiteral("Reef"));
+        for (const Container *container : tank.tankItemsArray()) {
+            QVERIFY(container->isEmpty() && container->sortAscending());
+            QCOMPARE(container->tank(), &tank);
+        }
+        QCOMPARE(tank.fish()->sortIdentifier(), QString());
+        QCOMPARE(tank.inventory()->sortIdentifier(), QStringLiteral("count"));
+        QCOMPARE(tank.note()->sortIdentifier(), QStringLiteral("date"));
+        QVERIFY(tank.freshwater && !tank.bundleVersion);
+        QCOMPARE(tank.expenseCategoryArray,
+                 QStringList({text("FishName"_key), text("PlantName"_key), text("InvertName"_key),
+                              text("CoralName"_key), text("ExpenseDefaultEquipmentItem"_key)}));
+
+        QStringList columns;
+        for (const ColumnInfo &column : tank.condition()->columnInfoArray()) {
+            columns << column.identifier;
+            QCOMPARE(column.width, 0.0);
+        }
+        QCOMPARE(columns.join(u' '),
+                 QStringLiteral("date temp ph ammonia nitrate nitrite magnesium gH kH salt alkalinity calcium "
+                                "dioxide copper iodine iron oxygen phosphate"));
+    }
+
+    void insertingByTheDestinationsTest()
+    {
+        test::AppTanks tanks;
+        const auto first = tanks.add(QStringLiteral("First"));
+        const auto second = tanks.add(QStringLiteral("Second"));
+        const auto a = fishNamed("a");
+        for (const char *name : {"x", "y"}) {
+            first->insertInFishListArray(fishNamed(name), 99);
+            second->insertInFishListArray(fishNamed(name), 99);
+        }
+        first->insertItemData(a, u"fishListArray", 1);
+        QCOMPARE(namesOf(*first), QStringLiteral("x a y"));
+
+        // Not in the destination: stays where it was as well.
+        second->insertItemData(a, u"fishListArray", 0);
+        QCOMPARE(namesOf(*first), QStringLiteral("x a y"));
+        QCOMPARE(namesOf(*second), QStringLiteral("a x y"));
+        QCOMPARE(a->tank.get(), second.get());
+
+        // In the destination, which is not the first tank: taken out of the first one, and here a second time.
+        second->insertItemData(a, u"fishListArray", 3);
+        QCOMPARE(namesOf(*first), QStringLiteral("x y"));
+        QCOMPARE(namesOf(*second), QStringLiteral("a x y a"));
+
+        // In the destination, but without a tank: nothing is taken out anywhere.
+        a->tank = nullptr;
+        second->insertItemData(a, u"fishListArray", 1);
+        QCOMPARE(namesOf(*second), QStringLiteral("a a x y a"));
+    }
+
+    void insertingMovesWithinTheFirstTank()
+    {
+        test::AppTanks tanks;
+        const auto tank = tanks.add(QStringLiteral("First"));
+        const auto a = fishNamed("a");
+        for (const auto &fish : {a, fishNamed("b"), a, fishNamed("c")})
+            tank->fish()->appendRecord(fish);
+        a->tank = tank.get();
+        tank->insertItemData(a, u"fishListArray", 2);
+        QCOMPARE(namesOf(*tank), QStringLiteral("b c a"));
+        tank->insertItemData(a, u"fishListArray", 0);
+        QCOMPARE(namesOf(*tank), QStringLiteral("a b c"));
+    }
+
+    void everyListByItsKey_data()
+    {
+        QTest::addColumn<int>("kind");
+        for (const ContainerTraits &traits : containerTraitsTable)
+            QTest::newRow(qPrintable(traits.listKey.toString())) << int(traits.kind);
+    }
+
+    void everyListByItsKey()
+    {
+        QFETCH(int, kind);
+        const ContainerTraits &traits = traitsOf(ContainerKind(kind));
+        test::AppTanks tanks;
+        const auto tank = tanks.add(QStringLiteral("T"));
+        test::NoticeLog log;
+
+        const auto first = test::newRecord(traits.kind);
+        const auto second = test::newRecord(traits.kind);
+        QCOMPARE(containerKindOf(*first), std::optional(traits.kind));
+        tank->insertInList(traits.kind, first, 7);
+        tank->insertInList(traits.kind, second, 0);
+        QCOMPARE(tank->containerForListKey(traits.listKey)->recordAt(0), second);
+        QCOMPARE(tank->container(traits.kind)->indexOf(first.get()), 1);
+        tank->removeFromListAtIndex(traits.kind, 1);
+        QCOMPARE(tank->container(traits.kind)->count(), 1);
+        QCOMPARE(first->tank.get(), tank.get());
+
+        const QString behind = QStringLiteral(" T ") + traits.listKey.toString();
+        const QString gained = (traits.isLivestock() ? QStringLiteral("livestock") : QStringLiteral("gained")) + behind;
+        const QString lost = (traits.isLivestock() ? QStringLiteral("livestock") : QStringLiteral("lost")) + behind;
+        QCOMPARE(log.notices, QStringList({gained, gained, lost}));
+    }
+
+    void observersComeAndGo()
+    {
+        // The first takes the second away while a notice is on its way.
+        struct Remover : ModelObserver {
+            std::unique_ptr<test::NoticeLog> other;
+            void livestockChanged(Tank &, ContainerKind) override { other.reset(); }
+        };
+        Remover remover;
+        remover.other = std::make_unique<test::NoticeLog>();
+        Tank tank(QStringLiteral("T"));
+        tank.insertInFishListArray(fishNamed("a"), 0);
+        QVERIFY(!remover.other);
+        tank.insertInFishListArray(fishNamed("b"), 0);
+        QCOMPARE(tank.fish()->count(), 2);
+    }
+
+    void recordsOutliveTheirTank()
+    {
+        auto tank = std::make_shared<Tank>(QStringLiteral("T"));
+        const auto held = fishNamed("held", tank.get());
+        const auto removed = fishNamed("removed");
+        const auto target = std::make_shared<TankData>();
+        tank->setTarget(Parameter::Ph, target);
+        tank->insertInFishListArray(held, 0);
+        tank->insertInFishListArray(removed, 0);
+        tank->removeFromFishListArrayAtIndex(0);
+        QVERIFY(held->tank && removed->tank && target->tank);
+        tank.reset();
+        QVERIFY(!held->tank);
+        QVERIFY(!removed->tank);
+        QVERIFY(!target->tank);
+        QVERIFY(!recordDict(*held).contains(u"Parent"));
+    }
+
+    void searchMetadata()
+    {
+        Tank tank(QStringLiteral("Reef"));
+        tank.size = QStringLiteral("200 l");
+        QCOMPARE(tank.metaTankArray(), QStringList({QStringLiteral("Reef"), QStringLiteral("200 l")}));
+        const QString end = text("Aquarium"_key) + QStringLiteral(", ");
+        QCOMPARE(tank.metaTankString(), end);
+
+        const auto name = [](const std::shared_ptr<ItemData> &item, const char *common, const char *scientific) {
+            item->name = QString::fromLatin1(common);
+            item->sciName = QString::fromLatin1(scientific);
+            return item;
+        };
+        tank.fish()->appendRecord(name(makeItemData(ItemContext::Fish, nullptr), "f1", "F1"));
+        tank.fish()->appendRecord(name(makeItemData(ItemContext::Fish, nullptr), "f2", "F2"));
+        tank.plant()->appendRecord(name(makeItemData(ItemContext::Plant, nullptr), "p", "P"));
+        tank.invert()->appendRecord(name(makeItemData(ItemContext::Invert, nullptr), "i", "I"));
+        tank.coral()->appendRecord(name(makeItemData(ItemContext::Coral, nullptr), "c", "C"));
+        QCOMPARE(tank.metaTankArray().join(u'|'),
+                 QStringLiteral("Reef|200 l|f1|F1|f2|F2|%1|c|C|%2|i|I|%3|p|P|%4")
+                     .arg(tank.fish()->name(), tank.coral()->name(), tank.invert()->name(), tank.plant()->name()));
+
+        const auto append = [&](Container *list, QStringView key, const QString &value) {
+            const auto record = test::newRecord(list->kind());
+            QVERIFY(setValueForKey(*record, key, value));
+            list->appendRecord(record);
+        };
+        for (int i = 1; i <= 7; ++i)
+            append(tank.expense(), u"expense", QStringLiteral("e%1").arg(i));
+        append(tank.schedule(), u"activity", "s");
+        append(tank.note(), u"note", "n");
+        append(tank.inventory(), u"item", "v");
+        QCOMPARE(tank.metaTankString(), QStringLiteral("s, n, v, e1, e2, e3, e4, e5, ") + end);
+    }
+
+    void addresses()
+    {
+        test::AppTanks tanks;
+        tanks.add(QStringLiteral("First"));
+        const auto tank = tanks.add(QStringLiteral("Second"));
+        tank->insertInFishListArray(fishNamed("a"), 0);
+        const auto fish = fishNamed("b");
+        tank->insertInFishListArray(fish, 1);
+
+        const auto address = objectSpecifier(*fish);
+        QVERIFY(address);
+        QCOMPARE(address->key, QStringLiteral("fishListArray"));
+        QCOMPARE(address->index, std::optional(1));
+        QCOMPARE(address->parent->key, QStringLiteral("appTankList"));
+        QCOMPARE(address->parent->index, std::optional(1));
+        QVERIFY(!address->parent->parent);
+        QCOMPARE(objectSpecifier(*tank->phData())->key, QStringLiteral("tankData"));
+
+        QVERIFY(!objectSpecifier(*fishNamed("without a tank")));
+        tank->removeFromFishListArrayAtIndex(1);
+        QVERIFY(!objectSpecifier(*fish));
+        tanks.removeAt(1);
+        QVERIFY(!objectSpecifier(*tank));
+    }
 };
-
-void TankTest::newTank()
-{
-    const Tank tank(QStringLiteral("Reef"));
-    QStringList items;
-    for (const Container *container : tank.tankItemsArray()) {
-        items << traitsOf(container->kind()).fileKey.toString();
-        QVERIFY(container->isEmpty());
-        QVERIFY(container->sortAscending());
-        QCOMPARE(container->tank(), &tank);
-        QCOMPARE(container->name(), text(container->traits().nameKey));
-    }
-    QCOMPARE(items.join(u' '),
-             QStringLiteral("TankFish TankPlant TankInvert TankCoral TankCondition TankSchedule TankInventory "
-                            "TankExpense TankNote"));
-    QCOMPARE(tank.fish()->sortIdentifier(), QString());
-    QCOMPARE(tank.inventory()->sortIdentifier(), QStringLiteral("count"));
-    QCOMPARE(tank.note()->sortIdentifier(), QStringLiteral("date"));
-    QVERIFY(tank.freshwater);
-    QCOMPARE(tank.size, QString());
-    QVERIFY(!tank.bundleVersion);
-    QCOMPARE(tank.expenseCategoryArray,
-             QStringList({text("FishName"_key), text("PlantName"_key), text("InvertName"_key), text("CoralName"_key),
-                          text("ExpenseDefaultEquipmentItem"_key)}));
-
-    QStringList columns;
-    for (const ColumnInfo &column : tank.condition()->columnInfoArray()) {
-        columns << column.identifier;
-        QCOMPARE(column.width, 0.0);
-    }
-    QCOMPARE(columns.join(u' '),
-             QStringLiteral("date temp ph ammonia nitrate nitrite magnesium gH kH salt alkalinity calcium "
-                            "dioxide copper iodine iron oxygen phosphate"));
-}
-
-void TankTest::insertingByTheDestinationsTest()
-{
-    test::AppTanks tanks;
-    const auto first = tanks.add(QStringLiteral("First"));
-    const auto second = tanks.add(QStringLiteral("Second"));
-    const auto a = fishNamed("a");
-    for (const char *name : {"x", "y"}) {
-        first->insertInFishListArray(fishNamed(name), 99);
-        second->insertInFishListArray(fishNamed(name), 99);
-    }
-    first->insertItemData(a, u"fishListArray", 1);
-    QCOMPARE(namesOf(*first), QStringLiteral("x a y"));
-
-    // Not in the destination: stays where it was as well.
-    second->insertItemData(a, u"fishListArray", 0);
-    QCOMPARE(namesOf(*first), QStringLiteral("x a y"));
-    QCOMPARE(namesOf(*second), QStringLiteral("a x y"));
-    QCOMPARE(a->tank.get(), second.get());
-
-    // In the destination, which is not the first tank: taken out of the first one, and here a second time.
-    second->insertItemData(a, u"fishListArray", 3);
-    QCOMPARE(namesOf(*first), QStringLiteral("x y"));
-    QCOMPARE(namesOf(*second), QStringLiteral("a x y a"));
-
-    // In the destination, but without a tank: nothing is taken out anywhere.
-    a->tank = nullptr;
-    second->insertItemData(a, u"fishListArray", 1);
-    QCOMPARE(namesOf(*second), QStringLiteral("a a x y a"));
-}
-
-void TankTest::insertingMovesWithinTheFirstTank()
-{
-    test::AppTanks tanks;
-    const auto tank = tanks.add(QStringLiteral("First"));
-    const auto a = fishNamed("a");
-    for (const auto &fish : {a, fishNamed("b"), a, fishNamed("c")})
-        tank->fish()->appendRecord(fish);
-    a->tank = tank.get();
-    tank->insertItemData(a, u"fishListArray", 2);
-    QCOMPARE(namesOf(*tank), QStringLiteral("b c a"));
-    tank->insertItemData(a, u"fishListArray", 0);
-    QCOMPARE(namesOf(*tank), QStringLiteral("a b c"));
-}
-
-void TankTest::everyListByItsKey_data()
-{
-    QTest::addColumn<int>("kind");
-    for (const ContainerTraits &traits : containerTraitsTable)
-        QTest::newRow(qPrintable(traits.listKey.toString())) << int(traits.kind);
-}
-
-void TankTest::everyListByItsKey()
-{
-    QFETCH(int, kind);
-    const ContainerTraits &traits = traitsOf(ContainerKind(kind));
-    test::AppTanks tanks;
-    const auto tank = tanks.add(QStringLiteral("T"));
-    test::NoticeLog log;
-
-    const auto first = test::newRecord(traits.kind);
-    const auto second = test::newRecord(traits.kind);
-    QCOMPARE(containerKindOf(*first), std::optional(traits.kind));
-    tank->insertInList(traits.kind, first, 7);
-    tank->insertInList(traits.kind, second, 0);
-    QCOMPARE(tank->containerForListKey(traits.listKey)->recordAt(0), second);
-    QCOMPARE(tank->container(traits.kind)->indexOf(first.get()), 1);
-    tank->removeFromListAtIndex(traits.kind, 1);
-    QCOMPARE(tank->container(traits.kind)->count(), 1);
-    QCOMPARE(first->tank.get(), tank.get());
-
-    const QString behind = QStringLiteral(" T ") + traits.listKey.toString();
-    const QString gained = (traits.isLivestock() ? QStringLiteral("livestock") : QStringLiteral("gained")) + behind;
-    const QString lost = (traits.isLivestock() ? QStringLiteral("livestock") : QStringLiteral("lost")) + behind;
-    QCOMPARE(log.notices, QStringList({gained, gained, lost}));
-}
-
-void TankTest::namedOperations()
-{
-    Tank tank(QStringLiteral("T"));
-    tank.insertInPlantListArray(std::make_shared<PlantData>(), 0);
-    tank.insertInInvertListArray(std::make_shared<InvertData>(), 0);
-    tank.insertInCoralListArray(std::make_shared<CoralData>(), 0);
-    tank.insertInScheduleListArray(std::make_shared<ScheduleData>(), 0);
-    tank.insertInNoteListArray(std::make_shared<NoteData>(), 0);
-    tank.insertInConditionListArray(std::make_shared<ConditionData>(), 0);
-    tank.insertInInventoryListArray(std::make_shared<InventoryData>(), 0);
-    tank.insertInExpenseListArray(std::make_shared<ExpenseData>(), 0);
-    tank.insertInFishListArray(std::make_shared<FishData>(), 0);
-    for (const Container *container : tank.tankItemsArray())
-        QCOMPARE(container->count(), 1);
-    tank.removeFromPlantListArrayAtIndex(0);
-    tank.removeFromInvertListArrayAtIndex(0);
-    tank.removeFromCoralListArrayAtIndex(0);
-    tank.removeFromScheduleListArrayAtIndex(0);
-    tank.removeFromNoteListArrayAtIndex(0);
-    tank.removeFromConditionListArrayAtIndex(0);
-    tank.removeFromInventoryListArrayAtIndex(0);
-    tank.removeFromExpenseListArrayAtIndex(0);
-    tank.removeFromFishListArrayAtIndex(0);
-    for (const Container *container : tank.tankItemsArray())
-        QVERIFY(container->isEmpty());
-}
-
-void TankTest::observersComeAndGo()
-{
-    // The first takes the second away while a notice is on its way.
-    struct Remover : ModelObserver {
-        std::unique_ptr<test::NoticeLog> other;
-        void livestockChanged(Tank &, ContainerKind) override { other.reset(); }
-    };
-    Remover remover;
-    remover.other = std::make_unique<test::NoticeLog>();
-    Tank tank(QStringLiteral("T"));
-    tank.insertInFishListArray(fishNamed("a"), 0);
-    QVERIFY(!remover.other);
-    tank.insertInFishListArray(fishNamed("b"), 0);
-    QCOMPARE(tank.fish()->count(), 2);
-}
-
-void TankTest::recordsOutliveTheirTank()
-{
-    auto tank = std::make_shared<Tank>(QStringLiteral("T"));
-    const auto held = fishNamed("held", tank.get());
-    const auto removed = fishNamed("removed");
-    const auto target = std::make_shared<TankData>();
-    tank->setTarget(Parameter::Ph, target);
-    tank->insertInFishListArray(held, 0);
-    tank->insertInFishListArray(removed, 0);
-    tank->removeFromFishListArrayAtIndex(0);
-    QVERIFY(held->tank && removed->tank && target->tank);
-    tank.reset();
-    QVERIFY(!held->tank);
-    QVERIFY(!removed->tank);
-    QVERIFY(!target->tank);
-    QVERIFY(!recordDict(*held).contains(u"Parent"));
-}
-
-void TankTest::searchMetadata()
-{
-    Tank tank(QStringLiteral("Reef"));
-    tank.size = QStringLiteral("200 l");
-    QCOMPARE(tank.metaTankArray(), QStringList({QStringLiteral("Reef"), QStringLiteral("200 l")}));
-    const QString end = text("Aquarium"_key) + QStringLiteral(", ");
-    QCOMPARE(tank.metaTankString(), end);
-
-    const auto name = [](const std::shared_ptr<ItemData> &item, const char *common, const char *scientific) {
-        item->name = QString::fromLatin1(common);
-        item->sciName = QString::fromLatin1(scientific);
-        return item;
-    };
-    tank.fish()->appendRecord(name(makeItemData(ItemContext::Fish, nullptr), "f1", "F1"));
-    tank.fish()->appendRecord(name(makeItemData(ItemContext::Fish, nullptr), "f2", "F2"));
-    tank.plant()->appendRecord(name(makeItemData(ItemContext::Plant, nullptr), "p", "P"));
-    tank.invert()->appendRecord(name(makeItemData(ItemContext::Invert, nullptr), "i", "I"));
-    tank.coral()->appendRecord(name(makeItemData(ItemContext::Coral, nullptr), "c", "C"));
-    QCOMPARE(tank.metaTankArray().join(u'|'),
-             QStringLiteral("Reef|200 l|f1|F1|f2|F2|%1|c|C|%2|i|I|%3|p|P|%4")
-                 .arg(tank.fish()->name(), tank.coral()->name(), tank.invert()->name(), tank.plant()->name()));
-
-    for (int i = 1; i <= 7; ++i) {
-        const auto expense = std::make_shared<ExpenseData>();
-        expense->expense = QStringLiteral("e%1").arg(i);
-        tank.expense()->appendRecord(expense);
-    }
-    const auto activity = std::make_shared<ScheduleData>();
-    activity->activity = QStringLiteral("s");
-    tank.schedule()->appendRecord(activity);
-    const auto note = std::make_shared<NoteData>();
-    note->note = QStringLiteral("n");
-    tank.note()->appendRecord(note);
-    const auto item = std::make_shared<InventoryData>();
-    item->item = QStringLiteral("v");
-    tank.inventory()->appendRecord(item);
-    QCOMPARE(tank.metaTankString(), QStringLiteral("s, n, v, e1, e2, e3, e4, e5, ") + end);
-}
-
-void TankTest::addresses()
-{
-    test::AppTanks tanks;
-    tanks.add(QStringLiteral("First"));
-    const auto tank = tanks.add(QStringLiteral("Second"));
-    tank->insertInFishListArray(fishNamed("a"), 0);
-    const auto fish = fishNamed("b");
-    tank->insertInFishListArray(fish, 1);
-
-    const auto address = objectSpecifier(*fish);
-    QVERIFY(address);
-    QCOMPARE(address->key, QStringLiteral("fishListArray"));
-    QCOMPARE(address->index, std::optional(1));
-    QCOMPARE(address->parent->key, QStringLiteral("appTankList"));
-    QCOMPARE(address->parent->index, std::optional(1));
-    QVERIFY(!address->parent->parent);
-    QCOMPARE(objectSpecifier(*tank->phData())->key, QStringLiteral("tankData"));
-
-    QVERIFY(!objectSpecifier(*fishNamed("without a tank")));
-    tank->removeFromFishListArrayAtIndex(1);
-    QVERIFY(!objectSpecifier(*fish));
-    tanks.removeAt(1);
-    QVERIFY(!objectSpecifier(*tank));
-}
 
 int main(int argc, char **argv)
 {
-    return test::run<TankTest>(argc, argv);
+    return brinemark::test::run<QGuiApplication, TankTest>(argc, argv);
 }
 #include "tst_tank.moc"

@@ -74,426 +74,403 @@ class TankFileTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void brokenFiles_data();
-    void brokenFiles();
-    void goodFiles_data();
-    void goodFiles();
-    void savedFilesReadTheSameElsewhere_data();
-    void savedFilesReadTheSameElsewhere();
-    void keysFromBeforeAParameter();
-    void datesKeepTheirZone();
-    void hardnessLosesItsFraction();
-    void intervals();
-    void listsSortOnReading();
-    void columns();
-    void numbersInPlaceOfTexts();
-    void versionOfAnyKind();
-    void olderTanks();
-    void backupOfAnOlderFile();
-    void callbacksInOrder();
-    void failedWriteLeavesTheOldFile_data();
-    void failedWriteLeavesTheOldFile();
-    void writesAndReadsBack();
-    void recognition_data();
-    void recognition();
-};
-
-void TankFileTest::brokenFiles_data()
-{
-    QTest::addColumn<QJsonObject>("expected");
-    const QJsonObject all =
-        QJsonDocument::fromJson(bytesOf(QStringLiteral(BRINEMARK_TEST_DATA "/broken/expected.json"))).object();
-    QVERIFY(all.size() > 200);
-    for (auto it = all.begin(); it != all.end(); ++it)
-        QTest::newRow(qPrintable(it.key())) << it.value().toObject();
-}
-
-void TankFileTest::brokenFiles()
-{
-    QFETCH(QJsonObject, expected);
-    const QString name = QString::fromLatin1(QTest::currentDataTag());
-    QString path = QStringLiteral(BRINEMARK_TEST_DATA "/broken/") + name;
-    const QTemporaryDir folder;
-    if (const QJsonObject parts = expected.value(u"generate").toObject(); !parts.isEmpty()) {
-        path = folder.filePath(name);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        const int levels = parts.value(u"levels").toInt();
-        file.write(parts.value(u"before").toString().toUtf8());
-        file.write(parts.value(u"open").toString().repeated(levels).toUtf8());
-        file.write(parts.value(u"close").toString().repeated(levels).toUtf8());
-        file.write(parts.value(u"after").toString().toUtf8());
+    void brokenFiles_data()
+    {
+        QTest::addColumn<QJsonObject>("expected");
+        const QJsonObject all =
+            QJsonDocument::fromJson(bytesOf(QStringLiteral(BRINEMARK_TEST_DATA "/broken/expected.json"))).object();
+        QVERIFY(all.size() > 200);
+        for (auto it = all.begin(); it != all.end(); ++it)
+            QTest::newRow(qPrintable(it.key())) << it.value().toObject();
     }
-    QVERIFY(QFile::exists(path));
 
-    TankList tanks;
-    tanks.append(std::make_shared<Tank>(QStringLiteral("Old")));
-    bool asked = false;
-    TankFileCallbacks callbacks;
-    callbacks.wantsBackup = [&] {
-        asked = true;
-        return false;
-    };
-    const TankFileContent content = readTankDictionary(path);
-    TankFileResult result;
-    result.refused = !content.ok;
-    if (content.ok)
-        result = readTanks(content.root, path, tanks, callbacks);
+    void brokenFiles()
+    {
+        QFETCH(QJsonObject, expected);
+        const QString name = QString::fromLatin1(QTest::currentDataTag());
+        QString path = QStringLiteral(BRINEMARK_TEST_DATA "/broken/") + name;
+        const QTemporaryDir folder;
+        if (const QJsonObject parts = expected.value(u"generate").toObject(); !parts.isEmpty()) {
+            path = folder.filePath(name);
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            const int levels = parts.value(u"levels").toInt();
+            file.write(parts.value(u"before").toString().toUtf8());
+            file.write(parts.value(u"open").toString().repeated(levels).toUtf8());
+            file.write(parts.value(u"close").toString().repeated(levels).toUtf8());
+            file.write(parts.value(u"after").toString().toUtf8());
+        }
+        QVERIFY(QFile::exists(path));
 
-    const QString outcome = result.ok        ? QStringLiteral("reads")
-                            : result.refused ? QStringLiteral("refused")
-                                             : QStringLiteral("read-error");
-    QVERIFY2(outcome == expected.value(u"outcome").toString(),
-             qPrintable(outcome + QStringLiteral(": ") + content.error + result.error));
-    QCOMPARE(asked, expected.value(u"question").toBool());
-    if (outcome == u"refused") {
-        QCOMPARE(tanks.count(), 1);
-        QCOMPARE(tanks.at(0)->name, QStringLiteral("Old"));
-    } else {
-        QCOMPARE(tanks.count(), expected.value(u"tanks").toInt());
-        QCOMPARE(result.tanksBuilt, tanks.count());
-    }
-    if (expected.contains(u"notes"))
-        QCOMPARE(tanks.at(tanks.count() - 1)->note()->count(), expected.value(u"notes").toInt());
-
-    // Whatever was read can be saved, and what was saved reads.
-    if (result.ok) {
-        const plist::Dict root = tankFileDictionary(tanks, 0, 1);
-        const auto saved = plist::readXml(plist::writeXml(root));
-        QVERIFY(saved);
-        TankList again;
-        QVERIFY(readTanks(*saved.value.dict(), path, again).ok);
-        QCOMPARE(again.count(), tanks.count());
-    }
-}
-
-void TankFileTest::goodFiles_data()
-{
-    QTest::addColumn<int>("tanks");
-    QTest::newRow("three-tanks.xml") << 3;
-    QTest::newRow("three-tanks-no-attributes.xml") << 2;
-    QTest::newRow("minimal.xml") << 1;
-    QTest::newRow("every-field.xml") << 2;
-    QTest::newRow("older-six.xml") << 2;
-    QTest::newRow("older-mixed-dict.xml") << 1;
-}
-
-void TankFileTest::goodFiles()
-{
-    QFETCH(int, tanks);
-    const QString name = QString::fromLatin1(QTest::currentDataTag());
-    const Document document(good(name));
-    QCOMPARE(document.tanks.count(), tanks);
-    // A dictionary tank needs the version that older files lack.
-    QCOMPARE(document.result.ok, name != u"older-mixed-dict.xml");
-}
-
-void TankFileTest::savedFilesReadTheSameElsewhere_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("sample") << QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml");
-    for (const char *name : {"every-field.xml", "three-tanks.xml"})
-        QTest::newRow(name) << good(QString::fromLatin1(name));
-}
-
-void TankFileTest::savedFilesReadTheSameElsewhere()
-{
-    QFETCH(QString, path);
-    const Document document(path);
-    QVERIFY2(document.result.ok, qPrintable(document.content.error + document.result.error));
-    const QTemporaryDir folder;
-    const QString saved = folder.filePath(QStringLiteral("saved.xml"));
-    QVERIFY(document.tank(0).bundleVersion);
-    QVERIFY(writeTankDictionary(
-                saved, tankFileDictionary(document.tanks, document.result.selectedRow, *document.tank(0).bundleVersion))
-                .ok);
-    QProcess python;
-    python.start(QStringLiteral("python3"),
-                 {QStringLiteral(BRINEMARK_TEST_DATA "/../model/compare-tank-files"), path, saved});
-    QVERIFY(python.waitForFinished(60'000));
-    QVERIFY2(python.exitCode() == 0, (python.readAllStandardOutput() + python.readAllStandardError()).constData());
-}
-
-void TankFileTest::keysFromBeforeAParameter()
-{
-    const Document old(good(QStringLiteral("no-alkalinity.xml")));
-    const ConditionData &test = *old.tank(0).conditionListArray().at(0);
-    for (const float value : {test.alkalinity, test.phosphate, test.iodine, test.oxygen, test.copper, test.iron})
-        QCOMPARE(value, 0.0F);
-    QCOMPARE(test.calcium, 0);
-    QCOMPARE(test.dioxide, -1);
-    QCOMPARE(test.magnesium, -1);
-    QCOMPARE(test.ph, 5.0F);
-
-    const Document lacking(good(QStringLiteral("no-magnesium.xml")));
-    const TankData &target = *lacking.tank(0).magnesiumData();
-    QCOMPARE(target.name, text("Magnesium"_key));
-    QCOMPARE(target.preferredValue, 0.0F);
-    QVERIFY(!target.warningOn && !target.deviationOn);
-
-    const Document minimal(good(QStringLiteral("minimal.xml")));
-    QVERIFY(minimal.tank(0).phData()->name.isNull());
-    QCOMPARE(minimal.tank(0).magnesiumData()->name, text("Magnesium"_key));
-    QVERIFY(!minimal.tank(0).freshwater);
-    QCOMPARE(minimal.tank(0).expenseCategoryArray, defaultExpenseCategories());
-    QCOMPARE(minimal.tank(0).bundleVersion, std::optional<qint64>(1));
-}
-
-void TankFileTest::datesKeepTheirZone()
-{
-    const Document document(good(QStringLiteral("foreign-zone.xml")));
-    QCOMPARE(document.tank(0).note()->count(), 5);
-    for (const auto &note : document.tank(0).noteListArray())
-        QCOMPARE(*fileValue(*note, u"Date").string(), QStringLiteral("2025-12-31 23:59:59 ") + note->note);
-}
-
-void TankFileTest::hardnessLosesItsFraction()
-{
-    const Document document(good(QStringLiteral("hardness-fraction.xml")));
-    const auto saved = tankFileDictionary(document.tanks, 0, 1);
-    TankList again;
-    QVERIFY(readTanks(saved, {}, again).ok);
-    QList<float> read, reread;
-    for (const auto &fish : document.tank(0).fishListArray())
-        read << fish->gHardness;
-    for (const auto &fish : again.at(0)->fishListArray())
-        reread << fish->gHardness;
-    QCOMPARE(read, QList<float>({7.9F, 0.5F, -3.9F, 12.0F}));
-    QCOMPARE(reread, QList<float>({7.0F, 0.0F, -3.0F, 12.0F}));
-}
-
-void TankFileTest::intervals()
-{
-    const Document off(good(QStringLiteral("schedule-auto-off.xml")));
-    QCOMPARE(off.tank(0).scheduleListArray().at(0)->nextDate, 0.0F);
-    const Document exponent(good(QStringLiteral("interval-exponent.xml")));
-    QCOMPARE(exponent.tank(0).scheduleListArray().at(0)->nextDate, 31449600.0F);
-}
-
-void TankFileTest::listsSortOnReading()
-{
-    const Document document(good(QStringLiteral("sorted-lists.xml")));
-    const auto notes = [&](int tank) {
-        QStringList texts;
-        for (const auto &note : document.tank(tank).noteListArray())
-            texts << note->note;
-        return texts.join(u' ');
-    };
-    QCOMPARE(notes(0), QStringLiteral("Apple Banana melon zucchini"));
-    QCOMPARE(notes(1), QStringLiteral("zucchini melon Banana Apple"));
-    QCOMPARE(notes(2), QStringLiteral("zucchini melon Apple Banana"));
-    QVERIFY(!document.tank(1).note()->sortAscending());
-    QCOMPARE(document.tank(0).conditionListArray().at(0)->ph, -1.0F);
-    QCOMPARE(document.tank(1).conditionListArray().at(0)->ph, 8.1F);
-
-    const Fish &fish = *document.tank(6).fish();
-    QCOMPARE(fish.fishArray().at(0)->name, QStringLiteral("Mu"));
-    QCOMPARE(fish.sortIdentifier(), QString());
-    QVERIFY(fish.sortAscending());
-}
-
-void TankFileTest::columns()
-{
-    const Document document(good(QStringLiteral("columns.xml")));
-    const auto identifiers = [&](int tank) {
-        QStringList texts;
-        for (const ColumnInfo &column : document.tank(tank).condition()->columnInfoArray())
-            texts << column.identifier + u'=' + QString::number(column.width);
-        return texts.join(u' ');
-    };
-    QCOMPARE(identifiers(0), QStringLiteral("date=120 ph=60.5"));
-    QCOMPARE(identifiers(3), QStringLiteral("date=90 banana=50 =10 PH=40 kH=40"));
-    QCOMPARE(identifiers(4), QString());
-    QCOMPARE(identifiers(5), QStringLiteral("date=90 ph=55"));
-    QCOMPARE(document.tank(6).condition()->columnInfoArray().size(), std::size_t(18));
-}
-
-void TankFileTest::numbersInPlaceOfTexts()
-{
-    const Document numbers(good(QStringLiteral("integers-as-numbers.xml")));
-    const Document texts(good(QStringLiteral("three-tanks.xml")));
-    QVERIFY(numbers.result.ok);
-    QVERIFY(tankFileDictionary(numbers.tanks, 2, 1) == tankFileDictionary(texts.tanks, 2, 1));
-}
-
-void TankFileTest::versionOfAnyKind()
-{
-    plist::Dict root = readTankDictionary(good(QStringLiteral("three-tanks.xml"))).root;
-    for (const plist::Value &version :
-         {plist::Value(plist::Array{}), plist::Value(true), plist::Value(QDateTime(QDate(2026, 1, 1), QTime(0, 0)))}) {
-        root.insert(QStringLiteral("FileAttributes"), plist::Dict{{QStringLiteral("bundleVersion"), version}});
         TankList tanks;
-        const TankFileResult result = readTanks(root, {}, tanks);
-        QVERIFY2(result.ok, qPrintable(result.error));
-        QCOMPARE(tanks.count(), 3);
+        tanks.append(std::make_shared<Tank>(QStringLiteral("Old")));
+        bool asked = false;
+        TankFileCallbacks callbacks;
+        callbacks.wantsBackup = [&] {
+            asked = true;
+            return false;
+        };
+        const TankFileContent content = readTankDictionary(path);
+        TankFileResult result;
+        result.refused = !content.ok;
+        if (content.ok)
+            result = readTanks(content.root, path, tanks, callbacks);
+
+        const QString outcome = result.ok        ? QStringLiteral("reads")
+                                : result.refused ? QStringLiteral("refused")
+                                                 : QStringLiteral("read-error");
+        QVERIFY2(outcome == expected.value(u"outcome").toString(),
+                 qPrintable(outcome + QStringLiteral(": ") + content.error + result.error));
+        QCOMPARE(asked, expected.value(u"question").toBool());
+        if (outcome == u"refused") {
+            QCOMPARE(tanks.count(), 1);
+            QCOMPARE(tanks.at(0)->name, QStringLiteral("Old"));
+        } else {
+            QCOMPARE(tanks.count(), expected.value(u"tanks").toInt());
+            QCOMPARE(result.tanksBuilt, tanks.count());
+        }
+        if (expected.contains(u"notes"))
+            QCOMPARE(tanks.at(tanks.count() - 1)->note()->count(), expected.value(u"notes").toInt());
+
+        // Whatever was read can be saved, and what was saved reads.
+        if (result.ok) {
+            const plist::Dict root = tankFileDictionary(tanks, 0, 1);
+            const auto saved = plist::readXml(plist::writeXml(root));
+            QVERIFY(saved);
+            TankList again;
+            QVERIFY(readTanks(*saved.value.dict(), path, again).ok);
+            QCOMPARE(again.count(), tanks.count());
+        }
     }
-}
 
-void TankFileTest::olderTanks()
-{
-    const Document six(good(QStringLiteral("older-six.xml")));
-    const Tank &tank = six.tank(0);
-    for (const Container *container : tank.tankItemsArray()) {
-        const ContainerKind kind = container->kind();
-        const bool known = kind == ContainerKind::Fish || kind == ContainerKind::Condition ||
-                           kind == ContainerKind::Schedule || kind == ContainerKind::Inventory ||
-                           kind == ContainerKind::Note;
-        QCOMPARE(container->count(), known ? 1 : 0);
+    void goodFiles_data()
+    {
+        QTest::addColumn<int>("tanks");
+        QTest::newRow("three-tanks.xml") << 3;
+        QTest::newRow("three-tanks-no-attributes.xml") << 2;
+        QTest::newRow("minimal.xml") << 1;
+        QTest::newRow("every-field.xml") << 2;
+        QTest::newRow("older-six.xml") << 2;
+        QTest::newRow("older-mixed-dict.xml") << 1;
     }
-    QCOMPARE(tank.inventory()->sortIdentifier(), QStringLiteral("item"));
-    QVERIFY(tank.tankExpanded && tank.fishExpanded && tank.freshwater);
-    QCOMPARE(tank.tempData()->preferredValue, 3.5F);
-    QCOMPARE(tank.ironData()->preferredValue, 17.5F);
-    for (const Parameter later : {Parameter::Dioxide, Parameter::Magnesium}) {
-        QCOMPARE(tank.target(later)->name, text(traitsOf(later).targetNameKey));
-        QCOMPARE(tank.target(later)->preferredValue, 0.0F);
-        QVERIFY(!tank.target(later)->warningOn);
+
+    void goodFiles()
+    {
+        QFETCH(int, tanks);
+        const QString name = QString::fromLatin1(QTest::currentDataTag());
+        const Document document(good(name));
+        QCOMPARE(document.tanks.count(), tanks);
+        // A dictionary tank needs the version that older files lack.
+        QCOMPARE(document.result.ok, name != u"older-mixed-dict.xml");
     }
-    QVERIFY(!tank.bundleVersion);
-    QCOMPARE(six.tank(1).expenseCategoryArray, QStringList({QStringLiteral("Old one"), QStringLiteral("Old two")}));
-    QCOMPARE(tank.expenseCategoryArray, defaultExpenseCategories());
 
-    const Tank defaults(QString{});
-    const Document none(good(QStringLiteral("older-no-targets.xml")));
-    QCOMPARE(none.tank(0).tempData()->preferredValue, defaults.tempData()->preferredValue);
-    QVERIFY(none.tank(0).ammoniaData()->warningOn);
+    void savedFilesReadTheSameElsewhere_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("sample") << QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml");
+        for (const char *name : {"every-field.xml", "three-tanks.xml"})
+            QTest::newRow(name) << good(QString::fromLatin1(name));
+    }
 
-    const Document eight(good(QStringLiteral("older-eight-targets.xml")));
-    QCOMPARE(eight.tank(0).kHData()->preferredValue, 9.5F);
-    QCOMPARE(eight.tank(0).saltData()->preferredValue, 10.5F);
-    QCOMPARE(eight.tank(0).alkalinityData()->name, text("Alkalinity"_key));
-    QCOMPARE(eight.tank(0).ironData()->preferredValue, 0.0F);
+    void savedFilesReadTheSameElsewhere()
+    {
+        QFETCH(QString, path);
+        const Document document(path);
+        QVERIFY2(document.result.ok, qPrintable(document.content.error + document.result.error));
+        const QTemporaryDir folder;
+        const QString saved = folder.filePath(QStringLiteral("saved.xml"));
+        QVERIFY(document.tank(0).bundleVersion);
+        QVERIFY(writeTankDictionary(saved, tankFileDictionary(document.tanks, document.result.selectedRow,
+                                                              *document.tank(0).bundleVersion))
+                    .ok);
+        QProcess python;
+        python.start(QStringLiteral("python3"),
+                     {QStringLiteral(BRINEMARK_TEST_DATA "/../model/compare-tank-files"), path, saved});
+        QVERIFY(python.waitForFinished(60'000));
+        QVERIFY2(python.exitCode() == 0, (python.readAllStandardOutput() + python.readAllStandardError()).constData());
+    }
 
-    const Document seven(good(QStringLiteral("older-seven.xml")));
-    QVERIFY(seven.result.ok);
-    QVERIFY(seven.tank(0).tankItemsArray().empty());
-    QVERIFY(seven.tank(0).fish()->isEmpty());
-    QCOMPARE(seven.tank(0).ironData()->preferredValue, 17.5F);
-    TankList again;
-    QVERIFY(readTanks(tankFileDictionary(seven.tanks, 0, 1), {}, again).ok);
-    QCOMPARE(again.at(0)->tankItemsArray().size(), std::size_t(9));
-}
+    void keysFromBeforeAParameter()
+    {
+        const Document old(good(QStringLiteral("no-alkalinity.xml")));
+        const ConditionData &test = *old.tank(0).conditionListArray().at(0);
+        for (const float value : {test.alkalinity, test.phosphate, test.iodine, test.oxygen, test.copper, test.iron})
+            QCOMPARE(value, 0.0F);
+        QCOMPARE(test.calcium, 0);
+        QCOMPARE(test.dioxide, -1);
+        QCOMPARE(test.magnesium, -1);
+        QCOMPARE(test.ph, 5.0F);
 
-void TankFileTest::backupOfAnOlderFile()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("My tanks.xml"));
-    QVERIFY(QFile::copy(good(QStringLiteral("older-six.xml")), path));
-    const QByteArray before = bytesOf(path);
-    const QString backup = folder.filePath(text("ConvertBackup"_key) + QStringLiteral(" My tanks.xml"));
-    bool wanted = false;
-    TankFileCallbacks callbacks;
-    callbacks.wantsBackup = [&] { return wanted; };
+        const Document lacking(good(QStringLiteral("no-magnesium.xml")));
+        const TankData &target = *lacking.tank(0).magnesiumData();
+        QCOMPARE(target.name, text("Magnesium"_key));
+        QCOMPARE(target.preferredValue, 0.0F);
+        QVERIFY(!target.warningOn && !target.deviationOn);
 
-    QVERIFY(Document(path, callbacks).result.ok);
-    QVERIFY(!QFile::exists(backup));
-    wanted = true;
-    QVERIFY(Document(path, callbacks).result.ok);
-    QCOMPARE(bytesOf(backup), before);
-    QCOMPARE(bytesOf(path), before);
+        const Document minimal(good(QStringLiteral("minimal.xml")));
+        QVERIFY(minimal.tank(0).phData()->name.isNull());
+        QCOMPARE(minimal.tank(0).magnesiumData()->name, text("Magnesium"_key));
+        QVERIFY(!minimal.tank(0).freshwater);
+        QCOMPARE(minimal.tank(0).expenseCategoryArray, defaultExpenseCategories());
+        QCOMPARE(minimal.tank(0).bundleVersion, std::optional<qint64>(1));
+    }
 
-    // A second copy fails silently: the first one stays.
-    QVERIFY(QFile::remove(path) && QFile::copy(good(QStringLiteral("older-no-targets.xml")), path));
-    QVERIFY(Document(path, callbacks).result.ok);
-    QCOMPARE(bytesOf(backup), before);
-}
+    void datesKeepTheirZone()
+    {
+        const Document document(good(QStringLiteral("foreign-zone.xml")));
+        QCOMPARE(document.tank(0).note()->count(), 5);
+        for (const auto &note : document.tank(0).noteListArray())
+            QCOMPARE(*fileValue(*note, u"Date").string(), QStringLiteral("2025-12-31 23:59:59 ") + note->note);
+    }
 
-void TankFileTest::callbacksInOrder()
-{
-    QStringList calls;
-    TankFileCallbacks callbacks;
-    callbacks.wantsBackup = [&] {
-        calls << QStringLiteral("question");
-        return false;
-    };
-    callbacks.willReplaceTanks = [&] { calls << QStringLiteral("replace"); };
-    callbacks.progress = [&](int tank, int count) { calls << QStringLiteral("%1/%2").arg(tank).arg(count); };
-    callbacks.tankBuilt = [&](const std::shared_ptr<Tank> &tank) { calls << tank->name; };
-    const Document document(good(QStringLiteral("three-tanks.xml")), callbacks);
-    QCOMPARE(document.result.selectedRow, 2);
-    QCOMPARE(calls.join(u' '), QStringLiteral("replace 0/3 Alpha 1/3 Beta 2/3 Gamma"));
-}
+    void hardnessLosesItsFraction()
+    {
+        const Document document(good(QStringLiteral("hardness-fraction.xml")));
+        const auto saved = tankFileDictionary(document.tanks, 0, 1);
+        TankList again;
+        QVERIFY(readTanks(saved, {}, again).ok);
+        QList<float> read, reread;
+        for (const auto &fish : document.tank(0).fishListArray())
+            read << fish->gHardness;
+        for (const auto &fish : again.at(0)->fishListArray())
+            reread << fish->gHardness;
+        QCOMPARE(read, QList<float>({7.9F, 0.5F, -3.9F, 12.0F}));
+        QCOMPARE(reread, QList<float>({7.0F, 0.0F, -3.0F, 12.0F}));
+    }
 
-void TankFileTest::failedWriteLeavesTheOldFile_data()
-{
-    QTest::addColumn<qint64>("room");
-    QTest::newRow("at once") << qint64(0);
-    QTest::newRow("half way") << qint64(2000);
-}
+    void intervals()
+    {
+        const Document off(good(QStringLiteral("schedule-auto-off.xml")));
+        QCOMPARE(off.tank(0).scheduleListArray().at(0)->nextDate, 0.0F);
+        const Document exponent(good(QStringLiteral("interval-exponent.xml")));
+        QCOMPARE(exponent.tank(0).scheduleListArray().at(0)->nextDate, 31449600.0F);
+    }
 
-void TankFileTest::failedWriteLeavesTheOldFile()
-{
-    QFETCH(qint64, room);
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("tanks.xml"));
-    QVERIFY(QFile::copy(good(QStringLiteral("three-tanks.xml")), path));
-    const QByteArray before = bytesOf(path);
-    const Document document(path);
-    document.tank(0).name = QStringLiteral("Changed");
-    FullDisk disk(path, room);
-    QVERIFY(!writeFileSafely(disk, plist::writeXml(tankFileDictionary(document.tanks, 0, 1))).ok);
-    QCOMPARE(bytesOf(path), before);
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("tanks.xml")});
+    void listsSortOnReading()
+    {
+        const Document document(good(QStringLiteral("sorted-lists.xml")));
+        const auto notes = [&](int tank) {
+            QStringList texts;
+            for (const auto &note : document.tank(tank).noteListArray())
+                texts << note->note;
+            return texts.join(u' ');
+        };
+        QCOMPARE(notes(0), QStringLiteral("Apple Banana melon zucchini"));
+        QCOMPARE(notes(1), QStringLiteral("zucchini melon Banana Apple"));
+        QCOMPARE(notes(2), QStringLiteral("zucchini melon Apple Banana"));
+        QVERIFY(!document.tank(1).note()->sortAscending());
+        QCOMPARE(document.tank(0).conditionListArray().at(0)->ph, -1.0F);
+        QCOMPARE(document.tank(1).conditionListArray().at(0)->ph, 8.1F);
 
-    const WriteResult nowhere = writeTankDictionary(folder.filePath(QStringLiteral("no/such/folder.xml")), {});
-    QVERIFY(!nowhere.ok);
-    QVERIFY(!nowhere.error.isEmpty());
-}
+        const Fish &fish = *document.tank(6).fish();
+        QCOMPARE(fish.fishArray().at(0)->name, QStringLiteral("Mu"));
+        QCOMPARE(fish.sortIdentifier(), QString());
+        QVERIFY(fish.sortAscending());
+    }
 
-void TankFileTest::writesAndReadsBack()
-{
-    TankList tanks;
-    for (int i = 1; i <= 12; ++i)
-        tanks.append(std::make_shared<Tank>(QStringLiteral("Tank %1").arg(i)));
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("tanks.xml"));
-    const WriteResult written = writeTankDictionary(path, tankFileDictionary(tanks, -1, 0x01008000));
-    QVERIFY(written.ok);
-    QVERIFY(!changedOnDisk(path, written.stamp));
+    void columns()
+    {
+        const Document document(good(QStringLiteral("columns.xml")));
+        const auto identifiers = [&](int tank) {
+            QStringList texts;
+            for (const ColumnInfo &column : document.tank(tank).condition()->columnInfoArray())
+                texts << column.identifier + u'=' + QString::number(column.width);
+            return texts.join(u' ');
+        };
+        QCOMPARE(identifiers(0), QStringLiteral("date=120 ph=60.5"));
+        QCOMPARE(identifiers(3), QStringLiteral("date=90 banana=50 =10 PH=40 kH=40"));
+        QCOMPARE(identifiers(4), QString());
+        QCOMPARE(identifiers(5), QStringLiteral("date=90 ph=55"));
+        QCOMPARE(document.tank(6).condition()->columnInfoArray().size(), std::size_t(18));
+    }
 
-    const Document read(path);
-    QVERIFY(read.result.ok);
-    QCOMPARE(read.result.selectedRow, -1);
-    QCOMPARE(read.tanks.count(), 12);
-    // By number, not by text: "10" does not come before "2".
-    QCOMPARE(read.tank(9).name, QStringLiteral("Tank 10"));
-    QCOMPARE(read.tank(0).bundleVersion, std::optional<qint64>(0x01008000));
-    const plist::Dict &attributes = *read.content.root.find(u"FileAttributes")->dict();
-    QVERIFY(attributes.find(u"metaNotes")->string()->startsWith(text("Aquarium"_key)));
-    QCOMPARE(attributes.find(u"metaKeywords")->array()->size(), std::size_t(24));
-    QVERIFY(!read.content.root.find(u"1")->dict()->contains(u"bundleVersion"));
-}
+    void numbersInPlaceOfTexts()
+    {
+        const Document numbers(good(QStringLiteral("integers-as-numbers.xml")));
+        const Document texts(good(QStringLiteral("three-tanks.xml")));
+        QVERIFY(numbers.result.ok);
+        QVERIFY(tankFileDictionary(numbers.tanks, 2, 1) == tankFileDictionary(texts.tanks, 2, 1));
+    }
 
-void TankFileTest::recognition_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("recognised");
-    const auto row = [](const QString &path, bool recognised) {
-        QTest::newRow(qPrintable(path.section(u'/', -2))) << path << recognised;
-    };
-    row(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml"), true);
-    for (const char *name : {"three-tanks.xml", "three-tanks-no-attributes.xml", "older-six.xml", "minimal.xml"})
-        row(good(QString::fromLatin1(name)), true);
-    const QString broken = QStringLiteral(BRINEMARK_TEST_DATA "/broken/");
-    for (const char *name : {"utf-16.xml", "byte-order-mark.xml", "comments.xml", "one-line.xml"})
-        row(broken + QString::fromLatin1(name), true);
-    for (const char *name :
-         {"empty.xml", "html.xml", "not-xml.xml", "random-bytes.xml", "root-array.xml", "root-string.xml"})
-        row(broken + QString::fromLatin1(name), false);
-    row(broken + QStringLiteral("expected.json"), false);
-    row(broken, false);
-    row(broken + QStringLiteral("no-such-file.xml"), false);
-}
+    void versionOfAnyKind()
+    {
+        plist::Dict root = readTankDictionary(good(QStringLiteral("three-tanks.xml"))).root;
+        for (const plist::Value &version : {plist::Value(plist::Array{}), plist::Value(true),
+                                            plist::Value(QDateTime(QDate(2026, 1, 1), QTime(0, 0)))}) {
+            root.insert(QStringLiteral("FileAttributes"), plist::Dict{{QStringLiteral("bundleVersion"), version}});
+            TankList tanks;
+            const TankFileResult result = readTanks(root, {}, tanks);
+            QVERIFY2(result.ok, qPrintable(result.error));
+            QCOMPARE(tanks.count(), 3);
+        }
+    }
 
-void TankFileTest::recognition()
-{
-    QFETCH(QString, path);
-    QFETCH(bool, recognised);
-    QCOMPARE(looksLikeTankFile(path), recognised);
-}
+    void olderTanks()
+    {
+        const Document six(good(QStringLiteral("older-six.xml")));
+        const Tank &tank = six.tank(0);
+        for (const Container *container : tank.tankItemsArray()) {
+            const ContainerKind kind = container->kind();
+            const bool known = kind == ContainerKind::Fish || kind == ContainerKind::Condition ||
+                               kind == ContainerKind::Schedule || kind == ContainerKind::Inventory ||
+                               kind == ContainerKind::Note;
+            QCOMPARE(container->count(), known ? 1 : 0);
+        }
+        QCOMPARE(tank.inventory()->sortIdentifier(), QStringLiteral("item"));
+        QVERIFY(tank.tankExpanded && tank.fishExpanded && tank.freshwater);
+        QCOMPARE(tank.tempData()->preferredValue, 3.5F);
+        QCOMPARE(tank.ironData()->preferredValue, 17.5F);
+        for (const Parameter later : {Parameter::Dioxide, Parameter::Magnesium}) {
+            QCOMPARE(tank.target(later)->name, text(traitsOf(later).targetNameKey));
+            QCOMPARE(tank.target(later)->preferredValue, 0.0F);
+            QVERIFY(!tank.target(later)->warningOn);
+        }
+        QVERIFY(!tank.bundleVersion);
+        QCOMPARE(six.tank(1).expenseCategoryArray, QStringList({QStringLiteral("Old one"), QStringLiteral("Old two")}));
+        QCOMPARE(tank.expenseCategoryArray, defaultExpenseCategories());
+
+        const Tank defaults(QString{});
+        const Document none(good(QStringLiteral("older-no-targets.xml")));
+        QCOMPARE(none.tank(0).tempData()->preferredValue, defaults.tempData()->preferredValue);
+        QVERIFY(none.tank(0).ammoniaData()->warningOn);
+
+        const Document eight(good(QStringLiteral("older-eight-targets.xml")));
+        QCOMPARE(eight.tank(0).kHData()->preferredValue, 9.5F);
+        QCOMPARE(eight.tank(0).saltData()->preferredValue, 10.5F);
+        QCOMPARE(eight.tank(0).alkalinityData()->name, text("Alkalinity"_key));
+        QCOMPARE(eight.tank(0).ironData()->preferredValue, 0.0F);
+
+        const Document seven(good(QStringLiteral("older-seven.xml")));
+        QVERIFY(seven.result.ok);
+        QVERIFY(seven.tank(0).tankItemsArray().empty());
+        QVERIFY(seven.tank(0).fish()->isEmpty());
+        QCOMPARE(seven.tank(0).ironData()->preferredValue, 17.5F);
+        TankList again;
+        QVERIFY(readTanks(tankFileDictionary(seven.tanks, 0, 1), {}, again).ok);
+        QCOMPARE(again.at(0)->tankItemsArray().size(), std::size_t(9));
+    }
+
+    void backupOfAnOlderFile()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("My tanks.xml"));
+        QVERIFY(QFile::copy(good(QStringLiteral("older-six.xml")), path));
+        const QByteArray before = bytesOf(path);
+        const QString backup = folder.filePath(text("ConvertBackup"_key) + QStringLiteral(" My tanks.xml"));
+        bool wanted = false;
+        TankFileCallbacks callbacks;
+        callbacks.wantsBackup = [&] { return wanted; };
+
+        QVERIFY(Document(path, callbacks).result.ok);
+        QVERIFY(!QFile::exists(backup));
+        wanted = true;
+        QVERIFY(Document(path, callbacks).result.ok);
+        QCOMPARE(bytesOf(backup), before);
+        QCOMPARE(bytesOf(path), before);
+
+        // A second copy fails silently: the first one stays.
+        QVERIFY(QFile::remove(path) && QFile::copy(good(QStringLiteral("older-no-targets.xml")), path));
+        QVERIFY(Document(path, callbacks).result.ok);
+        QCOMPARE(bytesOf(backup), before);
+    }
+
+    void callbacksInOrder()
+    {
+        QStringList calls;
+        TankFileCallbacks callbacks;
+        callbacks.wantsBackup = [&] {
+            calls << QStringLiteral("question");
+            return false;
+        };
+        callbacks.willReplaceTanks = [&] { calls << QStringLiteral("replace"); };
+        callbacks.progress = [&](int tank, int count) { calls << QStringLiteral("%1/%2").arg(tank).arg(count); };
+        callbacks.tankBuilt = [&](const std::shared_ptr<Tank> &tank) { calls << tank->name; };
+        const Document document(good(QStringLiteral("three-tanks.xml")), callbacks);
+        QCOMPARE(document.result.selectedRow, 2);
+        QCOMPARE(calls.join(u' '), QStringLiteral("replace 0/3 Alpha 1/3 Beta 2/3 Gamma"));
+    }
+
+    void failedWriteLeavesTheOldFile_data()
+    {
+        QTest::addColumn<qint64>("room");
+        QTest::newRow("at once") << qint64(0);
+        QTest::newRow("half way") << qint64(2000);
+    }
+
+    void failedWriteLeavesTheOldFile()
+    {
+        QFETCH(qint64, room);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("tanks.xml"));
+        QVERIFY(QFile::copy(good(QStringLiteral("three-tanks.xml")), path));
+        const QByteArray before = bytesOf(path);
+        const Document document(path);
+        document.tank(0).name = QStringLiteral("Changed");
+        FullDisk disk(path, room);
+        QVERIFY(!writeFileSafely(disk, plist::writeXml(tankFileDictionary(document.tanks, 0, 1))).ok);
+        QCOMPARE(bytesOf(path), before);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("tanks.xml")});
+
+        const WriteResult nowhere = writeTankDictionary(folder.filePath(QStringLiteral("no/such/folder.xml")), {});
+        QVERIFY(!nowhere.ok);
+        QVERIFY(!nowhere.error.isEmpty());
+    }
+
+    void writesAndReadsBack()
+    {
+        TankList tanks;
+        for (int i = 1; i <= 12; ++i)
+            tanks.append(std::make_shared<Tank>(QStringLiteral("Tank %1").arg(i)));
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("tanks.xml"));
+        const WriteResult written = writeTankDictionary(path, tankFileDictionary(tanks, -1, 0x01008000));
+        QVERIFY(written.ok);
+        QVERIFY(!changedOnDisk(path, written.stamp));
+
+        const Document read(path);
+        QVERIFY(read.result.ok);
+        QCOMPARE(read.result.selectedRow, -1);
+        QCOMPARE(read.tanks.count(), 12);
+        // By number, not by text: "10" does not come before "2".
+        QCOMPARE(read.tank(9).name, QStringLiteral("Tank 10"));
+        QCOMPARE(read.tank(0).bundleVersion, std::optional<qint64>(0x01008000));
+        const plist::Dict &attributes = *read.content.root.find(u"FileAttributes")->dict();
+        QVERIFY(attributes.find(u"metaNotes")->string()->startsWith(text("Aquarium"_key)));
+        QCOMPARE(attributes.find(u"metaKeywords")->array()->size(), std::size_t(24));
+        QVERIFY(!read.content.root.find(u"1")->dict()->contains(u"bundleVersion"));
+    }
+
+    void recognition_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("recognised");
+        const auto row = [](const QString &path, bool recognised) {
+            QTest::newRow(qPrintable(path.section(u'/', -2))) << path << recognised;
+        };
+        row(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml"), true);
+        for (const char *name : {"three-tanks.xml", "three-tanks-no-attributes.xml", "older-six.xml", "minimal.xml"})
+            row(good(QString::fromLatin1(name)), true);
+        const QString broken = QStringLiteral(BRINEMARK_TEST_DATA "/broken/");
+        for (const char *name : {"utf-16.xml", "byte-order-mark.xml", "comments.xml", "one-line.xml"})
+            row(broken + QString::fromLatin1(name), true);
+        for (const char *name :
+             {"empty.xml", "html.xml", "not-xml.xml", "random-bytes.xml", "root-array.xml", "root-string.xml"})
+            row(broken + QString::fromLatin1(name), false);
+        row(broken + QStringLiteral("expected.json"), false);
+        row(broken, false);
+        row(broken + QStringLiteral("no-such-file.xml"), false);
+    }
+
+    void recognition()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, recognised);
+        QCOMPARE(looksLikeTankFile(path), recognised);
+    }
+};
 
 int main(int argc, char **argv)
 {
-    return test::run<TankFileTest>(argc, argv);
+    return brinemark::test::run<QGuiApplication, TankFileTest>(argc, argv);
 }
 #include "tst_tank_file.moc"
