@@ -8,16 +8,6 @@
 
 using namespace brinemark;
 
-class ColoursTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void canBeReadAsText_data();
-    void canBeReadAsText();
-    void rolesDiffer();
-};
-
 /// Relative luminance and contrast ratio as WCAG 2.1 defines them.
 static double luminance(const QColor &colour)
 {
@@ -31,45 +21,51 @@ static double contrast(const QColor &a, const QColor &b)
     return (light + 0.05) / (dark + 0.05);
 }
 
-void ColoursTest::canBeReadAsText_data()
+class ColoursTest : public QObject
 {
-    QTest::addColumn<QColor>("window");
-    QTest::addColumn<QColor>("base");
-    QTest::newRow("Fusion light") << QColor("#efefef") << QColor("#ffffff");
-    QTest::newRow("Adwaita light") << QColor("#f6f5f4") << QColor("#ffffff");
-    QTest::newRow("Breeze light") << QColor("#eff0f1") << QColor("#ffffff");
-    QTest::newRow("Fusion dark") << QColor("#353535") << QColor("#2a2a2a");
-    QTest::newRow("Adwaita dark") << QColor("#353535") << QColor("#2d2d2d");
-    QTest::newRow("Breeze dark") << QColor("#31363b") << QColor("#1b1e20");
-    QTest::newRow("black") << QColor("#000000") << QColor("#000000");
-}
+    Q_OBJECT
 
-void ColoursTest::canBeReadAsText()
-{
-    QFETCH(QColor, window);
-    QFETCH(QColor, base);
-    QPalette palette;
-    palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::Base, base);
-    for (int role = 0; role < int(ColourRole::Count); ++role) {
-        const QColor shown = colour(ColourRole(role), palette);
-        QVERIFY2(contrast(shown, base) >= 4.5, qPrintable(QString::number(role)));
-        QVERIFY2(contrast(shown, window) >= 4.5, qPrintable(QString::number(role)));
+private Q_SLOTS:
+    void canBeReadAsText_data()
+    {
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<QColor>("base");
+        QTest::newRow("Fusion light") << QColor("#efefef") << QColor("#ffffff");
+        QTest::newRow("Adwaita light") << QColor("#f6f5f4") << QColor("#ffffff");
+        QTest::newRow("Breeze light") << QColor("#eff0f1") << QColor("#ffffff");
+        QTest::newRow("Fusion dark") << QColor("#353535") << QColor("#2a2a2a");
+        QTest::newRow("Adwaita dark") << QColor("#353535") << QColor("#2d2d2d");
+        QTest::newRow("Breeze dark") << QColor("#31363b") << QColor("#1b1e20");
+        QTest::newRow("black") << QColor("#000000") << QColor("#000000");
     }
-}
 
-void ColoursTest::rolesDiffer()
-{
-    for (const QColor &window : {QColor(Qt::white), QColor(Qt::black)}) {
-        const QPalette palette(window);
-        QVERIFY(colour(ColourRole::Out, palette).red() > colour(ColourRole::Out, palette).green());
-        QVERIFY(colour(ColourRole::InRange, palette).green() > colour(ColourRole::InRange, palette).red());
-        for (int a = 0; a < int(ColourRole::Count); ++a) {
-            for (int b = 0; b < a; ++b)
-                QVERIFY(colour(ColourRole(a), palette) != colour(ColourRole(b), palette));
+    void canBeReadAsText()
+    {
+        QFETCH(QColor, window);
+        QFETCH(QColor, base);
+        QPalette palette;
+        palette.setColor(QPalette::Window, window);
+        palette.setColor(QPalette::Base, base);
+        for (int role = 0; role < int(ColourRole::Count); ++role) {
+            const QColor shown = colour(ColourRole(role), palette);
+            QVERIFY2(contrast(shown, base) >= 4.5, qPrintable(QString::number(role)));
+            QVERIFY2(contrast(shown, window) >= 4.5, qPrintable(QString::number(role)));
         }
     }
-}
+
+    void rolesDiffer()
+    {
+        for (const QColor &window : {QColor(Qt::white), QColor(Qt::black)}) {
+            const QPalette palette(window);
+            QVERIFY(colour(ColourRole::Out, palette).red() > colour(ColourRole::Out, palette).green());
+            QVERIFY(colour(ColourRole::InRange, palette).green() > colour(ColourRole::InRange, palette).red());
+            for (int a = 0; a < int(ColourRole::Count); ++a) {
+                for (int b = 0; b < a; ++b)
+                    QVERIFY(colour(ColourRole(a), palette) != colour(ColourRole(b), palette));
+            }
+        }
+    }
+};
 
 QTEST_MAIN(ColoursTest)
 #include "tst_colours.moc"

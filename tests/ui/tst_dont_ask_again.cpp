@@ -1,6 +1,6 @@
 #include "base/PreferenceKeys.h"
 #include "support/AlertDriver.h"
-#include "support/TestHome.h"
+#include "support/RunTest.h"
 #include "ui/AlertPanelDontAskAgain.h"
 
 #include <QCheckBox>
@@ -26,69 +26,7 @@ struct Case {
 };
 Q_DECLARE_METATYPE(Case)
 
-class DontAskAgainTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init();
-    void decides_data();
-    void decides();
-    void keysByIdentifier();
-    void withoutDelegate();
-    void silencedThenCleared();
-    void growsWithItsTexts();
-
-private:
-    Panel::Question question() const;
-    std::unique_ptr<QWidget> m_window;
-};
-
 static const QString identifier = "DontShowAgainNotTested";
-
-void DontAskAgainTest::init()
-{
-    Panel::clearValueForIdentifier(identifier);
-    m_window = std::make_unique<QWidget>();
-    m_window->resize(600, 400);
-    m_window->show();
-}
-
-Panel::Question DontAskAgainTest::question() const
-{
-    return {.title = "Not tested",
-            .message = "Some values were not tested.",
-            .defaultButton = "Yes",
-            .alternateButton = "No",
-            .identifier = identifier};
-}
-
-void DontAskAgainTest::decides_data()
-{
-    QTest::addColumn<Case>("c");
-    const auto none = std::nullopt;
-    const char *yes = "defaultButton";
-    const char *no = "alternateButton";
-    QTest::newRow("shown: default") << Case{none, none, false, yes, false, 1, none};
-    QTest::newRow("shown: alternate") << Case{none, none, false, no, false, 0, none};
-    QTest::newRow("shown: Escape") << Case{none, none, false, "Escape", false, 0, none};
-    QTest::newRow("silenced by default") << Case{none, none, false, yes, true, 1, 1};
-    QTest::newRow("silenced by alternate") << Case{none, none, false, no, true, 0, 0};
-    QTest::newRow("silenced by Escape") << Case{none, none, false, "Escape", true, 0, 0};
-    QTest::newRow("stored 1") << Case{1, none, false, nullptr, false, 1, 1};
-    QTest::newRow("stored 0") << Case{0, none, false, nullptr, false, 0, 0};
-    QTest::newRow("stored -1 is stored") << Case{-1, none, false, nullptr, false, -1, -1};
-    QTest::newRow("own code, not ticked") << Case{none, 5, false, yes, false, 1, none};
-    QTest::newRow("own code, silenced by default") << Case{none, 5, false, yes, true, 1, 5};
-    QTest::newRow("own code, silenced by alternate") << Case{none, 5, false, no, true, 0, 5};
-    QTest::newRow("own code, stored") << Case{5, 5, false, nullptr, false, 5, 5};
-    QTest::newRow("own code replaces another") << Case{1, 5, false, nullptr, false, 5, 5};
-    QTest::newRow("a stored own code without one") << Case{5, none, false, nullptr, false, 5, 5};
-    QTest::newRow("ignored: stays without tick") << Case{1, none, true, no, false, 0, 1};
-    QTest::newRow("ignored: replaced with tick") << Case{1, none, true, no, true, 0, 0};
-    QTest::newRow("ignored: own code with tick") << Case{1, 5, true, yes, true, 1, 5};
-    QTest::newRow("ignored: own code without tick") << Case{1, 5, true, yes, false, 1, 1};
-}
 
 static void answer(const Case &c)
 {
@@ -120,114 +58,147 @@ static std::optional<int> stored()
     return state;
 }
 
-void DontAskAgainTest::decides()
+class DontAskAgainTest : public QObject
 {
-    QFETCH(Case, c);
-    Panel::Question ask = question();
-    ask.ignoreExistingState = c.ignoreState;
-    int shown = 0;
+    Q_OBJECT
 
-    store(c.stored);
-    if (c.press) {
-        onNextAlert([&](AlertDialog &) {
-            ++shown;
-            answer(c);
-        });
+private Q_SLOTS:
+    void init()
+    {
+        Panel::clearValueForIdentifier(identifier);
+        m_window = std::make_unique<QWidget>();
+        m_window->resize(600, 400);
+        m_window->show();
     }
-    QCOMPARE(c.ownCode ? Panel::runModalPanelWithTitle(ask, true, *c.ownCode) : Panel::runModalPanelWithTitle(ask),
-             c.answer);
-    QCOMPARE(shown, c.press ? 1 : 0);
-    QVERIFY(stored() == c.storedAfter);
 
-    store(c.stored);
-    int calls = 0;
-    int context = 0;
-    const auto ended = [&](int code, void *pointer, const QString &name) {
-        ++calls;
-        QCOMPARE(code, c.answer);
-        QCOMPARE(pointer, &context);
-        QCOMPARE(name, identifier);
-        QVERIFY(stored() == c.storedAfter);
-    };
-    if (c.ownCode)
-        Panel::beginSheetForWindow(m_window.get(), ask, true, *c.ownCode, ended, &context);
-    else
-        Panel::beginSheetForWindow(m_window.get(), ask, ended, &context);
-    QCOMPARE(calls, c.press ? 0 : 1); // at once when it is not shown
-    if (c.press)
-        answer(c);
-    QCOMPARE(calls, 1);
-    QVERIFY(!shownAlert());
-}
+    void decides_data()
+    {
+        QTest::addColumn<Case>("c");
+        const auto none = std::nullopt;
+        const char *yes = "defaultButton";
+        const char *no = "alternateButton";
+        QTest::newRow("shown: default") << Case{none, none, false, yes, false, 1, none};
+        QTest::newRow("shown: alternate") << Case{none, none, false, no, false, 0, none};
+        QTest::newRow("silenced by default") << Case{none, none, false, yes, true, 1, 1};
+        QTest::newRow("silenced by Escape") << Case{none, none, false, "Escape", true, 0, 0};
+        QTest::newRow("stored 0") << Case{0, none, false, nullptr, false, 0, 0};
+        QTest::newRow("stored -1 is stored") << Case{-1, none, false, nullptr, false, -1, -1};
+        QTest::newRow("own code, not ticked") << Case{none, 5, false, yes, false, 1, none};
+        QTest::newRow("own code, silenced by default") << Case{none, 5, false, yes, true, 1, 5};
+        QTest::newRow("own code, stored") << Case{5, 5, false, nullptr, false, 5, 5};
+        QTest::newRow("own code replaces another") << Case{1, 5, false, nullptr, false, 5, 5};
+        QTest::newRow("a stored own code without one") << Case{5, none, false, nullptr, false, 5, 5};
+        QTest::newRow("ignored: stays without tick") << Case{1, none, true, no, false, 0, 1};
+        QTest::newRow("ignored: replaced with tick") << Case{1, none, true, no, true, 0, 0};
+        QTest::newRow("ignored: own code with tick") << Case{1, 5, true, yes, true, 1, 5};
+    }
 
-void DontAskAgainTest::keysByIdentifier()
-{
-    QCOMPARE(Panel::valueForIdentifier("never heard of"), -1);
-    QVERIFY(Panel::willShowPanelForIdentifier("never heard of"));
-
-    Panel::setState(7, identifier);
-    QCOMPARE(Panel::valueForIdentifier(identifier), 7);
-    QVERIFY(!Panel::willShowPanelForIdentifier(identifier));
-    QVERIFY(Panel::willShowPanelForIdentifier(identifier + "2"));
-    const QVariant kept = Preferences::shared().variant("dont.ask.again.result.DontShowAgainNotTested");
-    QCOMPARE(kept.toInt(), 7);
-
-    // It lasts: another reader of the same file sees a number.
-    QVERIFY(Preferences::shared().flush());
-    const Preferences reread(Preferences::shared().path());
-    const QVariant read = reread.variant("dont.ask.again.result.DontShowAgainNotTested");
-    QVERIFY(read.typeId() == QMetaType::Int || read.typeId() == QMetaType::LongLong);
-    QCOMPARE(read.toInt(), 7);
-}
-
-void DontAskAgainTest::withoutDelegate()
-{
-    Panel::beginSheetForWindow(m_window.get(), question());
-    answer({.press = "alternateButton", .tick = true});
-    QCOMPARE(Panel::valueForIdentifier(identifier), 0);
-    Panel::beginSheetForWindow(m_window.get(), question());
-    QVERIFY(!shownAlert());
-}
-
-void DontAskAgainTest::silencedThenCleared()
-{
-    onNextAlert([](AlertDialog &) { answer({.press = "defaultButton", .tick = true}); });
-    QCOMPARE(Panel::runModalPanelWithTitle(question()), 1);
-    QCOMPARE(Panel::runModalPanelWithTitle(question()), 1);
-    Panel::clearValueForIdentifier(identifier);
-    onNextAlert([](AlertDialog &) { answer({.press = "alternateButton"}); });
-    QCOMPARE(Panel::runModalPanelWithTitle(question()), 0);
-}
-
-void DontAskAgainTest::growsWithItsTexts()
-{
-    const auto sizeWith = [&](const QString &message, const QString &button) {
+    void decides()
+    {
+        QFETCH(Case, c);
         Panel::Question ask = question();
-        ask.message = message;
-        ask.defaultButton = button;
-        ask.alternateButton.clear();
-        Panel::beginSheetForWindow(m_window.get(), ask);
-        const AlertDialog &sheet = *shownAlert();
-        const QPushButton *only = sheet.button(AlertDefault);
-        const QSize size(only->width(), sheet.height());
-        if (sheet.button(AlertAlternate) || only->text() != (button.isEmpty() ? "OK" : button))
-            return QSize();
-        pressAlertButton("defaultButton");
-        return size;
-    };
-    const QSize small = sizeWith("Short.", {});
-    const QSize large = sizeWith(QString("A long message of many words. ").repeated(20), QString("wide ").repeated(20));
-    QCOMPARE(small.width(), 82);
-    QVERIFY(large.width() > 82);
-    QVERIFY(large.height() > small.height() + 60);
-}
+        ask.ignoreExistingState = c.ignoreState;
+        int shown = 0;
+
+        store(c.stored);
+        if (c.press) {
+            onNextAlert([&](AlertDialog &) {
+                ++shown;
+                answer(c);
+            });
+        }
+        QCOMPARE(c.ownCode ? Panel::runModalPanelWithTitle(ask, true, *c.ownCode) : Panel::runModalPanelWithTitle(ask),
+                 c.answer);
+        QCOMPARE(shown, c.press ? 1 : 0);
+        QVERIFY(stored() == c.storedAfter);
+
+        store(c.stored);
+        int calls = 0;
+        int context = 0;
+        const auto ended = [&](int code, void *pointer, const QString &name) {
+            ++calls;
+            QCOMPARE(code, c.answer);
+            QCOMPARE(pointer, &context);
+            QCOMPARE(name, identifier);
+            QVERIFY(stored() == c.storedAfter);
+        };
+        if (c.ownCode)
+            Panel::beginSheetForWindow(m_window.get(), ask, true, *c.ownCode, ended, &context);
+        else
+            Panel::beginSheetForWindow(m_window.get(), ask, ended, &context);
+        QCOMPARE(calls, c.press ? 0 : 1); // at once when it is not shown
+        if (c.press)
+            answer(c);
+        QCOMPARE(calls, 1);
+        QVERIFY(!shownAlert());
+    }
+
+    void keysByIdentifier()
+    {
+        QCOMPARE(Panel::valueForIdentifier("never heard of"), -1);
+        QVERIFY(Panel::willShowPanelForIdentifier("never heard of"));
+
+        Panel::setState(7, identifier);
+        QVERIFY(!Panel::willShowPanelForIdentifier(identifier));
+        QVERIFY(Panel::willShowPanelForIdentifier(identifier + "2"));
+
+        // It lasts: another reader of the same file sees a number.
+        QVERIFY(Preferences::shared().flush());
+        const Preferences reread(Preferences::shared().path());
+        const QVariant read = reread.variant("dont.ask.again.result.DontShowAgainNotTested");
+        QVERIFY(read.typeId() == QMetaType::Int || read.typeId() == QMetaType::LongLong);
+        QCOMPARE(read.toInt(), 7);
+    }
+
+    void withoutDelegate()
+    {
+        Panel::beginSheetForWindow(m_window.get(), question());
+        answer({.press = "alternateButton", .tick = true});
+        QCOMPARE(Panel::valueForIdentifier(identifier), 0);
+        Panel::beginSheetForWindow(m_window.get(), question());
+        QVERIFY(!shownAlert());
+    }
+
+    void growsWithItsTexts()
+    {
+        const auto sizeWith = [&](const QString &message, const QString &button) {
+            Panel::Question ask = question();
+            ask.message = message;
+            ask.defaultButton = button;
+            ask.alternateButton.clear();
+            Panel::beginSheetForWindow(m_window.get(), ask);
+            const AlertDialog &sheet = *shownAlert();
+            const QPushButton *only = sheet.button(AlertDefault);
+            const QSize size(only->width(), sheet.height());
+            if (sheet.button(AlertAlternate) || only->text() != (button.isEmpty() ? "OK" : button))
+                return QSize();
+            pressAlertButton("defaultButton");
+            return size;
+        };
+        const QSize small = sizeWith("Short.", {});
+        const QSize large =
+            sizeWith(QString("A long message of many words. ").repeated(20), QString("wide ").repeated(20));
+        QCOMPARE(small.width(), 82);
+        QVERIFY(large.width() > 82);
+        QVERIFY(large.height() > small.height() + 60);
+    }
+
+private:
+    Panel::Question question() const
+    {
+        return {.title = "Not tested",
+                .message = "Some values were not tested.",
+                .defaultButton = "Yes",
+                .alternateButton = "No",
+                .identifier = identifier};
+    }
+
+    std::unique_ptr<QWidget> m_window;
+};
 
 int main(int argc, char **argv)
 {
-    const TestHome home;
-    QApplication application(argc, argv);
-    DontAskAgainTest test;
-    return QTest::qExec(&test, argc, argv);
+    return brinemark::test::run<QApplication, DontAskAgainTest>(argc, argv);
 }
 
 #include "tst_dont_ask_again.moc"

@@ -1,3 +1,4 @@
+#include "support/DataRow.h"
 #include "ui/HelpWindow.h"
 
 #include "base/text/Texts.h"
@@ -16,15 +17,12 @@
 #include <QToolButton>
 
 using namespace brinemark;
+using brinemark::test::row;
 
 namespace
 {
 
-const QStringList &languages()
-{
-    static const QStringList all{QStringLiteral("en"), QStringLiteral("de")};
-    return all;
-}
+const QStringList languages{QStringLiteral("en"), QStringLiteral("de")};
 
 QStringList pagesOf(const QString &language)
 {
@@ -94,7 +92,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("page");
-        for (const QString &language : languages())
+        for (const QString &language : languages)
             for (const QString &page : pagesOf(language))
                 QTest::addRow("%s/%s", qPrintable(language), qPrintable(page)) << language << page;
     }
@@ -120,12 +118,12 @@ private Q_SLOTS:
 
     void bothLanguagesHaveTheSamePagesAnchorsAndLinks()
     {
-        QVERIFY(pagesOf(languages().first()).size() >= 12);
-        QCOMPARE(pagesOf(languages().last()), pagesOf(languages().first()));
+        QVERIFY(pagesOf(languages.first()).size() >= 12);
+        QCOMPARE(pagesOf(languages.last()), pagesOf(languages.first()));
         QSet<QString> seen;
-        for (const QString &page : pagesOf(languages().first())) {
-            const QString english = contentOf(languages().first(), page);
-            const QString german = contentOf(languages().last(), page);
+        for (const QString &page : pagesOf(languages.first())) {
+            const QString english = contentOf(languages.first(), page);
+            const QString german = contentOf(languages.last(), page);
             QCOMPARE(anchorsOf(german), anchorsOf(english));
             QCOMPARE(linksOf(german), linksOf(english));
             for (const QString &anchor : anchorsOf(english)) {
@@ -155,18 +153,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("anchor");
         QTest::addColumn<QString>("page");
-        QTest::newRow("a page") << "conditions"
-                                << "conditions.html";
-        QTest::newRow("a heading") << "targets"
-                                   << "conditions.html";
-        QTest::newRow("unknown") << "kraken"
-                                 << "start.html";
-        QTest::newRow("a way out of the book") << "../de/conditions"
-                                               << "start.html";
-        QTest::newRow("a pattern") << ".*"
-                                   << "start.html";
-        QTest::newRow("none") << ""
-                              << "start.html";
+        row("a page", "conditions", "conditions.html");
+        row("a heading", "targets", "conditions.html");
+        row("unknown", "kraken", "start.html");
+        row("a way out of the book", "../de/conditions", "start.html");
+        row("none", "", "start.html");
     }
 
     void opensAtAnAnchor()

@@ -1,3 +1,4 @@
+#include "support/DataRow.h"
 #include "ui/ElidedLabel.h"
 #include "ui/TruncatingDelegate.h"
 
@@ -9,80 +10,73 @@
 #include <QToolTip>
 
 using namespace brinemark;
+using brinemark::test::row;
 
 class TruncatingTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cellShowsItsWholeText_data();
-    void cellShowsItsWholeText();
-    void modelsOwnToolTipWins();
-    void labelShowsItsWholeText();
+    void cellShowsItsWholeText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("toolTip");
+        const QString sentence = "The wrasse was shy and did not come out to feed";
+        row("fits", "krill", QString());
+        row("empty", QString(), QString());
+        row("too long", sentence, sentence);
+        row("several lines", "a\nb", "a\nb");
+        row("looks like markup", "<b>" + sentence + "</b> & co", "<b>" + sentence + "</b> & co");
+        row("fills the screen", QString(50000, 'x'), QString(2000, 'x') + QStringLiteral("\u2026"));
+    }
+
+    void cellShowsItsWholeText()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, toolTip);
+        QTableWidget table(1, 1);
+        table.setItemDelegate(new TruncatingDelegate(&table));
+        table.setItem(0, 0, new QTableWidgetItem(text));
+        table.setColumnWidth(0, 120);
+        table.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&table));
+        QCOMPARE(toolTipAt(table.viewport(), table.visualItemRect(table.item(0, 0)).center()), toolTip);
+    }
+
+    void modelsOwnToolTipWins()
+    {
+        QTableWidget table(1, 1);
+        table.setItemDelegate(new TruncatingDelegate(&table));
+        table.setItem(0, 0, new QTableWidgetItem(QString(200, 'x')));
+        table.item(0, 0)->setToolTip("measured at noon");
+        table.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&table));
+        QCOMPARE(toolTipAt(table.viewport(), table.visualItemRect(table.item(0, 0)).center()),
+                 QString("measured at noon"));
+    }
+
+    void labelShowsItsWholeText()
+    {
+        ElidedLabel label("Reef in the living room");
+        label.resize(60, 20);
+        label.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&label));
+        QCOMPARE(toolTipAt(&label, label.rect().center()), QString("Reef in the living room"));
+        label.resize(600, 20);
+        QCOMPARE(toolTipAt(&label, label.rect().center()), QString());
+    }
 
 private:
-    static QString toolTipAt(QWidget *widget, const QPoint &where);
+    /// The tool tip that resting the pointer brings up, as a person reads it.
+    QString toolTipAt(QWidget *widget, const QPoint &where)
+    {
+        QToolTip::hideText();
+        QTest::qWait(350); // hiding takes Qt its moment
+        QHelpEvent rest(QEvent::ToolTip, where, widget->mapToGlobal(where));
+        QApplication::sendEvent(widget, &rest);
+        return QToolTip::isVisible() ? QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText() : QString();
+    }
 };
-
-/// The tool tip that resting the pointer brings up, as a person reads it.
-QString TruncatingTest::toolTipAt(QWidget *widget, const QPoint &where)
-{
-    QToolTip::hideText();
-    QTest::qWait(350); // hiding takes Qt its moment
-    QHelpEvent rest(QEvent::ToolTip, where, widget->mapToGlobal(where));
-    QApplication::sendEvent(widget, &rest);
-    return QToolTip::isVisible() ? QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText() : QString();
-}
-
-void TruncatingTest::cellShowsItsWholeText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("toolTip");
-    const QString sentence = "The wrasse was shy and did not come out to feed";
-    QTest::newRow("fits") << "krill" << QString();
-    QTest::newRow("empty") << QString() << QString();
-    QTest::newRow("too long") << sentence << sentence;
-    QTest::newRow("several lines") << "a\nb"
-                                   << "a\nb";
-    QTest::newRow("looks like markup") << "<b>" + sentence + "</b> & co"
-                                       << "<b>" + sentence + "</b> & co";
-    QTest::newRow("fills the screen") << QString(50000, 'x') << QString(2000, 'x') + QStringLiteral("\u2026");
-}
-
-void TruncatingTest::cellShowsItsWholeText()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, toolTip);
-    QTableWidget table(1, 1);
-    table.setItemDelegate(new TruncatingDelegate(&table));
-    table.setItem(0, 0, new QTableWidgetItem(text));
-    table.setColumnWidth(0, 120);
-    table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
-    QCOMPARE(toolTipAt(table.viewport(), table.visualItemRect(table.item(0, 0)).center()), toolTip);
-}
-
-void TruncatingTest::modelsOwnToolTipWins()
-{
-    QTableWidget table(1, 1);
-    table.setItemDelegate(new TruncatingDelegate(&table));
-    table.setItem(0, 0, new QTableWidgetItem(QString(200, 'x')));
-    table.item(0, 0)->setToolTip("measured at noon");
-    table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
-    QCOMPARE(toolTipAt(table.viewport(), table.visualItemRect(table.item(0, 0)).center()), QString("measured at noon"));
-}
-
-void TruncatingTest::labelShowsItsWholeText()
-{
-    ElidedLabel label("Reef in the living room");
-    label.resize(60, 20);
-    label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
-    QCOMPARE(toolTipAt(&label, label.rect().center()), QString("Reef in the living room"));
-    label.resize(600, 20);
-    QCOMPARE(toolTipAt(&label, label.rect().center()), QString());
-}
 
 QTEST_MAIN(TruncatingTest)
 #include "tst_truncating.moc"
