@@ -4,24 +4,21 @@
 #include "app/menus/MenuRules.h"
 #include "app/tree/TankListController.h"
 #include "app/tree/TankTreeModel.h"
-#include "base/text/Texts.h"
 #include "model/LivestockData.h"
 #include "support/AlertDriver.h"
-#include "support/TestHome.h"
-#include "ui/Shell.h"
+#include "support/RecordingShell.h"
+#include "support/RunTest.h"
 
 #include <QApplication>
-#include <QMainWindow>
-#include <QMenu>
 #include <QTest>
-#include <QUndoStack>
+#include <QVBoxLayout>
 
 namespace brinemark::test
 {
 
 /// A window that holds the tank tree, its controller and the open document; the views that the program would put on
 /// screen are written down.
-class TreeWindow : public Shell, private DocumentHost
+class TreeWindow : public RecordingShell, private DocumentHost
 {
 public:
     explicit TreeWindow(QString savePath = {})
@@ -31,23 +28,18 @@ public:
         , document(tree.list(), *this)
         , m_savePath(std::move(savePath))
     {
-        Shell::setShared(this);
         tree.setShell(*this);
         tree.openItemEditor = [this](ItemData &item) { edited << item.name; };
         tree.resetDocument = [this] { document.readTankFileWithPath({}); };
         tree.canDelete = [this] { return brinemark::canDelete(currentView(), false); };
         window.setWindowTitle(QStringLiteral("[*]"));
-        window.setCentralWidget(outline);
+        (new QVBoxLayout(&window))->addWidget(outline);
         window.resize(240, 700);
         window.show();
         window.activateWindow();
         outline->setFocus();
     }
-    ~TreeWindow() override
-    {
-        TankListController::destroyShared();
-        Shell::setShared(nullptr);
-    }
+    ~TreeWindow() override { TankListController::destroyShared(); }
 
     [[nodiscard]] bool read(const QString &path) { return document.readTankFileWithPath(path); }
     /// Saves, so that nothing counts as changed.
@@ -81,14 +73,9 @@ public:
     }
 
     // Shell
-    QWidget *mainWindow() override { return &window; }
     TankList &tankList() override { return tree.list(); }
     Tank *currentTank() override { return tree.currentTank(); }
-    QUndoStack &undoManager() override { return undo; }
-    QMenu &dockMenu() override { return dock; }
-    void rebuildDockMenu() override {}
     void documentModifiedWithChange(bool made) override { document.documentModifiedWithChange(made); }
-    void setEnableDeleteButton(bool) override {}
     void deleteItem() override
     {
         if (currentView() == MainView::LivestockItem)
@@ -96,15 +83,11 @@ public:
         else if (brinemark::canDelete(currentView(), false))
             tree.deleteTankEntry();
     }
-    void orderFrontAndCheckModified() override {}
-    void showWarningSheet(const QString &, const QString &) override {}
-    void showPreferences() override {}
     void changeView(MainView view) override
     {
-        shown = view;
+        RecordingShell::changeView(view);
         views << view;
     }
-    MainView currentView() const override { return shown; }
     void updateTree() override { tree.updateDisplay(); }
     void appendTank(const std::shared_ptr<Tank> &tank) override
     {
@@ -112,19 +95,11 @@ public:
         tree.updateDisplay();
         tree.select(TreeItem(*tank));
     }
-    void selectInTree(Tank &tank) override { tree.select(TreeItem(tank)); }
-    void selectInTree(Container &container) override { tree.select(TreeItem(container)); }
-    void selectInTree(Record &livestock) override { tree.select(TreeItem(static_cast<ItemData &>(livestock))); }
-    void editNameInTree() override { tree.editName(); }
 
     TankListController &tree;
-    QMainWindow window;
     TankOutlineView *outline;
     TankTreeModel *model;
     TankDocument document;
-    QUndoStack undo;
-    QMenu dock;
-    MainView shown = MainView::None;
     QList<MainView> views; ///< every view that was asked for, in order
     QStringList edited;    ///< the names of the records that the item editor was asked for
 
@@ -157,16 +132,5 @@ private:
 
     QString m_savePath;
 };
-
-/// Runs a test object with widgets, under a home of its own.
-template <class Test>
-int runWithWidgets(int argc, char **argv)
-{
-    TestHome home;
-    QApplication application(argc, argv);
-    setTextLanguages({QStringLiteral("en")});
-    Test test;
-    return QTest::qExec(&test, argc, argv);
-}
 
 } // namespace brinemark::test

@@ -1,5 +1,6 @@
 #include "app/TwoTanks.h"
 #include "base/plist/XmlReader.h"
+#include "support/DataRow.h"
 
 #include <QDragMoveEvent>
 
@@ -57,16 +58,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("inFirst");
         QTest::addColumn<QString>("inSecond");
         const QString all = "fish two three four";
-        QTest::newRow("below the third") << 0 << "third" << false << "two three fish four"
-                                         << "";
-        QTest::newRow("to the other tank") << 1 << "second" << false << "fish three four"
-                                           << "two";
-        QTest::newRow("copied to the other tank") << 1 << "second" << true << all << "two";
-        QTest::newRow("copied within the tank") << 0 << "third" << true << "fish two fish three four"
-                                                << "";
-        QTest::newRow("on a row") << 0 << "on" << false << all << "";
-        QTest::newRow("into a wrong group") << 0 << "plants" << false << all << "";
-        QTest::newRow("beside the rows") << 0 << "nowhere" << false << all << "";
+        row("below the third", 0, "third", false, "two three fish four", "");
+        row("to the other tank", 1, "second", false, "fish three four", "two");
+        row("copied to the other tank", 1, "second", true, all, "two");
+        row("copied within the tank", 0, "third", true, "fish two fish three four", "");
+        row("on a row", 0, "on", false, all, "");
+        row("into a wrong group", 0, "plants", false, all, "");
+        row("beside the rows", 0, "nowhere", false, all, "");
     }
 
     void dragRecord()
@@ -212,7 +210,7 @@ private Q_SLOTS:
 
 int main(int argc, char **argv)
 {
-    return runWithWidgets<TestTankDrags>(argc, argv);
+    return brinemark::test::run<QApplication, TestTankDrags>(argc, argv);
 }
 
 #include "tst_tank_drags.moc"

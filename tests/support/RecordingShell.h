@@ -13,7 +13,7 @@ namespace brinemark::test
 {
 
 /// A main window that only writes down what the views ask of it. It is the shared shell for as long as it lives.
-class RecordingShell final : public Shell
+class RecordingShell : public Shell
 {
 public:
     RecordingShell()
