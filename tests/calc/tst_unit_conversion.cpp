@@ -2,7 +2,7 @@
 #include "calc/UnitConversion.h"
 #include "calc/views/ConverterController.h"
 #include "support/RecordingShell.h"
-#include "support/TestHome.h"
+#include "support/RunTest.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -92,10 +92,7 @@ private Q_SLOTS:
 
 int main(int argc, char **argv)
 {
-    const test::TestHome home;
-    QApplication app(argc, argv);
-    TestUnitConversion test;
-    return QTest::qExec(&test, argc, argv);
+    return brinemark::test::run<QApplication, TestUnitConversion>(argc, argv);
 }
 
 #include "tst_unit_conversion.moc"

@@ -3,7 +3,7 @@
 #include "chemistry/views/TankDataController.h"
 #include "chemistry/views/TankDataEntryController.h"
 #include "support/RecordingShell.h"
-#include "support/TestHome.h"
+#include "support/RunTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
@@ -226,10 +226,7 @@ private:
 
 int main(int argc, char **argv)
 {
-    const test::TestHome home;
-    QApplication app(argc, argv);
-    TestConditionList test;
-    return QTest::qExec(&test, argc, argv);
+    return brinemark::test::run<QApplication, TestConditionList>(argc, argv);
 }
 
 #include "tst_condition_list.moc"

@@ -4,7 +4,7 @@
 #include "journals/views/ScheduleListController.h"
 #include "support/AlertDriver.h"
 #include "support/RecordingShell.h"
-#include "support/TestHome.h"
+#include "support/RunTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
@@ -82,8 +82,7 @@ private Q_SLOTS:
     {
         m_shell = std::make_unique<test::RecordingShell>();
         m_tank = makeTank();
-        m_shell->tanks.append(m_tank);
-        m_shell->current = m_tank.get();
+        m_shell->appendTank(m_tank);
     }
     void cleanup()
     {
@@ -275,10 +274,7 @@ private:
 
 int main(int argc, char **argv)
 {
-    const test::TestHome home;
-    QApplication app(argc, argv);
-    TestJournalTables test;
-    return QTest::qExec(&test, argc, argv);
+    return brinemark::test::run<QApplication, TestJournalTables>(argc, argv);
 }
 
 #include "tst_journal_tables.moc"

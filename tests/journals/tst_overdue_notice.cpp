@@ -4,7 +4,7 @@
 #include "journals/views/NotificationController.h"
 #include "journals/views/ScheduleListController.h"
 #include "support/RecordingShell.h"
-#include "support/TestHome.h"
+#include "support/RunTest.h"
 #include "ui/Alerts.h"
 
 #include <QApplication>
@@ -24,8 +24,7 @@ private Q_SLOTS:
     {
         m_shell = std::make_unique<test::RecordingShell>();
         m_tank = std::make_shared<Tank>(QStringLiteral("Reef"));
-        m_shell->tanks.append(m_tank);
-        m_shell->current = m_tank.get();
+        m_shell->appendTank(m_tank);
         m_shell->window.show();
         m_beeps = 0;
         setBeepHandler([this] { ++m_beeps; });
@@ -169,10 +168,7 @@ private:
 
 int main(int argc, char **argv)
 {
-    const test::TestHome home;
-    QApplication app(argc, argv);
-    TestOverdueNotice test;
-    return QTest::qExec(&test, argc, argv);
+    return brinemark::test::run<QApplication, TestOverdueNotice>(argc, argv);
 }
 
 #include "tst_overdue_notice.moc"

@@ -4,6 +4,7 @@
 #include "livestock/views/ItemSheet.h"
 #include "livestock/views/LivestockGroupController.h"
 #include "support/RecordingShell.h"
+#include "support/RunTest.h"
 #include "support/TestHome.h"
 #include "ui/Alerts.h"
 
@@ -26,8 +27,7 @@ private Q_SLOTS:
     {
         m_shell = std::make_unique<test::RecordingShell>();
         m_tank = std::make_shared<Tank>(QStringLiteral("Reef"));
-        m_shell->tanks.append(m_tank);
-        m_shell->current = m_tank.get();
+        m_shell->appendTank(m_tank);
         m_shell->window.show();
     }
     void cleanup()
@@ -196,10 +196,7 @@ private:
 
 int main(int argc, char **argv)
 {
-    const test::TestHome home;
-    QApplication app(argc, argv);
-    TestLivestockViews test;
-    return QTest::qExec(&test, argc, argv);
+    return brinemark::test::run<QApplication, TestLivestockViews>(argc, argv);
 }
 
 #include "tst_livestock_views.moc"

@@ -3,7 +3,7 @@
 #include "online/UpdateSchedule.h"
 #include "online/views/QZUpdateController.h"
 #include "support/RecordingShell.h"
-#include "support/TestHome.h"
+#include "support/RunTest.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -97,10 +97,7 @@ private Q_SLOTS:
 
 int main(int argc, char **argv)
 {
-    const test::TestHome home;
-    QApplication app(argc, argv);
-    TestUpdateSchedule test;
-    return QTest::qExec(&test, argc, argv);
+    return brinemark::test::run<QApplication, TestUpdateSchedule>(argc, argv);
 }
 
 #include "tst_update_schedule.moc"
