@@ -4,12 +4,10 @@
 #include "base/plist/XmlWriter.h"
 #include "model/TankFile.h"
 
-#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QSaveFile>
 
 using namespace brinemark;
 
@@ -41,31 +39,6 @@ QByteArray bytesOf(const QString &path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-
-/// A disk that is full after so many bytes.
-class FullDisk : public QSaveFile
-{
-public:
-    FullDisk(const QString &path, qint64 room)
-        : QSaveFile(path)
-        , m_room(room)
-    {
-    }
-
-protected:
-    qint64 writeData(const char *data, qint64 size) override
-    {
-        if (size > m_room) {
-            setErrorString(QStringLiteral("no space left"));
-            return -1;
-        }
-        m_room -= size;
-        return QSaveFile::writeData(data, size);
-    }
-
-private:
-    qint64 m_room;
-};
 
 } // namespace
 
@@ -388,32 +361,6 @@ private Q_SLOTS:
         const Document document(good(QStringLiteral("three-tanks.xml")), callbacks);
         QCOMPARE(document.result.selectedRow, 2);
         QCOMPARE(calls.join(u' '), QStringLiteral("replace 0/3 Alpha 1/3 Beta 2/3 Gamma"));
-    }
-
-    void failedWriteLeavesTheOldFile_data()
-    {
-        QTest::addColumn<qint64>("room");
-        QTest::newRow("at once") << qint64(0);
-        QTest::newRow("half way") << qint64(2000);
-    }
-
-    void failedWriteLeavesTheOldFile()
-    {
-        QFETCH(qint64, room);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("tanks.xml"));
-        QVERIFY(QFile::copy(good(QStringLiteral("three-tanks.xml")), path));
-        const QByteArray before = bytesOf(path);
-        const Document document(path);
-        document.tank(0).name = QStringLiteral("Changed");
-        FullDisk disk(path, room);
-        QVERIFY(!writeFileSafely(disk, plist::writeXml(tankFileDictionary(document.tanks, 0, 1))).ok);
-        QCOMPARE(bytesOf(path), before);
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("tanks.xml")});
-
-        const WriteResult nowhere = writeTankDictionary(folder.filePath(QStringLiteral("no/such/folder.xml")), {});
-        QVERIFY(!nowhere.ok);
-        QVERIFY(!nowhere.error.isEmpty());
     }
 
     void writesAndReadsBack()
