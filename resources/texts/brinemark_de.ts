@@ -1617,7 +1617,7 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
     </message>
     <message>
         <source>SignUpAddress</source>
-        <translation>E-Mail-Adresse:</translation>
+        <translation>E-Mail-Adresse</translation>
     </message>
     <message>
         <source>SignUpJoin</source>

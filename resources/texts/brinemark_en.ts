@@ -1617,7 +1617,7 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
     </message>
     <message>
         <source>SignUpAddress</source>
-        <translation>E-mail address:</translation>
+        <translation>E-mail address</translation>
     </message>
     <message>
         <source>SignUpJoin</source>

@@ -14,10 +14,12 @@
 #include "livestock/views/FishDataController.h"
 #include "livestock/views/FishDataEntryController.h"
 #include "livestock/views/LivestockGroupController.h"
+#include "online/views/EListSignupController.h"
 #include "ui/Alerts.h"
 #include "ui/MainViewController.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QFileInfo>
 #include <QTimer>
 #include <QToolButton>
@@ -75,11 +77,24 @@ void ShoalwatchController::display()
         tank->tankExpanded = true;
         m_tankListController.expandRows(*tank);
         m_tankListController.select(TreeItem(*tank));
-        TankDataEntryController::sharedInstance().displayTank(tank, false, {});
+        editFirstTank(tank);
     }
     QTimer::singleShot(0, this, [] { NotificationController::sharedInstance().showIfNeeded(); });
     ShoalwatchDelegate::sharedInstance().showConverterIfWanted();
     validate();
+}
+
+void ShoalwatchController::editFirstTank(const std::shared_ptr<Tank> &tank)
+{
+    const auto edit = [tank] { TankDataEntryController::sharedInstance().displayTank(tank, false, {}); };
+    // On the first run the sign-up stands before everything else.
+    EListSignupController &signup = EListSignupController::sharedInstance();
+    if (!signup.isVisible()) {
+        edit();
+        return;
+    }
+    connect(signup.window(), &QDialog::finished, this, edit, Qt::SingleShotConnection);
+    signup.bringToFront();
 }
 
 void ShoalwatchController::windowWillClose()

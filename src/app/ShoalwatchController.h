@@ -88,6 +88,7 @@ private:
     void reportSaveError(const QString &path, const QString &reason) override;
 
     void awakeFromNib();
+    void editFirstTank(const std::shared_ptr<Tank> &tank);
     void connectWindow();
     void buildNewMenu();
     void validate();

@@ -81,9 +81,19 @@ void EListSignupController::display()
     m_window->adjustSize();
     centreOnScreen(*m_window);
     m_window->show();
+    bringToFront();
+    m_addressField->setFocus();
+}
+
+void EListSignupController::bringToFront()
+{
     m_window->raise();
     m_window->activateWindow();
-    m_addressField->setFocus();
+}
+
+bool EListSignupController::isVisible() const
+{
+    return m_window->isVisible();
 }
 
 void EListSignupController::join()

@@ -22,6 +22,8 @@ public:
 
     /// Centres the window and shows it, the field filled from the user's e-mail setting.
     void display();
+    void bringToFront();
+    [[nodiscard]] bool isVisible() const;
 
     [[nodiscard]] QDialog *window() const { return m_window.get(); }
 
