@@ -1,6 +1,7 @@
 #include "base/PreferenceKeys.h"
 #include "base/plist/XmlReader.h"
 #include "support/DataRow.h"
+#include "support/Files.h"
 #include "support/TestHome.h"
 
 #include <QDir>
@@ -9,7 +10,9 @@
 #include <QTest>
 
 using namespace brinemark;
+using brinemark::test::bytesOf;
 using brinemark::test::row;
+using brinemark::test::writeFile;
 
 namespace
 {
@@ -25,19 +28,6 @@ QString freshPath(const QString &name = QStringLiteral("Brinemark.plist"))
     const QString folder = home.filePath(QStringLiteral("store%1").arg(++count));
     QDir().mkpath(folder);
     return folder + u'/' + name;
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
 }
 
 QString copyElsewhere(const QString &path)
@@ -197,7 +187,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, bytes);
         const QString path = freshPath();
-        writeBytes(path, bytes);
+        QVERIFY(writeFile(path, bytes));
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(QStringLiteral("^The preferences could not be read: .+")));
         Preferences store(path);
@@ -213,7 +203,7 @@ private Q_SLOTS:
     {
         const QString path = freshPath();
         for (const char *bytes : {"first", "second"}) {
-            writeBytes(path, bytes);
+            QVERIFY(writeFile(path, bytes));
             QTest::ignoreMessage(QtWarningMsg,
                                  QRegularExpression(QStringLiteral("^The preferences could not be read")));
             const Preferences store(path);
@@ -227,7 +217,7 @@ private Q_SLOTS:
     {
         // A file where the folder should be: not even the superuser can write below it.
         const QString blocker = freshPath(QStringLiteral("folder"));
-        writeBytes(blocker, "in the way");
+        QVERIFY(writeFile(blocker, "in the way"));
         const QString path = blocker + QStringLiteral("/Brinemark.plist");
         Preferences store(path);
         store.set(preference::updateFrequency, -1);

@@ -1,5 +1,6 @@
 #include "base/SafeFile.h"
 #include "support/DataRow.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,23 +16,12 @@
 #endif
 
 using namespace brinemark;
+using brinemark::test::bytesOf;
 using brinemark::test::row;
+using brinemark::test::writeFile;
 
 namespace
 {
-
-void put(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 void setModified(const QString &path, const QDateTime &when)
 {
@@ -96,7 +86,7 @@ private Q_SLOTS:
 
     void keepsPermissions()
     {
-        put(path("tanks.xml"), "old");
+        QVERIFY(writeFile(path("tanks.xml"), "old"));
         const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
         QVERIFY(QFile::setPermissions(path("tanks.xml"), permissions));
         const QFile::Permissions before = QFile::permissions(path("tanks.xml"));
@@ -117,7 +107,7 @@ private Q_SLOTS:
 #ifdef Q_OS_UNIX
         QFETCH(QString, link);
         QFETCH(QString, target);
-        put(path("real.xml"), "old");
+        QVERIFY(writeFile(path("real.xml"), "old"));
         QVERIFY(QFile::link("real.xml", path("link.xml")));
         QVERIFY(QFile::link(path("link.xml"), path("outer.xml")));
         QVERIFY(QFile::link("later.xml", path("dangling.xml")));
@@ -125,14 +115,14 @@ private Q_SLOTS:
         QVERIFY2(written.ok, qPrintable(written.error));
         QVERIFY(QFileInfo(path(link)).isSymLink());
         QVERIFY(!QFileInfo(path(target)).isSymLink());
-        QCOMPARE(contentOf(path(target)), QByteArray("new"));
+        QCOMPARE(bytesOf(path(target)), QByteArray("new"));
         QVERIFY(!changedOnDisk(path(link), written.stamp));
 #endif
     }
 
     void failedWriteLeavesTheOldFile()
     {
-        put(path("tanks.xml"), "old and good");
+        QVERIFY(writeFile(path("tanks.xml"), "old and good"));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write .*disk is full")));
         {
             FailingSaveFile file(path("tanks.xml"), 99'999);
@@ -140,7 +130,7 @@ private Q_SLOTS:
             QVERIFY(!written.ok);
             QCOMPARE(written.error, QStringLiteral("The disk is full"));
         }
-        QCOMPARE(contentOf(path("tanks.xml")), QByteArray("old and good"));
+        QCOMPARE(bytesOf(path("tanks.xml")), QByteArray("old and good"));
         QCOMPARE(entries(), QStringList{"tanks.xml"});
     }
 
@@ -148,7 +138,7 @@ private Q_SLOTS:
     void fullDiskLeavesTheOldFile()
     {
 #ifdef Q_OS_UNIX
-        put(path("tanks.xml"), "old and good");
+        QVERIFY(writeFile(path("tanks.xml"), "old and good"));
         rlimit before{};
         QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
         rlimit small = before;
@@ -161,7 +151,7 @@ private Q_SLOTS:
         std::signal(SIGXFSZ, handler);
         QVERIFY(!written.ok);
         QVERIFY(!written.error.isEmpty());
-        QCOMPARE(contentOf(path("tanks.xml")), QByteArray("old and good"));
+        QCOMPARE(bytesOf(path("tanks.xml")), QByteArray("old and good"));
         QCOMPARE(entries(), QStringList{"tanks.xml"});
 #endif
     }
@@ -183,7 +173,7 @@ private Q_SLOTS:
     void cleanErrors()
     {
         QFETCH(QString, target);
-        put(path("file"), "in the way");
+        QVERIFY(writeFile(path("file"), "in the way"));
 #ifdef Q_OS_UNIX
         QCOMPARE(mkfifo(qPrintable(path("pipe")), 0600), 0);
 #endif
@@ -222,7 +212,7 @@ private Q_SLOTS:
         const FileStamp stamp = readFile(file).stamp;
         QVERIFY(stamp.isKnown());
 
-        put(file, content);
+        QVERIFY(writeFile(file, content));
         setModified(file, stamp.modified.addSecs(secondsLater));
         QCOMPARE(changedOnDisk(file, stamp), changed);
         // Of a file never seen before anything may be news.

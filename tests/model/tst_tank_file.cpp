@@ -3,6 +3,7 @@
 #include "base/plist/XmlReader.h"
 #include "base/plist/XmlWriter.h"
 #include "model/TankFile.h"
+#include "support/Files.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -10,6 +11,7 @@
 #include <QProcess>
 
 using namespace brinemark;
+using brinemark::test::bytesOf;
 
 namespace
 {
@@ -33,12 +35,6 @@ struct Document {
     }
     [[nodiscard]] Tank &tank(int index) const { return *tanks.at(index); }
 };
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -420,4 +416,5 @@ int main(int argc, char **argv)
 {
     return brinemark::test::run<QGuiApplication, TankFileTest>(argc, argv);
 }
+#include "support/Files.h"
 #include "tst_tank_file.moc"

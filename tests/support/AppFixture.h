@@ -12,6 +12,7 @@
 #include "model/Tank.h"
 #include "model/TankFile.h"
 #include "support/AlertDriver.h"
+#include "support/Files.h"
 #include "support/TestHome.h"
 #include "ui/Desktop.h"
 
@@ -103,20 +104,6 @@ inline bool answerPanel(const char *name, const QString &path, std::optional<boo
 inline QString testFile(const QString &name)
 {
     return QStringLiteral(BRINEMARK_TEST_DATA "/tanks/") + name;
-}
-
-inline QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Writes a file, and the folders that it needs.
-inline bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
 /// The names of the tanks in a file, read without the program.

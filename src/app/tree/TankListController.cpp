@@ -122,15 +122,12 @@ TreeItem TankListController::currentSelectedItem() const
     return m_model->itemAt(m_outline->currentIndex());
 }
 
-std::vector<std::shared_ptr<Record>> TankListController::currentSelectedArray() const
+std::variant<Container *, TankList *> TankListController::currentSelectedArray()
 {
-    std::vector<std::shared_ptr<Record>> records;
     const TreeItem item = currentSelectedItem();
-    if (item.isRecord()) {
-        for (int i = 0; i < item.container->count(); ++i)
-            records.push_back(item.container->recordAt(i));
-    }
-    return records;
+    if (item.isRecord())
+        return item.container;
+    return &m_list;
 }
 
 void TankListController::select(const TreeItem &item)

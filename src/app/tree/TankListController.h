@@ -7,6 +7,8 @@
 
 #include <QPointer>
 
+#include <variant>
+
 namespace brinemark
 {
 
@@ -33,8 +35,8 @@ public:
     [[nodiscard]] int selectedRow() const; ///< counted over the visible rows, -1 when none is selected
     void selectRow(int row);               ///< a row that is not there selects the first
     [[nodiscard]] TreeItem currentSelectedItem() const;
-    /// The records among which the selected one stands, or nothing when the selected row is no livestock record.
-    [[nodiscard]] std::vector<std::shared_ptr<Record>> currentSelectedArray() const;
+    /// The list in which the selected livestock record stands; for any other row the list of tanks.
+    [[nodiscard]] std::variant<Container *, TankList *> currentSelectedArray();
     void select(const TreeItem &item); ///< opens the rows above it first
 
     void forgetRows();    ///< the tanks are about to go: no row, no selection
