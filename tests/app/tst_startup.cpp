@@ -82,7 +82,8 @@ private Q_SLOTS:
             Program program(Program::NeverRan);
             program.delegate().applicationDidFinishLaunching();
             QCOMPARE(preferencesOnDisk(), update + general + QStringList{"defaultFile str "});
-            QVERIFY(shownWindow<QDialog>("signupWindow"));
+            const auto *signUp = shownWindow<QDialog>("signupWindow");
+            QVERIFY(signUp && signUp->parentWidget() == &program.window()); // it stays above what it blocks
             const QRect screen = program.window().screen()->availableGeometry();
             const QPoint off = program.window().frameGeometry().center() - screen.center();
             QVERIFY(std::abs(off.x()) <= 2 && (std::abs(off.y()) <= 2 || program.window().height() >= screen.height()));

@@ -5,6 +5,7 @@
 #include "ui/Alerts.h"
 #include "ui/Desktop.h"
 #include "ui/Icons.h"
+#include "ui/Shell.h"
 #include "ui/WindowPlacement.h"
 
 #include <QDialog>
@@ -26,7 +27,7 @@ constexpr int textWidth = 380;
 } // namespace
 
 EListSignupController::EListSignupController()
-    : m_window(std::make_unique<QDialog>())
+    : m_window(std::make_unique<QDialog>(Shell::shared().mainWindow())) // stays above the window that it blocks
 {
     m_window->setObjectName(QStringLiteral("signupWindow"));
     m_window->setWindowTitle(text("SignUpTitle"));
