@@ -99,7 +99,7 @@ MenuState ShoalwatchController::menuState()
         state.listHasSelectedRow[view] = m_views->hasSelectedRow(MainView(view));
     state.canUndo = undoManager().canUndo();
     state.canRedo = undoManager().canRedo();
-    state.treeHasFocus = m_tankListController.tankList()->hasFocus();
+    state.treeHasFocus = m_window->menus().commandTarget() == m_tankListController.tankList();
     return state;
 }
 
@@ -174,7 +174,7 @@ void ShoalwatchController::performCommand(Command command)
     case Command::Copy:
     case Command::Paste:
     case Command::SelectAll:
-        performEditCommand(command, m_tankListController);
+        performEditCommand(command, m_window->menus(), m_tankListController);
         break;
     case Command::Delete:
         deleteItem();

@@ -305,6 +305,9 @@ private Q_SLOTS:
         const auto fish = tank->fishListArray().at(0);
         program.tree().select(TreeItem(*fish));
         QCOMPARE(enabled(), "c");
+        menus.setFocus(Qt::MenuBarFocusReason); // as opening a menu by keyboard does
+        QTRY_VERIFY(menus.hasFocus());
+        QCOMPARE(enabled(), "c");
         menus.action(Command::Copy)->trigger();
         QCOMPARE(QGuiApplication::clipboard()->text(), fish->name);
         QCOMPARE(enabled(), "cv");

@@ -3,7 +3,7 @@
 #include "app/menus/MainMenuBar.h"
 #include "app/tree/TankListController.h"
 
-#include <QApplication>
+#include <QWidget>
 
 namespace brinemark
 {
@@ -23,11 +23,6 @@ constexpr EditRow editRows[] = {
     {Command::SelectAll, "selectAll"},
 };
 
-bool treeHasFocus(const TankListController &tree)
-{
-    return tree.tankList() && tree.tankList()->hasFocus();
-}
-
 bool answers(const QWidget *widget, const char *slot)
 {
     return widget && widget->metaObject()->indexOfMethod(QByteArray(slot) + "()") >= 0;
@@ -40,27 +35,27 @@ bool treeCan(Command command, const TankListController &tree)
 
 } // namespace
 
-void performEditCommand(Command command, TankListController &tree)
+void performEditCommand(Command command, const MainMenuBar &menus, TankListController &tree)
 {
-    if (treeHasFocus(tree)) {
+    QWidget *target = menus.commandTarget();
+    if (target == tree.tankList()) {
         if (command == Command::Copy)
             tree.copy();
         else if (command == Command::Paste)
             tree.paste();
         return;
     }
-    QWidget *focus = QApplication::focusWidget();
     for (const EditRow &row : editRows) {
-        if (row.command == command && answers(focus, row.slot))
-            QMetaObject::invokeMethod(focus, row.slot);
+        if (row.command == command && answers(target, row.slot))
+            QMetaObject::invokeMethod(target, row.slot);
     }
 }
 
 void validateEditCommands(MainMenuBar &menus, const TankListController &tree, bool canDelete)
 {
-    const QWidget *focus = QApplication::focusWidget();
+    const QWidget *target = menus.commandTarget();
     for (const EditRow &row : editRows) {
-        const bool enabled = treeHasFocus(tree) ? treeCan(row.command, tree) : answers(focus, row.slot);
+        const bool enabled = target == tree.tankList() ? treeCan(row.command, tree) : answers(target, row.slot);
         menus.action(row.command)->setEnabled(enabled);
     }
     menus.action(Command::Delete)->setEnabled(tree.currentTank() && canDelete);

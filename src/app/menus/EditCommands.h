@@ -8,8 +8,8 @@ namespace brinemark
 class MainMenuBar;
 class TankListController;
 
-/// Cut, copy, paste and select all act on whatever has the focus: a text being edited, or the tank tree.
-void performEditCommand(Command command, TankListController &tree);
+/// Cut, copy, paste and select all act on the menus' target: a text being edited, or the tank tree.
+void performEditCommand(Command command, const MainMenuBar &menus, TankListController &tree);
 
 /// Enables these commands, and delete, for the focus as it is now.
 void validateEditCommands(MainMenuBar &menus, const TankListController &tree, bool canDelete);

@@ -2,6 +2,8 @@
 
 #include "ui/Icons.h"
 
+#include <QApplication>
+
 namespace brinemark
 {
 
@@ -43,6 +45,12 @@ MainMenuBar::MainMenuBar(QWidget *parent)
     : QMenuBar(parent)
 {
     setObjectName(QStringLiteral("mainMenuBar"));
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *old, QWidget *now) {
+        if (now == this)
+            m_focusBefore = old;
+        else if (now)
+            m_focusBefore.clear();
+    });
     for (const MenuTitle &title : mainMenus()) {
         QMenu *menu = addMenu(text(title.title));
         menu->setObjectName(QLatin1String(title.title.key));
@@ -77,6 +85,11 @@ void MainMenuBar::validate()
         if (now.title)
             item.action->setText(text(*now.title));
     }
+}
+
+QWidget *MainMenuBar::commandTarget() const
+{
+    return m_focusBefore ? m_focusBefore.data() : QApplication::focusWidget();
 }
 
 } // namespace brinemark

@@ -3,6 +3,7 @@
 #include "app/menus/MenuTable.h"
 
 #include <QMenuBar>
+#include <QPointer>
 
 #include <functional>
 #include <map>
@@ -26,6 +27,10 @@ public:
 
     void validate();
 
+    /// The control that the commands mean: the one with the focus, or the one that had it until the keyboard moved it
+    /// into the menu bar.
+    [[nodiscard]] QWidget *commandTarget() const;
+
 Q_SIGNALS:
     void menuWillOpen(); ///< its owner validates now, by these rules and by what it knows beyond them
     void commandChosen(brinemark::Command command);
@@ -38,6 +43,7 @@ private:
     std::map<Command, QAction *> m_actions;
     std::vector<Item> m_items;
     std::function<MenuState()> m_state;
+    QPointer<QWidget> m_focusBefore; ///< set while the menu bar itself has the focus
 };
 
 } // namespace brinemark
