@@ -183,10 +183,10 @@ private Q_SLOTS:
         QVERIFY(panel);
         QCOMPARE(QFileInfo(panel->selectedFiles().value(0)).completeBaseName(),
                  QFileInfo(text("FileName")).completeBaseName());
-        QVERIFY(answerPanel("savePanel", program.filePath("mine"))); // the extension is added
-        const QString mine = program.filePath("mine.xml");
+        QVERIFY(answerPanel("savePanel", program.filePath("mine 2.5"))); // the extension is added
+        const QString mine = program.filePath("mine 2.5.xml");
         QCOMPARE(program.path(), mine);
-        QCOMPARE(program.window().windowTitle(), QString("mine.xml[*]"));
+        QCOMPARE(program.window().windowTitle(), QString("mine 2.5.xml[*]"));
         QVERIFY(!program.document().isEdited());
         QCOMPARE(program.document().changeCount(), 0U);
 
@@ -491,6 +491,25 @@ private Q_SLOTS:
         if (!edited)
             program.commands().saveCurrentFile();
         QCOMPARE(script.titles.size(), 1);
+    }
+
+    void changedByAnotherAndChosenAgain()
+    {
+        Program program;
+        const QString path = program.copyOf(testFile("minimal.xml"));
+        program.start(path);
+        QVERIFY(program.renameFirstTank("Edited"));
+        QVERIFY(writeFile(path, "theirs"));
+        AlertScript script{AlertDefault};
+        program.commands().saveAsCurrentFile();
+        auto *panel = awaitWindow<QFileDialog>("savePanel");
+        QVERIFY(panel);
+        panel->setOption(QFileDialog::DontConfirmOverwrite);
+        QVERIFY(!answerPanel("savePanel", path)); // asks once more where
+        QCOMPARE(script.titles, QStringList{text("ChangedOnDiskTitle")});
+        QVERIFY(answerPanel("savePanel", program.filePath("mine.XML")));
+        QCOMPARE(tankNamesIn(program.filePath("mine.XML")), QStringList{"Edited"});
+        QCOMPARE(bytesOf(path), "theirs");
     }
 
     void dropping()

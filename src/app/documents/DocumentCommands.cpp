@@ -170,11 +170,17 @@ void DocumentCommands::savePanelDidEnd(const FilePanelAnswer &answer, Context co
             m_replyToQuit(false);
         return;
     }
-    const TankDocument::WriteOutcome outcome = m_document.writeTankFileWithPath(answer.path);
-    if (outcome == TankDocument::WriteOutcome::Cancelled || outcome == TankDocument::WriteOutcome::SaveElsewhere) {
+    switch (m_document.writeTankFileWithPath(answer.path)) {
+    case TankDocument::WriteOutcome::Cancelled:
         if (context == Context::Quit)
             m_replyToQuit(false);
         return;
+    case TankDocument::WriteOutcome::SaveElsewhere: // than over the open file, which was chosen again
+        saveTankFileWithContext(context);
+        return;
+    case TankDocument::WriteOutcome::Written:
+    case TankDocument::WriteOutcome::Failed: // has been reported
+        break;
     }
     if (m_makeDefault)
         Preferences::shared().set(preference::defaultFile, answer.path);

@@ -8,7 +8,10 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHash>
+#include <QHeaderView>
+#include <QLineEdit>
 #include <QSortFilterProxyModel>
+#include <QTreeView>
 
 namespace brinemark
 {
@@ -37,6 +40,27 @@ private:
     mutable QHash<QString, bool> m_known;
 };
 
+/// Saves under the extension "xml" whatever else the name has dots in: "Reef 2.5" would otherwise keep "5" for its
+/// extension and be no tank file to the next open panel. The panel then asks about the file that is really written.
+class FilePanel : public QFileDialog
+{
+public:
+    using QFileDialog::QFileDialog;
+
+protected:
+    void accept() override
+    {
+        auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        if (acceptMode() == AcceptSave && name) {
+            const QFileInfo typed(directory(), name->text());
+            const bool namesFile = !typed.fileName().isEmpty() && typed.fileName() != u"~" && !typed.isDir();
+            if (namesFile && typed.suffix().compare(u"xml", Qt::CaseInsensitive) != 0)
+                name->setText(name->text() + QStringLiteral(".xml"));
+        }
+        QFileDialog::accept();
+    }
+};
+
 QCheckBox *addAccessoryView(QFileDialog &panel, bool makeDefault)
 {
     auto *check = new QCheckBox(text("MakeDefaultCheck"), &panel);
@@ -50,13 +74,16 @@ QCheckBox *addAccessoryView(QFileDialog &panel, bool makeDefault)
 /// Both panels are the toolkit's own, since only that one can carry the check box.
 QFileDialog *makePanel(QWidget *window, const QString &objectName, QFileDialog::AcceptMode mode)
 {
-    auto *panel = new QFileDialog(window);
+    auto *panel = new FilePanel(window);
     panel->setObjectName(objectName);
     panel->setOption(QFileDialog::DontUseNativeDialog);
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setAcceptMode(mode);
     panel->setNameFilter(text("TankFileFilter"));
-    panel->setDefaultSuffix(QStringLiteral("xml"));
+    if (auto *files = panel->findChild<QTreeView *>(QStringLiteral("treeView"))) {
+        files->header()->setStretchLastSection(true); // the dates are cut off otherwise
+        panel->resize(720, 480);
+    }
     return panel;
 }
 
