@@ -1,0 +1,238 @@
+#include "base/Preferences.h"
+#include "base/Product.h"
+#include "base/text/Texts.h"
+#include "support/AppFixture.h"
+#include "ui/MainView.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QUndoStack>
+
+using namespace brinemark;
+using namespace brinemark::test;
+
+// The real document with files that are broken, old, changed by somebody else, or that cannot be written.
+
+class TestDocumentFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unreadableFileChangesOnlyTheTitle()
+    {
+        Program program;
+        program.start(testFile("three-tanks.xml"));
+        const QStringList names = program.tankNames();
+        const AlertScript script;
+        for (const QString &name : {QStringLiteral("missing.xml"), QStringLiteral("garbage.xml")}) {
+            const QString path = program.filePath(name);
+            if (name == "garbage.xml")
+                QVERIFY(writeFile(path, "no property list"));
+            QVERIFY(!program.document().readTankFileWithPath(path));
+            QCOMPARE(program.path(), path);
+            QCOMPARE(program.window().windowTitle(), name + "[*]");
+            QCOMPARE(program.tankNames(), names);
+            QVERIFY(program.tree().currentTank());
+        }
+        QVERIFY(script.titles.isEmpty());
+        QCOMPARE(program.beeps, 0);
+    }
+
+    void readErrorKeepsTheTanksBefore_data()
+    {
+        QTest::addColumn<int>("view"); // that is on screen while the old tanks go
+        for (int view = 1; view < mainViewCount; ++view)
+            QTest::addRow("view %d", view) << view;
+    }
+
+    void readErrorKeepsTheTanksBefore()
+    {
+        QFETCH(int, view);
+        Program program;
+        program.start(testFile("every-field.xml"));
+        for (int row = 0; int(program.controller().currentView()) != view && row < 100; ++row)
+            program.tree().selectRow(row);
+        QCOMPARE(int(program.controller().currentView()), view);
+        AlertScript script;
+        QVERIFY(!program.document().readTankFileWithPath(BRINEMARK_TEST_DATA "/broken/tank-integer.xml"));
+        QCOMPARE(script.titles, QStringList{text("Error")});
+        QCOMPARE(script.messages, QStringList{text("ReadErrorMessage")});
+        QCOMPARE(program.beeps, 1);
+        QCOMPARE(program.tankNames().size(), 1);
+        // Nothing of the old tanks is on screen or can be edited.
+        QCOMPARE(program.controller().currentView(), MainView::None);
+        QVERIFY(!program.tree().currentTank());
+        QVERIFY(!program.delegate().undoManager().canUndo());
+        program.tree().selectRow(0);
+        QCOMPARE(program.controller().currentView(), MainView::Tank);
+    }
+
+    void olderFile()
+    {
+        Program program;
+        const QString older = program.copyOf(testFile("older-six.xml"));
+        const QString backup = program.filePath(text("ConvertBackup") + " tanks.xml");
+        program.start();
+        const auto open = [&](AlertAnswer answer) {
+            AlertScript script{answer};
+            const bool read = program.document().readTankFileWithPath(older);
+            return read && script.titles == QStringList{text("ConvertTitle")} && program.path() == older &&
+                   !program.document().isEdited();
+        };
+        QVERIFY(open(AlertAlternate));
+        QCOMPARE(program.beeps, 1);
+        QVERIFY(!QFile::exists(backup));
+        program.document().readTankFileWithPath({});
+        program.settle();
+        QVERIFY(open(AlertDefault));
+        QCOMPARE(bytesOf(backup), bytesOf(testFile("older-six.xml")));
+        // The older copy stays when there is one already.
+        QVERIFY(writeFile(backup, "kept"));
+        program.document().readTankFileWithPath({});
+        program.settle();
+        QVERIFY(open(AlertDefault));
+        QCOMPARE(bytesOf(backup), QByteArray("kept"));
+        // Once saved it is of the current form, and nothing is asked.
+        program.commands().saveCurrentFile();
+        program.document().readTankFileWithPath({});
+        program.settle();
+        const AlertScript script;
+        QVERIFY(program.document().readTankFileWithPath(older));
+        QVERIFY(script.titles.isEmpty());
+    }
+
+    void failingWrite()
+    {
+        Program program;
+        const QString path = program.copyOf(testFile("minimal.xml"));
+        const QByteArray before = bytesOf(path);
+        program.start(path);
+        QVERIFY(program.renameFirstTank("Edited"));
+        const QString folder = program.filePath("folder.xml");
+        QVERIFY(QDir().mkpath(folder + "/inside"));
+        AlertScript script;
+        QCOMPARE(program.document().writeTankFileWithPath(folder), TankDocument::WriteOutcome::Failed);
+        QCOMPARE(script.titles, QStringList{text("Error")});
+        QCOMPARE(script.messages, QStringList{text("SaveErrorMessage")});
+        QVERIFY(QFileInfo(folder + "/inside").isDir());
+        QCOMPARE(program.path(), path);
+        QCOMPARE(bytesOf(path), before);
+        QVERIFY(program.document().isEdited() && program.document().changeCount() > 0);
+    }
+
+    void changedByAnother_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("theirFile"); // its tank afterwards
+        QTest::addColumn<bool>("edited");
+        QTest::newRow("overwrite") << int(AlertAlternate) << "Edited" << false;
+        QTest::newRow("elsewhere") << int(AlertDefault) << "Theirs" << false;
+        QTest::newRow("cancel") << int(AlertOther) << "Theirs" << true;
+    }
+
+    void changedByAnother()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, theirFile);
+        QFETCH(bool, edited);
+        Program program;
+        const QString path = program.copyOf(testFile("minimal.xml"));
+        program.start(path);
+        const QString name = program.tankNames().first();
+        QVERIFY(program.renameFirstTank("Edited"));
+        QVERIFY(writeFile(path, bytesOf(path).replace(name.toUtf8(), "Theirs")));
+        AlertScript script{AlertAnswer(answer)};
+        program.commands().saveCurrentFile();
+        QCOMPARE(script.titles, QStringList{text("ChangedOnDiskTitle")});
+        if (answer == AlertDefault) {
+            QVERIFY(answerPanel("savePanel", program.filePath("mine.xml")));
+            QCOMPARE(tankNamesIn(program.filePath("mine.xml")), QStringList{"Edited"});
+        }
+        QCOMPARE(tankNamesIn(path), QStringList{theirFile});
+        QCOMPARE(program.document().isEdited(), edited);
+        // What was just written is known: the next save asks nothing.
+        if (!edited)
+            program.commands().saveCurrentFile();
+        QCOMPARE(script.titles.size(), 1);
+    }
+
+    void changedByAnotherAndChosenAgain()
+    {
+        Program program;
+        const QString path = program.copyOf(testFile("minimal.xml"));
+        program.start(path);
+        QVERIFY(program.renameFirstTank("Edited"));
+        QVERIFY(writeFile(path, "theirs"));
+        AlertScript script{AlertDefault};
+        program.commands().saveAsCurrentFile();
+        auto *panel = awaitWindow<QFileDialog>("savePanel");
+        QVERIFY(panel);
+        panel->setOption(QFileDialog::DontConfirmOverwrite);
+        QVERIFY(!answerPanel("savePanel", path)); // asks once more where
+        QCOMPARE(script.titles, QStringList{text("ChangedOnDiskTitle")});
+        QVERIFY(answerPanel("savePanel", program.filePath("mine.XML")));
+        QCOMPARE(tankNamesIn(program.filePath("mine.XML")), QStringList{"Edited"});
+        QCOMPARE(bytesOf(path), "theirs");
+    }
+
+    void brokenFiles()
+    {
+        const QString folder = QStringLiteral(BRINEMARK_TEST_DATA "/broken/");
+        const QJsonObject all = QJsonDocument::fromJson(bytesOf(folder + "expected.json")).object();
+        QVERIFY(all.size() > 200);
+        Program program;
+        program.start();
+        for (auto it = all.begin(); it != all.end(); ++it) {
+            const QJsonObject expected = it.value().toObject();
+            if (expected.contains(u"generate"))
+                continue; // made, and read, by the tests of the file reader
+            const QByteArray context = it.key().toUtf8();
+            const QString outcome = expected.value(u"outcome").toString();
+            program.document().readTankFileWithPath(testFile("minimal.xml"));
+            QStringList titles;
+            if (expected.value(u"question").toBool())
+                titles << text("ConvertTitle");
+            if (outcome == "read-error")
+                titles << text("Error");
+            const AlertScript script;
+            const bool read = program.document().readTankFileWithPath(folder + it.key());
+            QCoreApplication::processEvents();
+            QVERIFY2(read == (outcome == "reads"), context);
+            QVERIFY2(script.titles == titles, context + ": " + script.titles.join(", ").toUtf8());
+            const QStringList names = program.tankNames();
+            QVERIFY2(expected.value(u"tanks").isString() ? names == tankNamesIn(testFile("minimal.xml"))
+                                                         : names.size() == expected.value(u"tanks").toInt(),
+                     context);
+            program.tree().selectRow(0);
+        }
+    }
+
+    void roundTrip()
+    {
+        const QString python = QStandardPaths::findExecutable("python3");
+        QVERIFY2(!python.isEmpty(), "this test reads the file with python3");
+        Program program;
+        const QString sample = QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml");
+        program.start(sample);
+        program.tree().selectRow(4);
+        QCOMPARE(program.tree().selectedRow(), 4);
+        program.commands().saveAsCurrentFile();
+        const QString saved = program.filePath("saved.xml");
+        QVERIFY(answerPanel("savePanel", saved));
+
+        QProcess process;
+        process.start(python, {QStringLiteral(BRINEMARK_SOURCE_DIR "/tests/model/compare-tank-files"), sample, saved});
+        QVERIFY(process.waitForFinished());
+        const QString version = QString::number(product::packedVersion(product::shortVersion()));
+        QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()).trimmed(),
+                 "/FileAttributes/SelectedRow: 0 became 4\n/FileAttributes/bundleVersion: 16777216 became " + version);
+        QCOMPARE(process.readAllStandardError(), QByteArray());
+    }
+};
+
+int main(int argc, char **argv)
+{
+    return runWithApp<TestDocumentFiles>(argc, argv);
+}
+#include "tst_document_files.moc"
