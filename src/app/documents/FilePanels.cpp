@@ -25,6 +25,9 @@ class TankFileFilter : public QSortFilterProxyModel
 public:
     using QSortFilterProxyModel::QSortFilterProxyModel;
 
+    /// The file system's own order: folders first, sizes and dates by value and not by their texts.
+    void sort(int column, Qt::SortOrder order) override { sourceModel()->sort(column, order); }
+
 protected:
     bool filterAcceptsRow(int row, const QModelIndex &parent) const override
     {
@@ -81,7 +84,8 @@ QFileDialog *makePanel(QWidget *window, const QString &objectName, QFileDialog::
     panel->setAcceptMode(mode);
     panel->setNameFilter(text("TankFileFilter"));
     if (auto *files = panel->findChild<QTreeView *>(QStringLiteral("treeView"))) {
-        files->header()->setStretchLastSection(true); // the dates are cut off otherwise
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents); // types and dates are cut off otherwise
+        files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
         panel->resize(720, 480);
     }
     return panel;
