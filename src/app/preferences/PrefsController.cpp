@@ -69,6 +69,7 @@ PrefsController::PrefsController()
     m_iCalPopup = new QComboBox;
     m_iCalPopup->setObjectName(QStringLiteral("iCalPopup"));
     m_iCalPopup->setMinimumWidth(calendarPopupWidth);
+    m_iCalPopup->setPlaceholderText(text("PrefsNoCalendars"));
 
     const auto caption = [](TextKey key, QWidget *buddy) {
         auto *label = new QLabel(text(key));
