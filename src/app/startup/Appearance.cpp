@@ -23,11 +23,12 @@ void prepareAppearance(bool dark)
 
 QPalette darkPalette()
 {
-    const QColor window(0x2b, 0x2d, 0x30), base(0x1f, 0x21, 0x23), text(0xe6, 0xe6, 0xe6), disabled(0x80, 0x83, 0x86);
+    // The style draws its boxes and fields without a light edge, so they must stand out from the window by themselves.
+    const QColor window(0x38, 0x3a, 0x3e), base(0x19, 0x1b, 0x1d), text(0xe6, 0xe6, 0xe6), disabled(0x90, 0x93, 0x96);
     const QColor accent(0x2f, 0x7f, 0xb5);
     QPalette palette(text, window, window.lighter(140), window.darker(160), window.darker(120), text, base);
-    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2b));
-    palette.setColor(QPalette::Button, QColor(0x37, 0x39, 0x3d));
+    palette.setColor(QPalette::AlternateBase, QColor(0x22, 0x24, 0x27));
+    palette.setColor(QPalette::Button, QColor(0x46, 0x49, 0x4e));
     palette.setColor(QPalette::ButtonText, text);
     palette.setColor(QPalette::BrightText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, QColor(0x37, 0x39, 0x3d));
