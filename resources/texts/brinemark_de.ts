@@ -1240,6 +1240,15 @@ Nitrit hindert das Blut daran, Sauerstoff zu transportieren; handeln Sie deshalb
 Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz (Natriumchlorid ohne Jod und Rieselhilfen) auf 10 Liter, in Aquarienwasser gelöst und über mehrere Stunden zugegeben, vertragen fast alle Fische und Pflanzen. Meerwasser enthält bereits genug. Setzen Sie keine Tiere ein, spülen Sie Filtermaterial nur in Aquarienwasser und testen Sie täglich, bis der Wert null ist.</translation>
     </message>
     <message>
+        <source>NoBrowserMessage</source>
+        <extracomment>^0 is a web address.</extracomment>
+        <translation>Richten Sie auf Ihrem Desktop einen Browser ein, oder besuchen Sie ^0 selbst.</translation>
+    </message>
+    <message>
+        <source>NoBrowserTitle</source>
+        <translation>Es wurde kein Webbrowser gefunden.</translation>
+    </message>
+    <message>
         <source>NoDisplayMessage</source>
         <translation>Brinemark braucht einen Desktop, um sein Fenster zu zeigen, und hat keinen gefunden. Starten Sie es aus einer Desktop-Sitzung oder setzen Sie DISPLAY oder WAYLAND_DISPLAY.</translation>
     </message>
@@ -1254,6 +1263,15 @@ Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz 
     <message>
         <source>NoLabel</source>
         <translation>Nein</translation>
+    </message>
+    <message>
+        <source>NoMailProgramMessage</source>
+        <extracomment>^0 is a mail address.</extracomment>
+        <translation>Richten Sie auf Ihrem Desktop ein E-Mail-Programm ein, oder schreiben Sie selbst an ^0.</translation>
+    </message>
+    <message>
+        <source>NoMailProgramTitle</source>
+        <translation>Es wurde kein E-Mail-Programm gefunden.</translation>
     </message>
     <message>
         <source>NoneSelected</source>

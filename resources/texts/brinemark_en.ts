@@ -1240,6 +1240,15 @@ Nitrite keeps the blood from carrying oxygen, so act today. Change 30 to 50 per 
 In fresh water chloride protects fish from nitrite: about 1 gram of pure salt (sodium chloride without iodine or anti-caking agents) to 10 litres, dissolved in tank water and added over several hours, is borne by nearly all fish and plants. Sea water already holds enough. Add no animals, rinse filter media only in tank water, and test every day until the value is zero.</translation>
     </message>
     <message>
+        <source>NoBrowserMessage</source>
+        <extracomment>^0 is a web address.</extracomment>
+        <translation>Set up a browser on your desktop, or visit ^0 yourself.</translation>
+    </message>
+    <message>
+        <source>NoBrowserTitle</source>
+        <translation>No web browser was found.</translation>
+    </message>
+    <message>
         <source>NoDisplayMessage</source>
         <translation>Brinemark needs a desktop to show its window on, and none was found. Start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY.</translation>
     </message>
@@ -1254,6 +1263,15 @@ In fresh water chloride protects fish from nitrite: about 1 gram of pure salt (s
     <message>
         <source>NoLabel</source>
         <translation>No</translation>
+    </message>
+    <message>
+        <source>NoMailProgramMessage</source>
+        <extracomment>^0 is a mail address.</extracomment>
+        <translation>Set up a mail program on your desktop, or write to ^0 yourself.</translation>
+    </message>
+    <message>
+        <source>NoMailProgramTitle</source>
+        <translation>No mail program was found.</translation>
     </message>
     <message>
         <source>NoneSelected</source>

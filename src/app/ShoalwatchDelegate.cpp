@@ -263,7 +263,7 @@ void ShoalwatchDelegate::productPage()
 
 bool ShoalwatchDelegate::performOpenURL(const QString &url)
 {
-    return desktop::openUrl(QUrl(url));
+    return desktop::openUrlFrom(&m_shoalwatchController->window(), QUrl(url));
 }
 
 } // namespace brinemark

@@ -1,5 +1,8 @@
 #include "ui/Desktop.h"
 
+#include "base/text/Texts.h"
+#include "ui/Alerts.h"
+
 #include <QDesktopServices>
 
 namespace brinemark::desktop
@@ -14,7 +17,10 @@ UrlHandler &installedHandler()
     return handler;
 }
 
-QString percentEncoded(const QString &text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); }
+QString percentEncoded(const QString &text)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(text));
+}
 
 } // namespace
 
@@ -24,7 +30,26 @@ bool openUrl(const QUrl &url)
     return handler ? handler(url) : QDesktopServices::openUrl(url);
 }
 
-void setUrlHandler(UrlHandler handler) { installedHandler() = std::move(handler); }
+bool openUrlFrom(QWidget *window, const QUrl &url)
+{
+    if (openUrl(url))
+        return true;
+    const bool mail = url.scheme() == u"mailto";
+    const QString address = mail ? url.path() : url.toString();
+    beginAlertSheet(window,
+                    {AlertStyle::Critical,
+                     text(mail ? "NoMailProgramTitle"_key : "NoBrowserTitle"_key),
+                     fillPlaceholders(text(mail ? "NoMailProgramMessage"_key : "NoBrowserMessage"_key), {address}),
+                     {},
+                     {},
+                     {}});
+    return false;
+}
+
+void setUrlHandler(UrlHandler handler)
+{
+    installedHandler() = std::move(handler);
+}
 
 QUrl mailUrl(const QString &address, const QString &subject, const QString &body)
 {
@@ -34,6 +59,9 @@ QUrl mailUrl(const QString &address, const QString &subject, const QString &body
     return QUrl(text);
 }
 
-QString userMailAddress() { return qEnvironmentVariable("EMAIL"); }
+QString userMailAddress()
+{
+    return qEnvironmentVariable("EMAIL");
+}
 
 } // namespace brinemark::desktop

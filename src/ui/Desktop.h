@@ -4,6 +4,8 @@
 
 #include <functional>
 
+class QWidget;
+
 /// The way out of the program to the user's browser, mail program and file manager. One seam: tests put a recorder here.
 namespace brinemark::desktop
 {
@@ -12,6 +14,9 @@ using UrlHandler = std::function<bool(const QUrl &)>;
 
 /// Opens a web, mail or file address with the desktop's handler; false when there is none.
 bool openUrl(const QUrl &url);
+
+/// The same for a window, which tells the user in a sheet when there is no handler, with the address to use by hand.
+bool openUrlFrom(QWidget *window, const QUrl &url);
 
 /// Replaces the desktop's handler; an empty function brings it back.
 void setUrlHandler(UrlHandler handler);

@@ -411,12 +411,12 @@ private Q_SLOTS:
             Program program;
             program.start(testFile("minimal.xml"));
             auto *splitter = program.window().findChild<QSplitter *>("splitView");
-            program.window().resize(900, 600);
-            splitter->setSizes({10, 890});
+            program.window().resize(760, 600);
+            splitter->setSizes({10, 750});
             QCOMPARE(program.window().tankListView()->width(), 142);
-            splitter->setSizes({890, 10});
+            splitter->setSizes({750, 10});
             QCOMPARE(program.window().mainView().width(), 320);
-            splitter->setSizes({333, 567});
+            splitter->setSizes({333, 427});
             mainWidth = program.window().mainView().width();
             QVERIFY(program.endsAfter([&] { program.delegate().terminate(); }));
         }

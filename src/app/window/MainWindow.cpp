@@ -12,6 +12,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QMimeData>
+#include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -114,8 +115,10 @@ void MainWindow::restoreWidths()
     if (!mainWidth)
         return;
     const int treeWidth = preferences.value(preference::tankListViewWidth, QString()).toInt();
-    // Both panes are given their widths, so the window takes the width that they had together.
-    resize(treeWidth + m_splitView->handleWidth() + mainWidth->toInt(), height());
+    // Both panes are given their widths, so the window takes the width that they had together, as far as the screen of
+    // today allows.
+    const int together = qBound(0, treeWidth, maximumWidth()) + qBound(0, mainWidth->toInt(), maximumWidth());
+    resize(qMin(together + m_splitView->handleWidth(), screen()->availableGeometry().width()), height());
     m_splitView->setSizes({treeWidth, mainWidth->toInt()});
 }
 

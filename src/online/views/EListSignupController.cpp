@@ -104,8 +104,9 @@ void EListSignupController::join()
         beep();
         return;
     }
-    desktop::openUrl(desktop::mailUrl(QLatin1String(product::listAddress), QString::fromUtf16(mailSubject), address));
-    m_window->accept();
+    const QUrl mail = desktop::mailUrl(QLatin1String(product::listAddress), QString::fromUtf16(mailSubject), address);
+    if (desktop::openUrlFrom(m_window.get(), mail))
+        m_window->accept();
 }
 
 } // namespace brinemark
