@@ -15,7 +15,7 @@ class MainViewController : public QObject
 public:
     using QObject::QObject;
 
-    [[nodiscard]] virtual QWidget *view() = 0;
+    virtual QWidget *view() = 0; ///< made when it is first asked for
 
     /// Called each time the view is shown: takes up the current tank (or the selected item) and links the tab order from the
     /// tree through the view's own controls to the help button and back.

@@ -45,7 +45,7 @@ class RecordListController : public MainViewController, protected ModelObserver
 public:
     ~RecordListController() override;
 
-    [[nodiscard]] QWidget *view() override;
+    QWidget *view() override;
     void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
     [[nodiscard]] bool hasSelectedRow() const override;
     void deleteSelected() override;

@@ -24,7 +24,7 @@ class TankDataController : public MainViewController, public Shared<TankDataCont
 public:
     ~TankDataController() override;
 
-    [[nodiscard]] QWidget *view() override;
+    QWidget *view() override;
     void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
     void updateDisplay() override { display(); }
 

@@ -24,7 +24,7 @@ public:
     void displayItemData(ItemData *item); ///< null for none
     [[nodiscard]] ItemData *currentItem() const { return m_currentItem.lock().get(); }
 
-    [[nodiscard]] QWidget *view() override;
+    QWidget *view() override;
     void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
     void updateDisplay() override;
 

@@ -26,7 +26,7 @@ public:
     /// The group to show from now on; one of the four livestock containers, or null for none.
     void setContainer(Container *container);
 
-    [[nodiscard]] QWidget *view() override;
+    QWidget *view() override;
     void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
     void newEntry() override; ///< a new record of the group's kind
     void updateDisplay() override;
