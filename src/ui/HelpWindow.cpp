@@ -3,6 +3,7 @@
 #include "base/text/Texts.h"
 #include "ui/Colours.h"
 #include "ui/Desktop.h"
+#include "ui/IconButton.h"
 #include "ui/Icons.h"
 
 #include <QAction>
@@ -109,12 +110,8 @@ void HelpWindow::buildButtons()
     bar->setContentsMargins(8, 8, 8, 8);
     bar->setSpacing(4);
     const auto add = [&](const char *name, const char *iconName, const QString &title, const QKeySequence &shortcut) {
-        auto *button = new QToolButton;
-        button->setObjectName(QLatin1String(name));
-        button->setIcon(icon(iconName));
+        QToolButton *button = makeIconButton(iconName, title, QLatin1String(name));
         button->setIconSize(QSize(20, 20));
-        button->setAutoRaise(true);
-        button->setAccessibleName(title);
         button->setToolTip(QStringLiteral("%1 (%2)").arg(title, shortcut.toString(QKeySequence::NativeText)));
         button->setShortcut(shortcut);
         bar->addWidget(button);

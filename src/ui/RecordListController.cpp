@@ -6,6 +6,7 @@
 #include "model/Tank.h"
 #include "ui/Alerts.h"
 #include "ui/EmptyState.h"
+#include "ui/IconButton.h"
 #include "ui/Icons.h"
 #include "ui/RecordTableView.h"
 #include "ui/Shell.h"
@@ -60,8 +61,8 @@ void RecordListController::makeView()
     m_pages = new QStackedWidget;
     m_pages->addWidget(m_table);
     m_pages->addWidget(m_emptyState);
-    m_newButton = makeButton("New", "NewButtonToolTip"_key, QStringLiteral("newButton"));
-    m_deleteButton = makeButton("Remove", "DeleteButtonToolTip"_key, QStringLiteral("deleteButton"));
+    m_newButton = makeIconButton("New", text("NewButtonToolTip"), QStringLiteral("newButton"));
+    m_deleteButton = makeIconButton("Remove", text("DeleteButtonToolTip"), QStringLiteral("deleteButton"));
     m_deleteButton->setEnabled(false);
 
     m_buttonRow = new QHBoxLayout;
@@ -92,19 +93,6 @@ void RecordListController::makeView()
     });
     viewMade();
     showTank(nullptr);
-}
-
-QToolButton *RecordListController::makeButton(const char *iconName, TextKey toolTip, const QString &objectName)
-{
-    auto *button = new QToolButton;
-    button->setObjectName(objectName);
-    button->setIcon(icon(iconName));
-    button->setIconSize({16, 16});
-    button->setAutoRaise(true);
-    button->setToolTip(text(toolTip));
-    button->setAccessibleName(text(toolTip));
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
 }
 
 int RecordListController::ownWidth(const RecordColumn &column) const

@@ -79,7 +79,6 @@ protected:
 
 private:
     void makeView();
-    QToolButton *makeButton(const char *iconName, TextKey toolTip, const QString &objectName);
     void showTank(Tank *tank);
     void showTitle(const Tank *tank);
     void showSortIndicator();

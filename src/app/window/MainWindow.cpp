@@ -7,7 +7,7 @@
 #include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
-#include "ui/Icons.h"
+#include "ui/IconButton.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -54,10 +54,10 @@ MainWindow::MainWindow(TankOutlineView *tankList)
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is hidden by its own command, not by a stray menu
     setAcceptDrops(true);
 
-    m_newButton = makeFootButton("New", text("TreeNewToolTip"), QStringLiteral("newButton"));
+    m_newButton = makeIconButton("New", text("TreeNewToolTip"), QStringLiteral("newButton"));
     m_newButton->setPopupMode(QToolButton::InstantPopup);
-    m_deleteButton = makeFootButton("Remove", text("ToolbarDeleteToolTip"), QStringLiteral("deleteButton"));
-    m_helpButton = makeFootButton("Help", text("HelpButtonToolTip"), QStringLiteral("helpButton"));
+    m_deleteButton = makeIconButton("Remove", text("ToolbarDeleteToolTip"), QStringLiteral("deleteButton"));
+    m_helpButton = makeIconButton("Help", text("HelpButtonToolTip"), QStringLiteral("helpButton"));
     auto *foot = new QHBoxLayout;
     foot->setContentsMargins(4, 4, 4, 4);
     foot->setSpacing(4);
@@ -86,19 +86,6 @@ MainWindow::MainWindow(TankOutlineView *tankList)
 
     resize(openingSize);
     m_splitView->setSizes({openingTreeWidth, openingSize.width() - openingTreeWidth});
-}
-
-QToolButton *MainWindow::makeFootButton(const char *iconName, const QString &toolTip, const QString &objectName)
-{
-    auto *button = new QToolButton;
-    button->setObjectName(objectName);
-    button->setIcon(icon(iconName));
-    button->setIconSize({16, 16});
-    button->setAutoRaise(true);
-    button->setToolTip(toolTip);
-    button->setAccessibleName(toolTip);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
 }
 
 void MainWindow::storeWidths() const

@@ -50,8 +50,6 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    QToolButton *makeFootButton(const char *iconName, const QString &toolTip, const QString &objectName);
-
     MainMenuBar *m_menus;
     MainToolBar *m_toolbar;
     QSplitter *m_splitView;

@@ -3,7 +3,7 @@
 #include "chemistry/ConditionColumns.h"
 #include "chemistry/views/ConditionColumnWindow.h"
 #include "model/Tank.h"
-#include "ui/Icons.h"
+#include "ui/IconButton.h"
 #include "ui/Shell.h"
 
 #include <QHBoxLayout>
@@ -57,14 +57,8 @@ void ConditionListController::viewMade()
     connect(table()->horizontalHeader(), &QHeaderView::sectionMoved, this, changedByUser);
     connect(table()->horizontalHeader(), &QHeaderView::sectionResized, this, changedByUser);
 
-    auto *columnsButton = new QToolButton;
-    columnsButton->setObjectName(QStringLiteral("columnsButton"));
-    columnsButton->setIcon(icon("Ellipse"));
-    columnsButton->setIconSize({16, 16});
-    columnsButton->setAutoRaise(true);
-    columnsButton->setToolTip(text("Customize condition columns"));
-    columnsButton->setAccessibleName(columnsButton->toolTip());
-    columnsButton->setFocusPolicy(Qt::TabFocus);
+    QToolButton *columnsButton =
+        makeIconButton("Ellipse", text("Customize condition columns"), QStringLiteral("columnsButton"));
     buttonRow()->addWidget(columnsButton);
     connect(columnsButton, &QToolButton::clicked, this, &ConditionListController::showCustomizeConditionColumns);
 }

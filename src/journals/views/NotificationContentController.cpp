@@ -7,7 +7,7 @@
 #include "model/Tank.h"
 #include "ui/Colours.h"
 #include "ui/ElidedLabel.h"
-#include "ui/Icons.h"
+#include "ui/IconButton.h"
 #include "ui/Shell.h"
 
 #include <QAction>
@@ -52,13 +52,7 @@ QWidget *NotificationContentController::contentView()
     QPalette quiet = where->palette();
     quiet.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, quiet));
     where->setPalette(quiet);
-    m_linkButton = new QToolButton;
-    m_linkButton->setObjectName(QStringLiteral("linkButton"));
-    m_linkButton->setIcon(icon("ScheduleSmall"));
-    m_linkButton->setIconSize({16, 16});
-    m_linkButton->setAutoRaise(true);
-    m_linkButton->setToolTip(text("NotificationGoTo"));
-    m_linkButton->setAccessibleName(m_linkButton->toolTip());
+    m_linkButton = makeIconButton("ScheduleSmall", text("NotificationGoTo"), QStringLiteral("linkButton"));
 
     auto *words = new QVBoxLayout;
     words->setSpacing(0);
