@@ -17,6 +17,7 @@
 #include "online/views/EListSignupController.h"
 #include "ui/Alerts.h"
 #include "ui/MainViewController.h"
+#include "ui/WindowPlacement.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -67,9 +68,7 @@ void ShoalwatchController::awakeFromNib()
 
 void ShoalwatchController::display()
 {
-    m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
+    showInFront(*m_window);
     if (m_tankListController.list().isEmpty()) {
         const auto tank = std::make_shared<Tank>(text("NewTankName"));
         m_tankListController.list().append(tank);

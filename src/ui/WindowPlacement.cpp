@@ -14,4 +14,11 @@ void centreOnScreen(QWidget &window)
     window.move(frame.topLeft());
 }
 
+void showInFront(QWidget &window)
+{
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 } // namespace brinemark

@@ -8,4 +8,7 @@ namespace brinemark
 /// Moves a window to the middle of the available area of the screen that it is on.
 void centreOnScreen(QWidget &window);
 
+/// Shows a window above the others and makes it the active one.
+void showInFront(QWidget &window);
+
 } // namespace brinemark

@@ -105,9 +105,7 @@ void PrefsController::display()
     readCalendars();
     m_prefWindow->adjustSize();
     centreOnScreen(*m_prefWindow);
-    m_prefWindow->show();
-    m_prefWindow->raise();
-    m_prefWindow->activateWindow();
+    showInFront(*m_prefWindow);
 }
 
 void PrefsController::showDefaultFile(const QString &path)

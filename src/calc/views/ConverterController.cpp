@@ -21,7 +21,7 @@ ConverterPanel &ConverterController::panel()
         m_panel = new ConverterPanel(Shell::shared().mainWindow());
         m_panel->adjustSize();
         centreOnScreen(*m_panel);
-        connect(m_panel, &ConverterPanel::closedByUser, this, &ConverterController::windowWillClose);
+        connect(m_panel, &ToolPanel::closedByUser, this, &ConverterController::windowWillClose);
     }
     return *m_panel;
 }
@@ -35,9 +35,7 @@ void ConverterController::toggleConverter()
 {
     const bool show = !isVisible();
     if (show) {
-        panel().show();
-        panel().raise();
-        panel().activateWindow();
+        showInFront(panel());
     } else {
         m_panel->hide();
     }

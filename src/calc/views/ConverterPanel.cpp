@@ -4,7 +4,6 @@
 #include "calc/UnitConversion.h"
 #include "ui/CaptionForm.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -28,7 +27,7 @@ float typedNumber(const QString &typed)
 } // namespace
 
 ConverterPanel::ConverterPanel(QWidget *parent)
-    : QDialog(parent, Qt::Tool)
+    : ToolPanel(parent)
     , m_typePopup(new QComboBox)
     , m_convertPopup(new QComboBox)
     , m_convertValueField(new QLineEdit)
@@ -83,17 +82,6 @@ void ConverterPanel::convertTypesAction()
     QLocale locale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     m_convertResultField->setText(locale.toString(double(result), 'g', 6));
-}
-
-void ConverterPanel::closeEvent(QCloseEvent *event)
-{
-    event->accept();
-    Q_EMIT closedByUser();
-}
-
-void ConverterPanel::reject()
-{
-    close();
 }
 
 } // namespace brinemark

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/ToolPanel.h"
 
 class QComboBox;
 class QLineEdit;
@@ -10,19 +10,12 @@ namespace brinemark
 
 /// The floating panel with the unit converter. Object names: "convertWindow", "typePopup", "convertPopup",
 /// "convertValueField", "convertResultField".
-class ConverterPanel : public QDialog
+class ConverterPanel : public ToolPanel
 {
     Q_OBJECT
 
 public:
     explicit ConverterPanel(QWidget *parent);
-
-Q_SIGNALS:
-    void closedByUser();
-
-protected:
-    void closeEvent(QCloseEvent *event) override;
-    void reject() override; ///< Escape closes like the title bar's button
 
 private:
     void typePopupAction();

@@ -20,7 +20,7 @@ QString checkName(const ConditionColumnTraits &column)
 } // namespace
 
 ConditionColumnWindow::ConditionColumnWindow(QWidget *parent)
-    : QDialog(parent, Qt::Tool)
+    : ToolPanel(parent)
     , m_label(new QLabel)
     , m_checks(new QWidget)
 {

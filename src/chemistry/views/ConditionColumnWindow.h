@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/ToolPanel.h"
 
 #include <functional>
 
@@ -11,7 +11,7 @@ namespace brinemark
 
 /// The small window ("customColumnWindow") that shows and hides columns of the water tests: a check box for each
 /// ("column.ph" ...), applied at once.
-class ConditionColumnWindow : public QDialog
+class ConditionColumnWindow : public ToolPanel
 {
     Q_OBJECT
 

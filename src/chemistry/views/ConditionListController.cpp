@@ -5,6 +5,7 @@
 #include "model/Tank.h"
 #include "ui/IconButton.h"
 #include "ui/Shell.h"
+#include "ui/WindowPlacement.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -162,9 +163,7 @@ void ConditionListController::showCustomizeConditionColumns()
                 &ConditionListController::toogleConditionColumn);
     }
     showColumnChecks();
-    m_columnWindow->show();
-    m_columnWindow->raise();
-    m_columnWindow->activateWindow();
+    showInFront(*m_columnWindow);
 }
 
 void ConditionListController::showColumnChecks()

@@ -59,7 +59,7 @@ NotificationPanel &NotificationController::panel()
     if (!m_notePanel) {
         m_notePanel = new NotificationPanel(Shell::shared().mainWindow());
         m_notePanel->move(m_topLeft.value_or(firstPlace));
-        connect(m_notePanel, &NotificationPanel::closing, this, &NotificationController::windowWillClose);
+        connect(m_notePanel, &ToolPanel::closedByUser, this, &NotificationController::windowWillClose);
         for (const auto &row : m_contentArray)
             m_notePanel->addRow(row->contentView());
     }

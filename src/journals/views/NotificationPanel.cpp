@@ -2,7 +2,6 @@
 
 #include "base/text/Texts.h"
 
-#include <QCloseEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -19,7 +18,7 @@ constexpr int scrollingStep = 20; ///< pixels
 } // namespace
 
 NotificationPanel::NotificationPanel(QWidget *parent)
-    : QDialog(parent, Qt::Tool)
+    : ToolPanel(parent)
     , m_scrollView(new QScrollArea)
 {
     setObjectName(QStringLiteral("notePanel"));
@@ -51,17 +50,6 @@ void NotificationPanel::fitHeight(int wanted)
 {
     setMaximumHeight(m_rows->sizeHint().height());
     resize(width(), std::min(wanted, maximumHeight()));
-}
-
-void NotificationPanel::closeEvent(QCloseEvent *event)
-{
-    event->accept();
-    Q_EMIT closing();
-}
-
-void NotificationPanel::reject()
-{
-    close();
 }
 
 } // namespace brinemark

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/ToolPanel.h"
 
 class QScrollArea;
 class QVBoxLayout;
@@ -9,7 +9,7 @@ namespace brinemark
 {
 
 /// The window of the overdue notice: rows one below the other, never taller than they need.
-class NotificationPanel : public QDialog
+class NotificationPanel : public ToolPanel
 {
     Q_OBJECT
 
@@ -18,13 +18,6 @@ public:
 
     void addRow(QWidget *row);  ///< a row that is there already stays where it is
     void fitHeight(int wanted); ///< takes the height, as far as there are rows for it
-
-Q_SIGNALS:
-    void closing();
-
-protected:
-    void closeEvent(QCloseEvent *event) override;
-    void reject() override; ///< Escape closes like the title bar's button
 
 private:
     QScrollArea *m_scrollView;

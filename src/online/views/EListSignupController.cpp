@@ -81,8 +81,7 @@ void EListSignupController::display()
     m_addressField->setText(desktop::userMailAddress());
     m_window->adjustSize();
     centreOnScreen(*m_window);
-    m_window->show();
-    bringToFront();
+    showInFront(*m_window);
     m_addressField->setFocus();
 }
 

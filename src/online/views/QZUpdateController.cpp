@@ -121,9 +121,7 @@ void QZUpdateController::showScheduleWindow()
     m_autoUpdateCheck->setChecked(preferences.value(preference::updateAuto, false));
     m_checkPopupButton->setCurrentIndex(updateFrequencyIndex(preferences.value(preference::updateFrequency, 0)));
     m_lastCheckField->setText(lastCheckText());
-    m_scheduleWindow->show();
-    m_scheduleWindow->raise();
-    m_scheduleWindow->activateWindow();
+    showInFront(*m_scheduleWindow);
 }
 
 } // namespace brinemark
