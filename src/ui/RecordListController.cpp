@@ -2,7 +2,6 @@
 
 #include "base/text/DateText.h"
 #include "base/text/Texts.h"
-#include "model/ModelContext.h"
 #include "model/Tank.h"
 #include "ui/Alerts.h"
 #include "ui/EmptyState.h"
@@ -272,10 +271,8 @@ void RecordListController::deleteRecords(const std::vector<std::shared_ptr<Recor
     Container *list = m_model->container();
     if (!list || records.empty())
         return;
-    if (m_traits.kind == ContainerKind::Schedule) {
-        for (const auto &record : records)
-            ModelContext::sharedInstance().postScheduleDataDeleted(static_cast<ScheduleData &>(*record));
-    }
+    for (const auto &record : records)
+        willDeleteRecord(*record);
     m_model->remove(records);
     m_table->clearSelection();
     if (m_traits.deletingCountsAChange)

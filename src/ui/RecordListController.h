@@ -24,7 +24,7 @@ template <class R>
     return std::make_shared<R>(&tank);
 }
 
-/// What the journal tables differ in apart from their columns.
+/// What the journal tables differ in.
 struct RecordListTraits {
     ContainerKind kind;
     TextKey itemKey;                                   ///< what the delete question calls the list
@@ -32,6 +32,7 @@ struct RecordListTraits {
     const char *emptyPicture;                          ///< an icon's name
     std::shared_ptr<Record> (*makeRecord)(Tank &tank); ///< a new record with its default values
     bool deletingCountsAChange = true;
+    std::span<const RecordColumn> columns = {}; ///< empty where they depend on the tank (see `columnsFor`)
 };
 
 /// The view of one journal of the current tank: title, table, buttons. Shows, sorts, adds and deletes records.
@@ -64,10 +65,11 @@ public:
 protected:
     explicit RecordListController(const RecordListTraits &traits);
 
-    /// The columns for a tank (null for none), in their order.
-    [[nodiscard]] virtual std::span<const RecordColumn> columnsFor(Tank *tank) = 0;
-    virtual void viewMade() {}        ///< the table and the row of buttons can be added to
-    virtual void tankShown(Tank *) {} ///< columns and rows are those of the tank
+    /// The columns for a tank (null for none), in their order: those of the traits.
+    [[nodiscard]] virtual std::span<const RecordColumn> columnsFor(Tank *) { return m_traits.columns; }
+    virtual void viewMade() {}                 ///< the table and the row of buttons can be added to
+    virtual void tankShown(Tank *) {}          ///< columns and rows are those of the tank
+    virtual void willDeleteRecord(Record &) {} ///< the deletion is decided; the record is still in its list
 
     [[nodiscard]] RecordTableModel &model() const { return *m_model; }
     [[nodiscard]] QHBoxLayout *buttonRow() const { return m_buttonRow; }

@@ -24,7 +24,13 @@ constexpr std::array<RecordColumn, 4> columns{{
 }};
 
 constexpr RecordListTraits traits{
-    ContainerKind::Expense, "ExpenseItem"_key, "EmptyExpense"_key, "ExpensesSmall", &makeNewRecord<ExpenseData>, true,
+    ContainerKind::Expense,
+    "ExpenseItem"_key,
+    "EmptyExpense"_key,
+    "ExpensesSmall",
+    &makeNewRecord<ExpenseData>,
+    true,
+    columns,
 };
 
 } // namespace
@@ -32,11 +38,6 @@ constexpr RecordListTraits traits{
 ExpenseListController::ExpenseListController()
     : RecordListController(traits)
 {
-}
-
-std::span<const RecordColumn> ExpenseListController::columnsFor(Tank *)
-{
-    return columns;
 }
 
 } // namespace brinemark

@@ -11,9 +11,6 @@ class ExpenseListController : public RecordListController, public Shared<Expense
 {
     Q_OBJECT
 
-protected:
-    [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
-
 private:
     friend class Shared<ExpenseListController>;
     ExpenseListController();

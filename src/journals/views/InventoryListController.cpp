@@ -14,8 +14,13 @@ constexpr std::array<RecordColumn, 2> columns{{
 }};
 
 constexpr RecordListTraits traits{
-    ContainerKind::Inventory, "InventoryItem"_key,           "EmptyInventory"_key,
-    "InventorySmall",         &makeNewRecord<InventoryData>, false,
+    ContainerKind::Inventory,
+    "InventoryItem"_key,
+    "EmptyInventory"_key,
+    "InventorySmall",
+    &makeNewRecord<InventoryData>,
+    false,
+    columns,
 };
 
 } // namespace
@@ -23,11 +28,6 @@ constexpr RecordListTraits traits{
 InventoryListController::InventoryListController()
     : RecordListController(traits)
 {
-}
-
-std::span<const RecordColumn> InventoryListController::columnsFor(Tank *)
-{
-    return columns;
 }
 
 } // namespace brinemark

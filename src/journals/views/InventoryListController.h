@@ -11,9 +11,6 @@ class InventoryListController : public RecordListController, public Shared<Inven
 {
     Q_OBJECT
 
-protected:
-    [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
-
 private:
     friend class Shared<InventoryListController>;
     InventoryListController();

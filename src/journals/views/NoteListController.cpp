@@ -14,7 +14,7 @@ constexpr std::array<RecordColumn, 2> columns{{
 }};
 
 constexpr RecordListTraits traits{
-    ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, "NotesSmall", &makeNewRecord<NoteData>, false,
+    ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, "NotesSmall", &makeNewRecord<NoteData>, false, columns,
 };
 
 } // namespace
@@ -22,11 +22,6 @@ constexpr RecordListTraits traits{
 NoteListController::NoteListController()
     : RecordListController(traits)
 {
-}
-
-std::span<const RecordColumn> NoteListController::columnsFor(Tank *)
-{
-    return columns;
 }
 
 } // namespace brinemark

@@ -11,9 +11,6 @@ class NoteListController : public RecordListController, public Shared<NoteListCo
 {
     Q_OBJECT
 
-protected:
-    [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
-
 private:
     friend class Shared<NoteListController>;
     NoteListController();

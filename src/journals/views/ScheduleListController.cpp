@@ -1,6 +1,7 @@
 #include "journals/views/ScheduleListController.h"
 
 #include "base/text/DateText.h"
+#include "model/ModelContext.h"
 #include "model/Tank.h"
 
 namespace brinemark
@@ -25,8 +26,13 @@ constexpr std::array<RecordColumn, 5> columns{{
 }};
 
 constexpr RecordListTraits traits{
-    ContainerKind::Schedule, "ScheduleItem"_key,           "EmptySchedule"_key,
-    "ScheduleSmall",         &makeNewRecord<ScheduleData>, true,
+    ContainerKind::Schedule,
+    "ScheduleItem"_key,
+    "EmptySchedule"_key,
+    "ScheduleSmall",
+    &makeNewRecord<ScheduleData>,
+    true,
+    columns,
 };
 
 } // namespace
@@ -36,9 +42,9 @@ ScheduleListController::ScheduleListController()
 {
 }
 
-std::span<const RecordColumn> ScheduleListController::columnsFor(Tank *)
+void ScheduleListController::willDeleteRecord(Record &record)
 {
-    return columns;
+    ModelContext::sharedInstance().postScheduleDataDeleted(static_cast<ScheduleData &>(record));
 }
 
 void ScheduleListController::doneChecked(ScheduleData &)

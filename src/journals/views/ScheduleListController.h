@@ -12,7 +12,7 @@ class ScheduleListController : public RecordListController, public Shared<Schedu
     Q_OBJECT
 
 protected:
-    [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
+    void willDeleteRecord(Record &record) override;  ///< who shows the activity elsewhere hears of it
     void doneChecked(ScheduleData &record) override; ///< wherever it was done
 
 private:
