@@ -16,14 +16,15 @@ struct LivestockGroupTraits {
     TextKey emptyKey;       ///< what an empty group says
     TextKey addKey;         ///< title of the button that adds one
     TextKey defaultNameKey; ///< name of a new record
+    TextKey deleteKey;      ///< the question before one is deleted, with a place for its name
 };
 
 // clang-format off
 inline constexpr std::array<LivestockGroupTraits, 4> livestockGroupTable{{
-    {ContainerKind::Fish,   "FishBig",       "EmptyFish"_key,   "ToolbarNewFish"_key,   "NewFishName"_key},
-    {ContainerKind::Plant,  "Plant",         "EmptyPlant"_key,  "ToolbarNewPlant"_key,  "NewPlantName"_key},
-    {ContainerKind::Invert, "Invertebrates", "EmptyInvert"_key, "ToolbarNewInvert"_key, "NewInvertName"_key},
-    {ContainerKind::Coral,  "Coral",         "EmptyCoral"_key,  "ToolbarNewCoral"_key,  "NewCoralName"_key},
+    {ContainerKind::Fish,   "FishBig",       "EmptyFish"_key,   "ToolbarNewFish"_key,   "NewFishName"_key,   "DeleteFishWarning"_key},
+    {ContainerKind::Plant,  "Plant",         "EmptyPlant"_key,  "ToolbarNewPlant"_key,  "NewPlantName"_key,  "DeletePlantWarning"_key},
+    {ContainerKind::Invert, "Invertebrates", "EmptyInvert"_key, "ToolbarNewInvert"_key, "NewInvertName"_key, "DeleteInvertWarning"_key},
+    {ContainerKind::Coral,  "Coral",         "EmptyCoral"_key,  "ToolbarNewCoral"_key,  "NewCoralName"_key,  "DeleteCoralWarning"_key},
 }};
 // clang-format on
 

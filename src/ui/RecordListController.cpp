@@ -4,6 +4,7 @@
 #include "base/text/Texts.h"
 #include "model/Tank.h"
 #include "ui/Alerts.h"
+#include "ui/ContainerRooms.h"
 #include "ui/EmptyState.h"
 #include "ui/IconButton.h"
 #include "ui/Icons.h"
@@ -56,7 +57,7 @@ void RecordListController::makeView()
     m_table->setObjectName(listName + QStringLiteral("List"));
     m_table->setModel(m_model);
     m_table->setItemDelegate(new TruncatingDelegate(m_table));
-    m_emptyState = new EmptyState(icon(m_traits.emptyPicture), text(m_traits.emptySentenceKey), text("NewTitle"));
+    m_emptyState = new EmptyState(icon(roomOf(m_traits.kind).icon), text(m_traits.emptySentenceKey), text("NewTitle"));
     m_pages = new QStackedWidget;
     m_pages->addWidget(m_table);
     m_pages->addWidget(m_emptyState);

@@ -29,7 +29,6 @@ struct RecordListTraits {
     ContainerKind kind;
     TextKey itemKey;                                   ///< what the delete question calls the list
     TextKey emptySentenceKey;                          ///< what an empty list says
-    const char *emptyPicture;                          ///< an icon's name
     std::shared_ptr<Record> (*makeRecord)(Tank &tank); ///< a new record with its default values
     bool deletingCountsAChange = true;
     std::span<const RecordColumn> columns = {}; ///< empty where they depend on the tank (see `columnsFor`)

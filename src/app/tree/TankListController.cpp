@@ -2,8 +2,10 @@
 
 #include "app/tree/TankTreeModel.h"
 #include "base/text/Texts.h"
+#include "livestock/LivestockGroup.h"
 #include "model/ModelContext.h"
 #include "ui/Alerts.h"
+#include "ui/ContainerRooms.h"
 #include "ui/FieldEdit.h"
 #include "ui/Shell.h"
 
@@ -24,20 +26,7 @@ MainView viewOf(const TreeItem &item)
         return MainView::Tank;
     if (item.isRecord())
         return MainView::LivestockItem;
-    switch (item.container->kind()) {
-    case ContainerKind::Schedule:
-        return MainView::Schedule;
-    case ContainerKind::Note:
-        return MainView::Notes;
-    case ContainerKind::Condition:
-        return MainView::Conditions;
-    case ContainerKind::Inventory:
-        return MainView::Inventory;
-    case ContainerKind::Expense:
-        return MainView::Expenses;
-    default:
-        return MainView::LivestockGroup;
-    }
+    return roomOf(item.container->kind()).view;
 }
 
 } // namespace
@@ -305,14 +294,8 @@ void TankListController::deleteItemDataEntry()
     const TreeItem item = currentSelectedItem();
     if (!item.isRecord())
         return;
-    TextKey warning = "DeleteFishWarning"_key;
-    if (item.container->kind() == ContainerKind::Plant)
-        warning = "DeletePlantWarning"_key;
-    else if (item.container->kind() == ContainerKind::Invert)
-        warning = "DeleteInvertWarning"_key;
-    else if (item.container->kind() == ContainerKind::Coral)
-        warning = "DeleteCoralWarning"_key;
-    const Alert alert{AlertStyle::Critical,      formatText(text(warning), {item.name()}),
+    const LivestockGroupTraits &traits = *livestockGroupTraits(item.container->kind());
+    const Alert alert{AlertStyle::Critical,      formatText(text(traits.deleteKey), {item.name()}),
                       text("CannotUndoMessage"), {},
                       text("CancelLabel"),       {}};
     const auto record = std::static_pointer_cast<ItemData>(item.record->shared_from_this());

@@ -1,31 +1,9 @@
 #include "app/tree/TreeItem.h"
 
-#include <array>
+#include "ui/ContainerRooms.h"
 
 namespace brinemark
 {
-
-namespace
-{
-
-struct RowIcons {
-    ContainerKind kind;
-    const char *icon;
-};
-
-constexpr std::array<RowIcons, containerCount> rowIcons{{
-    {ContainerKind::Fish, "FishSmall"},
-    {ContainerKind::Plant, "PlantSmall"},
-    {ContainerKind::Invert, "InvertebratesSmall"},
-    {ContainerKind::Coral, "CoralSmall"},
-    {ContainerKind::Condition, "ConditionsSmall"},
-    {ContainerKind::Schedule, "ScheduleSmall"},
-    {ContainerKind::Inventory, "InventorySmall"},
-    {ContainerKind::Expense, "ExpensesSmall"},
-    {ContainerKind::Note, "NotesSmall"},
-}};
-
-} // namespace
 
 TreeItem::TreeItem(ItemData &item)
 {
@@ -55,7 +33,7 @@ QString TreeItem::name() const
 
 const char *TreeItem::iconName() const
 {
-    return container ? rowIcons[std::size_t(container->kind())].icon : "TankSmall";
+    return container ? roomOf(container->kind()).icon : "TankSmall";
 }
 
 } // namespace brinemark

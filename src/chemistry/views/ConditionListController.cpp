@@ -22,8 +22,10 @@ namespace
 {
 
 constexpr RecordListTraits traits{
-    ContainerKind::Condition, "ConditionItem"_key,           "EmptyCondition"_key,
-    "ConditionsSmall",        &makeNewRecord<ConditionData>,
+    ContainerKind::Condition,
+    "ConditionItem"_key,
+    "EmptyCondition"_key,
+    &makeNewRecord<ConditionData>,
 };
 
 constexpr int largestWidth = 1000; ///< pixels of a column

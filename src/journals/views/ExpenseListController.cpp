@@ -24,13 +24,7 @@ constexpr std::array<RecordColumn, 4> columns{{
 }};
 
 constexpr RecordListTraits traits{
-    ContainerKind::Expense,
-    "ExpenseItem"_key,
-    "EmptyExpense"_key,
-    "ExpensesSmall",
-    &makeNewRecord<ExpenseData>,
-    true,
-    columns,
+    ContainerKind::Expense, "ExpenseItem"_key, "EmptyExpense"_key, &makeNewRecord<ExpenseData>, true, columns,
 };
 
 } // namespace

@@ -14,13 +14,7 @@ constexpr std::array<RecordColumn, 2> columns{{
 }};
 
 constexpr RecordListTraits traits{
-    ContainerKind::Inventory,
-    "InventoryItem"_key,
-    "EmptyInventory"_key,
-    "InventorySmall",
-    &makeNewRecord<InventoryData>,
-    false,
-    columns,
+    ContainerKind::Inventory, "InventoryItem"_key, "EmptyInventory"_key, &makeNewRecord<InventoryData>, false, columns,
 };
 
 } // namespace

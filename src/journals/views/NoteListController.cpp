@@ -14,7 +14,7 @@ constexpr std::array<RecordColumn, 2> columns{{
 }};
 
 constexpr RecordListTraits traits{
-    ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, "NotesSmall", &makeNewRecord<NoteData>, false, columns,
+    ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, &makeNewRecord<NoteData>, false, columns,
 };
 
 } // namespace

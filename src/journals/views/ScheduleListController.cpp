@@ -26,13 +26,7 @@ constexpr std::array<RecordColumn, 5> columns{{
 }};
 
 constexpr RecordListTraits traits{
-    ContainerKind::Schedule,
-    "ScheduleItem"_key,
-    "EmptySchedule"_key,
-    "ScheduleSmall",
-    &makeNewRecord<ScheduleData>,
-    true,
-    columns,
+    ContainerKind::Schedule, "ScheduleItem"_key, "EmptySchedule"_key, &makeNewRecord<ScheduleData>, true, columns,
 };
 
 } // namespace

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/ContainerKind.h"
+#include "ui/MainView.h"
+
+#include <array>
+
+namespace brinemark
+{
+
+/// How a container shows: its small picture (of ui/Icons.h) and the view that its row in the tank tree leads to.
+struct ContainerRoom {
+    ContainerKind kind;
+    const char *icon;
+    MainView view;
+};
+
+// clang-format off
+inline constexpr std::array<ContainerRoom, containerCount> containerRooms{{
+    {ContainerKind::Fish,      "FishSmall",          MainView::LivestockGroup},
+    {ContainerKind::Plant,     "PlantSmall",         MainView::LivestockGroup},
+    {ContainerKind::Invert,    "InvertebratesSmall", MainView::LivestockGroup},
+    {ContainerKind::Coral,     "CoralSmall",         MainView::LivestockGroup},
+    {ContainerKind::Condition, "ConditionsSmall",    MainView::Conditions},
+    {ContainerKind::Schedule,  "ScheduleSmall",      MainView::Schedule},
+    {ContainerKind::Inventory, "InventorySmall",     MainView::Inventory},
+    {ContainerKind::Expense,   "ExpensesSmall",      MainView::Expenses},
+    {ContainerKind::Note,      "NotesSmall",         MainView::Notes},
+}};
+// clang-format on
+
+[[nodiscard]] constexpr const ContainerRoom &roomOf(ContainerKind kind)
+{
+    return containerRooms[std::size_t(kind)];
+}
+
+} // namespace brinemark
