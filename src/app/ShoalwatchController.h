@@ -20,7 +20,10 @@ class TankListController;
 
 /// The main controller: holds the main window together. It owns the open document and its commands, switches the views,
 /// validates toolbar and menus, sends every command to whoever carries it out, and is the shell that the views see.
-class ShoalwatchController : public QObject, public Shell, private DocumentHost, public Shared<ShoalwatchController>
+class ShoalwatchController final : public QObject,
+                                   public Shell,
+                                   private DocumentHost,
+                                   public Shared<ShoalwatchController>
 {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "ui/Alerts.h"
 
+#include "base/text/Texts.h"
 #include "ui/AlertDialog.h"
 
 #include <QApplication>
@@ -19,6 +20,14 @@ std::function<void()> &beepHandler()
 }
 
 } // namespace
+
+Alert deletionAlert(const QString &question)
+{
+    return {.style = AlertStyle::Critical,
+            .title = question,
+            .message = text("CannotUndoMessage"),
+            .alternateButton = text("CancelLabel")};
+}
 
 void beginAlertSheet(QWidget *window, const Alert &alert, std::function<void(int answer)> ended)
 {

@@ -27,6 +27,9 @@ struct Alert {
     QString otherButton = {};
 };
 
+/// The question before something is deleted for good, with a button that cancels; AlertDefault deletes.
+[[nodiscard]] Alert deletionAlert(const QString &question);
+
 /// Shows the alert as a sheet of the window that holds `window` and returns at once; `ended` gets the AlertAnswer. A
 /// window shows one sheet at a time: a second one waits until the first is answered. When the window goes first, so
 /// does the sheet, and `ended` is never called.

@@ -255,11 +255,7 @@ void RecordListController::deleteSelected()
 {
     if (!hasSelectedRow())
         return;
-    const Alert question{AlertStyle::Critical,
-                         formatText(text("StandardWarning"), {text(m_traits.itemKey)}),
-                         text("CannotUndoMessage"),
-                         {},
-                         text("CancelLabel")};
+    const Alert question = deletionAlert(formatText(text("StandardWarning"), {text(m_traits.itemKey)}));
     beginAlertSheet(Shell::shared().mainWindow(), question, [this](int answer) {
         if (answer == AlertDefault)
             deleteRecords(selectedRecords());

@@ -280,9 +280,7 @@ void TankListController::deleteTankEntry()
     const TreeItem item = currentSelectedItem();
     if (!item.isTank())
         return;
-    const Alert alert{AlertStyle::Critical,      formatText(text("DeleteTankWarning"), {item.name()}),
-                      text("CannotUndoMessage"), {},
-                      text("CancelLabel"),       {}};
+    const Alert alert = deletionAlert(formatText(text("DeleteTankWarning"), {item.name()}));
     beginAlertSheet(m_shell->mainWindow(), alert, [this, tank = item.tank->shared_from_this()](int returnCode) {
         if (returnCode == AlertDefault)
             deleteTank(tank);
@@ -295,9 +293,7 @@ void TankListController::deleteItemDataEntry()
     if (!item.isRecord())
         return;
     const LivestockGroupTraits &traits = *livestockGroupTraits(item.container->kind());
-    const Alert alert{AlertStyle::Critical,      formatText(text(traits.deleteKey), {item.name()}),
-                      text("CannotUndoMessage"), {},
-                      text("CancelLabel"),       {}};
+    const Alert alert = deletionAlert(formatText(text(traits.deleteKey), {item.name()}));
     const auto record = std::static_pointer_cast<ItemData>(item.record->shared_from_this());
     beginAlertSheet(m_shell->mainWindow(), alert, [this, record](int returnCode) {
         if (returnCode == AlertDefault)
