@@ -6,6 +6,7 @@
 #include "app/menus/MainMenuBar.h"
 #include "app/printing/PrintView.h"
 #include "app/toolbar/MainToolBar.h"
+#include "app/toolbar/ToolbarItems.h"
 #include "app/tree/TankListController.h"
 #include "app/window/MainViews.h"
 #include "app/window/MainWindow.h"
@@ -118,25 +119,9 @@ void ShoalwatchController::validate()
 
 void ShoalwatchController::performToolbarItem(const QString &identifier)
 {
-    struct Row {
-        QLatin1String identifier;
-        Command command;
-    };
-    static constexpr Row commands[] = {
-        {QLatin1String("newTank"), Command::NewTank},
-        {QLatin1String("newFish"), Command::NewFish},
-        {QLatin1String("newPlant"), Command::NewPlant},
-        {QLatin1String("newInvert"), Command::NewInvert},
-        {QLatin1String("newCoral"), Command::NewCoral},
-        {QLatin1String("delete"), Command::Delete},
-        {QLatin1String("convert"), Command::ToggleCalculator},
-        {QLatin1String("note"), Command::ToggleOverdue},
-        {QLatin1String("print"), Command::Print},
-    };
-    for (const Row &row : commands) {
-        if (identifier == row.identifier)
-            performCommand(row.command);
-    }
+    const ToolbarItem *item = toolbarItem(identifier);
+    if (item && item->command)
+        performCommand(*item->command);
 }
 
 void ShoalwatchController::performCommand(Command command)

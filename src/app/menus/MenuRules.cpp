@@ -1,5 +1,7 @@
 #include "app/menus/MenuRules.h"
 
+#include "app/toolbar/ToolbarItems.h"
+
 namespace brinemark
 {
 
@@ -78,9 +80,10 @@ bool canDelete(MainView view, bool listHasSelectedRow)
 
 bool toolbarItemEnabled(const QString &identifier, bool hasCurrentTank, bool canDelete)
 {
+    const ToolbarItem *item = toolbarItem(identifier);
     if (!hasCurrentTank)
-        return identifier == u"newTank" || identifier == u"convert";
-    return identifier != u"delete" || canDelete;
+        return item && !item->needsTank;
+    return !item || item->command != Command::Delete || canDelete;
 }
 
 } // namespace brinemark

@@ -64,7 +64,7 @@ struct MenuItemState {
 /// Whether the delete command has something to act on in the view on screen.
 [[nodiscard]] bool canDelete(MainView view, bool listHasSelectedRow);
 
-/// Whether a toolbar item is enabled: without a tank only "newTank" and "convert".
+/// Whether a toolbar item is enabled: without a tank only what needs none (see ToolbarItems.h).
 [[nodiscard]] bool toolbarItemEnabled(const QString &identifier, bool hasCurrentTank, bool canDelete);
 
 } // namespace brinemark

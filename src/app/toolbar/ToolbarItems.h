@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/text/Texts.h"
+#include "app/menus/MenuTable.h"
 
 #include <QLatin1String>
 #include <QStringView>
@@ -18,6 +18,8 @@ struct ToolbarItem {
     TextKey toolTip;
     const char *icon; ///< of ui/Icons.h
     ToolbarItemKind kind = ToolbarItemKind::Action;
+    std::optional<Command> command = {}; ///< what an action sends
+    bool needsTank = true;               ///< of an action: disabled while there is no current tank
 
     [[nodiscard]] constexpr bool repeatable() const { return kind != ToolbarItemKind::Action; }
 };
@@ -33,29 +35,29 @@ inline constexpr QLatin1String Delete{"delete"};
 inline constexpr QLatin1String Convert{"convert"};
 inline constexpr QLatin1String Note{"note"};
 inline constexpr QLatin1String Print{"print"};
-inline constexpr QLatin1String Customise{"customise"}; ///< answered by the toolbar itself
+inline constexpr QLatin1String Customise{"customise"}; ///< answered by the toolbar itself, and never disabled
 inline constexpr QLatin1String Separator{"separator"};
 inline constexpr QLatin1String Space{"space"};
 inline constexpr QLatin1String FlexibleSpace{"flexibleSpace"};
 } // namespace toolbarid
 
+// clang-format off
 inline constexpr ToolbarItem toolbarItems[] = {
-    {toolbarid::NewTank, "ToolbarNewTank"_key, "ToolbarNewTankToolTip"_key, "NewTankBig"},
-    {toolbarid::NewFish, "ToolbarNewFish"_key, "ToolbarNewFishToolTip"_key, "NewFishBig"},
-    {toolbarid::NewPlant, "ToolbarNewPlant"_key, "ToolbarNewPlantToolTip"_key, "PlantNew"},
-    {toolbarid::NewInvert, "ToolbarNewInvert"_key, "ToolbarNewInvertToolTip"_key, "InvertebratesNew"},
-    {toolbarid::NewCoral, "ToolbarNewCoral"_key, "ToolbarNewCoralToolTip"_key, "CoralNew"},
-    {toolbarid::Delete, "ToolbarDelete"_key, "ToolbarDeleteToolTip"_key, "Delete"},
-    {toolbarid::Convert, "ToolbarCalculate"_key, "ToolbarCalculateToolTip"_key, "Convert"},
-    {toolbarid::Note, "ToolbarNote"_key, "ToolbarNoteToolTip"_key, "NoteWindow"},
-    {toolbarid::Print, "ToolbarPrint"_key, "ToolbarPrintToolTip"_key, "Print"},
-    {toolbarid::Customise, "ToolbarCustomise"_key, "ToolbarCustomiseToolTip"_key, "Customise"},
-    {toolbarid::Separator, "ToolbarSeparator"_key, "ToolbarSeparator"_key, "ToolbarSeparator",
-     ToolbarItemKind::Separator},
-    {toolbarid::Space, "ToolbarSpace"_key, "ToolbarSpace"_key, "ToolbarSpace", ToolbarItemKind::Space},
-    {toolbarid::FlexibleSpace, "ToolbarFlexibleSpace"_key, "ToolbarFlexibleSpace"_key, "ToolbarFlexibleSpace",
-     ToolbarItemKind::FlexibleSpace},
+    {toolbarid::NewTank,       "ToolbarNewTank"_key,       "ToolbarNewTankToolTip"_key,      "NewTankBig",           ToolbarItemKind::Action,        Command::NewTank, false},
+    {toolbarid::NewFish,       "ToolbarNewFish"_key,       "ToolbarNewFishToolTip"_key,      "NewFishBig",           ToolbarItemKind::Action,        Command::NewFish},
+    {toolbarid::NewPlant,      "ToolbarNewPlant"_key,      "ToolbarNewPlantToolTip"_key,     "PlantNew",             ToolbarItemKind::Action,        Command::NewPlant},
+    {toolbarid::NewInvert,     "ToolbarNewInvert"_key,     "ToolbarNewInvertToolTip"_key,    "InvertebratesNew",     ToolbarItemKind::Action,        Command::NewInvert},
+    {toolbarid::NewCoral,      "ToolbarNewCoral"_key,      "ToolbarNewCoralToolTip"_key,     "CoralNew",             ToolbarItemKind::Action,        Command::NewCoral},
+    {toolbarid::Delete,        "ToolbarDelete"_key,        "ToolbarDeleteToolTip"_key,       "Delete",               ToolbarItemKind::Action,        Command::Delete},
+    {toolbarid::Convert,       "ToolbarCalculate"_key,     "ToolbarCalculateToolTip"_key,    "Convert",              ToolbarItemKind::Action,        Command::ToggleCalculator, false},
+    {toolbarid::Note,          "ToolbarNote"_key,          "ToolbarNoteToolTip"_key,         "NoteWindow",           ToolbarItemKind::Action,        Command::ToggleOverdue},
+    {toolbarid::Print,         "ToolbarPrint"_key,         "ToolbarPrintToolTip"_key,        "Print",                ToolbarItemKind::Action,        Command::Print},
+    {toolbarid::Customise,     "ToolbarCustomise"_key,     "ToolbarCustomiseToolTip"_key,    "Customise",            ToolbarItemKind::Action,        Command::CustomiseToolbar, false},
+    {toolbarid::Separator,     "ToolbarSeparator"_key,     "ToolbarSeparator"_key,           "ToolbarSeparator",     ToolbarItemKind::Separator},
+    {toolbarid::Space,         "ToolbarSpace"_key,         "ToolbarSpace"_key,               "ToolbarSpace",         ToolbarItemKind::Space},
+    {toolbarid::FlexibleSpace, "ToolbarFlexibleSpace"_key, "ToolbarFlexibleSpace"_key,       "ToolbarFlexibleSpace", ToolbarItemKind::FlexibleSpace},
 };
+// clang-format on
 
 /// What a toolbar that nobody customised shows, from left to right.
 inline constexpr QLatin1String toolbarDefaultSet[] = {
