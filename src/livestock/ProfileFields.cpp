@@ -4,8 +4,6 @@
 #include "model/ItemData.h"
 #include "model/KeyAccess.h"
 
-#include <QLocale>
-
 namespace brinemark
 {
 
@@ -13,11 +11,8 @@ QString profileText(const ItemData &item, const ProfileField &field)
 {
     const QVariant value = valueForKey(item, field.key);
     switch (field.kind) {
-    case ProfileKind::Number: {
-        QLocale locale;
-        locale.setNumberOptions(QLocale::OmitGroupSeparator);
-        return locale.toString(value.toDouble(), 'g', 7);
-    }
+    case ProfileKind::Number:
+        return shownNumber(value.toDouble(), 7);
     case ProfileKind::Count:
         return QString::number(value.toInt());
     case ProfileKind::ReefSafe:
@@ -26,13 +21,6 @@ QString profileText(const ItemData &item, const ProfileField &field)
         break;
     }
     return value.toString();
-}
-
-double numberOfInput(const QString &typed)
-{
-    bool ok = false;
-    const double number = QLocale().toDouble(typed.trimmed(), &ok);
-    return ok ? number : leadingNumber(typed);
 }
 
 bool isUnspecified(const QString &stored)

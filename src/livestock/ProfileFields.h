@@ -44,9 +44,6 @@ inline constexpr std::array<ProfileField, 14> profileFields{{
 /// The field's value as it is shown; numbers in the user's notation with up to seven digits.
 [[nodiscard]] QString profileText(const ItemData &item, const ProfileField &field);
 
-/// A number that a person typed; 0 when it is none.
-[[nodiscard]] double numberOfInput(const QString &typed);
-
 /// Whether a text stands for "nothing was said", in this language or as older files have it.
 [[nodiscard]] bool isUnspecified(const QString &stored);
 /// What a text field stores: an empty one the text of "Unspecified".

@@ -100,6 +100,14 @@ Number leading(QStringView text)
     return negative ? -number : number;
 }
 
+template <class Number>
+Number typedAs(const QString &typed, Number (QLocale::*parse)(const QString &, bool *) const)
+{
+    bool ok = false;
+    const Number number = (QLocale().*parse)(typed.trimmed(), &ok);
+    return ok ? number : leading<Number>(typed);
+}
+
 } // namespace
 
 double leadingNumber(QStringView text)
@@ -147,6 +155,23 @@ QString floatText(float value)
     const auto [end, error] =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, 7);
     return QString::fromLatin1(buffer.data(), end - buffer.data());
+}
+
+double typedNumber(const QString &typed)
+{
+    return typedAs(typed, &QLocale::toDouble);
+}
+
+float typedFloat(const QString &typed)
+{
+    return typedAs(typed, &QLocale::toFloat);
+}
+
+QString shownNumber(double value, int digits)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(value, 'g', digits);
 }
 
 QString localizeAndTrimZeros(float value)

@@ -21,6 +21,14 @@ namespace brinemark
 /// gives "0".
 [[nodiscard]] QString floatText(float value);
 
+/// What a person typed: a whole text in the user's notation, or else the number at its start with a full stop.
+[[nodiscard]] double typedNumber(const QString &typed);
+[[nodiscard]] float typedFloat(const QString &typed);
+
+/// A number as shown in a field that can be typed over: the user's decimal separator, no grouping, up to so many
+/// significant digits.
+[[nodiscard]] QString shownNumber(double value, int digits);
+
 /// A number as shown: three decimals, the user's decimal separator, trailing zeros removed down to one decimal.
 [[nodiscard]] QString localizeAndTrimZeros(float value);
 

@@ -8,23 +8,9 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 
 namespace brinemark
 {
-
-namespace
-{
-
-/// The number at the start of what was typed, in the user's notation or with a full stop.
-float typedNumber(const QString &typed)
-{
-    bool ok = false;
-    const float number = QLocale().toFloat(typed.trimmed(), &ok);
-    return ok ? number : leadingFloat(typed);
-}
-
-} // namespace
 
 ConverterPanel::ConverterPanel(QWidget *parent)
     : ToolPanel(parent)
@@ -78,10 +64,8 @@ void ConverterPanel::convertTypesAction()
         return;
     }
     const float result = convertUnits(m_typePopup->currentIndex(), m_convertPopup->currentIndex(),
-                                      typedNumber(m_convertValueField->text()));
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    m_convertResultField->setText(locale.toString(double(result), 'g', 6));
+                                      typedFloat(m_convertValueField->text()));
+    m_convertResultField->setText(shownNumber(double(result), 6));
 }
 
 } // namespace brinemark

@@ -1,5 +1,6 @@
 #include "livestock/views/ItemSheet.h"
 
+#include "base/text/NumberText.h"
 #include "livestock/ProfileFields.h"
 #include "livestock/views/PictureView.h"
 #include "model/ItemData.h"
@@ -193,7 +194,7 @@ void ItemSheet::storeInto(ItemData &item) const
         if (field.kind == ProfileKind::Text)
             setValueForKey(item, field.key, compareUnspecified(typed));
         else
-            setValueForKey(item, field.key, numberOfInput(typed));
+            setValueForKey(item, field.key, typedNumber(typed));
     }
     if (m_reefSafe->currentIndex() >= 0)
         item.reefSafe = m_reefSafe->currentData().toInt();
