@@ -1,7 +1,5 @@
 #include "ui/Colours.h"
 
-#include <QPalette>
-
 #include <array>
 
 namespace brinemark
@@ -38,6 +36,12 @@ QColor colour(ColourRole role, const QPalette &palette)
 {
     const Shades &row = shades.at(size_t(role));
     return QColor::fromRgb(isDark(palette) ? row.dark : row.light);
+}
+
+QPalette quietPalette(QPalette palette)
+{
+    palette.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, palette));
+    return palette;
 }
 
 bool isDark(const QPalette &palette)

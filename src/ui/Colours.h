@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QColor>
-
-class QPalette;
+#include <QPalette>
 
 namespace brinemark
 {
@@ -13,6 +12,9 @@ enum class ColourRole { InRange, Near, Out, NotTested, Overdue, Done, Accent, Se
 /// The colour of `role` on the palette's window and base colours: the light or the dark set, by the window's lightness.
 /// Every one can be read as text there (contrast 4.5:1 or more).
 QColor colour(ColourRole role, const QPalette &palette);
+
+/// The palette with its text in the colour of secondary text, for a label beside something more important.
+QPalette quietPalette(QPalette palette);
 
 /// Whether the palette is a dark one.
 bool isDark(const QPalette &palette);

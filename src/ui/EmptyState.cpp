@@ -71,9 +71,7 @@ void EmptyState::applyLook()
 {
     constexpr int side = 96;
     m_picture->setPixmap(m_icon.pixmap(QSize(side, side), devicePixelRatioF())); // icons follow the palette
-    QPalette quiet = palette();
-    quiet.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, palette()));
-    m_sentence->setPalette(quiet);
+    m_sentence->setPalette(quietPalette(palette()));
 }
 
 } // namespace brinemark

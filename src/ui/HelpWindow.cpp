@@ -228,9 +228,7 @@ void HelpWindow::applyStyle()
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
         shown.setColor(QPalette::Inactive, role, shown.color(QPalette::Active, role));
     m_browser->setPalette(shown);
-    QPalette secondary = palette();
-    secondary.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, palette()));
-    m_findResult->setPalette(secondary);
+    m_findResult->setPalette(quietPalette(palette()));
 
     const QString link = colour(ColourRole::Accent, palette()).name();
     m_browser->document()->setDocumentMargin(24);

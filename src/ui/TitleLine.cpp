@@ -68,9 +68,7 @@ void TitleLine::applyLook()
     // Both stand on one base line although their sizes differ.
     const int lift = QFontMetrics(titleFont).descent() - fontMetrics().descent();
     m_secondary->setContentsMargins(0, 0, 0, lift);
-    QPalette quiet = palette();
-    quiet.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, palette()));
-    m_secondary->setPalette(quiet);
+    m_secondary->setPalette(quietPalette(palette()));
 }
 
 } // namespace brinemark

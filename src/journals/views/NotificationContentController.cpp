@@ -49,9 +49,7 @@ QWidget *NotificationContentController::contentView()
     const QString date = localeDateText(m_data->date);
     auto *where =
         new ElidedLabel(m_data->tank ? fillPlaceholders(text("MainViewTitle"), {m_data->tank->name, date}) : date);
-    QPalette quiet = where->palette();
-    quiet.setColor(QPalette::WindowText, colour(ColourRole::SecondaryText, quiet));
-    where->setPalette(quiet);
+    where->setPalette(quietPalette(where->palette()));
     m_linkButton = makeIconButton("ScheduleSmall", text("NotificationGoTo"), QStringLiteral("linkButton"));
 
     auto *words = new QVBoxLayout;
