@@ -6,9 +6,6 @@ namespace brinemark
 Q_LOGGING_CATEGORY(logApp, "brinemark.app", QtInfoMsg)
 Q_LOGGING_CATEGORY(logFile, "brinemark.file", QtInfoMsg)
 Q_LOGGING_CATEGORY(logPreferences, "brinemark.preferences", QtInfoMsg)
-Q_LOGGING_CATEGORY(logModel, "brinemark.model", QtInfoMsg)
-Q_LOGGING_CATEGORY(logSpecies, "brinemark.species", QtInfoMsg)
-Q_LOGGING_CATEGORY(logCalendar, "brinemark.calendar", QtInfoMsg)
 Q_LOGGING_CATEGORY(logOnline, "brinemark.online", QtInfoMsg)
 
 } // namespace brinemark

@@ -9,9 +9,6 @@ namespace brinemark
 Q_DECLARE_LOGGING_CATEGORY(logApp)         ///< brinemark.app: start-up, windows, commands
 Q_DECLARE_LOGGING_CATEGORY(logFile)        ///< brinemark.file: reading and writing files
 Q_DECLARE_LOGGING_CATEGORY(logPreferences) ///< brinemark.preferences
-Q_DECLARE_LOGGING_CATEGORY(logModel)       ///< brinemark.model: tanks and records
-Q_DECLARE_LOGGING_CATEGORY(logSpecies)     ///< brinemark.species: profiles and their search
-Q_DECLARE_LOGGING_CATEGORY(logCalendar)    ///< brinemark.calendar: events sent to the calendar
 Q_DECLARE_LOGGING_CATEGORY(logOnline)      ///< brinemark.online: transfers and update checks
 
 } // namespace brinemark
