@@ -1,6 +1,7 @@
 #include "model/PlistField.h"
 
 #include "base/text/DateText.h"
+#include "base/text/FromChars.h"
 #include "base/text/NumberText.h"
 #include "model/TankReadError.h"
 
@@ -123,7 +124,7 @@ double neatDouble(float number)
     char digits[32];
     const auto written = std::to_chars(std::begin(digits), std::end(digits), number);
     double result = 0;
-    std::from_chars(std::begin(digits), written.ptr, result);
+    fromChars(std::begin(digits), written.ptr, result);
     return result;
 }
 

@@ -1,5 +1,7 @@
 #include "base/text/NumberText.h"
 
+#include "base/text/FromChars.h"
+
 #include <QLocale>
 #include <QVarLengthArray>
 
@@ -94,7 +96,7 @@ Number leading(QStringView text)
     if (digits.characters.isEmpty())
         return 0;
     Number number = 0;
-    const auto [end, error] = std::from_chars(digits.characters.begin(), digits.characters.end(), number);
+    const auto [end, error] = fromChars(digits.characters.begin(), digits.characters.end(), number);
     if (error == std::errc::result_out_of_range)
         number = digits.magnitude > 0 ? std::numeric_limits<Number>::max() : Number(0);
     return negative ? -number : number;

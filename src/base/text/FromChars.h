@@ -1,0 +1,33 @@
+#pragma once
+
+#include <type_traits>
+#include <version>
+
+#ifndef __cpp_lib_to_chars
+#include <QByteArrayView>
+#endif
+
+#include <charconv>
+
+namespace brinemark
+{
+
+/// std::from_chars for a real number in general notation, also where the standard library has it for whole numbers
+/// only. The text from `first` to `last` has to be nothing but the number.
+template <class Number>
+std::from_chars_result fromChars(const char *first, const char *last, Number &number)
+{
+#ifdef __cpp_lib_to_chars
+    return std::from_chars(first, last, number);
+#else
+    bool ok = false;
+    const QByteArrayView text(first, last);
+    if constexpr (std::is_same_v<Number, float>)
+        number = text.toFloat(&ok);
+    else
+        number = text.toDouble(&ok);
+    return {last, ok ? std::errc() : std::errc::result_out_of_range};
+#endif
+}
+
+} // namespace brinemark
