@@ -72,7 +72,9 @@ ItemSheet::ItemSheet(QWidget *parent)
     m_notes->setMinimumHeight(72);
     auto *notes = new QVBoxLayout;
     notes->setSpacing(4);
-    notes->addWidget(makeCaption(text("FishDataNote")));
+    QLabel *notesCaption = makeCaption(text("FishDataNote"));
+    notesCaption->setBuddy(m_notes);
+    notes->addWidget(notesCaption);
     notes->addWidget(m_notes);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 16);
