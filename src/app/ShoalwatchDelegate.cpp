@@ -42,7 +42,6 @@ namespace
 {
 
 constexpr int undoLevels = 20;
-constexpr QPoint firstNoticePosition(20, 200);
 
 } // namespace
 
@@ -116,7 +115,7 @@ void ShoalwatchDelegate::firstRun()
     startup::writeFirstRunValues();
     QZUpdateController::sharedInstance().initDefaults();
     Preferences::shared().flush();
-    m_notificationController->placeAt(firstNoticePosition);
+    m_notificationController->placeAt(NotificationController::firstPlace);
     centreOnScreen(m_shoalwatchController->window());
 }
 
@@ -252,8 +251,8 @@ void ShoalwatchDelegate::displayEListSignUp()
 
 void ShoalwatchDelegate::sendFeedback()
 {
-    performOpenURL(QStringLiteral("mailto:") + QLatin1String(product::supportAddress) +
-                   QStringLiteral("?subject=Brinemark%20") + product::buildVersion() + QStringLiteral("%20feedback"));
+    const QString subject = QStringLiteral("%1 %2 feedback").arg(QLatin1String(product::name), product::buildVersion());
+    desktop::openUrl(desktop::mailUrl(QLatin1String(product::supportAddress), subject));
 }
 
 void ShoalwatchDelegate::productPage()

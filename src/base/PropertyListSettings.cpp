@@ -19,7 +19,7 @@ QString freeNameBeside(const QString &path)
     const QFileInfo info(path);
     const QString start = info.path() + u'/' + info.completeBaseName() + QStringLiteral("-damaged-");
     for (int number = 1;; ++number) {
-        const QString name = start + QString::number(number) + u'.' + info.suffix();
+        QString name = start + QString::number(number) + u'.' + info.suffix();
         if (!QFile::exists(name))
             return name;
     }

@@ -15,7 +15,6 @@ namespace
 {
 
 constexpr float firstHeight = 117; ///< pixels
-constexpr QPoint firstPlace(20, 200);
 
 } // namespace
 

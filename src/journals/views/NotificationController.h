@@ -39,7 +39,8 @@ public:
     /// The menu command: closes the panel if it shows; otherwise lists what is overdue now, in all tanks, and shows it.
     void showOverdue();
 
-    void placeAt(const QPoint &topLeft); ///< the panel's corner on the screen, before it is first shown
+    static constexpr QPoint firstPlace{20, 200}; ///< of the panel's corner on the screen
+    void placeAt(const QPoint &topLeft);
 
 private:
     friend class Shared<NotificationController>;
