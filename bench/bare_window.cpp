@@ -3,8 +3,8 @@
 #include <QTextStream>
 #include <QTimer>
 
-// The yardstick for start-up: the smallest main window that the toolkit can show. Says so on its first paint, as the program
-// does in its log.
+// The yardstick for start-up: the smallest main window that the toolkit can show. Says so on its first paint, as the
+// program does in its log.
 
 namespace
 {

@@ -8,9 +8,15 @@
 namespace brinemark::product
 {
 
-QString shortVersion() { return QStringLiteral(BRINEMARK_VERSION); }
+QString shortVersion()
+{
+    return QStringLiteral(BRINEMARK_VERSION);
+}
 
-QString buildVersion() { return shortVersion(); }
+QString buildVersion()
+{
+    return shortVersion();
+}
 
 quint32 packedVersion(const QString &version)
 {
@@ -25,7 +31,8 @@ quint32 packedVersion(const QString &version)
     const quint32 minor = std::min(numbers[1], 9U);
     const quint32 point = std::min(numbers[2], 9U);
     const quint32 build = std::min(numbers[3], 255U);
-    return (major / 10 << 28) | (major % 10 << 24) | (minor << 20) | (point << 16) | ((build ? beta : release) << 8) | build;
+    return (major / 10 << 28) | (major % 10 << 24) | (minor << 20) | (point << 16) | ((build ? beta : release) << 8) |
+           build;
 }
 
 } // namespace brinemark::product

@@ -17,8 +17,9 @@ inline constexpr char productPage[] = "https://www.brinemark.example/";
 /// The build version that feedback mail names.
 [[nodiscard]] QString buildVersion();
 
-/// A version packed into 32 bits: major (8 bits, decimal digits as nibbles), minor and point (4 bits each), stage (0x80 for a
-/// release, 0x60 for a beta), build (8 bits: the beta number). 1.0.0 gives 0x01008000. Text without numbers gives 0.
+/// A version packed into 32 bits: major (8 bits, decimal digits as nibbles), minor and point (4 bits each), stage (0x80
+/// for a release, 0x60 for a beta), build (8 bits: the beta number). 1.0.0 gives 0x01008000. Text without numbers gives
+/// 0.
 [[nodiscard]] quint32 packedVersion(const QString &version);
 
 } // namespace brinemark::product

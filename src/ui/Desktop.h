@@ -6,7 +6,8 @@
 
 class QWidget;
 
-/// The way out of the program to the user's browser, mail program and file manager. One seam: tests put a recorder here.
+/// The way out of the program to the user's browser, mail program and file manager. One seam: tests put a recorder
+/// here.
 namespace brinemark::desktop
 {
 

@@ -17,8 +17,8 @@ public:
 
     virtual QWidget *view() = 0; ///< made when it is first asked for
 
-    /// Called each time the view is shown: takes up the current tank (or the selected item) and links the tab order from the
-    /// tree through the view's own controls to the help button and back.
+    /// Called each time the view is shown: takes up the current tank (or the selected item) and links the tab order
+    /// from the tree through the view's own controls to the help button and back.
     virtual void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) = 0;
 
     /// Whether the view's list has a selected row, which the delete command would act on.

@@ -5,10 +5,11 @@
 namespace brinemark
 {
 
-/// A process-wide single instance, made on first use by `sharedInstance()`. The application ends it with `destroyShared()`
-/// before the application object goes, so that no widget outlives it.
+/// A process-wide single instance, made on first use by `sharedInstance()`. The application ends it with
+/// `destroyShared()` before the application object goes, so that no widget outlives it.
 ///
-///     class PrefsController : public Shared<PrefsController> { friend class Shared<PrefsController>; PrefsController(); };
+///     class PrefsController : public Shared<PrefsController> { friend class Shared<PrefsController>;
+///     PrefsController(); };
 template <class T>
 class Shared
 {

@@ -84,7 +84,7 @@ private:
     DocumentHost &m_host;
     QString m_representedFilename;
     plist::Dict m_documentDictionary;
-    FileStamp m_lastKnown;      ///< the file as last read or written
+    FileStamp m_lastKnown;       ///< the file as last read or written
     bool m_notFullyRead = false; ///< the file holds more than the tanks in memory
     quint32 m_changeCount = 0;
     bool m_edited = false;

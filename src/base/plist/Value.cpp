@@ -8,19 +8,49 @@ namespace brinemark::plist
 namespace
 {
 
-bool keyLess(const Dict::Entry &a, const Dict::Entry &b) { return a.first < b.first; }
+bool keyLess(const Dict::Entry &a, const Dict::Entry &b)
+{
+    return a.first < b.first;
+}
 
 } // namespace
 
-Value::Value(const QString &string) : m_content(string) {}
-Value::Value(int integer) : m_content(qint64(integer)) {}
-Value::Value(qint64 integer) : m_content(integer) {}
-Value::Value(double real) : m_content(real) {}
-Value::Value(bool flag) : m_content(flag) {}
-Value::Value(const QDateTime &date) : m_content(date) {}
-Value::Value(const QByteArray &data) : m_content(data) {}
-Value::Value(Array array) : m_content(std::make_shared<const Array>(std::move(array))) {}
-Value::Value(Dict dict) : m_content(std::make_shared<const Dict>(std::move(dict))) {}
+Value::Value(const QString &string)
+    : m_content(string)
+{
+}
+Value::Value(int integer)
+    : m_content(qint64(integer))
+{
+}
+Value::Value(qint64 integer)
+    : m_content(integer)
+{
+}
+Value::Value(double real)
+    : m_content(real)
+{
+}
+Value::Value(bool flag)
+    : m_content(flag)
+{
+}
+Value::Value(const QDateTime &date)
+    : m_content(date)
+{
+}
+Value::Value(const QByteArray &data)
+    : m_content(data)
+{
+}
+Value::Value(Array array)
+    : m_content(std::make_shared<const Array>(std::move(array)))
+{
+}
+Value::Value(Dict dict)
+    : m_content(std::make_shared<const Dict>(std::move(dict)))
+{
+}
 
 const Array *Value::array() const
 {
@@ -45,16 +75,21 @@ bool operator==(const Value &a, const Value &b)
     return a.m_content == b.m_content;
 }
 
-Dict::Dict(std::initializer_list<Entry> entries) : Dict(std::vector<Entry>(entries)) {}
+Dict::Dict(std::initializer_list<Entry> entries)
+    : Dict(std::vector<Entry>(entries))
+{
+}
 
-Dict::Dict(std::vector<Entry> entries) : m_entries(std::move(entries))
+Dict::Dict(std::vector<Entry> entries)
+    : m_entries(std::move(entries))
 {
     const auto strictlyLess = [](const Entry &a, const Entry &b) { return !(b.first <= a.first); };
     const auto unordered = std::adjacent_find(m_entries.begin(), m_entries.end(),
                                               [&](const Entry &a, const Entry &b) { return !strictlyLess(a, b); });
     if (unordered == m_entries.end())
         return;
-    // Stable, so that the last of equal keys stands last in its run; the walk from the back then keeps exactly that one.
+    // Stable, so that the last of equal keys stands last in its run; the walk from the back then keeps exactly that
+    // one.
     std::stable_sort(m_entries.begin(), m_entries.end(), keyLess);
     const auto firstKept = std::unique(m_entries.rbegin(), m_entries.rend(),
                                        [](const Entry &a, const Entry &b) { return a.first == b.first; });

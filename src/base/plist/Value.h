@@ -51,7 +51,8 @@ public:
 private:
     using SharedArray = std::shared_ptr<const Array>;
     using SharedDict = std::shared_ptr<const Dict>;
-    std::variant<std::monostate, QString, qint64, double, bool, QDateTime, QByteArray, SharedArray, SharedDict> m_content;
+    std::variant<std::monostate, QString, qint64, double, bool, QDateTime, QByteArray, SharedArray, SharedDict>
+        m_content;
 };
 
 /// A dictionary: entries ordered by key (code unit order), each key once.
