@@ -252,7 +252,8 @@ void ShoalwatchDelegate::displayEListSignUp()
 void ShoalwatchDelegate::sendFeedback()
 {
     const QString subject = QStringLiteral("%1 %2 feedback").arg(QLatin1String(product::name), product::buildVersion());
-    desktop::openUrl(desktop::mailUrl(QLatin1String(product::supportAddress), subject));
+    const QUrl mail = desktop::mailUrl(QLatin1String(product::supportAddress), subject);
+    performOpenURL(mail.toString(QUrl::FullyEncoded));
 }
 
 void ShoalwatchDelegate::productPage()
