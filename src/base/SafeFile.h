@@ -30,6 +30,7 @@ struct FileStamp {
 /// changed in this sense: nothing can be lost by writing it. A file of which nothing is known has changed.
 [[nodiscard]] bool changedOnDisk(const QString &path, const FileStamp &lastKnown);
 
+/// A whole file in memory.
 struct FileContent {
     bool ok = false;
     QString error; ///< the system's reason when not ok
@@ -40,6 +41,7 @@ struct FileContent {
 /// Reads a whole file with the stamp that belongs to exactly these bytes.
 [[nodiscard]] FileContent readFile(const QString &path);
 
+/// What became of writing a file.
 struct WriteResult {
     bool ok = false;
     QString error;   ///< the system's reason when not ok

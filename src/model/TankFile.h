@@ -40,6 +40,7 @@ struct TankFileCallbacks {
     std::function<void(int tank, int tankCount)> progress;        ///< before each tank, counted from 0
 };
 
+/// What became of reading the tanks.
 struct TankFileResult {
     bool ok = false; ///< every tank was built; if not, those before the failing one are in the list
     bool refused =

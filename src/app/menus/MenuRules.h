@@ -53,6 +53,7 @@ struct MenuState {
     bool treeHasFocus = false;
 };
 
+/// What the rule of a tag says.
 struct MenuItemState {
     bool enabled = true;
     std::optional<TextKey> title; ///< set for items whose title follows the state

@@ -61,6 +61,7 @@ struct MenuRow {
     const char *icon = nullptr;
 };
 
+/// One menu of the bar.
 struct MenuTitle {
     TextKey title;
     std::span<const MenuRow> rows;
