@@ -55,6 +55,7 @@ void RecordListController::makeView()
     m_titleLine = new TitleLine;
     m_table = new RecordTableView([this] { deleteSelected(); });
     m_table->setObjectName(listName + QStringLiteral("List"));
+    m_table->setAccessibleName(text(traitsOf(m_traits.kind).nameKey));
     m_table->setModel(m_model);
     m_table->setItemDelegate(new TruncatingDelegate(m_table));
     m_emptyState = new EmptyState(icon(roomOf(m_traits.kind).icon), text(m_traits.emptySentenceKey), text("NewTitle"));

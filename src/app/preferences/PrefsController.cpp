@@ -53,6 +53,7 @@ PrefsController::PrefsController()
 
     m_defaultFilePath = new QLineEdit;
     m_defaultFilePath->setObjectName(QStringLiteral("defaultFilePath"));
+    m_defaultFilePath->setAccessibleName(text("PrefsDefaultFile"));
     m_defaultFilePath->setReadOnly(true);
     m_defaultFilePath->setMinimumWidth(300);
     m_defaultFileSetButton = new QPushButton(text("PrefsChoose"));

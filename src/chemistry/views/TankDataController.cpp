@@ -67,6 +67,7 @@ void TankDataController::makeView()
     addCaptioned(*form, 1, 0, text("TankSize"), m_sizeField);
     addCaptioned(*form, 2, 0, text("TankType"), m_typeField);
     auto *targetsTitle = makeCaption(text("TargetsTitle"));
+    targetsTitle->setBuddy(m_table);
     targetsTitle->setContentsMargins(16, 0, 16, 8);
     auto *buttons = new QHBoxLayout;
     buttons->setContentsMargins(8, 8, 8, 8);

@@ -55,6 +55,7 @@ void QZUpdateController::makeWindow()
     m_autoUpdateCheck->setObjectName(QStringLiteral("autoUpdateCheck"));
     m_checkPopupButton = new QComboBox;
     m_checkPopupButton->setObjectName(QStringLiteral("checkPopupButton"));
+    m_checkPopupButton->setAccessibleName(m_autoUpdateCheck->text());
     m_checkPopupButton->addItems(text("UpdateFrequencyMenu", TextTable::Update).split(QStringLiteral(", ")));
     m_lastCheckField = makeValue(QStringLiteral("lastCheckField"));
 
