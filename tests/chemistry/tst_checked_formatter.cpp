@@ -1,0 +1,163 @@
+#include "chemistry/SFCheckedFormatter.h"
+#include "support/DataRow.h"
+#include "support/RunTest.h"
+
+#include <QCoreApplication>
+
+using namespace brinemark;
+using test::row;
+
+namespace
+{
+
+constexpr NumberSeparators point{u'.', u','};
+constexpr NumberSeparators comma{u',', u'.'};
+
+SFCheckedFormatter formatter(double min, double max, int precision, int rounding, bool notTested, bool commas)
+{
+    SFCheckedFormatter result(min, max, precision, rounding);
+    result.setUseNotTested(notTested);
+    result.setSeparators(commas ? comma : point);
+    return result;
+}
+
+} // namespace
+
+class TestCheckedFormatter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reads_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<double>("max");
+        QTest::addColumn<int>("rounding");
+        QTest::addColumn<int>("precision");
+        QTest::addColumn<bool>("notTested");
+        QTest::addColumn<bool>("commas");
+        QTest::addColumn<double>("value");
+        using S = QString;
+        row("comma", S("12,5"), 99.0, 1, 2, false, true, 12.5);
+        row("grouped", S("1.234,5"), 2000.0, 1, 2, false, true, 1234.5);
+        row("two separators", S("3,4,5"), 99.0, 1, 2, false, true, 3.45);
+        row("clamped", S("150"), 99.0, 1, 2, false, false, 99.0);
+        row("clamped below", S("-5"), 99.0, 1, 2, false, false, -1.0);
+        row("nearest", S("7.25"), 99.0, 1, 1, false, false, 7.3);
+        row("nearest, negative", S("-0.25"), 99.0, 1, 1, false, false, -0.3);
+        row("truncated", S("7.29"), 99.0, 2, 1, false, false, 7.2);
+        row("floor", S("-0.21"), 99.0, 3, 1, false, false, -0.3);
+        row("ceiling", S("1.21"), 99.0, 4, 1, false, false, 1.3);
+        row("unknown rounding", S("1.21"), 99.0, 9, 1, false, false, 1.21);
+        row("empty", S(), 99.0, 1, 2, false, false, 0.0);
+        row("empty, not tested", S(), 99.0, 1, 2, true, false, -1.0);
+        row("word, not tested", text("NotTested"_key), 99.0, 1, 2, true, false, -1.0);
+        row("letters", S("abc"), 99.0, 1, 2, true, false, 0.0);
+        row("emoji",
+            S::fromUtf16(u"\U0001F4A7"
+                         u"7\U0001F4A7"),
+            99.0, 1, 2, true, false, 7.0);
+        row("right to left",
+            S::fromUtf16(u"\u202E\u05D0"
+                         u"12"),
+            99.0, 1, 2, false, false, 12.0);
+        row("400 digits", S(400, u'9'), 99.0, 1, 2, false, false, 99.0);
+        row("huge precision", S("5"), 99.0, 1, 400, false, false, 5.0);
+    }
+    void reads()
+    {
+        QFETCH(QString, typed);
+        QFETCH(double, max);
+        QFETCH(int, rounding);
+        QFETCH(int, precision);
+        QFETCH(bool, notTested);
+        QFETCH(bool, commas);
+        QFETCH(double, value);
+        const auto checked = formatter(-1, max, precision, rounding, notTested, commas);
+        QCOMPARE(checked.getObjectValue(typed).toDouble(), value);
+    }
+
+    void shows()
+    {
+        const auto tested = formatter(-1, 99, 2, 1, true, true);
+        QCOMPARE(tested.stringForObjectValue(7.5), QString("7,50"));
+        QCOMPARE(tested.stringForObjectValue(-0.5), text("NotTested"_key));
+        QVERIFY(!tested.stringForObjectValue(qQNaN()).isEmpty());
+        QCOMPARE(formatter(-9, 9, 1, 1, false, false).stringForObjectValue(-2.0), QString("-2.0"));
+        QCOMPARE(tested.stringForObjectValue(tested.getObjectValue("-")), QString("-"));
+        QVERIFY(tested.stringForObjectValue("x").isNull());
+    }
+
+    void vets_data()
+    {
+        QTest::addColumn<QString>("proposed");
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<double>("min");
+        QTest::addColumn<int>("precision");
+        QTest::addColumn<bool>("notTested");
+        QTest::addColumn<QString>("outcome"); // "ok", "beep", or the replacement with "|" for the caret
+        using S = QString;
+        row("caret at the start", S("x"), 1, 0, 0.0, 2, false, S("ok"));
+        row("digit", S("12"), 1, 2, 0.0, 2, false, S("ok"));
+        row("thousands", S("1."), 1, 2, 0.0, 2, false, S("ok"));
+        row("letter", S("1x"), 1, 2, 0.0, 2, false, S("beep"));
+        row("above", S("123"), 2, 3, 0.0, 2, false, S("beep"));
+        row("pasted", S("abc12,5"), 0, 7, 0.0, 2, false, S("12,50|"));
+        row("deleted", S("1"), 2, 1, 0.0, 2, false, S("1,00|"));
+        row("separator", S("1,"), 1, 2, 0.0, 2, false, S("ok"));
+        row("separator, whole", S("1,"), 1, 2, 0.0, 0, false, S("beep"));
+        row("second after", S("1,2,"), 3, 4, 0.0, 2, false, S("12,|"));
+        row("second before", S("1,2,3"), 1, 2, 0.0, 2, false, S("1,|23"));
+        row("minus", S("-"), 0, 1, -9.0, 2, false, S("ok"));
+        row("minus, min 0", S("-"), 0, 1, 0.0, 2, false, S("beep"));
+        row("minus, not tested", S("-"), 0, 1, -1.0, 2, true, S("beep"));
+        row("minus twice", S("--"), 0, 1, -9.0, 2, false, S("beep"));
+        row("minus later", S("1-"), 1, 2, -9.0, 2, false, S("beep"));
+        row("beyond the text", S("1"), 5, 5, 0.0, 2, false, S("beep"));
+    }
+    void vets()
+    {
+        QFETCH(QString, proposed);
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(double, min);
+        QFETCH(int, precision);
+        QFETCH(bool, notTested);
+        QFETCH(QString, outcome);
+        const auto checked = formatter(min, 99, precision, 1, notTested, true);
+        const VettedEdit edit = checked.isPartialStringValid(proposed, {to, 0}, "before", {from, 0});
+        QString seen = QString(edit.text).insert(edit.selection.start, u'|');
+        if (edit.accepted)
+            seen = "ok";
+        else if (edit.beep)
+            seen = "beep";
+        QCOMPARE(seen, outcome);
+    }
+
+    void keepsItsRangeAndArchive()
+    {
+        SFCheckedFormatter checked;
+        checked.setMin(200);
+        QCOMPARE(checked.getMax(), 200.0);
+        checked.setMax(-3);
+        QCOMPARE(checked.getMin(), -3.0);
+        checked.setUseNotTested(true);
+        checked.setPrecision(4);
+        checked.setRoundingBehaviour(3);
+        QByteArray archive = checked.encode();
+        const auto same = SFCheckedFormatter::decode(archive);
+        QVERIFY(same.encode() == archive && !same.useNotTested());
+        const QByteArray defaults = SFCheckedFormatter(0, 100, 2, 2).encode();
+        QCOMPARE(SFCheckedFormatter::decode(archive.chopped(1)).encode(), defaults);
+        archive[3] = 2;
+        QCOMPARE(SFCheckedFormatter::decode(archive).encode(), defaults);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    return test::run<QCoreApplication, TestCheckedFormatter>(argc, argv);
+}
+
+#include "tst_checked_formatter.moc"
