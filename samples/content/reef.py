@@ -122,7 +122,7 @@ TARGETS = {
 COLUMNS = form.columns(("date", 96), ("temp", 64), ("salt", 68), ("ph", 52), ("alkalinity", 76), ("calcium", 70), ("magnesium", 86),
                        ("nitrate", 68), "phosphate", "ammonia", "nitrite", "iodine")
 
-SORT = {"Condition": ("date", False), "Schedule": ("date", True), "Inventory": ("count", True), "Expense": ("date", True),
+SORT = {"Condition": ("date", True), "Schedule": ("date", True), "Inventory": ("count", True), "Expense": ("date", True),
         "Note": ("date", False)}
 
 SCHEDULE = [
@@ -176,7 +176,7 @@ NOTES = [
 
 def build():
     lists = livestock(NAME, LIVESTOCK, "reef", lambda species: REEF_SAFETY.get(species, form.YES))
-    lists["Condition"] = chemistry.reef()[::-1]
+    lists["Condition"] = chemistry.reef()
     lists["Schedule"] = [form.activity(*row) for row in SCHEDULE]
     lists["Inventory"] = sorted((form.inventory(*row) for row in INVENTORY), key=lambda record: int(record["Count"]))
     lists["Expense"] = [form.expense(*row) for row in EXPENSES]
