@@ -242,6 +242,70 @@ private Q_SLOTS:
         QTEST(localeDateText(QDateTime(QDate(2007, 3, 4), QTime(18, 22))), "shown");
     }
 
+    void typedDates_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QDate>("day");
+        const QString american = "%m/%d/%y";
+        const QString british = "%d/%m/%Y";
+        const QString german = "%d.%m.%y";
+        const QString named = "%A, %1d %B %Y";
+        const QDate day(2007, 3, 4);
+        const QDate none;
+        row("American", american, "03/04/07", day);
+        row("British", british, "04/03/2007", day);
+        row("German", german, "04.03.07", day);
+        row("no leading zeros", american, "3/4/7", day);
+        row("four digits for two", german, "4.3.2007", day);
+        row("two digits for four", british, "4/3/07", day);
+        row("blanks", german, "  4. 3. 07 ", day);
+        row("other separators", german, "4/3-07", day);
+        row("names", named, "Sunday, 4 march 2007", day);
+        row("short names", named, "Sun, 4 Mar 2007", day);
+        row("mark at the end", "%d.%m.%Y г.", "4.3.2007", day);
+        row("year first", "%Y-%m-%d", "2007-3-4", day);
+        row("last of this century", german, "4.3.68", QDate(2068, 3, 4));
+        row("first of the last century", german, "4.3.69", QDate(1969, 3, 4));
+        row("leap day", german, "29.2.24", QDate(2024, 2, 29));
+        row("no leap day", german, "29.2.23", none);
+        row("no such month", american, "13/4/07", none);
+        row("day 0", american, "3/0/07", none);
+        row("three-digit year", british, "4/3/200", none);
+        row("five-digit year", british, "4/3/20070", none);
+        row("no year", german, "4.3.", none);
+        row("empty", german, "", none);
+        row("word", german, "yesterday", none);
+        row("something behind", german, "4.3.07 x", none);
+        row("other mark", german, "4:3:07", none);
+        row("negative", german, "-4.3.07", none);
+        row("format of a time", "%H:%M", "18:22", none);
+    }
+
+    void typedDates()
+    {
+        QFETCH(QString, format);
+        QFETCH(QString, typed);
+        const QDateTime read = dateFromCalendarText(typed, format, QLocale("en_US"));
+        QTEST(read.date(), "day");
+        QCOMPARE(read.isNull(), read.date().isNull());
+        if (!read.isNull())
+            QCOMPARE(read, QDateTime(read.date(), QTime(0, 0)));
+    }
+
+    // Whatever the user's short format is: what is shown can be typed.
+    void shownDatesCanBeTyped()
+    {
+        for (const QLocale &locale :
+             QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
+            const QString format = calendarFormatFromQt(locale.dateFormat(QLocale::ShortFormat));
+            const QDate day(2011, 12, 25);
+            const QString shown = calendarText(day.startOfDay(), format, locale);
+            QVERIFY2(dateFromCalendarText(shown, format, locale).date() == day,
+                     qPrintable(locale.name() + u' ' + shown));
+        }
+    }
+
     void calendarTextAgreesWithTheCLibrary()
     {
         const std::string before = std::setlocale(LC_TIME, nullptr);

@@ -1,5 +1,7 @@
 #include "base/text/DateText.h"
 
+#include "base/text/TypedDate.h"
+
 #include <array>
 #include <cstdlib>
 
@@ -245,6 +247,23 @@ QString calendarText(const QDateTime &date, const QString &calendarFormat, const
         result += fieldText(date, calendarFormat.at(i).unicode(), bare, locale);
     }
     return result;
+}
+
+QDateTime dateFromCalendarText(QStringView text, const QString &calendarFormat, const QLocale &locale)
+{
+    TypedDate typed(text, locale);
+    for (qsizetype i = 0; i < calendarFormat.size(); ++i) {
+        const bool isField = calendarFormat.at(i) == u'%' && i + 1 < calendarFormat.size();
+        if (isField && calendarFormat.at(i + 1) == u'1' && i + 2 < calendarFormat.size())
+            ++i;
+        if (isField)
+            ++i;
+        const QChar c = calendarFormat.at(i);
+        if (isField && c != u'%' ? !typed.readField(c.unicode()) : !typed.readMark(c))
+            return {};
+    }
+    const QDate day = typed.day();
+    return day.isValid() ? day.startOfDay() : QDateTime();
 }
 
 QString calendarFormatFromQt(const QString &qtFormat)

@@ -26,6 +26,15 @@ namespace brinemark
 [[nodiscard]] QString calendarText(const QDateTime &date, const QString &calendarFormat,
                                    const QLocale &locale = QLocale());
 
+/// Reads a date that a person typed in calendar-format notation: midnight of that day, in local time. Days, months and
+/// years (%d %e %m %b %B %y %Y) are read, the weekday's name (%a %A) is passed over; leading zeros, blanks and a mark
+/// at the end may be missing, and the full stop, the slash and the hyphen stand for one another. A year has two or four
+/// digits, whatever the format says; of two digits 69 to 99 are 1969 to 1999 and 00 to 68 are 2000 to 2068, as POSIX
+/// reads %y. Null when the text is anything else, when the format has other fields or lacks one of the three, and for a
+/// day that does not exist.
+[[nodiscard]] QDateTime dateFromCalendarText(QStringView text, const QString &calendarFormat,
+                                             const QLocale &locale = QLocale());
+
 /// Translates the toolkit's notation ("M/d/yy 'at' h:mm AP") to calendar-format notation ("%m/%d/%y at %I:%M %p").
 /// Numeric fields become two-digit ones, so that columns of dates line up.
 [[nodiscard]] QString calendarFormatFromQt(const QString &qtFormat);
