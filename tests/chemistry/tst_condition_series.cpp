@@ -1,0 +1,271 @@
+#include "chemistry/ConditionSeries.h"
+#include "chemistry/TargetBand.h"
+#include "model/Tank.h"
+#include "support/DataRow.h"
+#include "support/RunTest.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include <cmath>
+
+using namespace brinemark;
+using test::row;
+
+namespace
+{
+
+using Values = QList<float>;
+using Days = QList<double>;
+
+const QDateTime firstMoment(QDate(2026, 3, 1), QTime(18, 0), Qt::UTC);
+
+std::shared_ptr<ConditionData> testOn(double day)
+{
+    auto record = std::make_shared<ConditionData>(Blank{});
+    record->date = firstMoment.addMSecs(qRound64(day * 86'400'000));
+    return record;
+}
+
+} // namespace
+
+/// The lines that a graph draws, held against numbers worked out by hand.
+class TestConditionSeries : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_tank = std::make_shared<Tank>(QStringLiteral("Reef")); }
+
+    void gaps_data()
+    {
+        QTest::addColumn<Days>("days");
+        QTest::addColumn<Values>("tested");
+        QTest::addColumn<Values>("drawn");
+        row("all tested", Days{0, 1.5, 2}, Values{7, 8, 7.5F}, Values{7, 8, 7.5F});
+        row("straight through a gap", Days{0, 1, 2, 3}, Values{7, -1, -1, 8},
+            Values{7, 7 + 1.0F / 3, 7 + 1.0F / 3 * 2, 8});
+        row("by count, not by date", Days{0, 9, 10}, Values{6, -1, 8}, Values{6, 7, 8});
+        row("down", Days{0, 1, 2, 3, 4}, Values{8, -1, -1, -1, 0}, Values{8, 6, 4, 2, 0});
+        row("flat at the start", Days{0, 1, 2}, Values{-1, -1, 7.5F}, Values{7.5F, 7.5F, 7.5F});
+        row("flat at the end", Days{0, 1, 2, 3}, Values{7, 6, -1, -1}, Values{7, 6, 6, 6});
+        row("all three", Days{0, 1, 2, 3, 4, 5, 6}, Values{-1, 2, -1, 4, 5, -1, -1}, Values{2, 2, 3, 4, 5, 5, 5});
+        row("any negative value", Days{0, 1, 2}, Values{1, -0.25F, 3}, Values{1, 2, 3});
+        row("no number", Days{0, 1, 2}, Values{1, std::nanf(""), 3}, Values{1, 2, 3});
+        row("a measured nothing", Days{0, 1, 2}, Values{0, 0, 5}, Values{0, 0, 5});
+        row("one", Days{0}, Values{7}, Values{7});
+        row("never tested", Days{0, 1}, Values{-1, -1}, Values{});
+    }
+    void gaps()
+    {
+        QFETCH(Days, days);
+        QFETCH(Values, tested);
+        QFETCH(Values, drawn);
+        for (int i = 0; i < days.size(); ++i) {
+            auto record = testOn(days[i]);
+            record->ph = tested[i];
+            m_tank->conditionListArray().push_back(record);
+        }
+        const ConditionSeries series = seriesOf({"date", "ph"});
+        const QList<QPointF> points = series.points(Parameter::Ph);
+        QCOMPARE(series.isTested(Parameter::Ph), !drawn.isEmpty());
+        QCOMPARE(points.size(), drawn.size());
+        for (int i = 0; i < drawn.size(); ++i)
+            QCOMPARE(points[i], QPointF(float(days[i]), drawn[i]));
+    }
+
+    void axes_data()
+    {
+        QTest::addColumn<Days>("days");
+        QTest::addColumn<float>("highest");
+        QTest::addColumn<double>("maxYValue");
+        QTest::addColumn<int>("yTicks");
+        QTest::addColumn<int>("xTicks");
+        row("ten days", Days{0, 10}, 7.5F, 20.0, 10, 10);
+        row("thirty days", Days{0, 30}, 35.0F, 35.0, 10, 12);
+        row("a second less than twelve", Days{0, 12 - 1 / 86400.0}, 40.0F, 40.0, 10, 11);
+        row("twelve", Days{0, 12}, 40.25F, 40.25, 4, 12);
+        row("one day", Days{0, 1}, 41.0F, 41.0, 5, 2);
+        row("one moment", Days{0, 0}, 100.0F, 100.0, 10, 2);
+        row("one test", Days{0}, 200.0F, 200.0, 20, 2);
+        row("calcium", Days{0, 3}, 420.0F, 420.0, 20, 3);
+    }
+    void axes()
+    {
+        QFETCH(Days, days);
+        QFETCH(float, highest);
+        for (const double day : days)
+            m_tank->conditionListArray().push_back(testOn(day));
+        m_tank->conditionListArray().back()->nitrate = highest;
+        m_tank->conditionListArray().back()->temp = 1000;  // never drawn
+        m_tank->conditionListArray().back()->copper = 500; // not shown
+        const ConditionSeries series = seriesOf({"temp", "nitrate"});
+        QTEST(series.maxYValue(), "maxYValue");
+        QTEST(series.numberOfYTickMarks(), "yTicks");
+        QTEST(series.numberOfXTickMarks(), "xTicks");
+        QCOMPARE(series.maxXValue(), float(days.last()));
+    }
+
+    void wholeNumbers()
+    {
+        m_tank->conditionListArray() = {testOn(0), testOn(1), testOn(2)};
+        m_tank->conditionListArray()[0]->calcium = 400;
+        m_tank->conditionListArray()[2]->calcium = 421;
+        const ConditionSeries series = seriesOf({"calcium"});
+        QCOMPARE(series.maxYValue(), 421.0);
+        QCOMPARE(series.points(Parameter::Calcium)[1], QPointF(1, 410.5));
+    }
+
+    void lines_data()
+    {
+        using Lines = QList<Parameter>;
+        QTest::addColumn<QStringList>("columns");
+        QTest::addColumn<Lines>("lines");
+        row("in the order of the columns", QStringList{"kH", "date", "temp", "ph"},
+            Lines{Parameter::KH, Parameter::Ph});
+        row("temperature alone", QStringList{"date", "temp"}, Lines{});
+        row("unknown", QStringList{"colour", "", "iron"}, Lines{Parameter::Iron});
+        row("twice hides", QStringList{"ph", "iron", "ph"}, Lines{Parameter::Iron});
+        row("none", QStringList{}, Lines{});
+    }
+    void lines()
+    {
+        QFETCH(QStringList, columns);
+        QFETCH(QList<Parameter>, lines);
+        QVERIFY(seriesOf(columns).colorIdentifierArray().empty()); // no test, no line
+        m_tank->conditionListArray() = {testOn(0), testOn(1)};
+        const ConditionSeries series = seriesOf(columns);
+        QCOMPARE(QList<Parameter>(series.colorIdentifierArray().begin(), series.colorIdentifierArray().end()), lines);
+    }
+
+    void range()
+    {
+        // Out of order, one at each end, one before, one after, and one that lost its date.
+        for (const double day : {3.0, 1.0, 5.0, 0.0, 4.0, 2.0, 3.0})
+            m_tank->conditionListArray().push_back(testOn(day));
+        m_tank->conditionListArray().push_back(std::make_shared<ConditionData>(Blank{}));
+        m_tank->conditionListArray()[0]->ph = 6;
+        m_tank->conditionListArray()[6]->ph = 7;
+        const auto in = [&](double from, double to) {
+            return ConditionSeries(*m_tank->condition(), testOn(from)->date, testOn(to)->date);
+        };
+        Days days;
+        const ConditionSeries inside = in(1, 4);
+        for (const auto &record : inside.graphArray())
+            days << double(firstMoment.secsTo(record->date)) / 86400;
+        QCOMPARE(days, (Days{1, 2, 3, 3, 4}));
+        QCOMPARE(in(3, 3.5).graphArray().front()->ph, 6.0F); // of one moment, the log's order
+
+        // The same moments in another zone.
+        const QDateTime start = testOn(1)->date.toOffsetFromUtc(5 * 3600);
+        QCOMPARE(ConditionSeries(*m_tank->condition(), start, start.addDays(1)).graphArray().size(), std::size_t(2));
+
+        const ConditionSeries none = in(10, 20);
+        QVERIFY(none.graphArray().empty());
+        QCOMPARE(none.maxXValue(), 0.0F);
+        QCOMPARE(none.maxYValue(), 20.0);
+        QCOMPARE(none.numberOfXTickMarks(), 2);
+    }
+
+    void labels_data()
+    {
+        QTest::addColumn<QString>("defaultLabel");
+        QTest::addColumn<QString>("day");
+        QTest::addColumn<QString>("value");
+        row("first", "0", "1", "0");
+        row("fraction", "2.7272727", "3", "2.73");
+        row("tenths", "10", "11", "10");
+        row("hundreds", "420", "421", "420");
+        row("four digits", "1250", "1251", "1.25e+03");
+        row("small", "0.0125", "1", "0.0125");
+    }
+    void labels()
+    {
+        QFETCH(QString, defaultLabel);
+        QFETCH(QString, value);
+        QTEST(dayTickLabel(defaultLabel), "day");
+        QCOMPARE(valueTickLabel(defaultLabel), inUsersNotation(value));
+    }
+
+    void toolTips()
+    {
+        m_tank->conditionListArray() = {testOn(0), testOn(10)};
+        const ConditionSeries series = seriesOf({"ph"});
+        const bool german = QLocale().decimalPoint() == u",";
+        QCOMPARE(series.toolTip({0, 7}),
+                 QStringLiteral("x: %1\ny: %2").arg(german ? "01.03.26" : "03/01/26", inUsersNotation("7.0")));
+        QCOMPARE(series.toolTip({1.01, 7.125}),
+                 QStringLiteral("x: %1\ny: %2").arg(german ? "03.03.26" : "03/03/26", inUsersNotation("7.125")));
+        QCOMPARE(series.toolTip({2, 8}).section(u'\n', 0, 0), german ? "x: 03.03.26" : "x: 03/03/26");
+        QCOMPARE(ConditionSeries().toolTip({1, 7}), QString());
+    }
+
+    void scale()
+    {
+        QCOMPARE(scaledMaxYValue(420, 0), 420.0);
+        QCOMPARE(scaledMaxYValue(420, 400), 20.0);
+        QCOMPARE(scaledMaxYValue(20, 20), 0.1);
+        QCOMPARE(scaledMaxYValue(20, 19.95F), 0.1);
+        QCOMPARE(scaledMaxYValue(8.1F, 0.3F), double(8.1F - 0.3F)); // as single-precision numbers subtract
+    }
+
+    void colours()
+    {
+        for (const ParameterTraits &traits : parameterTable)
+            QCOMPARE(traits.lineColour.has_value(), traits.parameter != Parameter::Temp);
+        QCOMPARE(traitsOf(Parameter::Nitrate).lineColour->green, 0.44F);
+        QCOMPARE(traitsOf(Parameter::GH).lineColour->blue, 0.21F);
+    }
+
+    void targetBands()
+    {
+        TankData target;
+        target.preferredValue = 8.2F;
+        target.deviationValue = 0.2F;
+        QVERIFY(!targetBand(target));
+        target.warningOn = true;
+        QCOMPARE(targetBand(target), (TargetBand{8.2F, 8.2F}));
+        target.deviationOn = true;
+        QCOMPARE(targetBand(target), (TargetBand{8.2F - 0.2F, 8.2F + 0.2F}));
+    }
+
+    void tenThousandTestsOfEverything()
+    {
+        for (int i = 10'000; i > 0; --i) {
+            auto record = testOn(i);
+            record->ph = i % 3 ? -1.0F : 7.0F;
+            record->iron = i == 5000 ? 1.0F : -1.0F;
+            m_tank->conditionListArray().push_back(record);
+        }
+        QElapsedTimer timer;
+        timer.start();
+        const ConditionSeries series(*m_tank->condition(), testOn(1)->date, testOn(10'000)->date);
+        qsizetype count = 0;
+        for (const Parameter parameter : series.colorIdentifierArray())
+            count += series.points(parameter).size();
+        QCOMPARE(series.colorIdentifierArray().size(), std::size_t(16));
+        QCOMPARE(count, 2 * 10'000);
+        QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    }
+
+private:
+    ConditionSeries seriesOf(const QStringList &columns)
+    {
+        Condition::ColumnInfoArray layout;
+        for (const QString &identifier : columns)
+            layout.push_back({identifier, 0});
+        m_tank->condition()->setColumnInfoArray(layout);
+        return {*m_tank->condition(), firstMoment, firstMoment.addYears(1)};
+    }
+
+    static QString inUsersNotation(QString number) { return number.replace(u'.', QLocale().decimalPoint()); }
+
+    std::shared_ptr<Tank> m_tank;
+};
+
+int main(int argc, char **argv)
+{
+    return brinemark::test::run<QCoreApplication, TestConditionSeries>(argc, argv);
+}
+
+#include "tst_condition_series.moc"
