@@ -784,6 +784,16 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Diagramm …</translation>
     </message>
     <message>
+        <source>GraphViewDescription</source>
+        <extracomment>what a screen reader says about the use of a graph</extracomment>
+        <translation>Plus und Minus vergrößern und verkleinern, die Pfeiltasten verschieben den Ausschnitt, 0 zeigt alles.</translation>
+    </message>
+    <message>
+        <source>GraphViewName</source>
+        <extracomment>what a screen reader calls a graph</extracomment>
+        <translation>Diagramm</translation>
+    </message>
+    <message>
         <source>GroupEntries</source>
         <translation>Einträge: </translation>
     </message>

@@ -784,6 +784,16 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>Graph…</translation>
     </message>
     <message>
+        <source>GraphViewDescription</source>
+        <extracomment>what a screen reader says about the use of a graph</extracomment>
+        <translation>Plus and minus zoom, the arrow keys move what is visible, 0 shows everything.</translation>
+    </message>
+    <message>
+        <source>GraphViewName</source>
+        <extracomment>what a screen reader calls a graph</extracomment>
+        <translation>Graph</translation>
+    </message>
+    <message>
         <source>GroupEntries</source>
         <translation>Entries: </translation>
     </message>

@@ -1,6 +1,8 @@
 #include "ui/Colours.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace brinemark
 {
@@ -30,6 +32,12 @@ static_assert([] {
     return true;
 }());
 
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
 } // namespace
 
 QColor colour(ColourRole role, const QPalette &palette)
@@ -47,6 +55,12 @@ QPalette quietPalette(QPalette palette)
 bool isDark(const QPalette &palette)
 {
     return palette.color(QPalette::Window).lightness() < 128;
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
+    return (light + 0.05) / (dark + 0.05);
 }
 
 } // namespace brinemark

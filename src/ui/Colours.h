@@ -19,4 +19,8 @@ QPalette quietPalette(QPalette palette);
 /// Whether the palette is a dark one.
 bool isDark(const QPalette &palette);
 
+/// How well two opaque colours are told apart, from 1 to 21: the contrast ratio of their relative luminances as
+/// WCAG 2.1 defines it.
+double contrast(const QColor &a, const QColor &b);
+
 } // namespace brinemark

@@ -3,29 +3,24 @@
 #include <QPalette>
 #include <QTest>
 
-#include <algorithm>
 #include <cmath>
 
 using namespace brinemark;
-
-/// Relative luminance and contrast ratio as WCAG 2.1 defines them.
-static double luminance(const QColor &colour)
-{
-    const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-static double contrast(const QColor &a, const QColor &b)
-{
-    const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
-    return (light + 0.05) / (dark + 0.05);
-}
 
 class ColoursTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Against figures that other checkers of contrast give.
+    void contrastIsTheRatioOfLuminances()
+    {
+        QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
+        QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
+        QVERIFY(std::abs(contrast(QColor("#767676"), Qt::white) - 4.54) < 0.01);
+        QVERIFY(std::abs(contrast(Qt::blue, Qt::white) - 8.59) < 0.01);
+    }
+
     void canBeReadAsText_data()
     {
         QTest::addColumn<QColor>("window");

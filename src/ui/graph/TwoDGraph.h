@@ -17,7 +17,7 @@ enum class GraphSymbol { None, Square, Circle, Triangle, Diamond };
 
 /// How a line is drawn.
 struct GraphLineAttributes {
-    QColor colour;
+    QColor colour;    ///< opaque
     double width = 1; ///< device-independent pixels
     GraphSymbol symbol = GraphSymbol::None;
 };

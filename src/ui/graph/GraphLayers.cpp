@@ -1,0 +1,144 @@
+#include "ui/graph/GraphLayers.h"
+
+#include "ui/graph/Decimate.h"
+#include "ui/graph/GraphPlot.h"
+#include "ui/graph/GraphSymbols.h"
+#include "ui/graph/Polyline.h"
+
+#include <cmath>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// How far symbols reach beyond the plot when their points are on its edge.
+constexpr int symbolMargin = 6;
+
+/// Symbols nearer to one another than this would be a mere thickening of the line, in pixels.
+constexpr double symbolDistance = 8;
+
+/// What a hair-thin outline adds to a line's width.
+constexpr double outlineWidth = 1.2;
+
+} // namespace
+
+GraphBandLayer::GraphBandLayer(GraphPlot *plot)
+    : QCPLayerable(plot, QStringLiteral("background"))
+    , m_plot(plot)
+{
+}
+
+QRect GraphBandLayer::clipRect() const
+{
+    return m_plot->plotRect();
+}
+
+void GraphBandLayer::applyDefaultAntialiasingHint(QCPPainter *painter) const
+{
+    painter->setAntialiasing(false);
+}
+
+void GraphBandLayer::draw(QCPPainter *painter)
+{
+    const std::optional<GraphBand> &band = m_plot->scene().band;
+    if (!band || !std::isfinite(band->low) || !std::isfinite(band->high))
+        return;
+    const QRectF plot = m_plot->plotRect();
+    const double low = m_plot->toPixels({0, std::min(band->low, band->high)}).y();
+    const double high = m_plot->toPixels({0, std::max(band->low, band->high)}).y();
+    // Edges far outside would be beyond what a painter takes.
+    const auto edge = [&plot](double y) { return std::clamp(y, plot.top() - 10, plot.bottom() + 10); };
+    QColor shade = band->colour;
+    shade.setAlphaF(0.14F);
+    painter->setBrush(Qt::NoBrush);
+    if (band->low == band->high) {
+        painter->setPen(QPen(band->colour, 1.5, Qt::DashLine, Qt::FlatCap));
+        painter->drawLine(QLineF(plot.left(), edge(low), plot.right(), edge(low)));
+        return;
+    }
+    painter->fillRect(QRectF(QPointF(plot.left(), edge(high)), QPointF(plot.right() + 1, edge(low))), shade);
+    shade.setAlphaF(0.5F);
+    painter->setPen(QPen(shade, 1));
+    for (const double y : {edge(low), edge(high)})
+        painter->drawLine(QLineF(plot.left(), y, plot.right(), y));
+}
+
+GraphLinesLayer::GraphLinesLayer(GraphPlot *plot)
+    : QCPLayerable(plot, QStringLiteral("lines"))
+    , m_plot(plot)
+{
+}
+
+QRect GraphLinesLayer::clipRect() const
+{
+    return m_plot->plotRect().adjusted(-symbolMargin, -symbolMargin, symbolMargin, symbolMargin);
+}
+
+void GraphLinesLayer::applyDefaultAntialiasingHint(QCPPainter *painter) const
+{
+    painter->setAntialiasing(true);
+}
+
+void GraphLinesLayer::draw(QCPPainter *painter)
+{
+    for (const GraphLine &line : m_plot->scene().lines) {
+        if (line.visible)
+            drawLine(painter, line);
+    }
+}
+
+void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
+{
+    const GraphRange &x = m_plot->scene().range(GraphAxis::X);
+    const QRect plot = m_plot->plotRect();
+    if (plot.width() < 2 || plot.height() < 2)
+        return;
+    const double columnWidth = 1 / m_plot->bufferDevicePixelRatio();
+    QPolygonF pixels;
+    for (const QPointF &point : decimated(line.points, x.min, x.max, int(plot.width() / columnWidth)))
+        pixels.append(m_plot->toPixels(point));
+
+    const double width = line.attributes.width;
+    const QColor outline = m_plot->look().outlineOf(line.attributes.colour);
+    const double reach = width / 2 + outlineWidth;
+    const QRectF area = QRectF(plot).adjusted(-reach, -reach, reach, reach);
+    painter->save();
+    painter->setClipRect(area);
+    const QList<QLineF> segments = segmentsOf(pixels, area.adjusted(-width, -width, width, width), columnWidth);
+    const auto stroke = [&](const QColor &colour, double penWidth) {
+        painter->setPen(QPen(colour, penWidth, Qt::SolidLine, Qt::SquareCap));
+        painter->drawLines(segments);
+    };
+    if (outline.isValid())
+        stroke(outline, width + outlineWidth);
+    stroke(line.attributes.colour, width);
+    painter->restore();
+    drawSymbols(painter, line, pixels);
+}
+
+void GraphLinesLayer::drawSymbols(QCPPainter *painter, const GraphLine &line, const QPolygonF &pixels) const
+{
+    // A single point has no line that would show it.
+    GraphSymbol symbol = line.attributes.symbol;
+    if (symbol == GraphSymbol::None && line.points.size() == 1)
+        symbol = GraphSymbol::Circle;
+    if (symbol == GraphSymbol::None)
+        return;
+    const QColor outline = m_plot->look().outlineOf(line.attributes.colour);
+    painter->setPen(QPen(outline.isValid() ? outline : m_plot->look().background, outlineWidth / 2));
+    painter->setBrush(line.attributes.colour);
+    const QRectF area = QRectF(m_plot->plotRect()).adjusted(-0.5, -0.5, 0.5, 0.5);
+    const auto near = [&](qsizetype a, qsizetype b) {
+        return std::abs(pixels[a].x() - pixels[b].x()) < symbolDistance;
+    };
+    for (qsizetype i = 0; i < pixels.size(); ++i) {
+        const bool crowded = (i > 0 || i + 1 < pixels.size()) && (i == 0 || near(i - 1, i)) &&
+                             (i + 1 == pixels.size() || near(i, i + 1));
+        if (!crowded && area.contains(pixels[i]))
+            drawGraphSymbol(*painter, symbol, pixels[i]);
+    }
+}
+
+} // namespace brinemark

@@ -1,0 +1,48 @@
+#include "ui/graph/GraphLook.h"
+
+#include "ui/Colours.h"
+
+#include <QFontInfo>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// `part` of the second colour in the first.
+QColor mixed(const QColor &a, const QColor &b, double part)
+{
+    const auto mix = [part](double x, double y) { return float(x + (y - x) * part); };
+    return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
+}
+
+GraphLook lookOf(const QColor &background, const QColor &text, const QFont &font)
+{
+    return {background, text, mixed(background, text, 0.45), mixed(background, text, 0.12), font};
+}
+
+} // namespace
+
+GraphLook GraphLook::onScreen(const QPalette &palette, const QFont &font)
+{
+    return lookOf(palette.color(QPalette::Base), palette.color(QPalette::WindowText), font);
+}
+
+GraphLook GraphLook::onPaper(const QFont &font)
+{
+    QFont byPixels = font;
+    byPixels.setPixelSize(QFontInfo(font).pixelSize());
+    return lookOf(Qt::white, QColor(0x20, 0x24, 0x28), byPixels);
+}
+
+QColor GraphLook::outlineOf(const QColor &colour) const
+{
+    // What WCAG 2.1 asks of graphical objects against what is beside them.
+    constexpr double visible = 3;
+    if (contrast(colour, background) >= visible)
+        return {};
+    return mixed(background, text, 0.6);
+}
+
+} // namespace brinemark

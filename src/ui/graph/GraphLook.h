@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+namespace brinemark
+{
+
+/// The colours and the font in which a graph is drawn.
+struct GraphLook {
+    QColor background;
+    QColor text;
+    QColor axis;
+    QColor grid;
+    QFont font;
+
+    /// The look on the screen.
+    static GraphLook onScreen(const QPalette &palette, const QFont &font);
+
+    /// The look on paper and in exported files: dark on white whatever the desktop's colours, and the font by pixels,
+    /// so that it grows with the drawing and not with the paper's resolution.
+    static GraphLook onPaper(const QFont &font);
+
+    /// The colour that frames a line of `colour` so that it can be seen on the background; invalid when it is seen
+    /// without.
+    [[nodiscard]] QColor outlineOf(const QColor &colour) const;
+};
+
+} // namespace brinemark

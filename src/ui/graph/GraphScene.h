@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/graph/GraphBand.h"
+#include "ui/graph/GraphRange.h"
+#include "ui/graph/TwoDGraph.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <array>
+#include <optional>
+
+namespace brinemark
+{
+
+/// The tick marks of an axis and what is written at them.
+struct GraphTicks {
+    QList<double> positions;
+    QStringList labels; ///< as many as positions
+};
+
+/// One line as it is drawn.
+struct GraphLine {
+    QList<QPointF> points; ///< finite, ascending in x
+    GraphLineAttributes attributes;
+    bool visible = true;
+};
+
+/// Everything that a plot draws, on the screen and on paper.
+struct GraphScene {
+    QList<GraphLine> lines;
+    std::array<GraphRange, 2> visible; ///< by axis
+    std::array<GraphTicks, 2> ticks;   ///< by axis
+    std::optional<GraphBand> band;
+
+    [[nodiscard]] const GraphRange &range(GraphAxis axis) const { return visible[std::size_t(axis)]; }
+    [[nodiscard]] GraphRange &range(GraphAxis axis) { return visible[std::size_t(axis)]; }
+};
+
+} // namespace brinemark

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QLineF>
+#include <QList>
+#include <QPolygonF>
+#include <QRectF>
+
+namespace brinemark
+{
+
+/// The segments of a polyline as far as they lie within `area`: a strongly magnified line has corners millions of
+/// pixels away, more than a painter can take. Three or more corners in a row within one column of `columnWidth` become
+/// one upright segment from the lowest to the highest, which looks the same.
+///
+/// Single segments, because the raster engine strokes them some forty times faster than one long polyline (950 corners,
+/// 2 pixels wide, smooth: 0.5 ms against 24 ms).
+[[nodiscard]] QList<QLineF> segmentsOf(const QPolygonF &line, const QRectF &area, double columnWidth);
+
+} // namespace brinemark

@@ -1,0 +1,8 @@
+#pragma once
+
+// The library's header uses two words that this build leaves undefined.
+#define signals Q_SIGNALS
+#define foreach(variable, container) for (variable : container)
+#include <qcustomplot.h>
+#undef foreach
+#undef signals
