@@ -4,7 +4,6 @@
 #include "base/text/Texts.h"
 
 #include <QDataStream>
-#include <QIODevice>
 
 #include <algorithm>
 #include <array>
@@ -16,7 +15,7 @@ namespace brinemark
 namespace
 {
 
-constexpr qint32 archiveVersion = 1;
+constexpr auto className = "SFCheckedFormatter";
 constexpr QChar minus = u'-';
 
 double asParsed(double value)
@@ -45,8 +44,13 @@ bool isNumber(const QVariant &value)
     case QMetaType::Float:
     case QMetaType::Int:
     case QMetaType::UInt:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Long:
+    case QMetaType::ULong:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
+    case QMetaType::Bool:
         return true;
     default:
         return false;
@@ -73,6 +77,36 @@ SFCheckedFormatter::SFCheckedFormatter(double min, double max, int precision, in
     setMax(max);
 }
 
+SFCheckedFormatter::SFCheckedFormatter(QDataStream &coder)
+    : SFCheckedFormatter()
+{
+    QByteArray name;
+    qint32 version = 0;
+    coder >> name >> version;
+    if (coder.status() == QDataStream::Ok && name != className)
+        coder.setStatus(QDataStream::ReadCorruptData);
+    if (coder.status() != QDataStream::Ok || version != classVersion)
+        return;
+    double min = 0;
+    double max = 0;
+    qint32 precision = 0;
+    qint32 rounding = 0;
+    coder >> min >> max >> precision >> rounding;
+    if (coder.status() == QDataStream::Ok)
+        *this = SFCheckedFormatter(min, max, precision, rounding);
+}
+
+SFCheckedFormatter SFCheckedFormatter::checkedFormatter()
+{
+    return SFCheckedFormatter();
+}
+
+SFCheckedFormatter SFCheckedFormatter::checkedFormatterWithMin(double min, double max, int precision,
+                                                               int roundingBehaviour)
+{
+    return SFCheckedFormatter(min, max, precision, roundingBehaviour);
+}
+
 void SFCheckedFormatter::setMin(double min)
 {
     if (std::isnan(min))
@@ -93,13 +127,14 @@ double SFCheckedFormatter::getBestDoubleFromString(const QString &text) const
 {
     if (m_useNotTested && (text.isEmpty() || text == brinemark::text("NotTested"_key)))
         return -1;
+    const QChar decimal = separators().decimal;
     QString kept;
     bool separated = false;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
         if (isDigit(c) || (c == minus && i == 0)) {
             kept += c;
-        } else if (c == m_separators.decimal && !separated) {
+        } else if (c == decimal && !separated) {
             kept += u'.';
             separated = true;
         }
@@ -109,15 +144,18 @@ double SFCheckedFormatter::getBestDoubleFromString(const QString &text) const
 
 QVariant SFCheckedFormatter::getObjectValue(const QString &text) const
 {
-    if (text == minus)
-        return text;
+    return text == minus ? QVariant(text) : QVariant(numberForString(text));
+}
+
+double SFCheckedFormatter::numberForString(const QString &text) const
+{
     const double value = std::min(m_max, std::max(getBestDoubleFromString(text), m_min));
     const double scale = std::pow(10.0, m_precision);
     const bool known = m_roundingBehaviour >= 0 && m_roundingBehaviour < static_cast<int>(roundings.size());
     const auto rounding = known ? roundings[static_cast<std::size_t>(m_roundingBehaviour)] : asParsed;
     const double rounded = rounding(value * scale) / scale;
-    // A scale beyond the type's range would leave no number.
-    return std::isfinite(rounded) ? rounded : value;
+    // A scale beyond the type's range would leave no number. The sum makes -0 a 0, which nobody typed a sign for.
+    return (std::isfinite(rounded) ? rounded : value) + 0.0;
 }
 
 QString SFCheckedFormatter::stringForObjectValue(const QVariant &value) const
@@ -128,7 +166,7 @@ QString SFCheckedFormatter::stringForObjectValue(const QVariant &value) const
     if (number < 0 && m_useNotTested)
         return text("NotTested"_key);
     // Only the separator is the locale's: digits and sign of its own could not be read back.
-    return QString::number(number, 'f', std::clamp(m_precision, 0, 300)).replace(u'.', m_separators.decimal);
+    return QString::number(number, 'f', std::clamp(m_precision, 0, 300)).replace(u'.', separators().decimal);
 }
 
 VettedEdit SFCheckedFormatter::isPartialStringValid(const QString &proposed, const TextSelection &proposedSelection,
@@ -153,11 +191,12 @@ VettedEdit SFCheckedFormatter::isPartialStringValid(const QString &proposed, con
         return refuse;
 
     const QChar c = proposed[i];
+    const auto [decimal, thousands] = separators();
     if (c == minus) {
         const bool allowed = !m_useNotTested && m_min < 0 && i == 0;
         return allowed && (proposed.size() == 1 || proposed[1] != minus) ? accept : refuse;
     }
-    if (c == m_separators.decimal) {
+    if (c == decimal) {
         if (m_precision == 0)
             return refuse;
         qsizetype other = proposed.indexOf(c);
@@ -168,31 +207,13 @@ VettedEdit SFCheckedFormatter::isPartialStringValid(const QString &proposed, con
         // The separator typed last wins.
         return {false, QString(proposed).remove(other, 1), {i > other ? start : start + 1, 0}, false};
     }
-    return c == m_separators.thousands || isDigit(c) ? accept : refuse;
+    return c == thousands || isDigit(c) ? accept : refuse;
 }
 
-QByteArray SFCheckedFormatter::encode() const
+void SFCheckedFormatter::encodeWithCoder(QDataStream &coder) const
 {
-    QByteArray archive;
-    QDataStream stream(&archive, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_6_4);
-    stream << archiveVersion << m_min << m_max << qint32{m_precision} << qint32{m_roundingBehaviour};
-    return archive;
-}
-
-SFCheckedFormatter SFCheckedFormatter::decode(const QByteArray &archive)
-{
-    QDataStream stream(archive);
-    stream.setVersion(QDataStream::Qt_6_4);
-    qint32 version = 0;
-    double min = 0;
-    double max = 0;
-    qint32 precision = 0;
-    qint32 rounding = 0;
-    stream >> version >> min >> max >> precision >> rounding;
-    if (stream.status() != QDataStream::Ok || version != archiveVersion)
-        return SFCheckedFormatter();
-    return SFCheckedFormatter(min, max, precision, rounding);
+    coder << QByteArray(className) << classVersion << m_min << m_max << qint32{m_precision}
+          << qint32{m_roundingBehaviour};
 }
 
 } // namespace brinemark

@@ -3,6 +3,9 @@
 #include "support/RunTest.h"
 
 #include <QCoreApplication>
+#include <QDataStream>
+
+#include <tuple>
 
 using namespace brinemark;
 using test::row;
@@ -62,6 +65,13 @@ private Q_SLOTS:
                          u"12"),
             99.0, 1, 2, false, false, 12.0);
         row("400 digits", S(400, u'9'), 99.0, 1, 2, false, false, 99.0);
+        row("minus inside", S("1-2"), 99.0, 1, 2, false, false, 12.0);
+        row("blank before the minus", S(" -0.5"), 99.0, 1, 2, false, false, 0.5);
+        row("exponent", S("1e1"), 99.0, 1, 2, false, false, 11.0);
+        row("other separator", S("1,5"), 99.0, 1, 2, false, false, 15.0);
+        row("point alone", S("."), 99.0, 1, 2, false, false, 0.0);
+        row("rounded after the clamp", S("99.9"), 9.96, 1, 1, false, false, 10.0);
+        row("tens", S("87"), 99.0, 2, -1, false, false, 80.0);
         row("huge precision", S("5"), 99.0, 1, 400, false, false, 5.0);
     }
     void reads()
@@ -85,7 +95,11 @@ private Q_SLOTS:
         QVERIFY(!tested.stringForObjectValue(qQNaN()).isEmpty());
         QCOMPARE(formatter(-9, 9, 1, 1, false, false).stringForObjectValue(-2.0), QString("-2.0"));
         QCOMPARE(tested.stringForObjectValue(tested.getObjectValue("-")), QString("-"));
-        QVERIFY(tested.stringForObjectValue("x").isNull());
+        QCOMPARE(tested.getObjectValue("-").typeId(), int(QMetaType::QString));
+        QCOMPARE(tested.numberForString("-"), 0.0);
+        QCOMPARE(formatter(5, 9, 1, 1, false, false).numberForString("-"), 5.0);
+        QVERIFY(tested.stringForObjectValue("x").isNull() && tested.stringForObjectValue({}).isNull());
+        QCOMPARE(tested.stringForObjectValue(tested.getObjectValue("-0,001")), QString("0,00"));
     }
 
     void vets_data()
@@ -109,6 +123,12 @@ private Q_SLOTS:
         row("separator, whole", S("1,"), 1, 2, 0.0, 0, false, S("beep"));
         row("second after", S("1,2,"), 3, 4, 0.0, 2, false, S("12,|"));
         row("second before", S("1,2,3"), 1, 2, 0.0, 2, false, S("1,|23"));
+        row("second at the same place", S("1,,5"), 2, 3, 0.0, 2, false, S("1,|5"));
+        row("deleted forward", S("1,5"), 1, 1, 0.0, 2, false, S("ok"));
+        row("deleted forward to a letter", S("1x5"), 1, 1, 0.0, 2, false, S("beep"));
+        row("minus pasted", S("12-"), 0, 3, -9.0, 2, false, S("12,00|"));
+        row("backspace to minus", S("-"), 2, 1, -9.0, 2, false, S("-|"));
+        row("minus, below", S("-12"), 2, 3, -9.0, 2, false, S("beep"));
         row("minus", S("-"), 0, 1, -9.0, 2, false, S("ok"));
         row("minus, min 0", S("-"), 0, 1, 0.0, 2, false, S("beep"));
         row("minus, not tested", S("-"), 0, 1, -1.0, 2, true, S("beep"));
@@ -135,23 +155,74 @@ private Q_SLOTS:
         QCOMPARE(seen, outcome);
     }
 
-    void keepsItsRangeAndArchive()
+    /// Every formatter of the program reads and writes with the separators of the person's locale.
+    void followsTheLocale()
+    {
+        const SFCheckedFormatter checked(-1, 9999, 2, 1);
+        const QLocale before;
+        for (const auto &[name, typed, shown] :
+             {std::tuple{"en_US", "1,234.5", "1234.50"}, std::tuple{"de_DE", "1.234,5", "1234,50"},
+              std::tuple{"de_CH", "1\u2019234.5", "1234.50"}}) {
+            QLocale::setDefault(QLocale(QString(name)));
+            QCOMPARE(checked.getObjectValue(QString(typed)).toDouble(), 1234.5);
+            QCOMPARE(checked.stringForObjectValue(1234.5), QString(shown));
+            const QString grouped = QString::number(1) + QLocale().groupSeparator();
+            QVERIFY(checked.isPartialStringValid(grouped, {2, 0}, "1", {1, 0}).accepted);
+        }
+        QLocale::setDefault(before);
+        const QString own = QLocale().toString(12.5, 'f', 2);
+        QCOMPARE(checked.stringForObjectValue(checked.getObjectValue(own)), own);
+    }
+
+    void keepsItsRange()
     {
         SFCheckedFormatter checked;
         checked.setMin(200);
         QCOMPARE(checked.getMax(), 200.0);
         checked.setMax(-3);
         QCOMPARE(checked.getMin(), -3.0);
+        const auto crossed = SFCheckedFormatter::checkedFormatterWithMin(5, 3, 1, 4);
+        QCOMPARE(crossed.getMin(), 3.0);
+        QCOMPARE(crossed.getMax(), 3.0);
+        checked.setMax(qQNaN());
+        QCOMPARE(checked.getMax(), -3.0);
+    }
+
+    void archives_data()
+    {
+        QTest::addColumn<int>("cutOff");
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<int>("version");
+        QTest::addColumn<bool>("read");
+        const QByteArray name("SFCheckedFormatter");
+        row("whole", 0, name, 1, true);
+        row("older", 0, name, 0, false);
+        row("newer", 0, name, 2, false);
+        row("cut off", 1, name, 1, false);
+        row("another class", 0, QByteArray("SFChecked"), 1, false);
+    }
+    void archives()
+    {
+        QFETCH(int, cutOff);
+        QFETCH(QByteArray, name);
+        QFETCH(int, version);
+        QFETCH(bool, read);
+        SFCheckedFormatter checked(-7.25, 0.1, 4, 3);
         checked.setUseNotTested(true);
-        checked.setPrecision(4);
-        checked.setRoundingBehaviour(3);
-        QByteArray archive = checked.encode();
-        const auto same = SFCheckedFormatter::decode(archive);
-        QVERIFY(same.encode() == archive && !same.useNotTested());
-        const QByteArray defaults = SFCheckedFormatter(0, 100, 2, 2).encode();
-        QCOMPARE(SFCheckedFormatter::decode(archive.chopped(1)).encode(), defaults);
-        archive[3] = 2;
-        QCOMPARE(SFCheckedFormatter::decode(archive).encode(), defaults);
+        QByteArray own;
+        QDataStream byHand(&own, QIODevice::WriteOnly);
+        byHand << name << qint32(version) << -7.25 << 0.1 << qint32(4) << qint32(3);
+        QByteArray archive;
+        QDataStream writer(&archive, QIODevice::WriteOnly);
+        checked.encodeWithCoder(writer);
+        QCOMPARE(archive == own, name == "SFCheckedFormatter" && version == 1);
+
+        QDataStream reader(own.chopped(cutOff));
+        const SFCheckedFormatter decoded(reader);
+        const std::tuple seen{decoded.getMin(), decoded.getMax(), decoded.getPrecision(),
+                              decoded.getRoundingBehaviour()};
+        QVERIFY(seen == (read ? std::tuple{-7.25, 0.1, 4, 3} : std::tuple{0.0, 100.0, 2, 2}));
+        QVERIFY(!decoded.useNotTested());
     }
 };
 
