@@ -1,15 +1,10 @@
 #include "app/printing/PrintView.h"
 
-#include "base/Product.h"
-#include "ui/Alerts.h"
-#include "ui/Sheets.h"
+#include "ui/PrintSheet.h"
 
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QWidget>
-
-#include <memory>
 
 namespace brinemark
 {
@@ -29,34 +24,22 @@ bool paintView(QPrinter &printer, QWidget &view)
     return true;
 }
 
-std::shared_ptr<QPrinter> makePrinter(const QWidget &view)
+QPageLayout::Orientation orientationFor(const QWidget &view)
 {
-    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    printer->setDocName(QLatin1String(product::name));
-    printer->setPageOrientation(view.width() > view.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
-    return printer;
+    return view.width() > view.height() ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
 } // namespace
 
 void printView(QWidget *window, QWidget &view)
 {
-    const std::shared_ptr<QPrinter> printer = makePrinter(view);
-    auto *dialog = new QPrintDialog(printer.get(), window);
-    dialog->setObjectName(QStringLiteral("printDialog"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog, &QDialog::accepted, &view, [printer, &view] {
-        if (!paintView(*printer, view))
-            beep();
-    });
-    QObject::connect(dialog, &QObject::destroyed, &view,
-                     [printer] {}); // the dialog works on the printer until it is gone
-    openSheet(window, dialog);
+    openPrintSheet(window, orientationFor(view), &view,
+                   [&view](QPrinter &printer) { return paintView(printer, view); });
 }
 
 bool printViewWithoutDialog(QWidget &view)
 {
-    return paintView(*makePrinter(view), view);
+    return paintView(*makePrinter(orientationFor(view)), view);
 }
 
 } // namespace brinemark
