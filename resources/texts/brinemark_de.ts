@@ -784,6 +784,97 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Diagramm …</translation>
     </message>
     <message>
+        <source>GraphClose</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>GraphDraw</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <source>GraphDrawing</source>
+        <translation>Wird gezeichnet</translation>
+    </message>
+    <message>
+        <source>GraphEndLabel</source>
+        <translation>Ende:</translation>
+    </message>
+    <message>
+        <source>GraphEndToolTip</source>
+        <translation>Letzten Test wählen oder ein Datum eingeben</translation>
+    </message>
+    <message>
+        <source>GraphFormSentence</source>
+        <translation>Zeichnet die Wassertests zwischen zwei Tagen, mit einer Linie je Spalte, die im Protokoll zu sehen ist. Die Temperatur wird nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>GraphHint</source>
+        <translation>Scrollen oder + und − zoomt, Ziehen verschiebt, ein Doppelklick zeigt das ganze Diagramm.</translation>
+    </message>
+    <message>
+        <source>GraphLegend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>GraphLegendBand</source>
+        <extracomment>^0 and ^1 are the limits of the parameter&apos;s target, numbers.</extracomment>
+        <translation>Ziel: ^0 bis ^1</translation>
+    </message>
+    <message>
+        <source>GraphLegendToolTip</source>
+        <translation>Diese Linie ein- oder ausblenden.</translation>
+    </message>
+    <message>
+        <source>GraphLegendValue</source>
+        <extracomment>^0 is the parameter&apos;s target, a number.</extracomment>
+        <translation>Ziel: ^0</translation>
+    </message>
+    <message>
+        <source>GraphNoLines</source>
+        <translation>Das Protokoll zeigt keine Spalte, die gezeichnet werden kann. Blenden Sie außer Datum und Temperatur weitere Spalten ein und zeichnen Sie dann erneut.</translation>
+    </message>
+    <message>
+        <source>GraphNoTests</source>
+        <translation>Zwischen diesen Tagen gibt es keine Wassertests.</translation>
+    </message>
+    <message>
+        <source>GraphNotTested</source>
+        <translation>in diesem Zeitraum nicht getestet</translation>
+    </message>
+    <message>
+        <source>GraphNothingTested</source>
+        <translation>Zwischen diesen Tagen wurde keine der Spalten im Protokoll getestet.</translation>
+    </message>
+    <message>
+        <source>GraphPrint</source>
+        <translation>Diagramm drucken …</translation>
+    </message>
+    <message>
+        <source>GraphScale</source>
+        <translation>Maßstab</translation>
+    </message>
+    <message>
+        <source>GraphScaleToolTip</source>
+        <translation>Maßstab: nach oben ziehen, um kleine Werte zu vergrößern</translation>
+    </message>
+    <message>
+        <source>GraphStartLabel</source>
+        <translation>Anfang:</translation>
+    </message>
+    <message>
+        <source>GraphStartToolTip</source>
+        <translation>Ersten Test wählen oder ein Datum eingeben</translation>
+    </message>
+    <message>
+        <source>GraphTitle</source>
+        <extracomment>%@ is the tank&apos;s name; the title of the graph&apos;s window.</extracomment>
+        <translation>Diagramm: %@</translation>
+    </message>
+    <message>
+        <source>GraphTitleNoTank</source>
+        <translation>Diagramm</translation>
+    </message>
+    <message>
         <source>GraphViewDescription</source>
         <extracomment>what a screen reader says about the use of a graph</extracomment>
         <translation>Plus und Minus vergrößern und verkleinern, die Pfeiltasten verschieben den Ausschnitt, 0 zeigt alles.</translation>
@@ -792,6 +883,10 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <source>GraphViewName</source>
         <extracomment>what a screen reader calls a graph</extracomment>
         <translation>Diagramm</translation>
+    </message>
+    <message>
+        <source>GraphWhole</source>
+        <translation>Ganzes Diagramm zeigen</translation>
     </message>
     <message>
         <source>GroupEntries</source>

@@ -784,6 +784,97 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>Graph…</translation>
     </message>
     <message>
+        <source>GraphClose</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>GraphDraw</source>
+        <translation>Draw</translation>
+    </message>
+    <message>
+        <source>GraphDrawing</source>
+        <translation>Drawing</translation>
+    </message>
+    <message>
+        <source>GraphEndLabel</source>
+        <translation>End:</translation>
+    </message>
+    <message>
+        <source>GraphEndToolTip</source>
+        <translation>Choose the test to end with, or type a date</translation>
+    </message>
+    <message>
+        <source>GraphFormSentence</source>
+        <translation>Draws the water tests between two dates, with a line for each column that the log shows. The temperature is not drawn.</translation>
+    </message>
+    <message>
+        <source>GraphHint</source>
+        <translation>Scroll or press + and − to zoom, drag to move, double-click for the whole graph.</translation>
+    </message>
+    <message>
+        <source>GraphLegend</source>
+        <translation>Legend</translation>
+    </message>
+    <message>
+        <source>GraphLegendBand</source>
+        <extracomment>^0 and ^1 are the limits of the parameter&apos;s target, numbers.</extracomment>
+        <translation>Target: ^0 to ^1</translation>
+    </message>
+    <message>
+        <source>GraphLegendToolTip</source>
+        <translation>Show or hide this line.</translation>
+    </message>
+    <message>
+        <source>GraphLegendValue</source>
+        <extracomment>^0 is the parameter&apos;s target, a number.</extracomment>
+        <translation>Target: ^0</translation>
+    </message>
+    <message>
+        <source>GraphNoLines</source>
+        <translation>The log shows no column that can be drawn. Show more columns than the date and the temperature, then draw again.</translation>
+    </message>
+    <message>
+        <source>GraphNoTests</source>
+        <translation>There are no water tests between these dates.</translation>
+    </message>
+    <message>
+        <source>GraphNotTested</source>
+        <translation>not tested in this range</translation>
+    </message>
+    <message>
+        <source>GraphNothingTested</source>
+        <translation>None of the columns in the log was tested between these dates.</translation>
+    </message>
+    <message>
+        <source>GraphPrint</source>
+        <translation>Print the graph…</translation>
+    </message>
+    <message>
+        <source>GraphScale</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>GraphScaleToolTip</source>
+        <translation>Scale: move up to magnify low values</translation>
+    </message>
+    <message>
+        <source>GraphStartLabel</source>
+        <translation>Start:</translation>
+    </message>
+    <message>
+        <source>GraphStartToolTip</source>
+        <translation>Choose the test to begin with, or type a date</translation>
+    </message>
+    <message>
+        <source>GraphTitle</source>
+        <extracomment>%@ is the tank&apos;s name; the title of the graph&apos;s window.</extracomment>
+        <translation>Graph of %@</translation>
+    </message>
+    <message>
+        <source>GraphTitleNoTank</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
         <source>GraphViewDescription</source>
         <extracomment>what a screen reader says about the use of a graph</extracomment>
         <translation>Plus and minus zoom, the arrow keys move what is visible, 0 shows everything.</translation>
@@ -792,6 +883,10 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <source>GraphViewName</source>
         <extracomment>what a screen reader calls a graph</extracomment>
         <translation>Graph</translation>
+    </message>
+    <message>
+        <source>GraphWhole</source>
+        <translation>Show the whole graph</translation>
     </message>
     <message>
         <source>GroupEntries</source>

@@ -13,6 +13,7 @@
 #include "base/text/Texts.h"
 #include "calc/views/ConverterController.h"
 #include "chemistry/views/ConditionListController.h"
+#include "chemistry/views/GraphController.h"
 #include "chemistry/views/TankDataController.h"
 #include "chemistry/views/TankDataEntryController.h"
 #include "journals/views/ExpenseListController.h"
@@ -62,6 +63,7 @@ void ShoalwatchDelegate::destroyEverything()
     // Undo steps hold records and call back into the controllers, so they go first.
     if (hasSharedInstance())
         sharedInstance().m_undoManager->clear();
+    GraphController::destroyShared();
     ConditionListController::destroyShared();
     TankDataController::destroyShared();
     TankDataEntryController::destroyShared();

@@ -18,7 +18,7 @@ inline constexpr std::array iconNames{
     // Pictures, drawn for 96 to 160 px.
     "FishBig", "Plant", "Invertebrates", "Coral", "Profileplaceholder3",
     // Lists and their buttons.
-    "Ellipse", "New", "Remove", "Action", "Edit", "Help", "Graph", "Export", "Search",
+    "Ellipse", "New", "Remove", "Action", "Edit", "Help", "Graph", "WholeGraph", "Export", "Search",
     // States and alerts; each differs from the others in shape as well as in colour.
     "StateInRange", "StateNear", "StateOut", "StateNotTested", "StateOverdue", "StateDone", "AlertCritical",
     "AlertQuestion", "AlertInformation",

@@ -75,6 +75,11 @@ void openSheet(QWidget *window, QDialog *sheet)
 void centreOver(QWidget *window, QDialog *dialog)
 {
     dialog->adjustSize();
+    moveOver(window, dialog);
+}
+
+void moveOver(QWidget *window, QDialog *dialog)
+{
     if (!window)
         return;
     const QWidget *top = window->window();

@@ -14,4 +14,7 @@ void openSheet(QWidget *window, QDialog *sheet);
 /// Moves `dialog`, which is not shown yet, over the middle of the window that holds `window`, within the screen.
 void centreOver(QWidget *window, QDialog *dialog);
 
+/// The same for a dialog whose size is as it should be.
+void moveOver(QWidget *window, QDialog *dialog);
+
 } // namespace brinemark

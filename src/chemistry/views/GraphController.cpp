@@ -1,0 +1,229 @@
+#include "chemistry/views/GraphController.h"
+
+#include "base/text/Texts.h"
+#include "chemistry/TargetBand.h"
+#include "chemistry/views/graph/GraphContentView.h"
+#include "chemistry/views/graph/GraphDateForm.h"
+#include "chemistry/views/graph/GraphLegend.h"
+#include "chemistry/views/graph/GraphWindow.h"
+#include "chemistry/views/graph/LegendEntry.h"
+#include "chemistry/views/graph/ScaleSlider.h"
+#include "chemistry/views/graph/TestDateCombo.h"
+#include "model/Tank.h"
+#include "ui/Alerts.h"
+#include "ui/PrintSheet.h"
+#include "ui/Sheets.h"
+#include "ui/Shell.h"
+#include "ui/SpinningIndicator.h"
+#include "ui/graph/TwoDGraphView.h"
+
+#include <QPrinter>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace brinemark
+{
+
+GraphController::GraphController() = default;
+
+GraphController::~GraphController()
+{
+    delete m_graphWindow;
+}
+
+void GraphController::makeWindow()
+{
+    m_dateContentView = new GraphDateForm(m_dates);
+    m_graphContentView = new GraphContentView(m_dates);
+    m_graphWindow = new GraphWindow(Shell::shared().mainWindow(), m_dateContentView, m_graphContentView);
+    m_graphContentView->graphView().setDataSource(this);
+    m_graphContentView->graphView().setDelegate(this);
+
+    connect(m_dateContentView, &GraphDateForm::drawRequested, this, &GraphController::graphAction);
+    connect(m_dateContentView, &GraphDateForm::cancelled, this, &GraphController::cancelAction);
+    connect(m_graphContentView, &GraphContentView::drawRequested, this, &GraphController::graphAction);
+    connect(m_graphContentView, &GraphContentView::scaleChanged, this, &GraphController::scaleSliderAction);
+    connect(m_graphContentView, &GraphContentView::printRequested, this, &GraphController::printGraph);
+    connect(m_graphContentView, &GraphContentView::closeRequested, this, &GraphController::cancelAction);
+    connect(&m_graphContentView->legend(), &GraphLegend::lineShown, &m_graphContentView->graphView(),
+            &TwoDGraphView::setLineVisible);
+    connect(&m_graphContentView->legend(), &GraphLegend::linePointedAt, this, &GraphController::showBand);
+    connect(m_graphWindow, &QDialog::finished, this, &GraphController::closeGraphSheet);
+}
+
+// ---- the sheet
+
+void GraphController::display()
+{
+    if (!m_graphWindow)
+        makeWindow();
+    if (m_graphWindow->isVisible())
+        return;
+    Shell &shell = Shell::shared();
+    m_graphTank = shell.currentTank() ? shell.currentTank()->shared_from_this() : nullptr;
+    m_dates.setTests(m_graphTank ? m_graphTank->conditionListArray() : Condition::Records());
+    const int count = m_dates.rowCount();
+    m_dateContentView->startDateCombo().showDates(count == 0 ? -1 : 0);
+    m_dateContentView->endDateCombo().showDates(count - 1);
+    m_graphWindow->setWindowTitle(m_graphTank ? formatText(text("GraphTitle"), {m_graphTank->name})
+                                              : text("GraphTitleNoTank"));
+    m_graphWindow->showDates();
+    m_dateContentView->startDateCombo().setFocus();
+    openSheet(shell.mainWindow(), m_graphWindow);
+}
+
+void GraphController::cancelAction()
+{
+    if (m_graphWindow)
+        m_graphWindow->reject();
+}
+
+void GraphController::closeGraphSheet(int)
+{
+    showSeries({});
+    m_dates.setTests({});
+    m_graphTank.reset();
+}
+
+// ---- drawing
+
+void GraphController::graphAction()
+{
+    if (!m_graphWindow)
+        return;
+    showSeries({});
+    const bool again = m_graphWindow->isGraphShown();
+    const TestDateCombo &startCombo =
+        again ? m_graphContentView->startDateComboSmall() : m_dateContentView->startDateCombo();
+    const TestDateCombo &endCombo = again ? m_graphContentView->endDateComboSmall() : m_dateContentView->endDateCombo();
+    const QDateTime start = startCombo.date();
+    const QDateTime end = endCombo.date();
+    if (!start.isValid() || !end.isValid() || start >= end) {
+        beep();
+        runAlertPanel(m_graphWindow, {.title = text("DateRangeTitle"), .message = text("DateRangeMessage")});
+        return;
+    }
+    if (!again)
+        copyDatesToGraphLayout();
+    m_graphContentView->spinningIndicator().start();
+    if (m_graphTank)
+        showSeries(ConditionSeries(*m_graphTank->condition(), start, end));
+    m_graphContentView->spinningIndicator().stop();
+    if (again)
+        return;
+    m_graphWindow->showGraph();
+    m_graphContentView->drawButton().setDefault(true);
+    m_graphContentView->graphView().setFocus();
+}
+
+void GraphController::copyDatesToGraphLayout()
+{
+    TestDateCombo &start = m_graphContentView->startDateComboSmall();
+    TestDateCombo &end = m_graphContentView->endDateComboSmall();
+    start.showDates(-1);
+    end.showDates(-1);
+    start.copyFrom(m_dateContentView->startDateCombo());
+    end.copyFrom(m_dateContentView->endDateCombo());
+}
+
+void GraphController::showSeries(const ConditionSeries &series)
+{
+    m_series = series;
+    m_maxYValue = series.maxYValue();
+    TwoDGraphView &view = m_graphContentView->graphView();
+    m_graphContentView->legend().showLines(series, m_graphTank.get());
+    m_graphContentView->scaleSlider().restart(float(m_maxYValue));
+    view.setHighlightedBand(std::nullopt);
+    for (int line = 0; line < int(colorIdentifierArray().size()); ++line)
+        view.setLineVisible(line, true);
+    view.setNumberOfTickMarks(series.numberOfYTickMarks(), GraphAxis::Y);
+    view.setNumberOfTickMarks(series.numberOfXTickMarks(), GraphAxis::X);
+    view.reloadData();
+    m_graphContentView->showGraph(whyEmpty());
+}
+
+QString GraphController::whyEmpty() const
+{
+    if (graphArray().empty())
+        return text("GraphNoTests");
+    if (colorIdentifierArray().empty())
+        return text("GraphNoLines");
+    const bool tested = std::any_of(colorIdentifierArray().begin(), colorIdentifierArray().end(),
+                                    [this](Parameter parameter) { return m_series.isTested(parameter); });
+    return tested ? QString() : text("GraphNothingTested");
+}
+
+void GraphController::scaleSliderAction()
+{
+    if (!m_graphWindow)
+        return;
+    const ScaleSlider &slider = m_graphContentView->scaleSlider();
+    const double top = scaledMaxYValue(slider.maximumFloat(), slider.floatValue());
+    if (top == m_maxYValue)
+        return;
+    m_maxYValue = top;
+    m_graphContentView->graphView().reloadData();
+}
+
+void GraphController::showBand(int line)
+{
+    std::optional<GraphBand> shaded;
+    if (line >= 0 && m_graphTank) {
+        const Parameter parameter = colorIdentifierArray().at(std::size_t(line));
+        if (const std::optional<TargetBand> band = targetBand(*m_graphTank->target(parameter)))
+            shaded = {double(band->low), double(band->high), lineColour(parameter)};
+    }
+    m_graphContentView->graphView().setHighlightedBand(shaded);
+}
+
+// ---- paper
+
+void GraphController::printGraph()
+{
+    TwoDGraphView &view = m_graphContentView->graphView();
+    openPrintSheet(m_graphWindow, QPageLayout::Landscape, &view, [&view](QPrinter &printer) {
+        view.print(printer);
+        return printer.printerState() != QPrinter::Error;
+    });
+}
+
+// ---- what the graph view asks
+
+int GraphController::numberOfLinesInTwoDGraphView(const TwoDGraphView &) const
+{
+    return int(colorIdentifierArray().size());
+}
+
+QList<QPointF> GraphController::dataForLineIndex(const TwoDGraphView &, int line) const
+{
+    return m_series.points(colorIdentifierArray().at(std::size_t(line)));
+}
+
+double GraphController::minimumValueForLineIndex(const TwoDGraphView &, int, GraphAxis) const
+{
+    return 0;
+}
+
+double GraphController::maximumValueForLineIndex(const TwoDGraphView &, int, GraphAxis axis) const
+{
+    return axis == GraphAxis::X ? maxXValue() : maxYValue();
+}
+
+GraphLineAttributes GraphController::attributesForLineIndex(const TwoDGraphView &, int line) const
+{
+    return {lineColour(colorIdentifierArray().at(std::size_t(line))), 2, GraphSymbol(2)};
+}
+
+QString GraphController::labelForTickMarkIndex(const TwoDGraphView &, int, GraphAxis axis,
+                                               const QString &defaultLabel) const
+{
+    return axis == GraphAxis::X ? dayTickLabel(defaultLabel) : valueTickLabel(defaultLabel);
+}
+
+QString GraphController::stringForToolTip(const TwoDGraphView &, QPointF point) const
+{
+    return m_series.toolTip(point);
+}
+
+} // namespace brinemark

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "chemistry/ConditionSeries.h"
+#include "chemistry/views/graph/TestDatesModel.h"
+#include "ui/Shared.h"
+#include "ui/graph/TwoDGraph.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+namespace brinemark
+{
+
+class GraphContentView;
+class GraphDateForm;
+class GraphWindow;
+class Tank;
+class TestDateCombo;
+
+/// The graph of the current tank's water tests, in a sheet of the main window: first a form for the range of dates
+/// (GraphDateForm), then the graph (GraphContentView). The object names of the controls are in those two files.
+class GraphController final : public QObject,
+                              public Shared<GraphController>,
+                              public TwoDGraphDataSource,
+                              public TwoDGraphDelegate
+{
+    Q_OBJECT
+
+public:
+    ~GraphController() override;
+
+    /// Opens the sheet with the form. The log's column layout must have been stored: it says what is drawn.
+    void display();
+
+    /// Draws the range that is chosen; a missing or reversed one beeps, says so and draws nothing.
+    void graphAction();
+    void cancelAction();
+    void scaleSliderAction();
+
+    [[nodiscard]] Tank *graphTank() const { return m_graphTank.get(); }
+    [[nodiscard]] const Condition::Records &graphArray() const { return m_series.graphArray(); }
+    [[nodiscard]] const std::vector<Parameter> &colorIdentifierArray() const { return m_series.colorIdentifierArray(); }
+    [[nodiscard]] double maxYValue() const { return m_maxYValue; }
+    [[nodiscard]] double maxXValue() const { return double(m_series.maxXValue()); }
+
+    [[nodiscard]] int numberOfLinesInTwoDGraphView(const TwoDGraphView &view) const override;
+    [[nodiscard]] QList<QPointF> dataForLineIndex(const TwoDGraphView &view, int line) const override;
+    [[nodiscard]] double minimumValueForLineIndex(const TwoDGraphView &view, int line, GraphAxis axis) const override;
+    [[nodiscard]] double maximumValueForLineIndex(const TwoDGraphView &view, int line, GraphAxis axis) const override;
+    [[nodiscard]] GraphLineAttributes attributesForLineIndex(const TwoDGraphView &view, int line) const override;
+    [[nodiscard]] QString labelForTickMarkIndex(const TwoDGraphView &view, int index, GraphAxis axis,
+                                                const QString &defaultLabel) const override;
+    [[nodiscard]] QString stringForToolTip(const TwoDGraphView &view, QPointF point) const override;
+
+private:
+    friend class Shared<GraphController>;
+    GraphController();
+
+    void makeWindow();
+    void closeGraphSheet(int returnCode);
+    void showSeries(const ConditionSeries &series);
+    void copyDatesToGraphLayout();
+    void showBand(int line);
+    void printGraph();
+    [[nodiscard]] QString whyEmpty() const;
+
+    TestDatesModel m_dates;
+    QPointer<GraphWindow> m_graphWindow;
+    GraphDateForm *m_dateContentView = nullptr;
+    GraphContentView *m_graphContentView = nullptr;
+
+    std::shared_ptr<Tank> m_graphTank; ///< stays while the sheet shows it, even when its file is closed
+    ConditionSeries m_series;
+    double m_maxYValue = 0; ///< by the scale slider less than the series' own
+};
+
+} // namespace brinemark

@@ -1,0 +1,39 @@
+#include "chemistry/views/graph/ColourSwatch.h"
+
+#include "ui/Colours.h"
+
+#include <QPainter>
+
+namespace brinemark
+{
+
+ColourSwatch::ColourSwatch(const QColor &colour, QWidget *parent)
+    : QWidget(parent)
+    , m_colour(colour)
+{
+    constexpr int side = 14;
+    setFixedSize(side, side);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ColourSwatch::setFilled(bool filled)
+{
+    m_filled = filled;
+    update();
+}
+
+void ColourSwatch::paintEvent(QPaintEvent *)
+{
+    constexpr double visible = 3; // the contrast that graphics need against what is beside them
+    constexpr double radius = 3;
+    const bool framed = contrast(m_colour, palette().color(QPalette::Window)) < visible;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(
+        QPen(framed ? brinemark::colour(ColourRole::SecondaryText, palette()) : m_colour, m_filled ? 1 : 1.5));
+    if (m_filled)
+        painter.setBrush(m_colour);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+}
+
+} // namespace brinemark

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+namespace brinemark
+{
+
+/// A small tile of one colour, or only its frame.
+class ColourSwatch : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ColourSwatch(const QColor &colour, QWidget *parent = nullptr);
+
+    [[nodiscard]] QColor colour() const { return m_colour; }
+    [[nodiscard]] bool isFilled() const { return m_filled; }
+    void setFilled(bool filled);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QColor m_colour;
+    bool m_filled = true;
+};
+
+} // namespace brinemark

@@ -1,0 +1,131 @@
+#include "chemistry/views/graph/GraphContentView.h"
+
+#include "base/text/Texts.h"
+#include "chemistry/views/graph/GraphLegend.h"
+#include "chemistry/views/graph/ScaleSlider.h"
+#include "chemistry/views/graph/TestDateCombo.h"
+#include "ui/Colours.h"
+#include "ui/ElidedLabel.h"
+#include "ui/EmptyState.h"
+#include "ui/IconButton.h"
+#include "ui/Icons.h"
+#include "ui/SpinningIndicator.h"
+#include "ui/graph/TwoDGraphView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QToolButton>
+
+namespace brinemark
+{
+
+GraphContentView::GraphContentView(TestDatesModel &dates)
+    : m_startDateComboSmall(new TestDateCombo(dates, QStringLiteral("startDateComboSmall"), text("GraphStartToolTip")))
+    , m_endDateComboSmall(new TestDateCombo(dates, QStringLiteral("endDateComboSmall"), text("GraphEndToolTip")))
+    , m_drawButton(new QPushButton(text("GraphDraw")))
+    , m_spinningIndicator(new SpinningIndicator)
+    , m_wholeGraphButton(makeIconButton("WholeGraph", text("GraphWhole"), QStringLiteral("wholeGraphButton")))
+    , m_printButton(makeIconButton("Print", text("GraphPrint"), QStringLiteral("printButton")))
+    , m_scaleSlider(new ScaleSlider)
+    , m_graphView(new TwoDGraphView)
+    , m_emptyState(new EmptyState(icon("Graph"), QString()))
+    , m_place(new QStackedWidget)
+    , m_legend(new GraphLegend)
+{
+    setObjectName(QStringLiteral("graphContentView"));
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(12);
+    column->addLayout(makeTopRow());
+    column->addLayout(makeGraphRow(), 1);
+    column->addLayout(makeBottomRow());
+
+    connect(m_drawButton, &QPushButton::clicked, this, &GraphContentView::drawRequested);
+    connect(m_scaleSlider, &QSlider::valueChanged, this, &GraphContentView::scaleChanged);
+    connect(m_wholeGraphButton, &QToolButton::clicked, m_graphView, &TwoDGraphView::resetZoom);
+    connect(m_graphView, &TwoDGraphView::zoomChanged, this, &GraphContentView::enableButtons);
+    connect(m_printButton, &QToolButton::clicked, this, &GraphContentView::printRequested);
+}
+
+QHBoxLayout *GraphContentView::makeTopRow()
+{
+    m_drawButton->setObjectName(QStringLiteral("drawButtonSmall"));
+    m_spinningIndicator->setObjectName(QStringLiteral("spinningIndicator"));
+    m_spinningIndicator->setAccessibleName(text("GraphDrawing"));
+    m_spinningIndicator->setToolTip(text("GraphDrawing"));
+    const auto caption = [](const QString &words, TestDateCombo *combo) {
+        auto *label = new QLabel(words);
+        label->setBuddy(combo);
+        combo->setAttribute(Qt::WA_MacSmallSize);
+        return label;
+    };
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(caption(text("GraphStartLabel"), m_startDateComboSmall));
+    row->addWidget(m_startDateComboSmall);
+    row->addSpacing(8);
+    row->addWidget(caption(text("GraphEndLabel"), m_endDateComboSmall));
+    row->addWidget(m_endDateComboSmall);
+    row->addSpacing(8);
+    row->addWidget(m_drawButton);
+    row->addWidget(m_spinningIndicator);
+    row->addStretch();
+    row->addWidget(m_wholeGraphButton);
+    row->addWidget(m_printButton);
+    return row;
+}
+
+QHBoxLayout *GraphContentView::makeGraphRow()
+{
+    m_scaleSlider->setObjectName(QStringLiteral("scaleSlider"));
+    m_scaleSlider->setToolTip(text("GraphScaleToolTip"));
+    m_scaleSlider->setAccessibleName(text("GraphScale"));
+    m_graphView->setObjectName(QStringLiteral("graphView"));
+    m_legend->setObjectName(QStringLiteral("graphLegend"));
+    m_place->addWidget(m_graphView);
+    m_place->addWidget(m_emptyState);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(m_scaleSlider);
+    row->addWidget(m_place, 1);
+    row->addWidget(m_legend);
+    return row;
+}
+
+QHBoxLayout *GraphContentView::makeBottomRow()
+{
+    auto *hint = new ElidedLabel;
+    hint->setText(text("GraphHint"));
+    hint->setPalette(quietPalette(palette()));
+    auto *close = new QPushButton(text("GraphClose"));
+    close->setObjectName(QStringLiteral("closeButton"));
+    close->setAutoDefault(false);
+    connect(close, &QPushButton::clicked, this, &GraphContentView::closeRequested);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(16);
+    row->addWidget(hint, 1);
+    row->addWidget(close);
+    return row;
+}
+
+void GraphContentView::showGraph(const QString &whyEmpty)
+{
+    m_emptyState->setSentence(whyEmpty);
+    if (whyEmpty.isEmpty())
+        m_place->setCurrentWidget(m_graphView);
+    else
+        m_place->setCurrentWidget(m_emptyState);
+    m_scaleSlider->setEnabled(whyEmpty.isEmpty());
+    enableButtons();
+}
+
+void GraphContentView::enableButtons()
+{
+    const bool drawn = m_place->currentWidget() == m_graphView;
+    m_wholeGraphButton->setEnabled(drawn && m_graphView->isZoomed());
+    m_printButton->setEnabled(drawn);
+}
+
+} // namespace brinemark

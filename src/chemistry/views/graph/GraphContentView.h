@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QPushButton;
+class QStackedWidget;
+class QToolButton;
+
+namespace brinemark
+{
+
+class EmptyState;
+class GraphLegend;
+class ScaleSlider;
+class SpinningIndicator;
+class TestDateCombo;
+class TestDatesModel;
+class TwoDGraphView;
+
+/// The graph with what belongs around it. Object names: itself "graphContentView", "startDateComboSmall",
+/// "endDateComboSmall", "drawButtonSmall", "spinningIndicator", "wholeGraphButton", "printButton",
+/// "scaleSlider", "graphView", "graphLegend", "closeButton".
+class GraphContentView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit GraphContentView(TestDatesModel &dates);
+
+    [[nodiscard]] TestDateCombo &startDateComboSmall() const { return *m_startDateComboSmall; }
+    [[nodiscard]] TestDateCombo &endDateComboSmall() const { return *m_endDateComboSmall; }
+    [[nodiscard]] SpinningIndicator &spinningIndicator() const { return *m_spinningIndicator; }
+    [[nodiscard]] ScaleSlider &scaleSlider() const { return *m_scaleSlider; }
+    [[nodiscard]] TwoDGraphView &graphView() const { return *m_graphView; }
+    [[nodiscard]] GraphLegend &legend() const { return *m_legend; }
+    [[nodiscard]] QPushButton &drawButton() const { return *m_drawButton; }
+
+    /// Shows the graph or, with a sentence that says why there is nothing to see, the sentence in its place.
+    void showGraph(const QString &whyEmpty = {});
+
+Q_SIGNALS:
+    void drawRequested();
+    void scaleChanged();
+    void printRequested();
+    void closeRequested();
+
+private:
+    [[nodiscard]] QHBoxLayout *makeTopRow();
+    [[nodiscard]] QHBoxLayout *makeGraphRow();
+    [[nodiscard]] QHBoxLayout *makeBottomRow();
+    void enableButtons();
+
+    TestDateCombo *m_startDateComboSmall;
+    TestDateCombo *m_endDateComboSmall;
+    QPushButton *m_drawButton;
+    SpinningIndicator *m_spinningIndicator;
+    QToolButton *m_wholeGraphButton;
+    QToolButton *m_printButton;
+    ScaleSlider *m_scaleSlider;
+    TwoDGraphView *m_graphView;
+    EmptyState *m_emptyState;
+    QStackedWidget *m_place; ///< of the graph or the sentence
+    GraphLegend *m_legend;
+};
+
+} // namespace brinemark

@@ -1,0 +1,48 @@
+#include "chemistry/views/graph/GraphDateForm.h"
+
+#include "base/text/Texts.h"
+#include "chemistry/views/graph/TestDateCombo.h"
+#include "ui/CaptionForm.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace brinemark
+{
+
+GraphDateForm::GraphDateForm(TestDatesModel &dates)
+    : m_startDateCombo(new TestDateCombo(dates, QStringLiteral("startDateCombo"), text("GraphStartToolTip")))
+    , m_endDateCombo(new TestDateCombo(dates, QStringLiteral("endDateCombo"), text("GraphEndToolTip")))
+{
+    constexpr int readableWidth = 360; // pixels
+    setObjectName(QStringLiteral("dateContentView"));
+    auto *sentence = new QLabel(text("GraphFormSentence"));
+    sentence->setTextFormat(Qt::PlainText);
+    sentence->setWordWrap(true);
+    sentence->setFixedWidth(readableWidth);
+    auto *buttons = new QDialogButtonBox;
+    QPushButton *draw = buttons->addButton(text("GraphDraw"), QDialogButtonBox::AcceptRole);
+    draw->setObjectName(QStringLiteral("drawButton"));
+    draw->setDefault(true);
+    QPushButton *cancel = buttons->addButton(text("CancelLabel"), QDialogButtonBox::RejectRole);
+    cancel->setObjectName(QStringLiteral("cancelButton"));
+
+    auto *form = new QGridLayout;
+    form->setHorizontalSpacing(8);
+    form->setVerticalSpacing(8);
+    addCaptioned(*form, 0, 0, text("GraphStartLabel"), m_startDateCombo);
+    addCaptioned(*form, 1, 0, text("GraphEndLabel"), m_endDateCombo);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(16);
+    column->addWidget(sentence);
+    column->addLayout(form);
+    column->addWidget(buttons);
+
+    connect(draw, &QPushButton::clicked, this, &GraphDateForm::drawRequested);
+    connect(cancel, &QPushButton::clicked, this, &GraphDateForm::cancelled);
+}
+
+} // namespace brinemark

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+
+namespace brinemark
+{
+
+class TestDateCombo;
+class TestDatesModel;
+
+/// The small form that asks for a range of dates. Object names: itself "dateContentView", "startDateCombo",
+/// "endDateCombo", "drawButton" (the default button), "cancelButton".
+class GraphDateForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit GraphDateForm(TestDatesModel &dates);
+
+    [[nodiscard]] TestDateCombo &startDateCombo() const { return *m_startDateCombo; }
+    [[nodiscard]] TestDateCombo &endDateCombo() const { return *m_endDateCombo; }
+
+Q_SIGNALS:
+    void drawRequested();
+    void cancelled();
+
+private:
+    TestDateCombo *m_startDateCombo;
+    TestDateCombo *m_endDateCombo;
+};
+
+} // namespace brinemark

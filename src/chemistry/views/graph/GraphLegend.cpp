@@ -1,0 +1,86 @@
+#include "chemistry/views/graph/GraphLegend.h"
+
+#include "base/text/NumberText.h"
+#include "chemistry/ConditionSeries.h"
+#include "chemistry/TargetBand.h"
+#include "chemistry/views/graph/LegendEntry.h"
+#include "model/Tank.h"
+
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr int widthOfNames = 168; ///< pixels
+
+QString toolTipOf(const TankData &target)
+{
+    const std::optional<TargetBand> band = targetBand(target);
+    if (!band)
+        return text("GraphLegendToolTip");
+    const QString range = band->low == band->high
+                              ? fillPlaceholders(text("GraphLegendValue"), {localizeAndTrimZeros(band->low)})
+                              : fillPlaceholders(text("GraphLegendBand"),
+                                                 {localizeAndTrimZeros(band->low), localizeAndTrimZeros(band->high)});
+    return text("GraphLegendToolTip") + u'\n' + range;
+}
+
+} // namespace
+
+GraphLegend::GraphLegend(QWidget *parent)
+    : QScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus); // its entries take the focus
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    setAccessibleName(text("GraphLegend"));
+    auto *content = new QWidget;
+    m_column = new QVBoxLayout(content);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(0);
+    m_column->addStretch();
+    setWidget(content);
+    viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+}
+
+void GraphLegend::showLines(const ConditionSeries &series, const Tank *tank)
+{
+    for (LegendEntry *entry : m_entries)
+        delete entry;
+    m_entries.clear();
+    for (const Parameter parameter : series.colorIdentifierArray()) {
+        if (!tank)
+            break;
+        const int line = int(m_entries.size());
+        auto *entry = new LegendEntry(parameter, series.isTested(parameter), toolTipOf(*tank->target(parameter)));
+        connect(entry, &LegendEntry::shown, this, [this, line](bool visible) { Q_EMIT lineShown(line, visible); });
+        connect(entry, &LegendEntry::pointedAt, this, &GraphLegend::tellPointedAt);
+        m_column->insertWidget(line, entry);
+        m_entries.push_back(entry);
+    }
+}
+
+QSize GraphLegend::sizeHint() const
+{
+    return {widthOfNames + verticalScrollBar()->sizeHint().width(), widthOfNames};
+}
+
+void GraphLegend::tellPointedAt()
+{
+    // The pointer says more than the focus, which may have been left somewhere.
+    const auto hovered =
+        std::find_if(m_entries.begin(), m_entries.end(), [](const LegendEntry *entry) { return entry->isHovered(); });
+    const auto focused =
+        std::find_if(m_entries.begin(), m_entries.end(), [](const LegendEntry *entry) { return entry->isFocused(); });
+    const auto pointed = hovered != m_entries.end() ? hovered : focused;
+    Q_EMIT linePointedAt(pointed == m_entries.end() ? -1 : int(pointed - m_entries.begin()));
+}
+
+} // namespace brinemark

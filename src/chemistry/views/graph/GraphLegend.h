@@ -1,0 +1,42 @@
+#pragma once
+
+#include "model/Parameters.h"
+
+#include <QScrollArea>
+
+#include <vector>
+
+class QVBoxLayout;
+
+namespace brinemark
+{
+
+class ConditionSeries;
+class LegendEntry;
+class Tank;
+
+/// The lines of a graph in drawing order, each with a LegendEntry. Scrolls when there is no room.
+class GraphLegend : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit GraphLegend(QWidget *parent = nullptr);
+
+    /// All lines visible; their targets are those of the tank. Without a tank the legend is empty.
+    void showLines(const ConditionSeries &series, const Tank *tank);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void lineShown(int line, bool visible);
+    void linePointedAt(int line); ///< the one under the pointer or with the focus; -1 for none
+
+private:
+    void tellPointedAt();
+
+    QVBoxLayout *m_column = nullptr;
+    std::vector<LegendEntry *> m_entries;
+};
+
+} // namespace brinemark

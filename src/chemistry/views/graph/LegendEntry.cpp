@@ -1,0 +1,87 @@
+#include "chemistry/views/graph/LegendEntry.h"
+
+#include "chemistry/views/graph/ColourSwatch.h"
+#include "ui/Colours.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMouseEvent>
+
+namespace brinemark
+{
+
+LegendEntry::LegendEntry(Parameter parameter, bool tested, const QString &toolTip)
+    : m_box(new QCheckBox(text(traitsOf(parameter).targetNameKey)))
+    , m_swatch(new ColourSwatch(lineColour(parameter)))
+{
+    const QString name = traitsOf(parameter).identifier.toString().toLower();
+    m_swatch->setObjectName(name + QStringLiteral("View"));
+    m_swatch->setFilled(tested);
+    m_box->setObjectName(name + QStringLiteral("Box"));
+    m_box->setChecked(tested);
+    m_box->setEnabled(tested);
+    m_box->setFocusPolicy(Qt::TabFocus); // a click shows or hides, and is over when the pointer leaves
+    m_box->installEventFilter(this);
+    setToolTip(toolTip);
+
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(8, 4, 8, 4);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(0);
+    grid->addWidget(m_swatch, 0, 0);
+    grid->addWidget(m_box, 0, 1);
+    grid->setColumnStretch(1, 1);
+    if (!tested) {
+        auto *note = new QLabel(text("GraphNotTested"));
+        note->setTextFormat(Qt::PlainText);
+        note->setWordWrap(true);
+        note->setPalette(quietPalette(palette()));
+        grid->addWidget(note, 1, 1);
+        m_box->setAccessibleDescription(note->text());
+    } else {
+        m_box->setAccessibleDescription(toolTip);
+    }
+
+    connect(m_box, &QCheckBox::toggled, this, [this](bool visible) {
+        m_swatch->setFilled(visible);
+        Q_EMIT shown(visible);
+    });
+}
+
+void LegendEntry::enterEvent(QEnterEvent *event)
+{
+    QWidget::enterEvent(event);
+    m_hovered = true;
+    Q_EMIT pointedAt();
+}
+
+void LegendEntry::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    m_hovered = false;
+    Q_EMIT pointedAt();
+}
+
+void LegendEntry::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        m_box->click();
+}
+
+bool LegendEntry::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        m_focused = event->type() == QEvent::FocusIn;
+        Q_EMIT pointedAt();
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+QColor lineColour(Parameter parameter)
+{
+    const std::optional<LineColour> &colour = traitsOf(parameter).lineColour;
+    return colour ? QColor::fromRgbF(colour->red, colour->green, colour->blue) : QColor();
+}
+
+} // namespace brinemark

@@ -1,0 +1,56 @@
+#include "chemistry/views/graph/TestDateCombo.h"
+
+#include "base/text/DateText.h"
+#include "chemistry/views/graph/TestDatesModel.h"
+
+#include <QLineEdit>
+#include <QListView>
+
+namespace brinemark
+{
+
+TestDateCombo::TestDateCombo(TestDatesModel &dates, const QString &objectName, const QString &toolTip)
+{
+    constexpr int dateLength = 12; // characters
+    setObjectName(objectName);
+    setToolTip(toolTip);
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    setCompleter(nullptr); // would turn what is typed into a test's date
+    setModel(&dates);
+    // Ten thousand dates open at once when none but those in sight is looked at.
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(dateLength);
+    if (auto *list = qobject_cast<QListView *>(view()))
+        list->setUniformItemSizes(true);
+
+    connect(lineEdit(), &QLineEdit::textChanged, this,
+            [this](const QString &text) { m_date = dateFromCalendarText(text, dateFormatterForLocale()); });
+    // Both come after the text has changed. The second comes alone when a row is chosen again.
+    connect(this, &QComboBox::currentIndexChanged, this, &TestDateCombo::chosen);
+    connect(this, &QComboBox::activated, this, &TestDateCombo::chosen);
+}
+
+void TestDateCombo::showDates(int selectedRow)
+{
+    constexpr int mostVisible = 8;
+    setMaxVisibleItems(std::clamp(count(), 1, mostVisible));
+    setCurrentIndex(selectedRow);
+    chosen(selectedRow);
+    if (selectedRow < 0)
+        clearEditText();
+}
+
+void TestDateCombo::copyFrom(const TestDateCombo &other)
+{
+    setCurrentIndex(other.currentIndex());
+    setEditText(other.currentText());
+    m_date = other.m_date;
+}
+
+void TestDateCombo::chosen(int row)
+{
+    m_date = itemData(row, TestDatesModel::dateRole).toDateTime();
+}
+
+} // namespace brinemark

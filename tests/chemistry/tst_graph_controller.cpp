@@ -1,0 +1,458 @@
+#include "base/text/DateText.h"
+#include "chemistry/views/GraphController.h"
+#include "chemistry/views/graph/ColourSwatch.h"
+#include "chemistry/views/graph/ScaleSlider.h"
+#include "chemistry/views/graph/TestDateCombo.h"
+#include "support/AlertDriver.h"
+#include "support/RecordingShell.h"
+#include "support/RunTest.h"
+#include "ui/Alerts.h"
+#include "ui/graph/TwoDGraphView.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+using namespace brinemark;
+
+namespace
+{
+
+const QDateTime firstMoment(QDate(2026, 3, 1), QTime(18, 30, 15));
+
+} // namespace
+
+/// The graph's sheet, driven as a person does.
+class TestGraphController : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_shell = std::make_unique<test::RecordingShell>();
+        m_tank = std::make_shared<Tank>(QStringLiteral("Reef"));
+        m_shell->tanks.append(m_tank);
+        m_shell->current = m_tank.get();
+        m_tank->condition()->setColumnInfoArray({{"date", 0}, {"temp", 0}, {"kH", 0}, {"calcium", 0}, {"iron", 0}});
+        m_shell->window.show();
+        m_beeps = 0;
+        setBeepHandler([this] { ++m_beeps; });
+    }
+    void cleanup()
+    {
+        setBeepHandler({});
+        GraphController::destroyShared();
+        m_shell.reset();
+        m_tank.reset();
+    }
+
+    void form()
+    {
+        addTests(10);
+        open();
+        QVERIFY(m_window->isVisible());
+        QCOMPARE(m_window->minimumSize(), m_window->maximumSize());
+        QVERIFY(!find<QWidget>("graphView")->isVisible());
+        for (const char *name : {"startDateCombo", "endDateCombo"}) {
+            const QAbstractItemModelTester tester(combo(name).model());
+            QCOMPARE(combo(name).count(), 10);
+            QCOMPARE(combo(name).maxVisibleItems(), 8);
+        }
+        QCOMPARE(combo("startDateCombo").currentIndex(), 0);
+        QCOMPARE(combo("endDateCombo").currentIndex(), 9);
+        QCOMPARE(combo("startDateCombo").date(), firstMoment);
+        QVERIFY(find<QPushButton>("drawButton")->isDefault());
+
+        press("cancelButton");
+        QVERIFY(!m_window->isVisible());
+        QCOMPARE(GraphController::sharedInstance().graphTank(), nullptr);
+    }
+
+    void visibleItems_data()
+    {
+        QTest::addColumn<int>("tests");
+        QTest::addColumn<int>("visible");
+        QTest::newRow("seven") << 7 << 7;
+        QTest::newRow("eight") << 8 << 8;
+        QTest::newRow("two") << 2 << 2;
+    }
+    void visibleItems()
+    {
+        QFETCH(int, tests);
+        addTests(tests);
+        open();
+        QTEST(combo("startDateCombo").maxVisibleItems(), "visible");
+    }
+
+    void nothingToChoose_data()
+    {
+        QTest::addColumn<bool>("hasTank");
+        QTest::newRow("no tests") << true;
+        QTest::newRow("no tank") << false;
+    }
+    void nothingToChoose()
+    {
+        QFETCH(bool, hasTank);
+        if (!hasTank)
+            m_shell->current = nullptr;
+        open();
+        QCOMPARE(combo("startDateCombo").count(), 0);
+        QCOMPARE(combo("endDateCombo").currentText(), QString());
+        expectRangeAlert([this] { press("drawButton"); });
+        QVERIFY(!find<QWidget>("graphView")->isVisible());
+    }
+
+    void draws()
+    {
+        addTests(11);
+        test(0).kH = 8;
+        test(10).kH = 10;
+        test(5).calcium = 420;
+        test(5).temp = 1000;
+        open();
+        press("drawButton");
+        auto &controller = GraphController::sharedInstance();
+        QVERIFY(view().isVisible());
+        QVERIFY(!find<QWidget>("drawButton")->isVisible());
+        QVERIFY(m_window->maximumWidth() > 4000); // can be resized
+
+        QCOMPARE(controller.numberOfLinesInTwoDGraphView(view()), 3);
+        const QList<QPointF> kH = controller.dataForLineIndex(view(), 0);
+        QCOMPARE(kH.size(), 11);
+        QCOMPARE(kH[5], QPointF(5, 9));
+        QVERIFY(controller.dataForLineIndex(view(), 2).isEmpty());
+        QCOMPARE(controller.maximumValueForLineIndex(view(), 1, GraphAxis::Y), 420.0);
+        QCOMPARE(controller.maximumValueForLineIndex(view(), 1, GraphAxis::X), 10.0);
+        QCOMPARE(controller.minimumValueForLineIndex(view(), 1, GraphAxis::Y), 0.0);
+        QCOMPARE(view().wholeRange(GraphAxis::Y), (GraphRange{0, 420}));
+        QCOMPARE(view().wholeRange(GraphAxis::X), (GraphRange{0, 10}));
+        const GraphLineAttributes look = controller.attributesForLineIndex(view(), 0);
+        QCOMPARE(look.colour.name(), QColor::fromRgbF(0.38F, 0.67F, 0.95F).name());
+        QCOMPARE(look.width, 2.0);
+        QCOMPARE(controller.labelForTickMarkIndex(view(), 0, GraphAxis::X, QStringLiteral("2.5")), QStringLiteral("3"));
+        QVERIFY(controller.stringForToolTip(view(), {5, 9}).startsWith(u"x: "));
+
+        // The range follows into the small combos, to the second.
+        QCOMPARE(combo("startDateComboSmall").date(), firstMoment);
+        QCOMPARE(combo("endDateComboSmall").currentIndex(), 10);
+        combo("startDateComboSmall").setCurrentIndex(5);
+        press("drawButtonSmall");
+        QCOMPARE(controller.graphArray().size(), std::size_t(6));
+        QCOMPARE(controller.graphArray().front().get(), &test(5));
+        QVERIFY(view().isVisible());
+    }
+
+    void unusableRanges_data()
+    {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("reversed") << "09.03.26"
+                                  << "02.03.26";
+        QTest::newRow("the same") << "02.03.26"
+                                  << "02.03.26";
+        QTest::newRow("no start") << ""
+                                  << "09.03.26";
+        QTest::newRow("no end") << "02.03.26"
+                                << "";
+        QTest::newRow("no date") << "yesterday"
+                                 << "09.03.26";
+        QTest::newRow("no such day") << "02.03.26"
+                                     << "31.04.26";
+    }
+    void unusableRanges()
+    {
+        QFETCH(QString, start);
+        QFETCH(QString, end);
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        addTests(11);
+        open();
+        type("startDateCombo", start);
+        type("endDateCombo", end);
+        expectRangeAlert([this] { press("drawButton"); });
+        QVERIFY(find<QWidget>("drawButton")->isVisible()); // the form is still there to be mended
+        QCOMPARE(GraphController::sharedInstance().numberOfLinesInTwoDGraphView(view()), 0);
+
+        type("startDateCombo", QStringLiteral("2.3.26"));
+        type("endDateCombo", QStringLiteral("9.3.2026"));
+        press("drawButton");
+        // From midnight to midnight: the test of the last day came later.
+        QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(7));
+        QLocale::setDefault(before);
+    }
+
+    // Choosing takes the test's moment; typing the very same text takes the day, whatever the focus does.
+    void chosenAndTyped()
+    {
+        addTests(3);
+        open();
+        TestDateCombo &start = combo("startDateCombo");
+        start.setCurrentIndex(1);
+        QCOMPARE(start.date(), firstMoment.addDays(1));
+        const QString shown = start.currentText();
+        type("startDateCombo", shown);
+        QTest::keyClick(start.lineEdit(), Qt::Key_Tab);
+        QCOMPARE(start.date(), firstMoment.date().addDays(1).startOfDay());
+        Q_EMIT start.activated(1);
+        QCOMPARE(start.date(), firstMoment.addDays(1));
+    }
+
+    void legend()
+    {
+        addTests(3);
+        test(0).kH = 8;
+        test(1).calcium = 400;
+        open();
+        press("drawButton");
+        const QStringList names = shownBoxes();
+        QCOMPARE(names, QStringList({"khBox", "calciumBox", "ironBox"})); // from top to bottom
+        QCOMPARE(find<ColourSwatch>("khView")->colour().name(), QColor::fromRgbF(0.38F, 0.67F, 0.95F).name());
+        QVERIFY(!find<QCheckBox>("ironBox")->isEnabled());
+
+        auto *calcium = find<QCheckBox>("calciumBox");
+        QTest::mouseClick(calcium, Qt::LeftButton);
+        QVERIFY(!view().isLineVisible(1));
+        QVERIFY(view().isLineVisible(0));
+        QVERIFY(!find<ColourSwatch>("calciumView")->isFilled());
+        QTest::keyClick(calcium, Qt::Key_Space);
+        QVERIFY(view().isLineVisible(1));
+        QTest::mouseClick(find<ColourSwatch>("calciumView")->parentWidget(), Qt::LeftButton, {}, QPoint(2, 2));
+        QVERIFY(!view().isLineVisible(1));
+        press("drawButtonSmall"); // begins anew
+        QVERIFY(view().isLineVisible(1));
+        QVERIFY(find<QCheckBox>("calciumBox")->isChecked());
+    }
+
+    void bands_data()
+    {
+        QTest::addColumn<bool>("warningOn");
+        QTest::addColumn<bool>("deviationOn");
+        QTest::addColumn<bool>("byFocus");
+        QTest::newRow("band") << true << true << false;
+        QTest::newRow("band, by focus") << true << true << true;
+        QTest::newRow("value") << true << false << false;
+        QTest::newRow("none") << false << true << false;
+    }
+    void bands()
+    {
+        QFETCH(bool, warningOn);
+        QFETCH(bool, deviationOn);
+        QFETCH(bool, byFocus);
+        TankData &target = *m_tank->kHData();
+        target.preferredValue = 10;
+        target.deviationValue = 4;
+        target.warningOn = warningOn;
+        target.deviationOn = deviationOn;
+        addTests(3);
+        test(0).kH = 1;
+        test(0).calcium = 2;
+        open();
+        press("drawButton");
+        QVERIFY(QTest::qWaitForWindowExposed(m_window));
+        auto *box = find<QCheckBox>("khBox");
+        QWidget *entry = box->parentWidget();
+        QCOMPARE(entry->toolTip().contains(QStringLiteral("10") + QLocale().decimalPoint()), warningOn && !deviationOn);
+        QCOMPARE(entry->toolTip().contains(QStringLiteral("14") + QLocale().decimalPoint()), warningOn && deviationOn);
+
+        const auto colourAt = [this](double value) {
+            QCoreApplication::processEvents(); // the view draws when it gets to it
+            const QPoint place = view().positionOf({1.4, value}).toPoint();
+            return view().grab().toImage().pixelColor(place * view().devicePixelRatio());
+        };
+        const QColor plain = colourAt(13);
+        if (byFocus) {
+            box->setFocus(Qt::TabFocusReason);
+            m_window->activateWindow();
+            QTRY_VERIFY(box->hasFocus());
+        } else {
+            point(entry, QEvent::Enter);
+        }
+        QCOMPARE(colourAt(13) != plain, warningOn && deviationOn);
+        QCOMPARE(colourAt(17), plain);
+        if (byFocus)
+            find<QCheckBox>("calciumBox")->setFocus(Qt::TabFocusReason);
+        else
+            point(entry, QEvent::Leave);
+        QCOMPARE(colourAt(13), plain);
+    }
+
+    void scale()
+    {
+        addTests(3);
+        test(0).calcium = 400;
+        open();
+        press("drawButton");
+        auto &controller = GraphController::sharedInstance();
+        auto *slider = find<ScaleSlider>("scaleSlider");
+        slider->setValue(slider->maximum() / 2);
+        QCOMPARE(controller.maxYValue(), 200.0);
+        QCOMPARE(view().wholeRange(GraphAxis::Y), (GraphRange{0, 200}));
+        slider->setValue(slider->maximum());
+        QCOMPARE(controller.maxYValue(), 0.1);
+        QCOMPARE(view().wholeRange(GraphAxis::Y), (GraphRange{0, 0.1}));
+        press("drawButtonSmall");
+        QCOMPARE(slider->value(), 0);
+        QCOMPARE(controller.maxYValue(), 400.0);
+    }
+
+    void emptyGraphs_data()
+    {
+        QTest::addColumn<QStringList>("columns");
+        QTest::addColumn<bool>("inRange");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("no tests") << QStringList{"date", "kH"} << false << text("GraphNoTests");
+        QTest::newRow("temperature only") << QStringList{"date", "temp"} << true << text("GraphNoLines");
+        QTest::newRow("nothing tested") << QStringList{"date", "kH", "iron"} << true << text("GraphNothingTested");
+    }
+    void emptyGraphs()
+    {
+        QFETCH(QStringList, columns);
+        QFETCH(bool, inRange);
+        Condition::ColumnInfoArray layout;
+        for (const QString &identifier : columns)
+            layout.push_back({identifier, 0});
+        m_tank->condition()->setColumnInfoArray(layout);
+        addTests(3);
+        test(1).temp = 25;
+        open();
+        if (!inRange) {
+            type("startDateCombo", localeDateText(firstMoment.addDays(20)));
+            type("endDateCombo", localeDateText(firstMoment.addDays(30)));
+        }
+        press("drawButton");
+        QVERIFY(!view().isVisible());
+        auto *sentence = find<QLabel>("emptyStateSentence");
+        QVERIFY(sentence->isVisible());
+        QTEST(sentence->text(), "sentence");
+        QVERIFY(!find<QWidget>("printButton")->isEnabled());
+        test(1).kH = 7;
+        if (inRange && columns.contains(QStringLiteral("kH"))) {
+            press("drawButtonSmall");
+            QVERIFY(view().isVisible());
+        }
+    }
+
+    void remembersItsSize()
+    {
+        addTests(3);
+        open();
+        press("drawButton");
+        m_window->resize(720, 500);
+        press("closeButton");
+        QVERIFY(!m_window->isVisible());
+        open();
+        QVERIFY(find<QWidget>("drawButton")->isVisible());
+        QVERIFY(m_window->width() < 600);
+        press("drawButton");
+        QCOMPARE(m_window->size(), QSize(720, 500));
+    }
+
+    // A file that is closed while the sheet is up takes nothing away that is still looked at.
+    void tankThatGoes()
+    {
+        addTests(3);
+        test(0).kH = 8;
+        open();
+        press("drawButton");
+        const std::weak_ptr<Tank> tank = m_tank;
+        m_shell->current = nullptr;
+        m_shell->tanks.clear();
+        m_tank.reset();
+        press("drawButtonSmall");
+        QCOMPARE(GraphController::sharedInstance().dataForLineIndex(view(), 0).size(), 3);
+        press("closeButton");
+        QVERIFY(tank.expired());
+    }
+
+    void tenThousandTests()
+    {
+        addTests(10'000);
+        QElapsedTimer timer;
+        timer.start();
+        open();
+        combo("startDateCombo").showPopup();
+        combo("startDateCombo").hidePopup();
+        QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    }
+
+private:
+    void addTests(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            auto record = std::make_shared<ConditionData>(Blank{});
+            record->date = firstMoment.addDays(i);
+            m_tank->conditionListArray().push_back(record);
+        }
+    }
+    ConditionData &test(int index) { return *m_tank->conditionListArray()[std::size_t(index)]; }
+
+    void open()
+    {
+        GraphController::sharedInstance().display();
+        m_window = m_shell->window.findChild<QDialog *>(QStringLiteral("graphWindow"));
+        QVERIFY(m_window);
+    }
+    template <class Widget>
+    Widget *find(const char *name)
+    {
+        return m_window->findChild<Widget *>(QLatin1String(name));
+    }
+    TestDateCombo &combo(const char *name) { return *find<TestDateCombo>(name); }
+    TwoDGraphView &view() { return *find<TwoDGraphView>("graphView"); }
+    void press(const char *name) { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
+    void type(const char *name, const QString &typed)
+    {
+        combo(name).lineEdit()->selectAll();
+        QTest::keyClick(combo(name).lineEdit(), Qt::Key_Delete);
+        QTest::keyClicks(combo(name).lineEdit(), typed);
+    }
+    void point(QWidget *widget, QEvent::Type type)
+    {
+        const QPointF place(3, 3);
+        QEnterEvent enter(place, place, widget->mapToGlobal(place));
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(widget, type == QEvent::Enter ? &enter : &leave);
+    }
+    QStringList shownBoxes()
+    {
+        QList<QCheckBox *> boxes = m_window->findChildren<QCheckBox *>();
+        std::sort(boxes.begin(), boxes.end(), [this](QCheckBox *a, QCheckBox *b) {
+            return a->mapTo(m_window, QPoint()).y() < b->mapTo(m_window, QPoint()).y();
+        });
+        QStringList names;
+        for (const QCheckBox *box : boxes)
+            names << box->objectName();
+        return names;
+    }
+    template <class Act>
+    void expectRangeAlert(Act act)
+    {
+        QStringList said;
+        test::onNextAlert([&said](AlertDialog &alert) {
+            said = QStringList{alert.title(), alert.message()};
+            test::pressAlertButton("defaultButton");
+        });
+        act();
+        QCOMPARE(said, QStringList({text("DateRangeTitle"), text("DateRangeMessage")}));
+        QCOMPARE(m_beeps, 1);
+    }
+
+    std::unique_ptr<test::RecordingShell> m_shell;
+    std::shared_ptr<Tank> m_tank;
+    QDialog *m_window = nullptr;
+    int m_beeps = 0;
+};
+
+int main(int argc, char **argv)
+{
+    return brinemark::test::run<QApplication, TestGraphController>(argc, argv);
+}
+
+#include "tst_graph_controller.moc"
