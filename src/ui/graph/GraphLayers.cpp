@@ -19,6 +19,9 @@ constexpr int symbolMargin = 6;
 /// Symbols nearer to one another than this would be a mere thickening of the line, in pixels.
 constexpr double symbolDistance = 8;
 
+/// Of a column of pixels, whatever the screen's resolution: lines are seldom thinner than that.
+constexpr double columnWidth = 1;
+
 /// What a hair-thin outline adds to a line's width.
 constexpr double outlineWidth = 1.2;
 
@@ -95,7 +98,6 @@ void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
     const QRect plot = m_plot->plotRect();
     if (plot.width() < 2 || plot.height() < 2)
         return;
-    const double columnWidth = 1 / m_plot->bufferDevicePixelRatio();
     QPolygonF pixels;
     for (const QPointF &point : decimated(line.points, x.min, x.max, int(plot.width() / columnWidth)))
         pixels.append(m_plot->toPixels(point));

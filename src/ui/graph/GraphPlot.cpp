@@ -93,7 +93,9 @@ void GraphPlot::sceneChanged()
     xAxis->setRange(x.min, x.max);
     yAxis->setRange(y.min, y.max);
     placeAxes(size());
-    replot(rpQueuedReplot);
+    updateLayout(); // so that positions are right before the next paint event
+    m_stale = true;
+    update();
 }
 
 /// Sets the margins by the labels, so that none is cut off, and leaves out labels that would run into one another.
@@ -168,6 +170,10 @@ void GraphPlot::paintEvent(QPaintEvent *event)
     // The window may have moved to a screen of another resolution.
     if (!qFuzzyCompare(bufferDevicePixelRatio(), devicePixelRatioF())) {
         setBufferDevicePixelRatio(devicePixelRatioF());
+        m_stale = true;
+    }
+    if (m_stale) {
+        m_stale = false;
         replot(rpQueuedRefresh);
     }
     QCustomPlot::paintEvent(event);
@@ -194,10 +200,10 @@ void GraphPlot::paintMark(QPainter &painter) const
     painter.drawEllipse(centre, 3.5, 3.5);
 }
 
-void GraphPlot::resizeEvent(QResizeEvent *event)
+void GraphPlot::resizeEvent(QResizeEvent *)
 {
-    placeAxes(event->size());
-    QCustomPlot::resizeEvent(event);
+    setViewport(rect());
+    sceneChanged();
 }
 
 } // namespace brinemark

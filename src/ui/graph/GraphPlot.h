@@ -56,6 +56,7 @@ private:
     std::optional<QPointF> m_marked;
     QColor m_markColour;
     bool m_focusShown = false;
+    bool m_stale = true; ///< the buffers show another scene
 };
 
 } // namespace brinemark

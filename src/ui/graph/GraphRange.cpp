@@ -17,7 +17,7 @@ constexpr double doubleSteps = 1e-11;
 
 double drawable(double value)
 {
-    return std::isnan(value) ? 0 : std::clamp(value, -largest, largest);
+    return std::isfinite(value) ? std::clamp(value, -largest, largest) : 0;
 }
 
 double stepAt(const GraphRange &range)

@@ -13,7 +13,8 @@ struct GraphRange {
     friend bool operator==(const GraphRange &, const GraphRange &) = default;
 };
 
-/// A range that can be drawn: the ends in order, finite, and apart. What has no extent gets the length 1.
+/// A range that can be drawn: the ends in order, finite (what is not counts as 0), and apart. What has no extent gets
+/// the length 1.
 [[nodiscard]] GraphRange drawableRange(double min, double max);
 
 /// `visible` made `factor` times as long around `anchor`, which keeps its place. Never longer than `full` nor outside

@@ -14,13 +14,13 @@ void drawGraphSymbol(QPainter &painter, GraphSymbol symbol, QPointF centre)
     case GraphSymbol::None:
         return;
     case GraphSymbol::Square:
-        return painter.drawRect(QRectF(-3, -3, 6, 6).translated(centre));
+        return painter.drawRect(QRectF(-3.2, -3.2, 6.4, 6.4).translated(centre));
     case GraphSymbol::Circle:
-        return painter.drawEllipse(centre, 3.25, 3.25);
+        return painter.drawEllipse(centre, 3.5, 3.5);
     case GraphSymbol::Triangle:
-        return polygon({{0, -3.9}, {3.5, 2.5}, {-3.5, 2.5}});
+        return polygon({{0, -4.1}, {3.8, 2.7}, {-3.8, 2.7}});
     case GraphSymbol::Diamond:
-        return polygon({{0, -3.9}, {3.9, 0}, {0, 3.9}, {-3.9, 0}});
+        return polygon({{0, -4.2}, {4.2, 0}, {0, 4.2}, {-4.2, 0}});
     }
 }
 

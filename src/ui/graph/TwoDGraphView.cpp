@@ -336,7 +336,7 @@ void TwoDGraphView::mousePressEvent(QMouseEvent *event)
 
 void TwoDGraphView::mouseMoveEvent(QMouseEvent *event)
 {
-    if (m_dragFrom)
+    if (m_dragFrom && event->buttons() & Qt::LeftButton)
         pan(event->position());
     else
         markPointAt(event->position());

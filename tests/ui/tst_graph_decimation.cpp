@@ -1,0 +1,226 @@
+#include "support/DataRow.h"
+#include "ui/graph/Decimate.h"
+#include "ui/graph/GraphRange.h"
+#include "ui/graph/Polyline.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <map>
+
+using namespace brinemark;
+using brinemark::test::row;
+
+namespace
+{
+
+bool left(const QPointF &a, const QPointF &b)
+{
+    return a.x() < b.x();
+}
+
+/// Random points in ascending x, with many at one place and gaps between others.
+QList<QPointF> randomPoints(int count, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    QList<QPointF> points;
+    double x = -5;
+    for (int i = 0; i < count; ++i) {
+        if (random.bounded(3) > 0)
+            x += random.bounded(random.bounded(20) == 0 ? 5.0 : 0.1);
+        points.append(QPointF(x, random.bounded(200.0) - 100));
+    }
+    return points;
+}
+
+struct Extremes {
+    double min = std::numeric_limits<double>::infinity();
+    double max = -min;
+    friend bool operator==(const Extremes &, const Extremes &) = default;
+};
+
+/// What each column shows of the points within the range.
+std::map<int, Extremes> extremesByColumn(const QList<QPointF> &points, double xMin, double xMax, int columns)
+{
+    std::map<int, Extremes> result;
+    const double width = (xMax - xMin) / columns;
+    for (const QPointF &point : points) {
+        if (point.x() < xMin || point.x() > xMax)
+            continue;
+        int column = 0;
+        while (column < columns - 1 && point.x() >= xMin + width * (column + 1))
+            ++column;
+        Extremes &extremes = result[column];
+        extremes.min = std::min(extremes.min, point.y());
+        extremes.max = std::max(extremes.max, point.y());
+    }
+    return result;
+}
+
+} // namespace
+
+class GraphDecimationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsWhatColumnsShow_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<double>("from"); // parts of the whole range
+        QTest::addColumn<double>("to");
+        QTest::addColumn<int>("columns");
+        row("dense", 10000, 0.0, 1.0, 100);
+        row("a part", 10000, 0.31, 0.64, 100);
+        row("one column", 500, 0.0, 1.0, 1);
+        row("few points", 50, 0.0, 1.0, 100);
+        row("beyond the points", 1000, -0.5, 1.5, 60);
+        row("beside the points", 1000, 1.5, 2.5, 60);
+        row("no point", 0, 0.0, 1.0, 60);
+    }
+
+    void keepsWhatColumnsShow()
+    {
+        QFETCH(int, count);
+        QFETCH(double, from);
+        QFETCH(double, to);
+        QFETCH(int, columns);
+        for (quint32 seed = 1; seed <= 5; ++seed) {
+            const QList<QPointF> points = randomPoints(count, seed);
+            const double start = points.isEmpty() ? 0 : points.first().x();
+            const double length = points.isEmpty() ? 1 : points.last().x() - start;
+            const double xMin = start + length * from;
+            const double xMax = start + length * to;
+            const QList<QPointF> kept = decimated(points, xMin, xMax, columns);
+
+            QVERIFY(kept.size() <= 4 * columns + 2);
+            QVERIFY(std::is_sorted(kept.begin(), kept.end(), left));
+            auto place = points.begin();
+            for (const QPointF &point : kept) {
+                place = std::find(place, points.end(), point);
+                QVERIFY2(place != points.end(), "a point of its own, in its order, no more often than it was");
+                ++place;
+            }
+            QCOMPARE(extremesByColumn(kept, xMin, xMax, columns), extremesByColumn(points, xMin, xMax, columns));
+
+            // The line enters and leaves as it did.
+            const auto inside =
+                std::partition_point(points.begin(), points.end(), [xMin](const QPointF &p) { return p.x() < xMin; });
+            if (inside != points.begin())
+                QCOMPARE(kept.first(), *(inside - 1));
+            const auto after =
+                std::partition_point(points.begin(), points.end(), [xMax](const QPointF &p) { return p.x() <= xMax; });
+            if (after != points.end())
+                QCOMPARE(kept.last(), *after);
+        }
+    }
+
+    void keepsFirstAndLastOfAColumn()
+    {
+        const QList<QPointF> points{{0.0, 5}, {0.1, 6}, {0.2, 1}, {0.3, 4}, {0.4, 9}, {0.5, 7}, {0.6, 8}};
+        const QList<QPointF> kept{{0.0, 5}, {0.2, 1}, {0.4, 9}, {0.6, 8}};
+        QCOMPARE(decimated(points, 0, 1, 1), kept);
+        QCOMPARE(decimated(points, 0, 1, 7), points);
+    }
+
+    void segmentsFollowTheLine()
+    {
+        const QRectF area(0, 0, 100, 100);
+        using Segments = QList<QLineF>;
+        QCOMPARE(segmentsOf(QPolygonF({{10, 10}, {50, 90}, {90, 20}}), area, 1),
+                 Segments({{10, 10, 50, 90}, {50, 90, 90, 20}}));
+        // Three corners in one column become its extent.
+        QCOMPARE(segmentsOf(QPolygonF({{10.1, 10}, {10.5, 90}, {10.9, 20}, {30, 20}}), area, 1),
+                 Segments({{10.5, 10, 10.5, 90}, {10.9, 20, 30, 20}}));
+        QCOMPARE(segmentsOf(QPolygonF({{10, 10}}), area, 1), Segments());
+    }
+
+    /// Corners far away do not change where the line crosses the area.
+    void segmentsAreCutAtTheArea_data()
+    {
+        QTest::addColumn<QLineF>("segment");
+        QTest::addColumn<QLineF>("visible");
+        row("through", QLineF(-1e9, 50, 1e9, 50), QLineF(0, 50, 100, 50));
+        row("upright", QLineF(50, -1e9, 50, 1e9), QLineF(50, 0, 50, 100));
+        row("corner to corner", QLineF(-1e9, -1e9, 1e9, 1e9), QLineF(0, 0, 100, 100));
+        row("entering", QLineF(-100, 0, 50, 75), QLineF(0, 50, 50, 75));
+        row("leaving downwards", QLineF(50, 50, 150, 250), QLineF(50, 50, 75, 100));
+        row("passing by", QLineF(-50, 60, 60, -50).translated(-20, -20), QLineF());
+        row("above", QLineF(0, -10, 100, -10), QLineF());
+    }
+
+    void segmentsAreCutAtTheArea()
+    {
+        QFETCH(QLineF, segment);
+        QFETCH(QLineF, visible);
+        const QPolygonF line({segment.p1(), segment.p2()});
+        const QList<QLineF> segments = segmentsOf(line, QRectF(0, 0, 100, 100), 1);
+        QCOMPARE(segments.size(), visible.isNull() ? 0 : 1);
+        if (!segments.isEmpty()) {
+            QVERIFY(QLineF(segments[0].p1(), visible.p1()).length() < 1e-6);
+            QVERIFY(QLineF(segments[0].p2(), visible.p2()).length() < 1e-6);
+        }
+    }
+
+    void rangesCanBeDrawn_data()
+    {
+        QTest::addColumn<double>("min");
+        QTest::addColumn<double>("max");
+        QTest::addColumn<double>("from");
+        QTest::addColumn<double>("to");
+        const double inf = std::numeric_limits<double>::infinity();
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        row("ordinary", 0.0, 20.0, 0.0, 20.0);
+        row("turned", 20.0, 0.0, 0.0, 20.0);
+        row("no extent", 7.0, 7.0, 7.0, 8.0);
+        row("nothing known", inf, -inf, 0.0, 1.0);
+        row("not a number", nan, nan, 0.0, 1.0);
+        row("small", 0.0, 1e-9, 0.0, 1e-9);
+        row("vast", -1e300, 1e300, -1e100, 1e100);
+    }
+
+    void rangesCanBeDrawn()
+    {
+        QFETCH(double, min);
+        QFETCH(double, max);
+        QFETCH(double, from);
+        QFETCH(double, to);
+        QVERIFY(drawableRange(min, max) == (GraphRange{from, to}));
+    }
+
+    void zoomKeepsItsAnchorAndItsLimits()
+    {
+        const GraphRange whole{10, 110};
+        QVERIFY(zoomedRange(whole, whole, 60, 0.5) == (GraphRange{35, 85}));
+        QVERIFY(zoomedRange(whole, whole, 10, 0.5) == (GraphRange{10, 60}));
+        QVERIFY(zoomedRange(whole, whole, 1000, 0.5) == (GraphRange{60, 110})); // an anchor outside is the edge
+        QVERIFY(zoomedRange({35, 85}, whole, 40, 100) == whole);
+        QVERIFY(zoomedRange({100, 110}, whole, 100, 2) == (GraphRange{90, 110})); // not into emptiness
+
+        GraphRange visible = whole;
+        for (int i = 0; i < 500; ++i)
+            visible = zoomedRange(visible, whole, 42, 0.5);
+        QVERIFY(visible.contains(42));
+        QVERIFY(std::abs(visible.length() - 1e-4) < 1e-9);
+
+        QVERIFY(movedRange({35, 85}, whole, 10) == (GraphRange{45, 95}));
+        QVERIFY(movedRange({35, 85}, whole, -1e12) == (GraphRange{10, 60}));
+        QVERIFY(movedRange(whole, whole, 5) == whole);
+    }
+
+    /// Where doubles lie far apart the millionth part would be narrower than they are.
+    void zoomStopsBeforeNumbersRunOut()
+    {
+        const GraphRange whole{1e9, 1e9 + 1};
+        GraphRange visible = whole;
+        for (int i = 0; i < 100; ++i)
+            visible = zoomedRange(visible, whole, 1e9 + 0.5, 0.5);
+        QVERIFY(visible.length() >= 1e-3 && visible.length() < 0.1);
+    }
+};
+
+QTEST_APPLESS_MAIN(GraphDecimationTest)
+#include "tst_graph_decimation.moc"

@@ -1,0 +1,524 @@
+#include "support/DataRow.h"
+#include "support/Files.h"
+#include "support/RunTest.h"
+#include "ui/graph/TwoDGraphView.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <cmath>
+#include <limits>
+
+using namespace brinemark;
+using brinemark::test::bytesOf;
+using brinemark::test::row;
+
+namespace
+{
+
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+/// A few lines, and a record of which labels were asked for.
+class SmallGraph : public TwoDGraphDataSource, public TwoDGraphDelegate
+{
+public:
+    struct Line {
+        QColor colour;
+        QList<QPointF> points;
+        GraphSymbol symbol = GraphSymbol::None;
+    };
+    struct Asked {
+        int index;
+        GraphAxis axis;
+        QString label;
+    };
+
+    QList<Line> lines;
+    GraphRange x{0, 10};
+    GraphRange y{0, 20};
+    mutable QList<Asked> asked;
+
+    int numberOfLinesInTwoDGraphView(const TwoDGraphView &) const override { return int(lines.size()); }
+    QList<QPointF> dataForLineIndex(const TwoDGraphView &, int line) const override { return lines[line].points; }
+    double minimumValueForLineIndex(const TwoDGraphView &, int, GraphAxis axis) const override
+    {
+        return axis == GraphAxis::X ? x.min : y.min;
+    }
+    double maximumValueForLineIndex(const TwoDGraphView &, int, GraphAxis axis) const override
+    {
+        return axis == GraphAxis::X ? x.max : y.max;
+    }
+    GraphLineAttributes attributesForLineIndex(const TwoDGraphView &, int line) const override
+    {
+        return {lines[line].colour, 2, lines[line].symbol};
+    }
+    QString labelForTickMarkIndex(const TwoDGraphView &, int index, GraphAxis axis, const QString &label) const override
+    {
+        asked.append({index, axis, label});
+        return u'<' + label + u'>';
+    }
+    QString stringForToolTip(const TwoDGraphView &, QPointF point) const override
+    {
+        return QStringLiteral("at %1, %2").arg(point.x()).arg(point.y());
+    }
+
+    [[nodiscard]] QStringList labelsAsked(GraphAxis axis) const
+    {
+        QStringList labels;
+        for (const Asked &each : asked) {
+            if (each.axis == axis) {
+                if (each.index != labels.size())
+                    return {QStringLiteral("out of order")};
+                labels.append(each.label);
+            }
+        }
+        return labels;
+    }
+};
+
+bool alike(const QColor &a, const QColor &b)
+{
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue()) < 24;
+}
+
+/// Whether a pixel of that colour lies within 3 pixels of the position.
+bool shows(const QImage &image, QPointF position, const QColor &colour)
+{
+    const QPoint centre = (position * image.devicePixelRatio()).toPoint();
+    for (int x = centre.x() - 3; x <= centre.x() + 3; ++x) {
+        for (int y = centre.y() - 3; y <= centre.y() + 3; ++y) {
+            if (image.valid(x, y) && alike(image.pixelColor(x, y), colour))
+                return true;
+        }
+    }
+    return false;
+}
+
+int pixelsOf(const QImage &image, const QColor &colour)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += alike(image.pixelColor(x, y), colour) ? 1 : 0;
+    }
+    return count;
+}
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor("#353535"));
+    palette.setColor(QPalette::Base, QColor("#2a2a2a"));
+    palette.setColor(QPalette::WindowText, Qt::white);
+    return palette;
+}
+
+} // namespace
+
+class GraphViewTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    const QColor m_red{200, 20, 20};
+    const QColor m_blue{20, 110, 200};
+    SmallGraph m_graph;
+    std::unique_ptr<TwoDGraphView> m_view;
+
+    [[nodiscard]] QImage shot() const { return m_view->grab().toImage(); }
+
+    void turnWheel(QPointF position, int notches, Qt::KeyboardModifiers modifiers = {})
+    {
+        QWheelEvent event(position, m_view->mapToGlobal(position), {}, QPoint(0, 120 * notches), Qt::NoButton,
+                          modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m_view.get(), &event);
+    }
+
+    [[nodiscard]] QPointF middle() const { return m_view->positionOf({5, 10}); }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_graph = SmallGraph();
+        m_graph.lines = {{m_red, {{0, 2}, {4, 8}, {10, 2}}}, {m_blue, {{0, 15}, {10, 15}}}};
+        m_view = std::make_unique<TwoDGraphView>();
+        m_view->setPalette(QPalette(QColor("#efefef")));
+        m_view->resize(500, 300);
+        m_view->setDataSource(&m_graph);
+        m_view->setDelegate(&m_graph);
+        m_view->setNumberOfTickMarks(3, GraphAxis::X);
+        m_view->setNumberOfTickMarks(5, GraphAxis::Y);
+        m_view->reloadData();
+        m_view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
+    }
+
+    void cleanup() { m_view.reset(); }
+
+    void linesAreDrawnWhereTheirPointsAre()
+    {
+        const QImage image = shot();
+        QVERIFY(shows(image, m_view->positionOf({2, 5}), m_red));
+        QVERIFY(shows(image, m_view->positionOf({7, 5}), m_red));
+        QVERIFY(shows(image, m_view->positionOf({5, 15}), m_blue));
+        QVERIFY(!shows(image, m_view->positionOf({2, 10}), m_red));
+        QVERIFY(!shows(image, m_view->positionOf({2, 10}), m_blue));
+    }
+
+    void hiddenLinesAreNotDrawn()
+    {
+        m_view->setLineVisible(1, false);
+        QVERIFY(!m_view->isLineVisible(1));
+        QVERIFY(m_view->isLineVisible(0));
+        QCOMPARE(pixelsOf(shot(), m_blue), 0);
+        QVERIFY(pixelsOf(shot(), m_red) > 100);
+        m_view->reloadData();
+        QCOMPARE(pixelsOf(shot(), m_blue), 0);
+        m_view->setLineVisible(1, true);
+        QVERIFY(pixelsOf(shot(), m_blue) > 100);
+    }
+
+    /// A colour hardly different from the background is given an edge, and stays what it is.
+    void linesCanBeSeen_data()
+    {
+        QTest::addColumn<QPalette>("palette");
+        QTest::addColumn<QColor>("colour");
+        row("yellow on white", QPalette(QColor("#efefef")), QColor::fromRgbF(0.95F, 0.95F, 0.38F));
+        row("grey on dark", darkPalette(), QColor::fromRgbF(0.21F, 0.21F, 0.21F));
+    }
+
+    void linesCanBeSeen()
+    {
+        QFETCH(QPalette, palette);
+        QFETCH(QColor, colour);
+        m_graph.lines = {{colour, {{0, 15}, {10, 15}}}};
+        m_view->setPalette(palette);
+        m_view->reloadData();
+        const QImage image = shot();
+        const QColor background = palette.color(QPalette::Base);
+        const QPoint on = m_view->positionOf({3, 15}).toPoint();
+        QVERIFY(shows(image, on, colour));
+        int greatest = 0;
+        for (int y = on.y() - 4; y <= on.y() + 4; ++y) {
+            const int difference = std::abs(image.pixelColor(on.x(), y).lightness() - background.lightness());
+            greatest = std::max(greatest, difference);
+        }
+        QVERIFY2(greatest > 60, qPrintable(QString::number(greatest)));
+    }
+
+    void bandIsShaded()
+    {
+        const QPointF within = m_view->positionOf({6, 11});
+        const QPointF outside = m_view->positionOf({6, 13});
+        const QColor base = shot().pixelColor(within.toPoint());
+        m_view->setHighlightedBand(GraphBand{10, 12, Qt::darkGreen});
+        QVERIFY(shot().pixelColor(within.toPoint()) != base);
+        QCOMPARE(shot().pixelColor(outside.toPoint()), base);
+        m_view->setHighlightedBand(GraphBand{11, 11, Qt::darkGreen});
+        QVERIFY(shows(shot(), within, Qt::darkGreen));
+        m_view->setHighlightedBand({});
+        QCOMPARE(pixelsOf(shot(), Qt::darkGreen), 0);
+        // One that reaches far beyond the axis fills it.
+        m_view->setHighlightedBand(GraphBand{-1e30, 1e30, Qt::darkGreen});
+        QVERIFY(shot().pixelColor(outside.toPoint()) != base);
+        QVERIFY(shot().pixelColor(within.toPoint()) != base);
+    }
+
+    void tickLabelsAreAskedOfTheDelegate()
+    {
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::X), QStringList({"0", "5", "10"}));
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::Y), QStringList({"0", "5", "10", "15", "20"}));
+
+        m_graph.asked.clear();
+        m_graph.x = {-1, 1};
+        m_graph.y = {0, 1234567};
+        m_view->setNumberOfTickMarks(5, GraphAxis::X);
+        m_view->setNumberOfTickMarks(2, GraphAxis::Y);
+        m_view->reloadData();
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::X), QStringList({"-1", "-0.5", "0", "0.5", "1"}));
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::Y), QStringList({"0", "1.23457e+06"}));
+
+        m_graph.asked.clear();
+        m_view->setNumberOfTickMarks(1, GraphAxis::X);
+        m_view->setNumberOfTickMarks(0, GraphAxis::Y);
+        m_view->reloadData();
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::X), QStringList("-1"));
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::Y), QStringList());
+    }
+
+    /// The whole width of the last label and the height of the uppermost have room.
+    void labelsAreNotCutOff()
+    {
+        m_graph.x = {0, 1e6};
+        m_graph.y = {0, 123456};
+        m_view->reloadData();
+        const QImage image = shot();
+        const QColor base = image.pixelColor(0, 0);
+        for (int x = 0; x < image.width(); ++x) {
+            QCOMPARE(image.pixelColor(x, 0), base);
+            QCOMPARE(image.pixelColor(x, image.height() - 1), base);
+        }
+        for (int y = 0; y < image.height(); ++y) {
+            QCOMPARE(image.pixelColor(0, y), base);
+            QCOMPARE(image.pixelColor(image.width() - 1, y), base);
+        }
+    }
+
+    void rangesWithoutExtentAreDrawn()
+    {
+        m_graph.lines = {{m_red, {{3, 7}}}};
+        m_graph.x = {3, 3};
+        m_graph.y = {7, 7};
+        m_view->reloadData();
+        QVERIFY(m_view->visibleRange(GraphAxis::X) == (GraphRange{3, 4}));
+        QVERIFY(m_view->visibleRange(GraphAxis::Y) == (GraphRange{7, 8}));
+        QVERIFY(shows(shot(), m_view->positionOf({3, 7}), m_red)); // a single point is a symbol at least
+    }
+
+    void pointsThatAreNotFiniteAreLeftOut()
+    {
+        m_graph.lines[0].points = {{0, 2},        {2, notANumber}, {notANumber, 7}, {4, 8},
+                                   {6, infinite}, {-infinite, 3},  {10, 2}};
+        m_view->reloadData();
+        const QImage image = shot();
+        QVERIFY(shows(image, m_view->positionOf({2, 5}), m_red));
+        QVERIFY(shows(image, m_view->positionOf({7, 5}), m_red));
+    }
+
+    void emptyDataShowsAxesOnly()
+    {
+        m_graph.lines[0].points.clear();
+        m_graph.lines[1].points.clear();
+        m_view->reloadData();
+        QCOMPARE(pixelsOf(shot(), m_red) + pixelsOf(shot(), m_blue), 0);
+        m_graph.lines.clear();
+        m_view->reloadData();
+        QVERIFY(m_view->visibleRange(GraphAxis::Y) == (GraphRange{0, 1}));
+        m_view->setDataSource(nullptr);
+        m_view->setDelegate(nullptr);
+        m_view->reloadData();
+        QVERIFY(!shot().isNull());
+    }
+
+    void wheelZoomsAroundThePointer()
+    {
+        const QPointF position = m_view->positionOf({2, 15});
+        m_graph.asked.clear();
+        turnWheel(position, 1);
+        QVERIFY(m_view->isZoomed());
+        QVERIFY(QLineF(m_view->positionOf({2, 15}), position).length() < 8); // the margins follow the labels
+        QVERIFY(std::abs(m_view->visibleRange(GraphAxis::X).length() - 8) < 1e-9);
+        QVERIFY(std::abs(m_view->visibleRange(GraphAxis::Y).length() - 16) < 1e-9);
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::X).size(), 3); // spaced anew over what is visible
+        const GraphRange x = m_view->visibleRange(GraphAxis::X);
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::X).first(), QString::asprintf("%g", x.min));
+        QCOMPARE(m_graph.labelsAsked(GraphAxis::X).last(), QString::asprintf("%g", x.max));
+        turnWheel(position, -5);
+        QVERIFY(!m_view->isZoomed());
+
+        turnWheel(position, 1, Qt::ControlModifier);
+        QVERIFY(m_view->visibleRange(GraphAxis::X) != m_view->wholeRange(GraphAxis::X));
+        QVERIFY(m_view->visibleRange(GraphAxis::Y) == m_view->wholeRange(GraphAxis::Y));
+        m_view->resetZoom();
+        turnWheel(position, 1, Qt::ShiftModifier);
+        QVERIFY(m_view->visibleRange(GraphAxis::X) == m_view->wholeRange(GraphAxis::X));
+        QVERIFY(m_view->visibleRange(GraphAxis::Y) != m_view->wholeRange(GraphAxis::Y));
+    }
+
+    /// Strongly magnified, the line still passes where it should.
+    void zoomEndsAtAMillionth()
+    {
+        const QPointF position = m_view->positionOf({2, 5});
+        for (int i = 0; i < 200; ++i)
+            turnWheel(m_view->positionOf({2, 5}), 1);
+        QVERIFY(std::abs(m_view->visibleRange(GraphAxis::X).length() - 1e-5) < 1e-9);
+        QVERIFY(m_view->visibleRange(GraphAxis::X).contains(2));
+        QVERIFY(shows(shot(), m_view->positionOf({2, 5}), m_red));
+        QTest::mouseDClick(m_view.get(), Qt::LeftButton, {}, position.toPoint());
+        QVERIFY(!m_view->isZoomed());
+    }
+
+    void draggingMovesWhatIsVisible()
+    {
+        turnWheel(middle(), 4);
+        const GraphRange before = m_view->visibleRange(GraphAxis::X);
+        const QPoint from = middle().toPoint();
+        QTest::mousePress(m_view.get(), Qt::LeftButton, {}, from);
+        QMouseEvent moved(QEvent::MouseMove, QPointF(from + QPoint(30, 0)), QPointF(), Qt::NoButton, Qt::LeftButton,
+                          {});
+        QApplication::sendEvent(m_view.get(), &moved);
+        QVERIFY(m_view->visibleRange(GraphAxis::X).min < before.min);
+        QVERIFY(std::abs(m_view->visibleRange(GraphAxis::X).length() - before.length()) < 1e-9);
+        QMouseEvent farAway(QEvent::MouseMove, QPointF(from + QPoint(1000000, 0)), QPointF(), Qt::NoButton,
+                            Qt::LeftButton, {});
+        QApplication::sendEvent(m_view.get(), &farAway);
+        QCOMPARE(m_view->visibleRange(GraphAxis::X).min, 0.0);
+        QTest::mouseRelease(m_view.get(), Qt::LeftButton);
+    }
+
+    void keysZoomAndMove()
+    {
+        QTest::keyClick(m_view.get(), Qt::Key_Plus);
+        QVERIFY(m_view->isZoomed());
+        const GraphRange before = m_view->visibleRange(GraphAxis::X);
+        QTest::keyClick(m_view.get(), Qt::Key_Right);
+        QVERIFY(m_view->visibleRange(GraphAxis::X).min > before.min);
+        QTest::keyClick(m_view.get(), Qt::Key_Left);
+        const GraphRange y = m_view->visibleRange(GraphAxis::Y);
+        QTest::keyClick(m_view.get(), Qt::Key_Up);
+        QVERIFY(m_view->visibleRange(GraphAxis::Y).max > y.max);
+        QTest::keyClick(m_view.get(), Qt::Key_0);
+        QVERIFY(!m_view->isZoomed());
+        QTest::keyClick(m_view.get(), Qt::Key_Minus);
+        QVERIFY(!m_view->isZoomed());
+    }
+
+    /// New data under the same axes leaves the eye where it was; another range of an axis shows that axis whole.
+    void zoomOutlastsReloading()
+    {
+        turnWheel(middle(), 3);
+        const GraphRange x = m_view->visibleRange(GraphAxis::X);
+        m_graph.y.max = 5;
+        m_view->reloadData();
+        QVERIFY(m_view->visibleRange(GraphAxis::X) == x);
+        QVERIFY(m_view->visibleRange(GraphAxis::Y) == (GraphRange{0, 5}));
+    }
+
+    void toolTipNamesThePointBesideThePointer()
+    {
+        const auto hover = [this](QPointF position) {
+            QMouseEvent event(QEvent::MouseMove, position, m_view->mapToGlobal(position), Qt::NoButton, Qt::NoButton,
+                              {});
+            QApplication::sendEvent(m_view.get(), &event);
+        };
+        const QPointF point = m_view->positionOf({4, 8});
+        const QImage unmarked = shot();
+        hover(point + QPointF(8, -8));
+        QCOMPARE(QToolTip::text(), QStringLiteral("at 4, 8"));
+        QVERIFY(shot() != unmarked);
+        hover(point + QPointF(10, -10));
+        QTRY_VERIFY(!QToolTip::isVisible());
+        QCOMPARE(shot(), unmarked);
+
+        m_view->setLineVisible(0, false);
+        hover(point);
+        QTRY_VERIFY(!QToolTip::isVisible());
+        m_view->setLineVisible(0, true);
+
+        // Of a zoomed graph the points outside are out of reach.
+        turnWheel(m_view->positionOf({8, 8}), 8, Qt::ControlModifier);
+        hover(m_view->positionOf({4, 8}));
+        QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
+    void symbolsStandWhereTheyHaveRoom()
+    {
+        // How much red stands out above a level line.
+        const auto standingOut = [this](int count, GraphSymbol symbol) {
+            QList<QPointF> points;
+            for (int i = 0; i < count; ++i)
+                points.append(QPointF(10.0 * i / (count - 1), 10));
+            m_graph.lines = {{m_red, points, symbol}};
+            m_view->reloadData();
+            const QImage image = shot();
+            const QPoint end = m_view->positionOf({10, 10}).toPoint();
+            int pixels = 0;
+            for (int x = 0; x <= end.x(); ++x)
+                pixels += image.pixelColor(x, end.y() - 2).saturation() > 100 ? 1 : 0;
+            return pixels;
+        };
+        QCOMPARE(standingOut(20, GraphSymbol::None), 0);
+        for (const GraphSymbol symbol :
+             {GraphSymbol::Square, GraphSymbol::Circle, GraphSymbol::Triangle, GraphSymbol::Diamond})
+            QVERIFY(standingOut(20, symbol) >= 20);
+        QCOMPARE(standingOut(200, GraphSymbol::Square), 0);
+    }
+
+    void palettesAreFollowedOnScreenOnly()
+    {
+        m_view->setPalette(darkPalette());
+        const QPoint empty = m_view->positionOf({6, 12}).toPoint();
+        QCOMPARE(shot().pixelColor(empty), QColor("#2a2a2a"));
+
+        QImage paper(500, 300, QImage::Format_RGB32);
+        paper.fill(Qt::magenta);
+        QPainter painter(&paper);
+        m_view->render(&painter, QRectF(paper.rect()));
+        painter.end();
+        QCOMPARE(paper.pixelColor(empty), QColor(Qt::white));
+        QCOMPARE(pixelsOf(paper, Qt::magenta), 0);
+        QVERIFY(shows(paper, m_view->positionOf({5, 15}), m_blue));
+        QCOMPARE(shot().pixelColor(empty), QColor("#2a2a2a"));
+    }
+
+    void drawsToFillItsTarget()
+    {
+        QImage paper(900, 600, QImage::Format_RGB32);
+        paper.fill(Qt::magenta);
+        QPainter painter(&paper);
+        painter.scale(2, 2);
+        m_view->render(&painter, QRectF(50, 25, 350, 225));
+        painter.end();
+        for (const QPoint outside : {QPoint(98, 60), QPoint(802, 60), QPoint(300, 48), QPoint(300, 502)})
+            QCOMPARE(paper.pixelColor(outside), QColor(Qt::magenta));
+        for (const QPoint inside : {QPoint(102, 52), QPoint(797, 52), QPoint(102, 497), QPoint(797, 497)})
+            QCOMPARE(paper.pixelColor(inside), QColor(Qt::white));
+        QVERIFY(pixelsOf(paper.copy(700, 50, 100, 450), m_blue) > 100); // the line reaches the right side
+    }
+
+    void writesPicturesAndPages()
+    {
+        const QTemporaryDir folder;
+        m_view->setPalette(darkPalette());
+        const QString png = folder.filePath(QStringLiteral("graph.png"));
+        QVERIFY(m_view->saveImage(png));
+        const QImage image(png);
+        QCOMPARE(image.size(), QSize(1000, 600));
+        QCOMPARE(image.pixelColor(1, 1), QColor(Qt::white));
+        QVERIFY(shows(image, m_view->positionOf({5, 15}) * 2, m_blue));
+
+        const QString pdf = folder.filePath(QStringLiteral("graph.pdf"));
+        QVERIFY(m_view->savePdf(pdf));
+        QVERIFY(bytesOf(pdf).startsWith("%PDF"));
+        QVERIFY(bytesOf(pdf).contains("/MediaBox [0 0 375")); // 500 pixels of 96 an inch, in points
+        QVERIFY(!bytesOf(pdf).contains("/Subtype /Image"));   // vectors
+
+        QPrinter printer;
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(folder.filePath(QStringLiteral("print.pdf")));
+        m_view->print(printer);
+        QVERIFY(bytesOf(printer.outputFileName()).startsWith("%PDF"));
+    }
+
+    void failedWritingLeavesNothing()
+    {
+        const QTemporaryDir folder;
+        const QDir missing(folder.filePath(QStringLiteral("missing")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write .*graph\\.png")));
+        QVERIFY(!m_view->saveImage(missing.filePath(QStringLiteral("graph.png"))));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write .*graph\\.pdf")));
+        QVERIFY(!m_view->savePdf(missing.filePath(QStringLiteral("graph.pdf"))));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write")));
+        QVERIFY(!m_view->savePdf(folder.path()));
+        QVERIFY(QDir(folder.path()).isEmpty());
+    }
+
+    void isKnownToAssistiveTechnology()
+    {
+        QCOMPARE(m_view->objectName(), QStringLiteral("graphView"));
+        QCOMPARE(m_view->accessibleName(), QStringLiteral("Graph"));
+        QVERIFY(!m_view->accessibleDescription().isEmpty());
+        QVERIFY(m_view->focusPolicy() & Qt::TabFocus);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    return test::run<QApplication, GraphViewTest>(argc, argv);
+}
+
+#include "tst_graph_view.moc"
