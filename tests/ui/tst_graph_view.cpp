@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPrinter>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -84,6 +85,11 @@ public:
 bool alike(const QColor &a, const QColor &b)
 {
     return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue()) < 24;
+}
+
+QColor colourAt(const QImage &image, QPointF position)
+{
+    return image.pixelColor((position * image.devicePixelRatio()).toPoint());
 }
 
 /// Whether a pixel of that colour lies within 3 pixels of the position.
@@ -200,12 +206,12 @@ private Q_SLOTS:
         m_view->reloadData();
         const QImage image = shot();
         const QColor background = palette.color(QPalette::Base);
-        const QPoint on = m_view->positionOf({3, 15}).toPoint();
+        const QPointF on = m_view->positionOf({3, 15});
         QVERIFY(shows(image, on, colour));
         int greatest = 0;
-        for (int y = on.y() - 4; y <= on.y() + 4; ++y) {
-            const int difference = std::abs(image.pixelColor(on.x(), y).lightness() - background.lightness());
-            greatest = std::max(greatest, difference);
+        for (double y = -4; y <= 4; y += 0.5) {
+            const QColor shown = colourAt(image, on + QPointF(0, y));
+            greatest = std::max(greatest, std::abs(shown.lightness() - background.lightness()));
         }
         QVERIFY2(greatest > 60, qPrintable(QString::number(greatest)));
     }
@@ -214,18 +220,18 @@ private Q_SLOTS:
     {
         const QPointF within = m_view->positionOf({6, 11});
         const QPointF outside = m_view->positionOf({6, 13});
-        const QColor base = shot().pixelColor(within.toPoint());
+        const QColor base = colourAt(shot(), within);
         m_view->setHighlightedBand(GraphBand{10, 12, Qt::darkGreen});
-        QVERIFY(shot().pixelColor(within.toPoint()) != base);
-        QCOMPARE(shot().pixelColor(outside.toPoint()), base);
+        QVERIFY(colourAt(shot(), within) != base);
+        QCOMPARE(colourAt(shot(), outside), base);
         m_view->setHighlightedBand(GraphBand{11, 11, Qt::darkGreen});
         QVERIFY(shows(shot(), within, Qt::darkGreen));
         m_view->setHighlightedBand({});
         QCOMPARE(pixelsOf(shot(), Qt::darkGreen), 0);
         // One that reaches far beyond the axis fills it.
         m_view->setHighlightedBand(GraphBand{-1e30, 1e30, Qt::darkGreen});
-        QVERIFY(shot().pixelColor(outside.toPoint()) != base);
-        QVERIFY(shot().pixelColor(within.toPoint()) != base);
+        QVERIFY(colourAt(shot(), outside) != base);
+        QVERIFY(colourAt(shot(), within) != base);
     }
 
     void tickLabelsAreAskedOfTheDelegate()
@@ -307,6 +313,7 @@ private Q_SLOTS:
     void wheelZoomsAroundThePointer()
     {
         const QPointF position = m_view->positionOf({2, 15});
+        const QSignalSpy changes(m_view.get(), &TwoDGraphView::zoomChanged);
         m_graph.asked.clear();
         turnWheel(position, 1);
         QVERIFY(m_view->isZoomed());
@@ -317,6 +324,7 @@ private Q_SLOTS:
         const GraphRange x = m_view->visibleRange(GraphAxis::X);
         QCOMPARE(m_graph.labelsAsked(GraphAxis::X).first(), QString::asprintf("%g", x.min));
         QCOMPARE(m_graph.labelsAsked(GraphAxis::X).last(), QString::asprintf("%g", x.max));
+        QCOMPARE(changes.size(), 1);
         turnWheel(position, -5);
         QVERIFY(!m_view->isZoomed());
 
@@ -425,11 +433,11 @@ private Q_SLOTS:
             m_graph.lines = {{m_red, points, symbol}};
             m_view->reloadData();
             const QImage image = shot();
-            const QPoint end = m_view->positionOf({10, 10}).toPoint();
-            int pixels = 0;
-            for (int x = 0; x <= end.x(); ++x)
-                pixels += image.pixelColor(x, end.y() - 2).saturation() > 100 ? 1 : 0;
-            return pixels;
+            const QPointF end = m_view->positionOf({10, 10});
+            int places = 0;
+            for (double x = 0; x <= end.x(); ++x)
+                places += colourAt(image, QPointF(x, end.y() - 2)).saturation() > 100 ? 1 : 0;
+            return places;
         };
         QCOMPARE(standingOut(20, GraphSymbol::None), 0);
         for (const GraphSymbol symbol :
@@ -442,7 +450,7 @@ private Q_SLOTS:
     {
         m_view->setPalette(darkPalette());
         const QPoint empty = m_view->positionOf({6, 12}).toPoint();
-        QCOMPARE(shot().pixelColor(empty), QColor("#2a2a2a"));
+        QCOMPARE(colourAt(shot(), empty), QColor("#2a2a2a"));
 
         QImage paper(500, 300, QImage::Format_RGB32);
         paper.fill(Qt::magenta);
@@ -452,7 +460,7 @@ private Q_SLOTS:
         QCOMPARE(paper.pixelColor(empty), QColor(Qt::white));
         QCOMPARE(pixelsOf(paper, Qt::magenta), 0);
         QVERIFY(shows(paper, m_view->positionOf({5, 15}), m_blue));
-        QCOMPARE(shot().pixelColor(empty), QColor("#2a2a2a"));
+        QCOMPARE(colourAt(shot(), empty), QColor("#2a2a2a"));
     }
 
     void drawsToFillItsTarget()

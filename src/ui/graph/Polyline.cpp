@@ -34,6 +34,12 @@ void appendClipped(QList<QLineF> &result, const QLineF &segment, const QRectF &a
         result.append(QLineF(start + way * enters, start + way * leaves));
 }
 
+/// Whether two uprights stand side by side, so that what leads from one to the other does not show.
+bool overlap(const QLineF &a, const QLineF &b, double columnWidth)
+{
+    return !a.isNull() && !b.isNull() && b.x1() - a.x1() < columnWidth * 1.5 && a.y1() <= b.y2() && b.y1() <= a.y2();
+}
+
 } // namespace
 
 QList<QLineF> segmentsOf(const QPolygonF &line, const QRectF &area, double columnWidth)
@@ -41,20 +47,24 @@ QList<QLineF> segmentsOf(const QPolygonF &line, const QRectF &area, double colum
     QList<QLineF> result;
     result.reserve(line.size());
     const auto column = [columnWidth](const QPointF &corner) { return std::floor(corner.x() / columnWidth); };
+    QLineF previous; // the upright before, null when there was none
     for (auto first = line.begin(); first != line.end();) {
         auto next = first + 1;
         while (next != line.end() && column(*next) == column(*first))
             ++next;
+        QLineF upright;
         if (next - first > 2) {
             const auto [low, high] =
                 std::minmax_element(first, next, [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
             const double x = (column(*first) + 0.5) * columnWidth;
-            appendClipped(result, QLineF(x, low->y(), x, high->y()), area);
+            upright = QLineF(x, low->y(), x, high->y());
+            appendClipped(result, upright, area);
         } else if (next - first == 2) {
             appendClipped(result, QLineF(*first, *(first + 1)), area);
         }
-        if (next != line.end())
-            appendClipped(result, QLineF(*(next - 1), *next), area);
+        if (first != line.begin() && !overlap(previous, upright, columnWidth))
+            appendClipped(result, QLineF(*(first - 1), *first), area);
+        previous = upright;
         first = next;
     }
     return result;

@@ -78,13 +78,12 @@ void TwoDGraphView::setNumberOfTickMarks(int count, GraphAxis axis)
 
 void TwoDGraphView::reloadData()
 {
-    clearMark();
+    const auto visibleBefore = m_scene->visible;
     reloadLines();
     reloadRanges();
-    for (const GraphAxis axis : {GraphAxis::Y, GraphAxis::X})
-        reloadTicks(axis);
-    showCursor();
-    m_plot->sceneChanged();
+    showScene();
+    if (m_scene->visible != visibleBefore)
+        Q_EMIT zoomChanged();
 }
 
 void TwoDGraphView::reloadLines()
@@ -130,6 +129,16 @@ void TwoDGraphView::reloadTicks(GraphAxis axis)
     }
 }
 
+/// Everything that follows from lines and visible ranges.
+void TwoDGraphView::showScene()
+{
+    clearMark();
+    for (const GraphAxis axis : {GraphAxis::Y, GraphAxis::X})
+        reloadTicks(axis);
+    showCursor();
+    m_plot->sceneChanged();
+}
+
 void TwoDGraphView::setLineVisible(int line, bool visible)
 {
     if (visible)
@@ -156,7 +165,7 @@ void TwoDGraphView::setHighlightedBand(const std::optional<GraphBand> &band)
 
 void TwoDGraphView::resetZoom()
 {
-    setVisible(wholeRange(GraphAxis::X), wholeRange(GraphAxis::Y));
+    showRanges(wholeRange(GraphAxis::X), wholeRange(GraphAxis::Y));
 }
 
 bool TwoDGraphView::isZoomed() const
@@ -179,17 +188,13 @@ QPointF TwoDGraphView::positionOf(QPointF point) const
     return m_plot->toPixels(point);
 }
 
-void TwoDGraphView::setVisible(const GraphRange &x, const GraphRange &y)
+void TwoDGraphView::showRanges(const GraphRange &x, const GraphRange &y)
 {
     if (x == visibleRange(GraphAxis::X) && y == visibleRange(GraphAxis::Y))
         return;
     m_scene->range(GraphAxis::X) = x;
     m_scene->range(GraphAxis::Y) = y;
-    clearMark();
-    for (const GraphAxis axis : {GraphAxis::Y, GraphAxis::X})
-        reloadTicks(axis);
-    showCursor();
-    m_plot->sceneChanged();
+    showScene();
     Q_EMIT zoomChanged();
 }
 
@@ -200,13 +205,13 @@ void TwoDGraphView::zoom(QPointF position, double factor, Qt::KeyboardModifiers 
         const GraphRange &visible = m_scene->range(axis);
         return modifiers & otherAxis ? visible : zoomedRange(visible, wholeRange(axis), value, factor);
     };
-    setVisible(zoomed(GraphAxis::X, anchor.x(), Qt::ShiftModifier),
+    showRanges(zoomed(GraphAxis::X, anchor.x(), Qt::ShiftModifier),
                zoomed(GraphAxis::Y, anchor.y(), Qt::ControlModifier));
 }
 
 void TwoDGraphView::moveBy(double x, double y)
 {
-    setVisible(movedRange(visibleRange(GraphAxis::X), wholeRange(GraphAxis::X), x),
+    showRanges(movedRange(visibleRange(GraphAxis::X), wholeRange(GraphAxis::X), x),
                movedRange(visibleRange(GraphAxis::Y), wholeRange(GraphAxis::Y), y));
 }
 

@@ -78,7 +78,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// The visible part is another.
+    /// Another part of the axes is visible, or the same part of other axes.
     void zoomChanged();
 
 protected:
@@ -103,7 +103,8 @@ private:
     void reloadLines();
     void reloadRanges();
     void reloadTicks(GraphAxis axis);
-    void setVisible(const GraphRange &x, const GraphRange &y);
+    void showScene();
+    void showRanges(const GraphRange &x, const GraphRange &y);
     void zoom(QPointF position, double factor, Qt::KeyboardModifiers modifiers);
     void moveBy(double x, double y);
     void pan(QPointF to);
