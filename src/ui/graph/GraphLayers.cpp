@@ -104,8 +104,9 @@ void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
 
     const double width = line.attributes.width;
     const QColor outline = m_plot->look().outlineOf(line.attributes.colour);
-    const double reach = width / 2 + outlineWidth;
-    const QRectF area = QRectF(plot).adjusted(-reach, -reach, reach, reach);
+    // A level line at the very top or bottom keeps its thickness; at the sides lines end with the plot.
+    const double reach = width / 2 + outlineWidth / 2;
+    const QRectF area = QRectF(plot).adjusted(0, -reach, 1, reach);
     painter->save();
     painter->setClipRect(area);
     const QList<QLineF> segments = segmentsOf(pixels, area.adjusted(-width, -width, width, width), columnWidth);

@@ -19,7 +19,7 @@ QColor mixed(const QColor &a, const QColor &b, double part)
 
 GraphLook lookOf(const QColor &background, const QColor &text, const QFont &font)
 {
-    return {background, text, mixed(background, text, 0.45), mixed(background, text, 0.12), font};
+    return {background, text, mixed(background, text, 0.45), mixed(background, text, 0.1), font};
 }
 
 } // namespace
