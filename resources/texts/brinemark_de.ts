@@ -17,6 +17,16 @@
         <translation>Version ^0</translation>
     </message>
     <message>
+        <source>AboveLimitToolTip</source>
+        <extracomment>^0: the target or the limit</extracomment>
+        <translation>Über der oberen Grenze ^0</translation>
+    </message>
+    <message>
+        <source>AboveTargetToolTip</source>
+        <extracomment>^0: the target or the limit</extracomment>
+        <translation>Über dem Zielwert ^0</translation>
+    </message>
+    <message>
         <source>Action</source>
         <translation>Aktion</translation>
     </message>
@@ -72,6 +82,16 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     <message>
         <source>AutoColumnTooltip</source>
         <translation>Nach dem Erledigen neu einplanen</translation>
+    </message>
+    <message>
+        <source>BelowLimitToolTip</source>
+        <extracomment>^0: the target or the limit</extracomment>
+        <translation>Unter der unteren Grenze ^0</translation>
+    </message>
+    <message>
+        <source>BelowTargetToolTip</source>
+        <extracomment>^0: the target or the limit</extracomment>
+        <translation>Unter dem Zielwert ^0</translation>
     </message>
     <message>
         <source>Calcium</source>

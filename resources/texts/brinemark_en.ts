@@ -17,6 +17,16 @@
         <translation>Version ^0</translation>
     </message>
     <message>
+        <source>AboveLimitToolTip</source>
+        <extracomment>^0: the target or the limit</extracomment>
+        <translation>Above the upper limit of ^0</translation>
+    </message>
+    <message>
+        <source>AboveTargetToolTip</source>
+        <extracomment>^0: the target or the limit</extracomment>
+        <translation>Above the target of ^0</translation>
+    </message>
+    <message>
         <source>Action</source>
         <translation>Action</translation>
     </message>
@@ -72,6 +82,16 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     <message>
         <source>AutoColumnTooltip</source>
         <translation>Schedule again when done</translation>
+    </message>
+    <message>
+        <source>BelowLimitToolTip</source>
+        <extracomment>^0: the target or the limit</extracomment>
+        <translation>Below the lower limit of ^0</translation>
+    </message>
+    <message>
+        <source>BelowTargetToolTip</source>
+        <extracomment>^0: the target or the limit</extracomment>
+        <translation>Below the target of ^0</translation>
     </message>
     <message>
         <source>Calcium</source>

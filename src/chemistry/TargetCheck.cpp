@@ -1,0 +1,59 @@
+#include "chemistry/TargetCheck.h"
+
+#include "base/text/NumberText.h"
+#include "base/text/Texts.h"
+#include "model/Parameters.h"
+#include "model/Tank.h"
+
+namespace brinemark
+{
+
+TargetBand targetBand(const TankData &target)
+{
+    const float deviation = target.deviationOn ? target.deviationValue : 0;
+    return {target.preferredValue - deviation, target.preferredValue + deviation};
+}
+
+TargetState targetState(const TankData *target, double value)
+{
+    if (value < 0 || !target || !target->warningOn)
+        return TargetState::NotChecked;
+    const TargetBand band = targetBand(*target);
+    const auto measured = float(value);
+    // A negative deviation turns the band inside out; then the upper limit has the last word.
+    if (measured > band.high)
+        return TargetState::High;
+    return measured < band.low ? TargetState::Low : TargetState::Within;
+}
+
+std::optional<TargetWarning> targetWarning(const Tank &tank, QStringView identifier, double value,
+                                           const QString &columnTitle)
+{
+    const std::optional<Parameter> parameter = parameterFromIdentifier(identifier);
+    const TankData *target = parameter ? tank.target(*parameter) : nullptr;
+    const TargetState state = targetState(target, value);
+    if (state != TargetState::Low && state != TargetState::High)
+        return std::nullopt;
+    const bool low = state == TargetState::Low;
+    const TargetBand band = targetBand(*target);
+    const QString title = low ? text("LowValueTitle") : text("HighValueTitle");
+    const QString message = band.isSingleValue() ? text("EqualValueMessage")
+                            : low                ? text("LowValueMessage")
+                                                 : text("HighValueMessage");
+    const QString limit = localizeAndTrimZeros(low ? band.low : band.high);
+    return TargetWarning{fillPlaceholders(title, {columnTitle}),
+                         fillPlaceholders(message, {limit}) + text(traitsOf(*parameter).treatmentKey)};
+}
+
+QString targetStateText(const TankData &target, TargetState state)
+{
+    if (state != TargetState::Low && state != TargetState::High)
+        return {};
+    const bool low = state == TargetState::Low;
+    const TargetBand band = targetBand(target);
+    const QString sentence = band.isSingleValue() ? (low ? text("BelowTargetToolTip") : text("AboveTargetToolTip"))
+                                                  : (low ? text("BelowLimitToolTip") : text("AboveLimitToolTip"));
+    return fillPlaceholders(sentence, {localizeAndTrimZeros(low ? band.low : band.high)});
+}
+
+} // namespace brinemark
