@@ -3,6 +3,8 @@
 #include "ui/graph/GraphRange.h"
 #include "ui/graph/Polyline.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -130,12 +132,52 @@ private Q_SLOTS:
     {
         const QRectF area(0, 0, 100, 100);
         using Segments = QList<QLineF>;
-        QCOMPARE(segmentsOf(QPolygonF({{10, 10}, {50, 90}, {90, 20}}), area, 1),
-                 Segments({{10, 10, 50, 90}, {50, 90, 90, 20}}));
+        const auto segmentsOf = [&area](const QPolygonF &line) { return strokesOf(line, area, 1).segments; };
+        QCOMPARE(segmentsOf(QPolygonF({{10, 10}, {50, 90}, {90, 20}})), Segments({{10, 10, 50, 90}, {50, 90, 90, 20}}));
         // Three corners in one column become its extent.
-        QCOMPARE(segmentsOf(QPolygonF({{10.1, 10}, {10.5, 90}, {10.9, 20}, {30, 20}}), area, 1),
-                 Segments({{10.5, 10, 10.5, 90}, {10.9, 20, 30, 20}}));
-        QCOMPARE(segmentsOf(QPolygonF({{10, 10}}), area, 1), Segments());
+        QCOMPARE(segmentsOf(QPolygonF({{10.1, 10}, {10.5, 90}, {10.9, 20}, {30, 20}})),
+                 Segments({{10.9, 20, 30, 20}, {10.5, 10, 10.5, 90}}));
+        QCOMPARE(segmentsOf(QPolygonF({{10, 10}})), Segments());
+    }
+
+    /// Of a dense line every column shows its whole extent, and nothing more than what leads to its neighbours.
+    void denseLinesShowEveryExtent()
+    {
+        const QRectF area(0, 0, 200, 100);
+        for (quint32 seed = 1; seed <= 10; ++seed) {
+            QRandomGenerator random(seed);
+            const double spread = 10.0 * seed;
+            QPolygonF line;
+            for (double x = 0; x < 200; x += 0.2)
+                line.append({x, 50 + 20 * std::sin(x / 9) + (random.bounded(1.0) - 0.5) * spread});
+            const auto paint = [](const GraphStrokes &strokes) {
+                QImage image(200, 100, QImage::Format_RGB32);
+                image.fill(Qt::white);
+                QPainter painter(&image);
+                painter.translate(0.5, 0.5);
+                painter.setPen(QPen(Qt::black, 2, Qt::SolidLine, Qt::SquareCap));
+                painter.drawLines(strokes.segments);
+                for (const QRectF &fill : strokes.fills)
+                    painter.fillRect(fill, Qt::black);
+                return image;
+            };
+            const GraphStrokes dense = strokesOf(line, area, 1);
+            GraphStrokes plain;
+            for (qsizetype i = 1; i < line.size(); ++i)
+                plain.segments.append(QLineF(line[i - 1], line[i]));
+            const QImage image = paint(dense);
+            const QImage reference = paint(plain);
+            int different = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    different += image.pixel(x, y) != reference.pixel(x, y) ? 1 : 0;
+            }
+            // A pixel at either end of a column may be rounded another way.
+            QVERIFY2(different < 3 * image.width(), qPrintable(QString::number(different)));
+            QVERIFY(dense.segments.size() < 2 * image.width() + 10);
+            if (seed == 1 || seed == 10) // a thin line encloses nothing
+                QCOMPARE(dense.fills.isEmpty(), seed == 1);
+        }
     }
 
     /// Corners far away do not change where the line crosses the area.
@@ -157,7 +199,7 @@ private Q_SLOTS:
         QFETCH(QLineF, segment);
         QFETCH(QLineF, visible);
         const QPolygonF line({segment.p1(), segment.p2()});
-        const QList<QLineF> segments = segmentsOf(line, QRectF(0, 0, 100, 100), 1);
+        const QList<QLineF> segments = strokesOf(line, QRectF(0, 0, 100, 100), 1).segments;
         QCOMPARE(segments.size(), visible.isNull() ? 0 : 1);
         if (!segments.isEmpty()) {
             QVERIFY(QLineF(segments[0].p1(), visible.p1()).length() < 1e-6);

@@ -109,13 +109,15 @@ void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
     const QRectF area = QRectF(plot).adjusted(0, -reach, 1, reach);
     painter->save();
     painter->setClipRect(area);
-    const QList<QLineF> segments = segmentsOf(pixels, area.adjusted(-width, -width, width, width), columnWidth);
+    const GraphStrokes strokes = strokesOf(pixels, area.adjusted(-width, -width, width, width), columnWidth);
     const auto stroke = [&](const QColor &colour, double penWidth) {
         painter->setPen(QPen(colour, penWidth, Qt::SolidLine, Qt::SquareCap));
-        painter->drawLines(segments);
+        painter->drawLines(strokes.segments);
     };
     if (outline.isValid())
         stroke(outline, width + outlineWidth);
+    for (const QRectF &fill : strokes.fills)
+        painter->fillRect(fill, line.attributes.colour);
     stroke(line.attributes.colour, width);
     painter->restore();
     drawSymbols(painter, line, pixels);

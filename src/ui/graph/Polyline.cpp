@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace brinemark
@@ -34,40 +35,99 @@ void appendClipped(QList<QLineF> &result, const QLineF &segment, const QRectF &a
         result.append(QLineF(start + way * enters, start + way * leaves));
 }
 
-/// Whether two uprights stand side by side, so that what leads from one to the other does not show.
-bool overlap(const QLineF &a, const QLineF &b, double columnWidth)
+/// Collects strokes; uprights wait until a run of them is complete.
+class Strokes
 {
-    return !a.isNull() && !b.isNull() && b.x1() - a.x1() < columnWidth * 1.5 && a.y1() <= b.y2() && b.y1() <= a.y2();
-}
+public:
+    Strokes(const QRectF &area, double columnWidth)
+        : m_area(area)
+        , m_columnWidth(columnWidth)
+    {
+    }
+
+    void addSegment(const QLineF &segment) { appendClipped(m_strokes.segments, segment, m_area); }
+
+    /// `upright` leads downwards in the painter's sense: y1 <= y2.
+    void addUpright(const QLineF &upright)
+    {
+        constexpr qsizetype longest = 16; // more have too little in common
+        if (m_run.size() == longest || !touchesRun(upright))
+            finishRun();
+        m_run.append(upright);
+    }
+
+    /// Whether what leads to `upright` from the upright before does not show.
+    [[nodiscard]] bool touchesRun(const QLineF &upright) const
+    {
+        return !m_run.isEmpty() && upright.x1() - m_run.last().x1() < m_columnWidth * 1.5 &&
+               upright.y1() <= m_run.last().y2() && m_run.last().y1() <= upright.y2();
+    }
+
+    void finishRun()
+    {
+        double top = -std::numeric_limits<double>::infinity();
+        double bottom = -top;
+        for (const QLineF &upright : std::as_const(m_run)) {
+            top = std::max(top, upright.y1());
+            bottom = std::min(bottom, upright.y2());
+        }
+        constexpr double worthwhile = 8; // pixels
+        const bool filled = m_run.size() > 2 && bottom - top > worthwhile;
+        for (qsizetype i = 0; i < m_run.size(); ++i) {
+            const QLineF &upright = m_run[i];
+            // The outermost stay whole: they are the edges of what is filled.
+            if (!filled || i == 0 || i == m_run.size() - 1) {
+                addSegment(upright);
+            } else {
+                addSegment(QLineF(upright.x1(), upright.y1(), upright.x1(), top));
+                addSegment(QLineF(upright.x1(), bottom, upright.x1(), upright.y2()));
+            }
+        }
+        if (filled) {
+            const QRectF common(QPointF(m_run.first().x1(), top), QPointF(m_run.last().x1(), bottom));
+            if (const QRectF visible = common.intersected(m_area); !visible.isEmpty())
+                m_strokes.fills.append(visible);
+        }
+        m_run.clear();
+    }
+
+    [[nodiscard]] GraphStrokes take() { return std::move(m_strokes); }
+
+private:
+    QRectF m_area;
+    double m_columnWidth;
+    QList<QLineF> m_run;
+    GraphStrokes m_strokes;
+};
 
 } // namespace
 
-QList<QLineF> segmentsOf(const QPolygonF &line, const QRectF &area, double columnWidth)
+GraphStrokes strokesOf(const QPolygonF &line, const QRectF &area, double columnWidth)
 {
-    QList<QLineF> result;
-    result.reserve(line.size());
+    Strokes strokes(area, columnWidth);
     const auto column = [columnWidth](const QPointF &corner) { return std::floor(corner.x() / columnWidth); };
-    QLineF previous; // the upright before, null when there was none
     for (auto first = line.begin(); first != line.end();) {
         auto next = first + 1;
         while (next != line.end() && column(*next) == column(*first))
             ++next;
-        QLineF upright;
-        if (next - first > 2) {
-            const auto [low, high] =
-                std::minmax_element(first, next, [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
-            const double x = (column(*first) + 0.5) * columnWidth;
-            upright = QLineF(x, low->y(), x, high->y());
-            appendClipped(result, upright, area);
-        } else if (next - first == 2) {
-            appendClipped(result, QLineF(*first, *(first + 1)), area);
+        const bool isUpright = next - first > 2;
+        const auto [low, high] =
+            std::minmax_element(first, next, [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
+        const double x = (column(*first) + 0.5) * columnWidth;
+        const QLineF upright(x, low->y(), x, high->y());
+        if (first != line.begin() && !(isUpright && strokes.touchesRun(upright)))
+            strokes.addSegment(QLineF(*(first - 1), *first));
+        if (isUpright) {
+            strokes.addUpright(upright);
+        } else {
+            strokes.finishRun();
+            if (next - first == 2)
+                strokes.addSegment(QLineF(*first, *(first + 1)));
         }
-        if (first != line.begin() && !overlap(previous, upright, columnWidth))
-            appendClipped(result, QLineF(*(first - 1), *first), area);
-        previous = upright;
         first = next;
     }
-    return result;
+    strokes.finishRun();
+    return strokes.take();
 }
 
 } // namespace brinemark
