@@ -25,6 +25,9 @@ constexpr double columnWidth = 1;
 /// What a hair-thin outline adds to a line's width.
 constexpr double outlineWidth = 1.2;
 
+/// The same for upright strokes, which then fill whole pixels and are drawn in half the time.
+constexpr double uprightOutlineWidth = 2;
+
 } // namespace
 
 GraphBandLayer::GraphBandLayer(GraphPlot *plot)
@@ -105,20 +108,23 @@ void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
     const double width = line.attributes.width;
     const QColor outline = m_plot->look().outlineOf(line.attributes.colour);
     // A level line at the very top or bottom keeps its thickness; at the sides lines end with the plot.
-    const double reach = width / 2 + outlineWidth / 2;
+    const double reach = (width + outlineWidth) / 2;
     const QRectF area = QRectF(plot).adjusted(0, -reach, 1, reach);
     painter->save();
     painter->setClipRect(area);
     const GraphStrokes strokes = strokesOf(pixels, area.adjusted(-width, -width, width, width), columnWidth);
-    const auto stroke = [&](const QColor &colour, double penWidth) {
+    const auto stroke = [&](const QList<QLineF> &lines, const QColor &colour, double penWidth) {
         painter->setPen(QPen(colour, penWidth, Qt::SolidLine, Qt::SquareCap));
-        painter->drawLines(strokes.segments);
+        painter->drawLines(lines);
     };
-    if (outline.isValid())
-        stroke(outline, width + outlineWidth);
+    if (outline.isValid()) {
+        stroke(strokes.segments, outline, width + outlineWidth);
+        stroke(strokes.uprights, outline, width + uprightOutlineWidth);
+    }
     for (const QRectF &fill : strokes.fills)
         painter->fillRect(fill, line.attributes.colour);
-    stroke(line.attributes.colour, width);
+    stroke(strokes.segments, line.attributes.colour, width);
+    stroke(strokes.uprights, line.attributes.colour, width);
     painter->restore();
     drawSymbols(painter, line, pixels);
 }

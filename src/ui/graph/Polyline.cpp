@@ -77,10 +77,11 @@ public:
             const QLineF &upright = m_run[i];
             // The outermost stay whole: they are the edges of what is filled.
             if (!filled || i == 0 || i == m_run.size() - 1) {
-                addSegment(upright);
+                appendClipped(m_strokes.uprights, upright, m_area);
             } else {
-                addSegment(QLineF(upright.x1(), upright.y1(), upright.x1(), top));
-                addSegment(QLineF(upright.x1(), bottom, upright.x1(), upright.y2()));
+                const double x = upright.x1();
+                appendClipped(m_strokes.uprights, QLineF(x, upright.y1(), x, top), m_area);
+                appendClipped(m_strokes.uprights, QLineF(x, bottom, x, upright.y2()), m_area);
             }
         }
         if (filled) {

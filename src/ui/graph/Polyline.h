@@ -8,10 +8,11 @@
 namespace brinemark
 {
 
-/// What a polyline is drawn with: strokes of the line's width, and areas that they enclose and that want filling.
+/// What a polyline is drawn with.
 struct GraphStrokes {
-    QList<QLineF> segments;
-    QList<QRectF> fills;
+    QList<QLineF> segments; ///< of the line's width
+    QList<QLineF> uprights; ///< likewise, where a whole column is full of corners
+    QList<QRectF> fills;    ///< what uprights have in common
 };
 
 /// The strokes of a polyline as far as they lie within `area`: a strongly magnified line has corners millions of pixels
