@@ -431,6 +431,10 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Vorschau wird erstellt …</translation>
     </message>
     <message>
+        <source>CsvFileFilter</source>
+        <translation>Kommagetrennte Werte (*.csv)</translation>
+    </message>
+    <message>
         <source>CustomDays</source>
         <translation>Tage:</translation>
     </message>

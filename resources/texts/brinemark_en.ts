@@ -431,6 +431,10 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>Creating preview…</translation>
     </message>
     <message>
+        <source>CsvFileFilter</source>
+        <translation>Comma-separated values (*.csv)</translation>
+    </message>
+    <message>
         <source>CustomDays</source>
         <translation>Days:</translation>
     </message>

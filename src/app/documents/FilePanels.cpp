@@ -2,16 +2,15 @@
 
 #include "base/text/Texts.h"
 #include "model/TankFile.h"
-#include "ui/Sheets.h"
+#include "ui/SavePanel.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHash>
-#include <QHeaderView>
-#include <QLineEdit>
 #include <QSortFilterProxyModel>
-#include <QTreeView>
+
+#include <memory>
 
 namespace brinemark
 {
@@ -43,27 +42,6 @@ private:
     mutable QHash<QString, bool> m_known;
 };
 
-/// Saves under the extension "xml" whatever else the name has dots in: "Reef 2.5" would otherwise keep "5" for its
-/// extension and be no tank file to the next open panel. The panel then asks about the file that is really written.
-class FilePanel : public QFileDialog
-{
-public:
-    using QFileDialog::QFileDialog;
-
-protected:
-    void accept() override
-    {
-        auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        if (acceptMode() == AcceptSave && name) {
-            const QFileInfo typed(directory(), name->text());
-            const bool namesFile = !typed.fileName().isEmpty() && typed.fileName() != u"~" && !typed.isDir();
-            if (namesFile && typed.suffix().compare(u"xml", Qt::CaseInsensitive) != 0)
-                name->setText(name->text() + QStringLiteral(".xml"));
-        }
-        QFileDialog::accept();
-    }
-};
-
 QCheckBox *addAccessoryView(QFileDialog &panel, bool makeDefault)
 {
     auto *check = new QCheckBox(text("MakeDefaultCheck"), &panel);
@@ -74,42 +52,27 @@ QCheckBox *addAccessoryView(QFileDialog &panel, bool makeDefault)
     return check;
 }
 
-/// Both panels are the toolkit's own, since only that one can carry the check box.
-QFileDialog *makePanel(QWidget *window, const QString &objectName, QFileDialog::AcceptMode mode)
-{
-    auto *panel = new FilePanel(window);
-    panel->setObjectName(objectName);
-    panel->setOption(QFileDialog::DontUseNativeDialog);
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    panel->setAcceptMode(mode);
-    panel->setNameFilter(text("TankFileFilter"));
-    if (auto *files = panel->findChild<QTreeView *>(QStringLiteral("treeView"))) {
-        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents); // types and dates are cut off otherwise
-        files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-        panel->resize(720, 480);
-    }
-    return panel;
-}
-
 void openWith(QWidget *window, QFileDialog *panel, QCheckBox *check, FilePanelCompletion completion)
 {
-    QObject::connect(panel, &QDialog::finished, panel, [panel, check, completion = std::move(completion)](int code) {
-        FilePanelAnswer answer;
-        answer.ok = code == QDialog::Accepted;
-        answer.path = answer.ok ? panel->selectedFiles().value(0) : QString();
-        answer.makeDefault = check && check->isChecked();
-        // The completion may show the next sheet: let this one go first.
-        QMetaObject::invokeMethod(
-            panel->parent(), [completion, answer] { completion(answer); }, Qt::QueuedConnection);
+    // The panel is gone when the completion runs: the box is read while it is still there.
+    auto makeDefault = std::make_shared<bool>(false);
+    QObject::connect(panel, &QDialog::finished, panel,
+                     [check, makeDefault] { *makeDefault = check && check->isChecked(); });
+    openFilePanel(window, panel, [makeDefault, completion = std::move(completion)](const QString &path) {
+        completion({!path.isEmpty(), path, *makeDefault});
     });
-    openSheet(window, panel);
 }
 
 } // namespace
 
 void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelCompletion completion)
 {
-    QFileDialog *panel = makePanel(window, QStringLiteral("openPanel"), QFileDialog::AcceptOpen);
+    auto *panel = new QFileDialog(window);
+    panel->setObjectName(QStringLiteral("openPanel"));
+    panel->setOption(QFileDialog::DontUseNativeDialog); // only the toolkit's own can carry the check box
+    panel->setAcceptMode(QFileDialog::AcceptOpen);
+    panel->setNameFilter(text("TankFileFilter"));
+    arrangeFilePanel(*panel);
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setProxyModel(new TankFileFilter(panel));
     QCheckBox *check = makeDefault ? addAccessoryView(*panel, *makeDefault) : nullptr;
@@ -118,9 +81,10 @@ void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelC
 
 void beginSavePanel(QWidget *window, const QString &proposedName, bool makeDefault, FilePanelCompletion completion)
 {
-    QFileDialog *panel = makePanel(window, QStringLiteral("savePanel"), QFileDialog::AcceptSave);
-    panel->setFileMode(QFileDialog::AnyFile);
-    panel->selectFile(proposedName);
+    SavePanelOptions options{QStringLiteral("savePanel")};
+    options.proposedName = proposedName;
+    options.kinds = {{QStringLiteral("xml"), text("TankFileFilter")}};
+    auto *panel = new SavePanel(window, options);
     QCheckBox *check = addAccessoryView(*panel, makeDefault);
     openWith(window, panel, check, std::move(completion));
 }

@@ -1,0 +1,28 @@
+#include "chemistry/views/ConditionExport.h"
+
+#include "base/SafeFile.h"
+#include "base/text/Texts.h"
+#include "model/Tank.h"
+#include "ui/SavePanel.h"
+
+namespace brinemark
+{
+
+void beginConditionExport(QWidget *window, const std::shared_ptr<Tank> &tank, std::vector<CsvColumn> columns)
+{
+    SavePanelOptions options{QStringLiteral("exportPanel")};
+    options.message = text("ExportMessage");
+    options.folder = documentsFolder();
+    options.proposedName = formatText(text("ExportName"), {tank->name});
+    options.kinds = {{QStringLiteral("csv"), text("CsvFileFilter")}};
+    beginSavePanel(window, options,
+                   [exported = std::weak_ptr<Tank>(tank), columns = std::move(columns)](const QString &path) {
+                       const std::shared_ptr<Tank> tank = exported.lock();
+                       if (!tank || path.isEmpty())
+                           return;
+                       // A failure is in the log then, and nowhere else.
+                       static_cast<void>(writeFileSafely(path, conditionCsv(*tank->condition(), columns)));
+                   });
+}
+
+} // namespace brinemark
