@@ -833,7 +833,8 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     </message>
     <message>
         <source>GraphHint</source>
-        <translation>Scrollen oder + und − zoomt, Ziehen verschiebt, ein Doppelklick zeigt das ganze Diagramm.</translation>
+        <extracomment>%@ is the date of the first test in the graph.</extracomment>
+        <translation>Die Tage zählen ab %@. Scrollen oder + und − zoomt, Ziehen verschiebt, ein Doppelklick zeigt das ganze Diagramm.</translation>
     </message>
     <message>
         <source>GraphLegend</source>
@@ -868,6 +869,11 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
     <message>
         <source>GraphNothingTested</source>
         <translation>Zwischen diesen Tagen wurde keine der Spalten im Protokoll getestet.</translation>
+    </message>
+    <message>
+        <source>GraphPaperTitle</source>
+        <extracomment>^0 is the tank&apos;s name, ^1 and ^2 are the dates of the first and the last test; stands above a graph that is printed or saved.</extracomment>
+        <translation>Wassertests: ^0, ^1 bis ^2</translation>
     </message>
     <message>
         <source>GraphPrint</source>

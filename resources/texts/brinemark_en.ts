@@ -833,7 +833,8 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     </message>
     <message>
         <source>GraphHint</source>
-        <translation>Scroll or press + and − to zoom, drag to move, double-click for the whole graph.</translation>
+        <extracomment>%@ is the date of the first test in the graph.</extracomment>
+        <translation>Days count from %@. Scroll or press + and − to zoom, drag to move, double-click for the whole graph.</translation>
     </message>
     <message>
         <source>GraphLegend</source>
@@ -868,6 +869,11 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
     <message>
         <source>GraphNothingTested</source>
         <translation>None of the columns in the log was tested between these dates.</translation>
+    </message>
+    <message>
+        <source>GraphPaperTitle</source>
+        <extracomment>^0 is the tank&apos;s name, ^1 and ^2 are the dates of the first and the last test; stands above a graph that is printed or saved.</extracomment>
+        <translation>Water tests of ^0, ^1 to ^2</translation>
     </message>
     <message>
         <source>GraphPrint</source>

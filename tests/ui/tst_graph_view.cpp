@@ -32,6 +32,7 @@ public:
         QColor colour;
         QList<QPointF> points;
         GraphSymbol symbol = GraphSymbol::None;
+        QString name = {};
     };
     struct Asked {
         int index;
@@ -56,7 +57,7 @@ public:
     }
     GraphLineAttributes attributesForLineIndex(const TwoDGraphView &, int line) const override
     {
-        return {lines[line].colour, 2, lines[line].symbol};
+        return {lines[line].colour, 2, lines[line].symbol, lines[line].name};
     }
     QString labelForTickMarkIndex(const TwoDGraphView &, int index, GraphAxis axis, const QString &label) const override
     {
@@ -498,8 +499,39 @@ private Q_SLOTS:
         QPrinter printer;
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(folder.filePath(QStringLiteral("print.pdf")));
-        m_view->print(printer);
+        QVERIFY(m_view->print(printer));
         QVERIFY(bytesOf(printer.outputFileName()).startsWith("%PDF"));
+    }
+
+    // On paper the graph stands alone: it says what it is and which line is which.
+    void paperHasTitleAndLegend()
+    {
+        const QTemporaryDir folder;
+        const auto saved = [&] {
+            const QString path = folder.filePath(QStringLiteral("graph.png"));
+            return m_view->saveImage(path) ? QImage(path) : QImage();
+        };
+        const int bare = saved().height();
+        m_view->setPaperTitle(QStringLiteral("Reef"));
+        const int titled = saved().height();
+        QVERIFY(titled > bare);
+
+        const QColor lime(10, 230, 40); // beyond the top: to be seen in the legend alone
+        m_graph.lines.append({lime, {{0, 90}, {10, 90}}, GraphSymbol::None, QStringLiteral("pH")});
+        m_view->reloadData();
+        const QImage named = saved();
+        const int legend = named.height() - titled;
+        QVERIFY(legend > 0);
+        QVERIFY(pixelsOf(named.copy(0, titled, named.width(), legend), lime) > 50);
+
+        m_graph.lines.last().name = QString(200, u'x'); // too long for one row beside another
+        m_graph.lines.append({Qt::black, {{0, 90}, {10, 90}}, GraphSymbol::None, QStringLiteral("KH")});
+        m_view->reloadData();
+        QVERIFY(saved().height() > named.height());
+
+        m_view->setLineVisible(int(m_graph.lines.size()) - 1, false);
+        m_view->setLineVisible(int(m_graph.lines.size()) - 2, false);
+        QCOMPARE(saved().height(), titled);
     }
 
     void failedWritingLeavesNothing()

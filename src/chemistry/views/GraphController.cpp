@@ -1,5 +1,6 @@
 #include "chemistry/views/GraphController.h"
 
+#include "base/text/DateText.h"
 #include "base/text/Texts.h"
 #include "chemistry/TargetBand.h"
 #include "chemistry/views/graph/GraphContentView.h"
@@ -17,7 +18,6 @@
 #include "ui/SpinningIndicator.h"
 #include "ui/graph/TwoDGraphView.h"
 
-#include <QPrinter>
 #include <QPushButton>
 
 #include <algorithm>
@@ -141,6 +141,14 @@ void GraphController::showSeries(const ConditionSeries &series)
     view.setNumberOfTickMarks(series.numberOfXTickMarks(), GraphAxis::X);
     view.reloadData();
     m_graphContentView->showGraph(whyEmpty());
+    if (graphArray().empty() || !m_graphTank) {
+        m_graphContentView->showHint({});
+        return;
+    }
+    const QString first = localeDateText(graphArray().front()->date);
+    const QString last = localeDateText(graphArray().back()->date);
+    m_graphContentView->showHint(formatText(text("GraphHint"), {first}));
+    view.setPaperTitle(fillPlaceholders(text("GraphPaperTitle"), {m_graphTank->name, first, last}));
 }
 
 QString GraphController::whyEmpty() const
@@ -182,10 +190,8 @@ void GraphController::showBand(int line)
 void GraphController::printGraph()
 {
     TwoDGraphView &view = m_graphContentView->graphView();
-    openPrintSheet(m_graphWindow, QPageLayout::Landscape, &view, [&view](QPrinter &printer) {
-        view.print(printer);
-        return printer.printerState() != QPrinter::Error;
-    });
+    openPrintSheet(m_graphWindow, QPageLayout::Landscape, &view,
+                   [&view](QPrinter &printer) { return view.print(printer); });
 }
 
 // ---- what the graph view asks
@@ -212,7 +218,8 @@ double GraphController::maximumValueForLineIndex(const TwoDGraphView &, int, Gra
 
 GraphLineAttributes GraphController::attributesForLineIndex(const TwoDGraphView &, int line) const
 {
-    return {lineColour(colorIdentifierArray().at(std::size_t(line))), 2, GraphSymbol(2)};
+    const Parameter parameter = colorIdentifierArray().at(std::size_t(line));
+    return {lineColour(parameter), 2, GraphSymbol(2), text(traitsOf(parameter).targetNameKey)};
 }
 
 QString GraphController::labelForTickMarkIndex(const TwoDGraphView &, int, GraphAxis axis,

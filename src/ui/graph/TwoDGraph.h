@@ -20,6 +20,7 @@ struct GraphLineAttributes {
     QColor colour;    ///< opaque
     double width = 1; ///< device-independent pixels
     GraphSymbol symbol = GraphSymbol::None;
+    QString name = {}; ///< what the legend on paper calls it; a line without a name is not in it
 };
 
 /// What a graph view draws. The view asks again on every `reloadData()` and keeps nothing longer than that.

@@ -2,12 +2,15 @@
 
 #include "base/Log.h"
 #include "base/SafeFile.h"
+#include "ui/graph/GraphKey.h"
 #include "ui/graph/GraphPlot.h"
 #include "ui/graph/TwoDGraphView.h"
 
 #include <QBuffer>
 #include <QPdfWriter>
 #include <QPrinter>
+
+#include <cmath>
 
 namespace brinemark
 {
@@ -19,27 +22,34 @@ constexpr double pixelsPerInch = 96; ///< of the units in which a graph is drawn
 
 } // namespace
 
+/// That of the graph on the screen, and room for what is around it on paper.
 QSize TwoDGraphView::drawnSize() const
 {
-    return size().expandedTo(minimumSizeHint());
+    const QSize graph = size().expandedTo(minimumSizeHint());
+    const GraphKey key(*m_scene, GraphLook::onPaper(font()), m_paperTitle, graph.width());
+    return graph + QSize(0, int(std::ceil(key.titleHeight() + key.legendHeight())));
 }
 
 void TwoDGraphView::render(QPainter *painter, const QRectF &target) const
 {
-    GraphPlot(*m_scene, GraphLook::onPaper(font())).drawTo(*painter, target);
+    const GraphLook look = GraphLook::onPaper(font());
+    const GraphKey key(*m_scene, look, m_paperTitle, target.width());
+    key.drawTo(*painter, target);
+    GraphPlot(*m_scene, look).drawTo(*painter, target.adjusted(0, key.titleHeight(), 0, -key.legendHeight()));
 }
 
-void TwoDGraphView::print(QPrinter &printer) const
+bool TwoDGraphView::print(QPrinter &printer) const
 {
     QPainter painter;
     if (!painter.begin(&printer)) {
         qCWarning(logApp) << "cannot print a graph on" << printer.printerName();
-        return;
+        return false;
     }
     const double scale = printer.resolution() / pixelsPerInch;
     const QSizeF page = printer.pageRect(QPrinter::DevicePixel).size() / scale;
     painter.scale(scale, scale);
     render(&painter, QRectF(QPointF(), QSizeF(drawnSize()).scaled(page, Qt::KeepAspectRatio)));
+    return painter.end() && printer.printerState() != QPrinter::Error;
 }
 
 bool TwoDGraphView::saveImage(const QString &path) const
@@ -67,7 +77,7 @@ bool TwoDGraphView::savePdf(const QString &path) const
     QPainter painter;
     {
         QPdfWriter writer(&buffer);
-        writer.setTitle(accessibleName());
+        writer.setTitle(m_paperTitle.isEmpty() ? accessibleName() : m_paperTitle);
         writer.setPageMargins({});
         writer.setPageSize(QPageSize(QSizeF(drawnSize()) * (pointsPerInch / pixelsPerInch), QPageSize::Point));
         writer.setResolution(1200);

@@ -61,13 +61,16 @@ public:
     /// Where a point in graph units lies in the view's coordinates, which may be outside of it.
     [[nodiscard]] QPointF positionOf(QPointF point) const;
 
-    /// Draws what is visible for paper (dark on white) to fill the rectangle; widths and text are in the painter's
-    /// units, of which 96 should be an inch.
+    /// What stands above the graph on paper and in files.
+    void setPaperTitle(const QString &title) { m_paperTitle = title; }
+
+    /// Draws what is visible for paper (dark on white, with title and legend) to fill the rectangle; widths and text
+    /// are in the painter's units, of which 96 should be an inch.
     void render(QPainter *painter, const QRectF &target) const;
     using QWidget::render;
 
-    /// Fills the printer's page as far as the view's proportions allow.
-    void print(QPrinter &printer) const;
+    /// Fills the printer's page as far as the view's proportions allow. False when it could not be printed.
+    [[nodiscard]] bool print(QPrinter &printer) const;
 
     /// A PNG of twice the view's size, or a PDF of one page. False when it could not be written; the log says why, and
     /// what was at the path before is still there.
@@ -120,6 +123,7 @@ private:
     std::array<int, 2> m_tickMarks{0, 0}; ///< by axis
     std::array<GraphRange, 2> m_whole;    ///< by axis
     QSet<int> m_hiddenLines;
+    QString m_paperTitle;
     std::unique_ptr<GraphScene> m_scene;
     GraphPlot *m_plot;
     std::optional<QPointF> m_dragFrom; ///< the position of the last drag event

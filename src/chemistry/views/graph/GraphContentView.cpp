@@ -33,6 +33,7 @@ GraphContentView::GraphContentView(TestDatesModel &dates)
     , m_emptyState(new EmptyState(icon("Graph"), QString()))
     , m_place(new QStackedWidget)
     , m_legend(new GraphLegend)
+    , m_hint(new ElidedLabel)
 {
     setObjectName(QStringLiteral("graphContentView"));
     auto *column = new QVBoxLayout(this);
@@ -96,16 +97,15 @@ QHBoxLayout *GraphContentView::makeGraphRow()
 
 QHBoxLayout *GraphContentView::makeBottomRow()
 {
-    auto *hint = new ElidedLabel;
-    hint->setText(text("GraphHint"));
-    hint->setPalette(quietPalette(palette()));
+    m_hint->setObjectName(QStringLiteral("graphHint"));
+    m_hint->setPalette(quietPalette(palette()));
     auto *close = new QPushButton(text("GraphClose"));
     close->setObjectName(QStringLiteral("closeButton"));
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &GraphContentView::closeRequested);
     auto *row = new QHBoxLayout;
     row->setSpacing(16);
-    row->addWidget(hint, 1);
+    row->addWidget(m_hint, 1);
     row->addWidget(close);
     return row;
 }
@@ -119,6 +119,11 @@ void GraphContentView::showGraph(const QString &whyEmpty)
         m_place->setCurrentWidget(m_emptyState);
     m_scaleSlider->setEnabled(whyEmpty.isEmpty());
     enableButtons();
+}
+
+void GraphContentView::showHint(const QString &hint)
+{
+    m_hint->setText(hint);
 }
 
 void GraphContentView::enableButtons()

@@ -10,6 +10,7 @@ class QToolButton;
 namespace brinemark
 {
 
+class ElidedLabel;
 class EmptyState;
 class GraphLegend;
 class ScaleSlider;
@@ -39,6 +40,9 @@ public:
     /// Shows the graph or, with a sentence that says why there is nothing to see, the sentence in its place.
     void showGraph(const QString &whyEmpty = {});
 
+    /// A line below the graph that says what is not obvious.
+    void showHint(const QString &hint);
+
 Q_SIGNALS:
     void drawRequested();
     void scaleChanged();
@@ -62,6 +66,7 @@ private:
     EmptyState *m_emptyState;
     QStackedWidget *m_place; ///< of the graph or the sentence
     GraphLegend *m_legend;
+    ElidedLabel *m_hint;
 };
 
 } // namespace brinemark
