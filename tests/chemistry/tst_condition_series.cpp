@@ -1,5 +1,4 @@
 #include "chemistry/ConditionSeries.h"
-#include "chemistry/TargetBand.h"
 #include "model/Tank.h"
 #include "support/DataRow.h"
 #include "support/RunTest.h"
@@ -215,18 +214,6 @@ private Q_SLOTS:
             QCOMPARE(traits.lineColour.has_value(), traits.parameter != Parameter::Temp);
         QCOMPARE(traitsOf(Parameter::Nitrate).lineColour->green, 0.44F);
         QCOMPARE(traitsOf(Parameter::GH).lineColour->blue, 0.21F);
-    }
-
-    void targetBands()
-    {
-        TankData target;
-        target.preferredValue = 8.2F;
-        target.deviationValue = 0.2F;
-        QVERIFY(!targetBand(target));
-        target.warningOn = true;
-        QCOMPARE(targetBand(target), (TargetBand{8.2F, 8.2F}));
-        target.deviationOn = true;
-        QCOMPARE(targetBand(target), (TargetBand{8.2F - 0.2F, 8.2F + 0.2F}));
     }
 
     void tenThousandTestsOfEverything()

@@ -2,7 +2,7 @@
 
 #include "base/text/DateText.h"
 #include "base/text/Texts.h"
-#include "chemistry/TargetBand.h"
+#include "chemistry/TargetCheck.h"
 #include "chemistry/views/graph/GraphContentView.h"
 #include "chemistry/views/graph/GraphDateForm.h"
 #include "chemistry/views/graph/GraphLegend.h"
@@ -179,8 +179,9 @@ void GraphController::showBand(int line)
     std::optional<GraphBand> shaded;
     if (line >= 0 && m_graphTank) {
         const Parameter parameter = colorIdentifierArray().at(std::size_t(line));
-        if (const std::optional<TargetBand> band = targetBand(*m_graphTank->target(parameter)))
-            shaded = {double(band->low), double(band->high), lineColour(parameter)};
+        const TankData &target = *m_graphTank->target(parameter);
+        if (target.warningOn)
+            shaded = {double(targetBand(target).low), double(targetBand(target).high), lineColour(parameter)};
     }
     m_graphContentView->graphView().setHighlightedBand(shaded);
 }

@@ -2,7 +2,7 @@
 
 #include "base/text/NumberText.h"
 #include "chemistry/ConditionSeries.h"
-#include "chemistry/TargetBand.h"
+#include "chemistry/TargetCheck.h"
 #include "chemistry/views/graph/LegendEntry.h"
 #include "model/Tank.h"
 
@@ -19,13 +19,13 @@ constexpr int widthOfNames = 168; ///< pixels
 
 QString toolTipOf(const TankData &target)
 {
-    const std::optional<TargetBand> band = targetBand(target);
-    if (!band)
+    if (!target.warningOn)
         return text("GraphLegendToolTip");
-    const QString range = band->low == band->high
-                              ? fillPlaceholders(text("GraphLegendValue"), {localizeAndTrimZeros(band->low)})
+    const TargetBand band = targetBand(target);
+    const QString range = band.isSingleValue()
+                              ? fillPlaceholders(text("GraphLegendValue"), {localizeAndTrimZeros(band.low)})
                               : fillPlaceholders(text("GraphLegendBand"),
-                                                 {localizeAndTrimZeros(band->low), localizeAndTrimZeros(band->high)});
+                                                 {localizeAndTrimZeros(band.low), localizeAndTrimZeros(band.high)});
     return text("GraphLegendToolTip") + u'\n' + range;
 }
 
