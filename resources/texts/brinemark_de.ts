@@ -876,8 +876,37 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Wassertests: ^0, ^1 bis ^2</translation>
     </message>
     <message>
+        <source>GraphPdfFilter</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>GraphPngFilter</source>
+        <translation>Bilder (*.png)</translation>
+    </message>
+    <message>
         <source>GraphPrint</source>
         <translation>Diagramm drucken …</translation>
+    </message>
+    <message>
+        <source>GraphSave</source>
+        <translation>Diagramm als Bild oder PDF speichern …</translation>
+    </message>
+    <message>
+        <source>GraphSaveErrorMessage</source>
+        <translation>Prüfen Sie, ob Sie in den Ordner schreiben dürfen und ob noch Platz frei ist, oder wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>GraphSaveErrorTitle</source>
+        <translation>Das Diagramm konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>GraphSaveMessage</source>
+        <translation>Diagramm als Bild oder als PDF speichern.</translation>
+    </message>
+    <message>
+        <source>GraphSaveName</source>
+        <extracomment>%@ is the tank&apos;s name; the proposed name of the saved picture.</extracomment>
+        <translation>Diagramm %@</translation>
     </message>
     <message>
         <source>GraphScale</source>

@@ -876,8 +876,37 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>Water tests of ^0, ^1 to ^2</translation>
     </message>
     <message>
+        <source>GraphPdfFilter</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>GraphPngFilter</source>
+        <translation>Pictures (*.png)</translation>
+    </message>
+    <message>
         <source>GraphPrint</source>
         <translation>Print the graph…</translation>
+    </message>
+    <message>
+        <source>GraphSave</source>
+        <translation>Save the graph as a picture or PDF…</translation>
+    </message>
+    <message>
+        <source>GraphSaveErrorMessage</source>
+        <translation>Check whether you may write to the folder and whether there is room left, or choose another place.</translation>
+    </message>
+    <message>
+        <source>GraphSaveErrorTitle</source>
+        <translation>The graph could not be saved.</translation>
+    </message>
+    <message>
+        <source>GraphSaveMessage</source>
+        <translation>Save the graph as a picture or as a PDF.</translation>
+    </message>
+    <message>
+        <source>GraphSaveName</source>
+        <extracomment>%@ is the tank&apos;s name; the proposed name of the saved picture.</extracomment>
+        <translation>Graph %@</translation>
     </message>
     <message>
         <source>GraphScale</source>

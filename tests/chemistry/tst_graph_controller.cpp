@@ -4,6 +4,7 @@
 #include "chemistry/views/graph/ScaleSlider.h"
 #include "chemistry/views/graph/TestDateCombo.h"
 #include "support/AlertDriver.h"
+#include "support/Files.h"
 #include "support/RecordingShell.h"
 #include "support/RunTest.h"
 #include "ui/Alerts.h"
@@ -14,10 +15,14 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
 using namespace brinemark;
 
@@ -331,12 +336,51 @@ private Q_SLOTS:
         auto *sentence = find<QLabel>("emptyStateSentence");
         QVERIFY(sentence->isVisible());
         QTEST(sentence->text(), "sentence");
-        QVERIFY(!find<QWidget>("printButton")->isEnabled());
+        QVERIFY(!find<QWidget>("saveButton")->isEnabled());
         test(1).kH = 7;
         if (inRange && columns.contains(QStringLiteral("kH"))) {
             press("drawButtonSmall");
             QVERIFY(view().isVisible());
         }
+    }
+
+    void saves_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("written");
+        QTest::addColumn<QByteArray>("start");
+        QTest::newRow("picture") << "reef.png" << QByteArray("reef.png") << QByteArray("\x89PNG");
+        QTest::newRow("page") << "reef.PDF" << QByteArray("reef.PDF") << QByteArray("%PDF");
+        QTest::newRow("no suffix") << "11.3. reef" << QByteArray("11.3. reef.png") << QByteArray("\x89PNG");
+        QTest::newRow("nowhere") << "missing/reef.png" << QByteArray() << QByteArray();
+    }
+    void saves()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, written);
+        addTests(3);
+        test(0).kH = 8;
+        m_tank->name = QStringLiteral("Reef/2");
+        open();
+        press("drawButton");
+        const QTemporaryDir folder;
+        find<QToolButton>("saveButton")->click();
+        auto *panel = m_window->findChild<QFileDialog *>(QStringLiteral("graphSavePanel"));
+        QVERIFY(panel);
+        QTRY_VERIFY(panel->isVisible());
+        auto *field = panel->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        QVERIFY(field->text().startsWith(QStringLiteral("Graph Reef")));
+        field->setText(folder.filePath(name));
+        if (written.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write .*reef\\.png")));
+        QMetaObject::invokeMethod(panel, "accept");
+        if (written.isEmpty()) {
+            QTRY_VERIFY(test::shownAlert());
+            QCOMPARE(test::shownAlert()->title(), text("GraphSaveErrorTitle"));
+            return;
+        }
+        QTRY_VERIFY(QFile::exists(folder.filePath(written)));
+        QTEST(test::bytesOf(folder.filePath(written)).left(4), "start");
     }
 
     void remembersItsSize()

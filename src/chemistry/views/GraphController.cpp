@@ -13,11 +13,13 @@
 #include "model/Tank.h"
 #include "ui/Alerts.h"
 #include "ui/PrintSheet.h"
+#include "ui/SavePanel.h"
 #include "ui/Sheets.h"
 #include "ui/Shell.h"
 #include "ui/SpinningIndicator.h"
 #include "ui/graph/TwoDGraphView.h"
 
+#include <QFileInfo>
 #include <QPushButton>
 
 #include <algorithm>
@@ -44,6 +46,7 @@ void GraphController::makeWindow()
     connect(m_dateContentView, &GraphDateForm::cancelled, this, &GraphController::cancelAction);
     connect(m_graphContentView, &GraphContentView::drawRequested, this, &GraphController::graphAction);
     connect(m_graphContentView, &GraphContentView::scaleChanged, this, &GraphController::scaleSliderAction);
+    connect(m_graphContentView, &GraphContentView::saveRequested, this, &GraphController::saveGraph);
     connect(m_graphContentView, &GraphContentView::printRequested, this, &GraphController::printGraph);
     connect(m_graphContentView, &GraphContentView::closeRequested, this, &GraphController::cancelAction);
     connect(&m_graphContentView->legend(), &GraphLegend::lineShown, &m_graphContentView->graphView(),
@@ -187,6 +190,27 @@ void GraphController::showBand(int line)
 }
 
 // ---- paper
+
+void GraphController::saveGraph()
+{
+    const QString pdf = QStringLiteral("pdf");
+    const SavePanelOptions options{
+        .objectName = QStringLiteral("graphSavePanel"),
+        .message = text("GraphSaveMessage"),
+        .folder = documentsFolder(),
+        .proposedName = formatText(text("GraphSaveName"), {m_graphTank ? m_graphTank->name : QString()}),
+        .kinds = {{QStringLiteral("png"), text("GraphPngFilter")}, {pdf, text("GraphPdfFilter")}}};
+    beginSavePanel(m_graphWindow, options, [this, pdf](const QString &path) {
+        if (path.isEmpty() || !m_graphWindow)
+            return;
+        const TwoDGraphView &view = m_graphContentView->graphView();
+        const bool isPdf = QFileInfo(path).suffix().compare(pdf, Qt::CaseInsensitive) == 0;
+        if (!(isPdf ? view.savePdf(path) : view.saveImage(path)))
+            beginAlertSheet(m_graphWindow, {.style = AlertStyle::Critical,
+                                            .title = text("GraphSaveErrorTitle"),
+                                            .message = text("GraphSaveErrorMessage")});
+    });
+}
 
 void GraphController::printGraph()
 {

@@ -63,6 +63,7 @@ private:
     void showSeries(const ConditionSeries &series);
     void copyDatesToGraphLayout();
     void showBand(int line);
+    void saveGraph();
     void printGraph();
     [[nodiscard]] QString whyEmpty() const;
 

@@ -27,6 +27,7 @@ GraphContentView::GraphContentView(TestDatesModel &dates)
     , m_drawButton(new QPushButton(text("GraphDraw")))
     , m_spinningIndicator(new SpinningIndicator)
     , m_wholeGraphButton(makeIconButton("WholeGraph", text("GraphWhole"), QStringLiteral("wholeGraphButton")))
+    , m_saveButton(makeIconButton("Export", text("GraphSave"), QStringLiteral("saveButton")))
     , m_printButton(makeIconButton("Print", text("GraphPrint"), QStringLiteral("printButton")))
     , m_scaleSlider(new ScaleSlider)
     , m_graphView(new TwoDGraphView)
@@ -47,6 +48,7 @@ GraphContentView::GraphContentView(TestDatesModel &dates)
     connect(m_scaleSlider, &QSlider::valueChanged, this, &GraphContentView::scaleChanged);
     connect(m_wholeGraphButton, &QToolButton::clicked, m_graphView, &TwoDGraphView::resetZoom);
     connect(m_graphView, &TwoDGraphView::zoomChanged, this, &GraphContentView::enableButtons);
+    connect(m_saveButton, &QToolButton::clicked, this, &GraphContentView::saveRequested);
     connect(m_printButton, &QToolButton::clicked, this, &GraphContentView::printRequested);
 }
 
@@ -74,6 +76,7 @@ QHBoxLayout *GraphContentView::makeTopRow()
     row->addWidget(m_spinningIndicator);
     row->addStretch();
     row->addWidget(m_wholeGraphButton);
+    row->addWidget(m_saveButton);
     row->addWidget(m_printButton);
     return row;
 }
@@ -130,6 +133,7 @@ void GraphContentView::enableButtons()
 {
     const bool drawn = m_place->currentWidget() == m_graphView;
     m_wholeGraphButton->setEnabled(drawn && m_graphView->isZoomed());
+    m_saveButton->setEnabled(drawn);
     m_printButton->setEnabled(drawn);
 }
 

@@ -20,7 +20,7 @@ class TestDatesModel;
 class TwoDGraphView;
 
 /// The graph with what belongs around it. Object names: itself "graphContentView", "startDateComboSmall",
-/// "endDateComboSmall", "drawButtonSmall", "spinningIndicator", "wholeGraphButton", "printButton",
+/// "endDateComboSmall", "drawButtonSmall", "spinningIndicator", "wholeGraphButton", "saveButton", "printButton",
 /// "scaleSlider", "graphView", "graphLegend", "closeButton".
 class GraphContentView : public QWidget
 {
@@ -46,6 +46,7 @@ public:
 Q_SIGNALS:
     void drawRequested();
     void scaleChanged();
+    void saveRequested();
     void printRequested();
     void closeRequested();
 
@@ -60,6 +61,7 @@ private:
     QPushButton *m_drawButton;
     SpinningIndicator *m_spinningIndicator;
     QToolButton *m_wholeGraphButton;
+    QToolButton *m_saveButton;
     QToolButton *m_printButton;
     ScaleSlider *m_scaleSlider;
     TwoDGraphView *m_graphView;
