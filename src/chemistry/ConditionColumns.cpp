@@ -1,6 +1,7 @@
 #include "chemistry/ConditionColumns.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace brinemark
 {
@@ -27,6 +28,20 @@ const ConditionColumnTraits *conditionColumnFromIdentifier(QStringView identifie
     return findColumn([&](const ConditionColumnTraits &column) { return column.identifier == identifier; });
 }
 
+int tagFromColumnIdentifier(QStringView identifier)
+{
+    const ConditionColumnTraits *column = conditionColumnFromIdentifier(identifier);
+    return column ? column->tag : 0;
+}
+
+SFCheckedFormatter conditionFormatter(const ConditionColumnTraits &column)
+{
+    constexpr int toNearest = 1;
+    SFCheckedFormatter formatter(notTested, column.maximum, column.decimals, toNearest);
+    formatter.setUseNotTested(true);
+    return formatter;
+}
+
 std::vector<ShownConditionColumn> shownConditionColumns(const Condition::ColumnInfoArray &saved)
 {
     std::vector<ShownConditionColumn> shown;
@@ -34,8 +49,12 @@ std::vector<ShownConditionColumn> shownConditionColumns(const Condition::ColumnI
         const ConditionColumnTraits *column = conditionColumnFromIdentifier(info.identifier);
         if (!column)
             continue;
-        if (std::erase_if(shown, [&](const ShownConditionColumn &other) { return other.column == column; }) == 0)
-            shown.push_back({column, info.width});
+        if (std::erase_if(shown, [&](const ShownConditionColumn &other) { return other.column == column; }) > 0)
+            continue;
+        const double width = info.width > 0 && std::isfinite(info.width) ? info.width : 0;
+        if (width == 0 && !shown.empty())
+            shown.back().width = 0;
+        shown.push_back({column, width});
     }
     return shown;
 }

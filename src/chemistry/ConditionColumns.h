@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/text/Texts.h"
+#include "chemistry/SFCheckedFormatter.h"
 #include "model/Condition.h"
 
 #include <QStringView>
@@ -48,6 +49,12 @@ inline constexpr std::array<ConditionColumnTraits, 18> conditionColumnTable{{
 [[nodiscard]] const ConditionColumnTraits *conditionColumnFromTag(int tag);
 [[nodiscard]] const ConditionColumnTraits *conditionColumnFromIdentifier(QStringView identifier);
 
+/// The tag of an identifier, 0 for none.
+[[nodiscard]] int tagFromColumnIdentifier(QStringView identifier);
+
+/// Reads, vets and shows the values of a column: not tested or up to the column's maximum, rounded to its decimals.
+[[nodiscard]] SFCheckedFormatter conditionFormatter(const ConditionColumnTraits &column);
+
 /// A column to show, and how wide: 0 for its own width.
 struct ShownConditionColumn {
     const ConditionColumnTraits *column;
@@ -55,7 +62,8 @@ struct ShownConditionColumn {
 };
 
 /// What a saved layout shows. Every entry toggles its column: a column that is named twice is hidden again. Unknown
-/// identifiers are passed over.
+/// identifiers are passed over. A column with its own width sends the one before it back to its own, since that one
+/// need not fill the table any longer; so does a width that cannot be.
 [[nodiscard]] std::vector<ShownConditionColumn> shownConditionColumns(const Condition::ColumnInfoArray &saved);
 
 } // namespace brinemark

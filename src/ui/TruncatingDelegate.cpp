@@ -1,5 +1,7 @@
 #include "ui/TruncatingDelegate.h"
 
+#include "ui/lists/CellMark.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
@@ -29,6 +31,13 @@ void TruncatingDelegate::initStyleOption(QStyleOptionViewItem *option, const QMo
 {
     QStyledItemDelegate::initStyleOption(option, index);
     option->features &= ~QStyleOptionViewItem::WrapText; // whatever the view says
+}
+
+void TruncatingDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    if (const QVariant mark = index.data(CellMarkRole); mark.isValid())
+        paintCellMark(painter, option, mark.value<CellMark>());
 }
 
 bool TruncatingDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

@@ -6,7 +6,7 @@ namespace brinemark
 {
 
 /// Shows a cell in one line that is cut off with an ellipsis; the tool tip of a cell that is cut off holds the whole
-/// text.
+/// text. A CellMark that the model gives a cell is drawn beside its text.
 class TruncatingDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,6 +17,7 @@ public:
     [[nodiscard]] bool isTruncated(const QStyleOptionViewItem &option, const QModelIndex &index) const;
     [[nodiscard]] QString displayText(const QVariant &value, const QLocale &locale) const override;
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;
 };

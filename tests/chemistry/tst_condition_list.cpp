@@ -2,7 +2,7 @@
 #include "chemistry/views/ConditionListController.h"
 #include "chemistry/views/TankDataController.h"
 #include "chemistry/views/TankDataEntryController.h"
-#include "support/RecordingShell.h"
+#include "support/ListDriver.h"
 #include "support/RunTest.h"
 
 #include <QAbstractItemModelTester>
@@ -62,6 +62,33 @@ private Q_SLOTS:
         QTEST(storedIdentifiers(controller), "shown");
     }
 
+    void widths_data()
+    {
+        QTest::addColumn<double>("saved");
+        QTest::addColumn<int>("shown"); ///< 0 for the column's own
+        QTest::newRow("saved") << 140.0 << 140;
+        QTest::newRow("own") << 0.0 << 0;
+        QTest::newRow("negative") << -20.0 << 0;
+        QTest::newRow("not a number") << qQNaN() << 0;
+        QTest::newRow("endless") << qInf() << 0;
+        QTest::newRow("too small") << 3.0 << 0;
+        QTest::newRow("too large") << 1e9 << 1000;
+    }
+    void widths()
+    {
+        QFETCH(double, saved);
+        QFETCH(int, shown);
+        m_shell->current->condition()->setColumnInfoArray({{"gH", 0}, {"gH", 0}, {"ph", 0}, {"iron", 60}});
+        const int own = show().table()->columnWidth(0);
+        ConditionListController::destroyShared();
+        m_shell->current->condition()->setColumnInfoArray({{"ph", saved}, {"iron", 60}});
+        QCOMPARE(show().table()->columnWidth(0), shown > 0 ? shown : own);
+        // A person cannot make it smaller either.
+        show().table()->horizontalHeader()->resizeSection(0, 5);
+        QCOMPARE(show().table()->columnWidth(0), own);
+        QCOMPARE(m_shell->changes, 0);
+    }
+
     void showsTheLog()
     {
         auto &controller = show();
@@ -70,7 +97,7 @@ private Q_SLOTS:
         const auto &tests = m_shell->current->conditionListArray();
         QCOMPARE(model.rowCount(), int(tests.size()));
         const int iron = 2;
-        m_shell->current->condition()->setColumnInfoArray({{"date", 0}, {"ph", 77}, {"iron", 0}});
+        m_shell->current->condition()->setColumnInfoArray({{"date", 0}, {"ph", 77}, {"iron", 60}});
         ConditionListController::destroyShared();
         auto &again = show();
         const QAbstractItemModel &three = *again.table()->model();
@@ -205,10 +232,7 @@ private:
     ConditionListController &show()
     {
         auto &controller = ConditionListController::sharedInstance();
-        controller.view()->setParent(&m_shell->window);
-        controller.view()->resize(m_shell->window.size());
-        controller.view()->show();
-        controller.setKeyViewWithTankList(&m_shell->window, &m_shell->window);
+        test::present(controller, *m_shell);
         return controller;
     }
     QStringList storedIdentifiers(ConditionListController &controller) const

@@ -3,17 +3,19 @@
 #include "journals/views/NoteListController.h"
 #include "journals/views/ScheduleListController.h"
 #include "support/AlertDriver.h"
-#include "support/RecordingShell.h"
+#include "support/ListDriver.h"
 #include "support/RunTest.h"
 
 #include <QAbstractItemModelTester>
-#include <QHeaderView>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QToolButton>
 
 using namespace brinemark;
+using test::clickHeader;
+using test::column;
+using test::present;
 
 namespace
 {
@@ -23,33 +25,6 @@ struct DeletionWitness : ModelObserver {
     QStringList heard;
     void scheduleDataDeleted(ScheduleData &record) override { heard.append(record.activity); }
 };
-
-template <class Controller>
-void present(Controller &controller, test::RecordingShell &shell)
-{
-    QWidget *view = controller.view();
-    view->setParent(&shell.window);
-    view->resize(shell.window.size());
-    shell.window.show();
-    view->show();
-    controller.setKeyViewWithTankList(&shell.window, &shell.window);
-}
-
-void clickHeader(QTableView *table, int section)
-{
-    QHeaderView *header = table->horizontalHeader();
-    const QPoint middle(header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
-                        header->height() / 2);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, middle);
-}
-
-QStringList column(const QTableView *table, int section)
-{
-    QStringList texts;
-    for (int row = 0; row < table->model()->rowCount(); ++row)
-        texts.append(table->model()->index(row, section).data().toString());
-    return texts;
-}
 
 std::shared_ptr<Tank> makeTank()
 {

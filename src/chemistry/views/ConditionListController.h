@@ -1,12 +1,16 @@
 #pragma once
 
-#include "ui/RecordListController.h"
+#include "chemistry/SFCheckedFormatter.h"
+#include "model/Parameters.h"
 #include "ui/Shared.h"
+#include "ui/lists/RecordListController.h"
 
 namespace brinemark
 {
 
 class ConditionColumnWindow;
+struct ConditionColumnTraits;
+struct TankData;
 
 /// The water tests of the current tank. Which columns it shows, in which order and how wide, belongs to the tank.
 class ConditionListController : public RecordListController, public Shared<ConditionListController>
@@ -16,30 +20,60 @@ class ConditionListController : public RecordListController, public Shared<Condi
 public:
     ~ConditionListController() override;
 
-    /// Stores the columns as they are on screen into the tank that is on screen.
+    /// Stores the columns as they are on screen into the tank that is on screen. Counts no change.
     void updateColumnInfo();
 
     /// Opens the small window ("customColumnWindow") with a check box for every column ("column.ph" ...), which are
     /// applied at once.
     void showCustomizeConditionColumns();
 
-    /// Shows a column that is hidden at the right, hides one that is shown. A tag that is no column does nothing.
+    /// Shows a column that is hidden at the right, hides one that is shown, and stores the layout. A tag that is no
+    /// column does nothing.
     void toogleConditionColumn(int tag);
     [[nodiscard]] bool isColumnVisible(int tag) const;
+    [[nodiscard]] int columnFromTag(int tag) const; ///< the table's column, -1 when it is not shown
+
+    /// Shows a sheet when the value of the parameter lies outside its target in the current tank.
+    void warningCheckIdentifier(QStringView identifier, double value);
+
+    void graphButtonAction(); ///< stores the layout and opens the graph
+    void exportAction();      ///< asks where to, then writes the shown columns as comma-separated values
+
+    /// "Graph" and "Export" (tag 100) take two rows.
+    [[nodiscard]] bool validateMenuItem(int tag) const override;
 
 protected:
     [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
     void viewMade() override;
     void tankShown(Tank *tank) override;
+    void cellEdited(Record &record, const RecordColumn &column, bool changed) override;
+    void startNewRecord(const QModelIndex &cell) override;
+    [[nodiscard]] QString cellText(const Record &record, int column) const override;
+    [[nodiscard]] CellMark cellMark(const Record &record, int column) const override;
+    [[nodiscard]] QString cellToolTip(const Record &record, int column) const override;
 
 private:
     friend class Shared<ConditionListController>;
     ConditionListController();
 
+    /// What is asked of a column again and again, worked out once.
+    struct ShownColumn {
+        const ConditionColumnTraits *traits;
+        std::optional<Parameter> parameter; ///< none for the date
+        SFCheckedFormatter formatter;
+    };
+    [[nodiscard]] static const TankData *targetOf(const Record &record, const ShownColumn &column);
+    void closeWarningSheet();
+    void addShownColumn(const ConditionColumnTraits &column);
+    void toggleColumnWithTag(int tag, bool autoSize);
+    [[nodiscard]] int minimumWidth(int column) const;
     void arrangeColumns();
+    void columnResized(int section, int width);
     void showColumnChecks();
+    [[nodiscard]] std::vector<int> columnsInDisplayOrder() const;
 
-    std::vector<RecordColumn> m_shownColumns;
+    std::vector<ShownColumn> m_shown;         ///< by column of the model
+    std::vector<RecordColumn> m_shownColumns; ///< the same for the model
     std::weak_ptr<Tank> m_shownTank;
     QPointer<ConditionColumnWindow> m_columnWindow;
     bool m_arranging = false; ///< the columns change by the program, not by the user

@@ -6,7 +6,7 @@
 #include "model/Tank.h"
 #include "ui/CaptionForm.h"
 #include "ui/Icons.h"
-#include "ui/RecordTableView.h"
+#include "ui/lists/RecordTableView.h"
 #include "ui/Shell.h"
 #include "ui/TitleLine.h"
 #include "ui/TruncatingDelegate.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/RecordListController.h"
+#include "ui/lists/RecordListController.h"
 #include "ui/Shared.h"
 
 namespace brinemark

@@ -1,13 +1,10 @@
-#include "ui/RecordTableModel.h"
+#include "ui/lists/RecordTableModel.h"
 
-#include "base/text/AmountText.h"
-#include "base/text/DateText.h"
 #include "model/KeyAccess.h"
 #include "model/Tank.h"
-#include "ui/Colours.h"
+#include "ui/lists/RecordCells.h"
 
-#include <QApplication>
-#include <QLocale>
+#include <QGuiApplication>
 #include <QPalette>
 
 #include <algorithm>
@@ -17,9 +14,10 @@
 namespace brinemark
 {
 
-RecordTableModel::RecordTableModel(ContainerKind kind, QObject *parent)
+RecordTableModel::RecordTableModel(ContainerKind kind, RecordCells &cells, QObject *parent)
     : QAbstractTableModel(parent)
     , m_kind(kind)
+    , m_cells(cells)
 {
 }
 
@@ -52,11 +50,19 @@ void RecordTableModel::setTank(Tank *tank, std::span<const RecordColumn> columns
     endResetModel();
 }
 
-void RecordTableModel::setColumns(std::span<const RecordColumn> columns)
+void RecordTableModel::appendColumn(const RecordColumn &column)
 {
-    beginResetModel();
-    m_columns.assign(columns.begin(), columns.end());
-    endResetModel();
+    const int place = int(m_columns.size());
+    beginInsertColumns({}, place, place);
+    m_columns.push_back(column);
+    endInsertColumns();
+}
+
+void RecordTableModel::removeColumn(int column)
+{
+    beginRemoveColumns({}, column, column);
+    m_columns.erase(m_columns.begin() + column);
+    endRemoveColumns();
 }
 
 int RecordTableModel::append(std::shared_ptr<Record> record)
@@ -96,31 +102,41 @@ void RecordTableModel::remove(const std::vector<std::shared_ptr<Record>> &record
     endResetModel();
 }
 
-void RecordTableModel::sortContainer()
+bool RecordTableModel::sortContainer()
 {
     Container *list = container();
     if (!list)
-        return;
+        return false;
     refresh();
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
-    const QModelIndexList before = persistentIndexList();
-    std::vector<const Record *> records;
-    records.reserve(std::size_t(before.size()));
-    for (const QModelIndex &index : before)
-        records.push_back(list->recordAt(index.row()).get());
-    list->sort();
-    if (!before.isEmpty()) {
-        std::unordered_map<const Record *, int> rowOf;
-        rowOf.reserve(std::size_t(m_rowCount));
+    const auto recordsInOrder = [&] {
+        std::vector<const Record *> records;
+        records.reserve(std::size_t(m_rowCount));
         for (int row = 0; row < m_rowCount; ++row)
-            rowOf.emplace(list->recordAt(row).get(), row);
-        QModelIndexList after;
-        after.reserve(before.size());
-        for (qsizetype i = 0; i < before.size(); ++i)
-            after.append(index(rowOf.at(records[std::size_t(i)]), before[i].column()));
-        changePersistentIndexList(before, after);
+            records.push_back(list->recordAt(row).get());
+        return records;
+    };
+    const std::vector<const Record *> before = recordsInOrder();
+    list->sort();
+    const std::vector<const Record *> after = recordsInOrder();
+    const bool moved = before != after;
+    if (const QModelIndexList kept = persistentIndexList(); moved && !kept.isEmpty()) {
+        // Few indexes are kept and rows may be many: only those of the kept ones are looked up.
+        std::unordered_map<const Record *, int> rowOf;
+        for (const QModelIndex &index : kept)
+            rowOf.emplace(before[std::size_t(index.row())], 0);
+        for (int row = 0; row < m_rowCount; ++row) {
+            if (const auto it = rowOf.find(after[std::size_t(row)]); it != rowOf.end())
+                it->second = row;
+        }
+        QModelIndexList follow;
+        follow.reserve(kept.size());
+        for (const QModelIndex &index : kept)
+            follow.append(this->index(rowOf.at(before[std::size_t(index.row())]), index.column()));
+        changePersistentIndexList(kept, follow);
     }
     Q_EMIT layoutChanged({}, VerticalSortHint);
+    return moved;
 }
 
 void RecordTableModel::refresh()
@@ -146,52 +162,67 @@ int RecordTableModel::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : int(m_columns.size());
 }
 
-QString RecordTableModel::cellText(const Record &record, const RecordColumn &column) const
+void RecordTableModel::showRow(int row)
 {
-    if (column.shownText)
-        return column.shownText(record);
-    const QVariant value = valueForKey(record, column.identifier);
-    switch (column.kind) {
-    case ColumnKind::Date:
-        return localeDateText(value.toDateTime());
-    case ColumnKind::Number:
-        return QLocale().toString(value.toDouble(), 'f', column.decimals);
-    case ColumnKind::Amount:
-        return formatObjectForLocale(value);
-    case ColumnKind::Flag:
-        return {};
-    case ColumnKind::Text:
-        break;
-    }
-    return value.toString();
+    if (row >= 0 && row < m_rowCount && !m_columns.empty())
+        Q_EMIT dataChanged(index(row, 0), index(row, int(m_columns.size()) - 1));
+}
+
+Qt::ItemFlags RecordTableModel::flags(const QModelIndex &index) const
+{
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    if (!index.isValid() || index.column() >= int(m_columns.size()))
+        return flags;
+    const RecordColumn &column = m_columns[std::size_t(index.column())];
+    flags.setFlag(Qt::ItemIsEditable, column.takesTyping());
+    flags.setFlag(Qt::ItemIsUserCheckable, column.editable && column.kind == ColumnKind::Flag);
+    return flags;
 }
 
 QVariant RecordTableModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
+    const RecordColumn &column = m_columns[std::size_t(index.column())];
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::Alignment(column.alignment | Qt::AlignVCenter));
     const std::shared_ptr<Record> record = recordAt(index.row());
     if (!record)
         return {};
-    const RecordColumn &column = m_columns[std::size_t(index.column())];
-    const auto isNotTested = [&] {
-        return record->recordType() == RecordType::Condition && column.kind == ColumnKind::Number &&
-               valueForKey(*record, column.identifier).toDouble() < 0;
-    };
     switch (role) {
     case Qt::DisplayRole:
-        return isNotTested() ? text("NotTested") : cellText(*record, column);
+        return m_cells.cellText(*record, index.column());
+    case Qt::EditRole:
+        return valueForKey(*record, column.identifier);
     case Qt::ForegroundRole:
-        return isNotTested() ? QVariant(colour(ColourRole::NotTested, QApplication::palette())) : QVariant();
+        if (const CellMark mark = m_cells.cellMark(*record, index.column()); mark.role)
+            return colour(*mark.role, QGuiApplication::palette());
+        return {};
+    case CellMarkRole:
+        return QVariant::fromValue(m_cells.cellMark(*record, index.column()));
+    case Qt::ToolTipRole:
+        if (const QString toolTip = m_cells.cellToolTip(*record, index.column()); !toolTip.isNull())
+            return toolTip;
+        return {};
     case Qt::CheckStateRole:
         if (column.kind == ColumnKind::Flag)
             return valueForKey(*record, column.identifier).toBool() ? Qt::Checked : Qt::Unchecked;
         return {};
-    case Qt::TextAlignmentRole:
-        return QVariant(Qt::Alignment(column.alignment | Qt::AlignVCenter));
     default:
         return {};
     }
+}
+
+bool RecordTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return false;
+    const RecordColumn &column = m_columns[std::size_t(index.column())];
+    if (!column.editable)
+        return false;
+    if (role == Qt::CheckStateRole && column.kind == ColumnKind::Flag)
+        return m_cells.editCell(index.row(), index.column(), value.toInt() == Qt::Checked);
+    return role == Qt::EditRole && m_cells.editCell(index.row(), index.column(), value);
 }
 
 QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, int role) const

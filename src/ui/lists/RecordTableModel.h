@@ -1,8 +1,8 @@
 #pragma once
 
-#include "base/text/Texts.h"
 #include "model/ContainerKind.h"
 #include "model/Record.h"
+#include "ui/lists/RecordColumn.h"
 
 #include <QAbstractTableModel>
 
@@ -14,21 +14,8 @@ namespace brinemark
 {
 
 class Container;
+class RecordCells;
 class Tank;
-
-/// How a column shows and, later on, takes its values.
-enum class ColumnKind { Date, Number, Text, Flag, Amount };
-
-/// A column of a journal table, described once in a constexpr table of its list controller.
-struct RecordColumn {
-    QStringView identifier; ///< the record's key, which is also what the container sorts by
-    TextKey header;
-    ColumnKind kind = ColumnKind::Text;
-    int decimals = 0; ///< of a number
-    Qt::AlignmentFlag alignment = Qt::AlignLeft;
-    int width = 0;                                  ///< pixels to begin with; 0 for as wide as the header's text
-    QString (*shownText)(const Record &) = nullptr; ///< for what is not simply the value of the key
-};
 
 /// The records of one container of a tank as table rows, in the order in which they stand there. Nothing is kept for a
 /// row: a cell's text is made when it is asked for. Whoever changes the container says so through one of the operations
@@ -38,11 +25,13 @@ class RecordTableModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    explicit RecordTableModel(ContainerKind kind, QObject *parent = nullptr);
+    /// `cells` says what stands in the cells and takes what is entered; it has to outlive the model.
+    RecordTableModel(ContainerKind kind, RecordCells &cells, QObject *parent = nullptr);
 
     /// Shows another tank, or none (null), and these columns; they are copied.
     void setTank(Tank *tank, std::span<const RecordColumn> columns);
-    void setColumns(std::span<const RecordColumn> columns); ///< takes the selection away
+    void appendColumn(const RecordColumn &column); ///< at the right; rows and selection stay
+    void removeColumn(int column);
 
     [[nodiscard]] Container *container() const;                    ///< null without a tank, and after the tank is gone
     [[nodiscard]] std::shared_ptr<Record> recordAt(int row) const; ///< null out of range
@@ -51,18 +40,20 @@ public:
 
     int append(std::shared_ptr<Record> record); ///< answers its row, or -1 without a tank
     void remove(const std::vector<std::shared_ptr<Record>> &records);
-    void sortContainer(); ///< by its own identifier and direction; selections follow their records
-    void refresh();       ///< shows what the container holds now
+    bool sortContainer();  ///< by its own order; selections follow their records; answers whether any record moved
+    void refresh();        ///< shows what the container holds now
+    void showRow(int row); ///< its record has changed
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    [[nodiscard]] QString cellText(const Record &record, const RecordColumn &column) const;
-
     ContainerKind m_kind;
+    RecordCells &m_cells;
     std::weak_ptr<Tank> m_tank;
     std::vector<RecordColumn> m_columns;
     int m_rowCount = 0; ///< as last told to the views

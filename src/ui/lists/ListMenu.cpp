@@ -1,0 +1,31 @@
+#include "ui/lists/ListMenu.h"
+
+#include "ui/lists/RecordListController.h"
+
+#include <QMenu>
+
+namespace brinemark
+{
+
+QMenu *makeListMenu(std::span<const ListMenuItem> items, RecordListController &list, QWidget *parent)
+{
+    auto *menu = new QMenu(parent);
+    for (const ListMenuItem &item : items) {
+        if (item.title.isEmpty()) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction *action = menu->addAction(text(item.title));
+        action->setData(item.tag);
+        QObject::connect(action, &QAction::triggered, &list, [&list, perform = item.perform] { perform(list); });
+    }
+    QObject::connect(menu, &QMenu::aboutToShow, &list, [menu, &list] {
+        for (QAction *action : menu->actions()) {
+            if (!action->isSeparator())
+                action->setEnabled(list.validateMenuItem(action->data().toInt()));
+        }
+    });
+    return menu;
+}
+
+} // namespace brinemark

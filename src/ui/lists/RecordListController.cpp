@@ -1,0 +1,405 @@
+#include "ui/lists/RecordListController.h"
+
+#include "base/text/AmountText.h"
+#include "base/text/DateText.h"
+#include "model/KeyAccess.h"
+#include "model/Tank.h"
+#include "model/TankList.h"
+#include "ui/Alerts.h"
+#include "ui/Shell.h"
+#include "ui/lists/RecordSelectionModel.h"
+
+#include <QHeaderView>
+#include <QLocale>
+#include <QMenu>
+#include <QToolButton>
+#include <QUndoStack>
+
+namespace brinemark
+{
+
+RecordListController::RecordListController(const RecordListTraits &traits)
+    : m_traits(traits)
+    , m_model(new RecordTableModel(traits.kind, *this, this))
+{
+}
+
+RecordListController::~RecordListController()
+{
+    delete m_page;
+}
+
+Tank *RecordListController::currentTank()
+{
+    return Shell::shared().currentTank();
+}
+
+// ---- the view
+
+QWidget *RecordListController::view()
+{
+    if (!m_page)
+        makeView();
+    return m_page;
+}
+
+void RecordListController::makeView()
+{
+    m_page = new RecordListPage(m_traits.kind, m_traits.emptySentenceKey);
+    m_table = m_page->table();
+    m_table->setModel(m_model);
+    QItemSelectionModel *unasked = m_table->selectionModel();
+    m_selection = new RecordSelectionModel(
+        m_model, [this] { return sortPendingRow(); }, m_table);
+    m_table->setSelectionModel(m_selection);
+    delete unasked;
+
+    connect(m_page, &RecordListPage::newRequested, this, &RecordListController::newEntry);
+    connect(m_page, &RecordListPage::deleteRequested, this, &RecordListController::deleteSelected);
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, &RecordListController::headerClicked);
+    connect(m_selection, &QItemSelectionModel::selectionChanged, this, &RecordListController::selectionDidChange);
+    watchModel();
+    makeMenus();
+    viewMade();
+    showTank(nullptr);
+}
+
+void RecordListController::watchModel()
+{
+    // Whatever moves or removes rows leaves nothing to be sorted later, or another row.
+    const auto forget = [this] { setRowNeedsSort(-1); };
+    connect(m_model, &QAbstractItemModel::layoutChanged, this, forget);
+    // A reset takes the selection away without saying so; rows that come and go may empty the table.
+    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+        connect(m_model, signal, this, forget);
+        connect(m_model, signal, this, &RecordListController::showEmptyState);
+    }
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        setRowNeedsSort(-1);
+        showEmptyState();
+        selectionDidChange();
+    });
+}
+
+void RecordListController::makeMenus()
+{
+    if (m_traits.menu.empty())
+        return;
+    QMenu *contextMenu = makeListMenu(m_traits.menu, *this, m_table);
+    contextMenu->setObjectName(QLatin1String(m_traits.menuName));
+    m_table->menuAsked = [this, contextMenu](const QPoint &place) {
+        m_table->finishEditing();
+        contextMenu->popup(place);
+    };
+    m_page->addActionMenu(makeListMenu(m_traits.menu, *this, m_page));
+}
+
+int RecordListController::ownWidth(const RecordColumn &column) const
+{
+    constexpr int roomBesideHeader = 32; // margins and the sort indicator
+    constexpr int roomBesideText = 20;
+    const QFontMetrics header = m_table->horizontalHeader()->fontMetrics();
+    int width = std::max(column.width, header.horizontalAdvance(text(column.header)) + roomBesideHeader);
+    if (column.kind == ColumnKind::Date) {
+        const QDateTime longDate(QDate(2000, 12, 28), QTime(0, 0));
+        width = std::max(width, m_table->fontMetrics().horizontalAdvance(localeDateText(longDate)) + roomBesideText);
+    }
+    return width;
+}
+
+void RecordListController::setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton)
+{
+    view();
+    showTank(currentTank());
+    m_page->linkKeyViews(tankTree, helpButton);
+}
+
+void RecordListController::showTank(Tank *tank)
+{
+    const Container *list = m_model->container();
+    const bool another = !tank || !list || list->tank() != tank;
+    const std::span<const RecordColumn> columns = columnsFor(tank);
+    if (another) {
+        if (m_rowNeedsSort >= 0) // the tank that goes is left in order
+            m_model->sortContainer();
+        m_model->setTank(tank, columns);
+        for (int i = 0; i < int(columns.size()); ++i)
+            m_table->setColumnWidth(i, ownWidth(columns[std::size_t(i)]));
+    } else {
+        m_model->refresh();
+    }
+    tankShown(tank);
+    showTitle(tank);
+    showSortIndicator();
+    showEmptyState();
+    selectionDidChange();
+}
+
+void RecordListController::showTitle(const Tank *tank)
+{
+    m_page->setTitle(tank ? tank->container(m_traits.kind)->name() : text(traitsOf(m_traits.kind).nameKey),
+                     tank ? tank->name : QString());
+}
+
+void RecordListController::showEmptyState()
+{
+    m_page->showEmptyState(m_model->container() && m_model->rowCount() == 0);
+}
+
+void RecordListController::updateDisplay()
+{
+    if (m_page)
+        showTank(currentTank());
+}
+
+// ---- what stands in the cells
+
+QString RecordListController::cellText(const Record &record, int place) const
+{
+    const RecordColumn &column = m_model->columns()[std::size_t(place)];
+    if (column.shownText)
+        return column.shownText(record);
+    const QVariant value = valueForKey(record, column.identifier);
+    switch (column.kind) {
+    case ColumnKind::Date:
+        return localeDateText(value.toDateTime());
+    case ColumnKind::Number:
+        return QLocale().toString(value.toDouble(), 'f', column.decimals);
+    case ColumnKind::Amount:
+        return formatObjectForLocale(value);
+    case ColumnKind::Flag:
+        return {};
+    case ColumnKind::Text:
+        break;
+    }
+    return value.toString();
+}
+
+CellMark RecordListController::cellMark(const Record &, int) const
+{
+    return {};
+}
+
+QString RecordListController::cellToolTip(const Record &, int) const
+{
+    return {};
+}
+
+// ---- sorting
+
+void RecordListController::showSortIndicator()
+{
+    const Container *list = m_model->container();
+    const int section = list ? m_model->columnOf(list->sortIdentifier()) : -1;
+    m_table->horizontalHeader()->setSortIndicator(section, !list || list->sortAscending() ? Qt::AscendingOrder
+                                                                                          : Qt::DescendingOrder);
+}
+
+void RecordListController::headerClicked(int section)
+{
+    Container *list = m_model->container();
+    if (!list)
+        return;
+    m_table->finishEditing();
+    const QString identifier = m_model->columns()[std::size_t(section)].identifier.toString();
+    if (identifier == list->sortIdentifier())
+        list->setSortAscending(!list->sortAscending());
+    list->setSortIdentifier(identifier);
+    sortAndSelect();
+    Shell::shared().documentModifiedWithChange(true);
+}
+
+void RecordListController::sortAndSelect(const std::shared_ptr<Record> &record)
+{
+    if (!m_page || !m_model->container())
+        return;
+    m_model->sortContainer();
+    showSortIndicator();
+    if (record)
+        selectRecord(*record);
+    m_table->setFocus();
+}
+
+void RecordListController::setRowNeedsSort(int row)
+{
+    m_rowNeedsSort = row;
+    m_selection->setArmed(row >= 0);
+}
+
+bool RecordListController::sortPendingRow()
+{
+    const std::shared_ptr<Record> record = m_model->recordAt(m_rowNeedsSort);
+    setRowNeedsSort(-1);
+    // Where nothing moves, the selection may go where it was sent.
+    if (!record || !currentTank() || !m_model->sortContainer())
+        return false;
+    selectRecord(*record);
+    m_table->setFocus();
+    return true;
+}
+
+// ---- editing
+
+UndoDictionary RecordListController::createUndoDictionaryWithData(const std::shared_ptr<Record> &record,
+                                                                  const QString &key)
+{
+    return {record, valueForKey(*record, key), key};
+}
+
+bool RecordListController::storeValue(Record &record, const QString &key, const QVariant &value)
+{
+    return setValueForKey(record, key, value);
+}
+
+bool RecordListController::editCell(int row, int place, const QVariant &value)
+{
+    const std::shared_ptr<Record> record = m_model->recordAt(row);
+    if (!record || !currentTank())
+        return false;
+    const RecordColumn column = m_model->columns()[std::size_t(place)];
+    const QString key = column.identifier.toString();
+    UndoDictionary undo = createUndoDictionaryWithData(record, key);
+    const bool isDate = column.kind == ColumnKind::Date;
+    if (!value.isValid() || (isDate && !value.toDateTime().isValid()) || !storeValue(*record, key, value))
+        return false;
+    const bool changed = !isDate && valueForKey(*record, key).toString() != undo.value.toString();
+    if (m_rowNeedsSort == -1 && m_model->container()->sortIdentifier() == key)
+        setRowNeedsSort(row);
+    m_model->showRow(row);
+    Shell::shared().documentModifiedWithChange(true);
+    const QString actionName = QLatin1String(m_traits.undoActionName);
+    Shell::shared().undoManager().push(new CellEditCommand(*this, std::move(undo), actionName));
+    cellEdited(*record, column, changed);
+    return true;
+}
+
+std::optional<UndoDictionary> RecordListController::undoWithDictionary(const UndoDictionary &dictionary)
+{
+    const std::shared_ptr<Record> record = dictionary.data;
+    const Tank *tank = record ? record->tank : nullptr;
+    Container *list = tank ? tank->container(m_traits.kind) : nullptr;
+    if (!list || Shell::shared().tankList().indexOf(tank) < 0 || !list->contains(record.get())) {
+        beep();
+        return std::nullopt;
+    }
+    UndoDictionary opposite = createUndoDictionaryWithData(record, dictionary.identifier);
+    storeValue(*record, dictionary.identifier, dictionary.value);
+    if (list == m_model->container())
+        sortAndSelect(record);
+    else
+        list->sort();
+    Shell::shared().documentModifiedWithChange(m_traits.undoCountsUp);
+    return opposite;
+}
+
+// ---- the selection
+
+bool RecordListController::hasSelectedRow() const
+{
+    return m_page && m_selection->hasSelection();
+}
+
+std::vector<std::shared_ptr<Record>> RecordListController::selectedRecords() const
+{
+    std::vector<std::shared_ptr<Record>> records;
+    if (!m_page)
+        return records;
+    for (const auto &[first, last] : rowRuns(m_selection->selection())) {
+        for (int row = first; row <= last; ++row) {
+            if (std::shared_ptr<Record> record = m_model->recordAt(row))
+                records.push_back(std::move(record));
+        }
+    }
+    return records;
+}
+
+bool RecordListController::selectRecord(const Record &record)
+{
+    const Container *list = m_model->container();
+    const int row = m_page && list ? list->indexOf(&record) : -1;
+    if (row < 0)
+        return false;
+    const QModelIndex cell = m_model->index(row, std::max(0, m_selection->currentIndex().column()));
+    m_selection->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_table->scrollTo(cell);
+    return true;
+}
+
+void RecordListController::selectionDidChange()
+{
+    const bool selected = hasSelectedRow();
+    m_page->deleteButton()->setEnabled(selected);
+    Shell::shared().setEnableDeleteButton(selected);
+    Q_EMIT selectionChanged();
+}
+
+// ---- adding and deleting
+
+void RecordListController::newEntry()
+{
+    Tank *tank = currentTank();
+    if (!tank)
+        return;
+    view();
+    m_table->finishEditing();
+    showTank(tank);
+    const std::shared_ptr<Record> record = m_traits.makeRecord(*tank);
+    m_model->append(record);
+    sortAndSelect(record);
+    const int row = m_selection->currentIndex().row();
+    setRowNeedsSort(row);
+    Shell::shared().documentModifiedWithChange(true);
+    if (const QModelIndex cell = m_table->firstTypableCell(row); cell.isValid())
+        startNewRecord(cell);
+}
+
+void RecordListController::startNewRecord(const QModelIndex &cell)
+{
+    m_table->editCell(cell);
+}
+
+void RecordListController::deleteSelected()
+{
+    if (!hasSelectedRow())
+        return;
+    m_table->finishEditing();
+    const Alert question = deletionAlert(formatText(text("StandardWarning"), {text(m_traits.itemKey)}));
+    beginAlertSheet(Shell::shared().mainWindow(), question, [this](int answer) {
+        if (answer == AlertDefault)
+            deleteRecords(selectedRecords());
+        Shell::shared().orderFrontAndCheckModified();
+    });
+}
+
+void RecordListController::deleteRecords(const std::vector<std::shared_ptr<Record>> &records)
+{
+    Container *list = m_model->container();
+    if (!list || records.empty())
+        return;
+    for (const auto &record : records)
+        willDeleteRecord(*record);
+    m_model->remove(records);
+    m_table->clearSelection();
+    if (m_traits.deletingCountsAChange)
+        Shell::shared().documentModifiedWithChange(true);
+}
+
+// ---- what the model tells
+
+void RecordListController::journalRecordInserted(Tank &tank, ContainerKind kind)
+{
+    const Container *list = m_model->container();
+    if (!m_page || kind != m_traits.kind || !list || list->tank() != &tank)
+        return;
+    m_model->sortContainer();
+    m_table->clearSelection();
+}
+
+void RecordListController::journalRecordRemoved(Tank &tank, ContainerKind kind)
+{
+    const Container *list = m_model->container();
+    if (m_page && kind == m_traits.kind && list && list->tank() == &tank)
+        updateDisplay();
+}
+
+} // namespace brinemark

@@ -1,0 +1,135 @@
+#pragma once
+
+#include "model/ModelObserver.h"
+#include "ui/MainViewController.h"
+#include "ui/lists/CellEdit.h"
+#include "ui/lists/ListMenu.h"
+#include "ui/lists/RecordCells.h"
+#include "ui/lists/RecordListPage.h"
+#include "ui/lists/RecordTableModel.h"
+#include "ui/lists/RecordTableView.h"
+
+#include <QPointer>
+
+#include <optional>
+
+namespace brinemark
+{
+
+class RecordSelectionModel;
+
+/// Makes a new record of the class with its default values.
+template <class R>
+[[nodiscard]] std::shared_ptr<Record> makeNewRecord(Tank &tank)
+{
+    return std::make_shared<R>(&tank);
+}
+
+/// What the journal tables differ in.
+struct RecordListTraits {
+    ContainerKind kind;
+    TextKey itemKey;                                   ///< what the delete question calls the list
+    TextKey emptySentenceKey;                          ///< what an empty list says
+    std::shared_ptr<Record> (*makeRecord)(Tank &tank); ///< a new record with its default values
+    bool deletingCountsAChange = true;
+    std::span<const RecordColumn> columns = {}; ///< empty where they depend on the tank (see `columnsFor`)
+    const char *undoActionName = "";            ///< of an edited cell; stands as it is, not looked up
+    bool undoCountsUp = false;                  ///< what taking an edit back, or making it again, does to the count
+    const char *menuName = "";                  ///< object name of the context menu
+    std::span<const ListMenuItem> menu = {};    ///< of the context menu and of the action button; empty for neither
+};
+
+/// The view of one journal of the current tank: title, table, buttons. Shows, sorts, edits, adds and deletes records.
+/// The names of its widgets are told in RecordListPage.h.
+///
+/// An edit in the sort column, and a new record, leave the row where it is until the selection starts to change: then
+/// the list is sorted, and the record moves and stays selected.
+class RecordListController : public MainViewController, protected ModelObserver, private RecordCells
+{
+    Q_OBJECT
+
+public:
+    ~RecordListController() override;
+
+    QWidget *view() override;
+    void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
+    [[nodiscard]] bool hasSelectedRow() const override;
+    void deleteSelected() override;
+    void newEntry() override;
+    void updateDisplay() override;
+
+    [[nodiscard]] RecordTableView *table() const { return m_table; }            ///< null before the view was asked for
+    [[nodiscard]] std::vector<std::shared_ptr<Record>> selectedRecords() const; ///< in the order of their rows
+
+    /// Re-sorts the list and selects the record, or keeps selected what is.
+    void sortAndSelect(const std::shared_ptr<Record> &record = nullptr);
+
+    /// Selects exactly this record and brings it into sight; false when the table does not show it.
+    bool selectRecord(const Record &record);
+
+    /// The row whose re-sort is pending, -1 for none.
+    [[nodiscard]] int rowNeedsSort() const { return m_rowNeedsSort; }
+
+    /// Whether the menu items of a tag can be chosen now.
+    [[nodiscard]] virtual bool validateMenuItem(int) const { return true; }
+
+    /// What takes an edit of the field back, as the record is now.
+    [[nodiscard]] static UndoDictionary createUndoDictionaryWithData(const std::shared_ptr<Record> &record,
+                                                                     const QString &key);
+    /// Puts the value back, whichever tank is on screen, counts the change and answers the opposite dictionary. A
+    /// record that is no longer in its tank's list only beeps: none.
+    std::optional<UndoDictionary> undoWithDictionary(const UndoDictionary &dictionary);
+
+protected:
+    explicit RecordListController(const RecordListTraits &traits);
+
+    /// The columns for a tank (null for none), in their order: those of the traits.
+    [[nodiscard]] virtual std::span<const RecordColumn> columnsFor(Tank *) { return m_traits.columns; }
+    virtual void viewMade() {}                 ///< the table and the row of buttons can be added to
+    virtual void tankShown(Tank *) {}          ///< columns and rows are those of the tank
+    virtual void willDeleteRecord(Record &) {} ///< the deletion is decided; the record is still in its list
+
+    /// Stores a value of a cell, or of an undo step; false refuses it, and nothing is registered.
+    virtual bool storeValue(Record &record, const QString &key, const QVariant &value);
+    /// A cell was edited, the change counted and its undo registered. `changed`: its text is another one now. Never for
+    /// a date.
+    virtual void cellEdited(Record &, const RecordColumn &, bool /*changed*/) {}
+    /// Starts the editing of a new record in its first cell that takes typing.
+    virtual void startNewRecord(const QModelIndex &cell);
+
+    [[nodiscard]] QString cellText(const Record &record, int column) const override;
+    [[nodiscard]] CellMark cellMark(const Record &record, int column) const override;
+    [[nodiscard]] QString cellToolTip(const Record &record, int column) const override;
+
+    [[nodiscard]] RecordTableModel &model() const { return *m_model; }
+    [[nodiscard]] RecordListPage &page() const { return *m_page; }
+    [[nodiscard]] static Tank *currentTank();
+    [[nodiscard]] int ownWidth(const RecordColumn &column) const; ///< pixels that the header and a date need
+
+    void journalRecordInserted(Tank &tank, ContainerKind kind) override;
+    void journalRecordRemoved(Tank &tank, ContainerKind kind) override;
+
+private:
+    void makeView();
+    void makeMenus();
+    void watchModel();
+    void showTank(Tank *tank);
+    void showTitle(const Tank *tank);
+    void showSortIndicator();
+    void showEmptyState();
+    void headerClicked(int section);
+    void selectionDidChange();
+    bool editCell(int row, int column, const QVariant &value) override;
+    void setRowNeedsSort(int row);
+    bool sortPendingRow();
+    void deleteRecords(const std::vector<std::shared_ptr<Record>> &records);
+
+    RecordListTraits m_traits;
+    RecordTableModel *m_model;
+    QPointer<RecordListPage> m_page;
+    RecordTableView *m_table = nullptr;
+    RecordSelectionModel *m_selection = nullptr;
+    qint32 m_rowNeedsSort = -1;
+};
+
+} // namespace brinemark

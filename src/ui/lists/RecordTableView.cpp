@@ -1,0 +1,272 @@
+#include "ui/lists/RecordTableView.h"
+
+#include "ui/lists/RecordSelectionModel.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QScopedValueRollback>
+#include <QStyleOptionHeader>
+
+#include <algorithm>
+
+namespace brinemark
+{
+
+namespace
+{
+
+/// Gives the texts of cells and headers some air at their sides, and the sort mark a small place of its own at the end
+/// of a header, so that a column as wide as its header's text and 17 pixels shows both.
+class AirySides : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const auto *header = qstyleoption_cast<const QStyleOptionHeaderV2 *>(option);
+        if (element != CE_Header || !header || header->orientation != Qt::Horizontal) {
+            QProxyStyle::drawControl(element, option, painter, widget);
+            return;
+        }
+        constexpr int markWidth = 9;
+        constexpr int markMargin = 2;
+        painter->save();
+        painter->setClipRect(header->rect, Qt::IntersectClip);
+        drawControl(CE_HeaderSection, header, painter, widget);
+        QStyleOptionHeaderV2 part = *header;
+        const bool marked = header->sortIndicator != QStyleOptionHeader::None;
+        const auto place = [&](const QRect &rect) { return visualRect(header->direction, header->rect, rect); };
+        const QRect whole = header->rect;
+        part.rect = place(whole.adjusted(pixelMetric(PM_HeaderMargin, option, widget), 0,
+                                         marked ? -(markWidth + markMargin) : -markMargin, 0));
+        drawControl(CE_HeaderLabel, &part, painter, widget);
+        if (marked) {
+            part.rect = place({whole.right() + 1 - markMargin - markWidth, whole.top() + 1, markWidth, whole.height()});
+            drawPrimitive(PE_IndicatorHeaderArrow, &part, painter, widget);
+        }
+        painter->restore();
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        constexpr int air = 6;
+        const int own = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? std::max(own, air) : own;
+    }
+};
+
+} // namespace
+
+RecordTableView::RecordTableView(std::function<void()> deletePressed, QWidget *parent)
+    : QTableView(parent)
+    , m_deletePressed(std::move(deletePressed))
+{
+    auto *airy = new AirySides;
+    airy->setParent(this);
+    setStyle(airy);
+    horizontalHeader()->setStyle(airy);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setFrameShape(QFrame::NoFrame);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                    QAbstractItemView::AnyKeyPressed);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    // All rows are alike, so that a hundred thousand of them need no measuring.
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->hide();
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setSortIndicatorShown(true);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setMaximumSectionSize(1000);
+    fitRowHeight();
+}
+
+RecordSelectionModel *RecordTableView::recordSelection() const
+{
+    return qobject_cast<RecordSelectionModel *>(selectionModel());
+}
+
+// ---- keys and the mouse
+
+void RecordTableView::keyPressEvent(QKeyEvent *event)
+{
+    if (state() == EditingState) { // what the editor leaves over, such as Return
+        event->ignore();
+        return;
+    }
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const int key = event->key();
+    event->accept();
+    if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) && m_deletePressed) {
+        m_deletePressed();
+        return;
+    }
+    if (plain && (key == Qt::Key_Return || key == Qt::Key_Enter) && returnPressed) {
+        if (!event->isAutoRepeat())
+            returnPressed();
+        return;
+    }
+    if (plain && (key == Qt::Key_F2 || key == Qt::Key_Space) && openCell && openCell(currentIndex()))
+        return;
+    RecordSelectionModel *selection = recordSelection();
+    if (selection)
+        selection->beginGesture();
+    QTableView::keyPressEvent(event);
+    if (selection)
+        selection->endGesture();
+}
+
+void RecordTableView::mousePressEvent(QMouseEvent *event)
+{
+    RecordSelectionModel *selection = recordSelection();
+    if (selection)
+        selection->beginGesture();
+    QTableView::mousePressEvent(event);
+    if (selection && m_held) // the sheet takes the release
+        selection->endGesture();
+}
+
+void RecordTableView::mouseReleaseEvent(QMouseEvent *event)
+{
+    RecordSelectionModel *selection = recordSelection();
+    const bool dropped = selection && selection->dropsGesture();
+    const QPersistentModelIndex cell = indexAt(event->position().toPoint());
+    bool isClick = false;
+    const auto watch =
+        connect(this, &QTableView::clicked, this, [&](const QModelIndex &clicked) { isClick = clicked == cell; });
+    QTableView::mouseReleaseEvent(event);
+    disconnect(watch);
+    if (selection)
+        selection->endGesture();
+    const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
+    if (isClick && plain && !dropped && cell.isValid() && openCell)
+        openCell(cell);
+}
+
+void RecordTableView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!menuAsked) {
+        QTableView::contextMenuEvent(event);
+        return;
+    }
+    QPoint place = event->globalPos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        const QRect cell = visualRect(currentIndex()).intersected(viewport()->rect());
+        place = viewport()->mapToGlobal(cell.isValid() ? cell.center() : viewport()->rect().center());
+    }
+    menuAsked(place);
+    event->accept();
+}
+
+// ---- editing
+
+QModelIndex RecordTableView::typableCellBeside(const QModelIndex &row, int visualColumn, int step) const
+{
+    const QHeaderView &header = *horizontalHeader();
+    for (int visual = visualColumn + step; visual >= 0 && visual < header.count(); visual += step) {
+        const QModelIndex cell = row.siblingAtColumn(header.logicalIndex(visual));
+        if (!header.isSectionHidden(cell.column()) && cell.flags().testFlag(Qt::ItemIsEditable))
+            return cell;
+    }
+    return {};
+}
+
+QModelIndex RecordTableView::firstTypableCell(int row) const
+{
+    return typableCellBeside(model()->index(row, 0), -1, 1);
+}
+
+void RecordTableView::editCell(const QModelIndex &cell)
+{
+    if (!cell.isValid())
+        return;
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    scrollTo(cell);
+    if (m_held)
+        m_toEdit = cell;
+    else
+        edit(cell);
+}
+
+void RecordTableView::finishEditing()
+{
+    if (state() != EditingState)
+        return;
+    if (QWidget *editor = indexWidget(currentIndex())) {
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+}
+
+void RecordTableView::holdEditing()
+{
+    m_held = true;
+    m_toEdit = QModelIndex();
+    if (RecordSelectionModel *selection = recordSelection())
+        selection->endGesture();
+}
+
+void RecordTableView::releaseEditing()
+{
+    m_held = false;
+    const QModelIndex cell = std::exchange(m_toEdit, QPersistentModelIndex());
+    if (cell.isValid())
+        editCell(cell);
+}
+
+void RecordTableView::commitData(QWidget *editor)
+{
+    // A sheet that the value brings up takes the focus, at which the editor would be committed once more.
+    if (m_committing)
+        return;
+    const QScopedValueRollback committing(m_committing, true);
+    QTableView::commitData(editor);
+}
+
+void RecordTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    if (m_committing) // whoever commits closes it afterwards
+        return;
+    int step = 0;
+    if (hint == QAbstractItemDelegate::EditNextItem)
+        step = 1;
+    else if (hint == QAbstractItemDelegate::EditPreviousItem)
+        step = -1;
+    if (step == 0) {
+        QTableView::closeEditor(editor, hint);
+        return;
+    }
+    const QModelIndex from = currentIndex();
+    const QPersistentModelIndex next = typableCellBeside(from, horizontalHeader()->visualIndex(from.column()), step);
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (next.isValid())
+        editCell(next);
+    else
+        setFocus();
+}
+
+// ---- the look
+
+void RecordTableView::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitRowHeight();
+}
+
+void RecordTableView::fitRowHeight()
+{
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+}
+
+} // namespace brinemark
