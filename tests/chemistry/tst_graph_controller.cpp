@@ -209,6 +209,20 @@ private Q_SLOTS:
         QCOMPARE(start.date(), firstMoment.addDays(1));
     }
 
+    void returnDraws()
+    {
+        addTests(5);
+        test(0).kH = 8;
+        open();
+        QTest::keyClick(combo("endDateCombo").lineEdit(), Qt::Key_Return);
+        QVERIFY(view().isVisible());
+        combo("startDateComboSmall").setCurrentIndex(2);
+        QTest::keyClick(combo("startDateComboSmall").lineEdit(), Qt::Key_Return);
+        QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(3));
+        QTest::keyClick(m_window, Qt::Key_Escape);
+        QVERIFY(!m_window->isVisible());
+    }
+
     void legend()
     {
         addTests(3);
@@ -381,6 +395,19 @@ private Q_SLOTS:
         }
         QTRY_VERIFY(QFile::exists(folder.filePath(written)));
         QTEST(test::bytesOf(folder.filePath(written)).left(4), "start");
+    }
+
+    void prints()
+    {
+        addTests(3);
+        test(0).kH = 8;
+        open();
+        press("drawButton");
+        find<QToolButton>("printButton")->click();
+        auto *dialog = m_window->findChild<QDialog *>(QStringLiteral("printDialog"));
+        QVERIFY(dialog && dialog->isVisible());
+        dialog->reject();
+        QVERIFY(m_window->isVisible());
     }
 
     void remembersItsSize()

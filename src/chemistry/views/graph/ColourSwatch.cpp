@@ -33,7 +33,10 @@ void ColourSwatch::paintEvent(QPaintEvent *)
         QPen(framed ? brinemark::colour(ColourRole::SecondaryText, palette()) : m_colour, m_filled ? 1 : 1.5));
     if (m_filled)
         painter.setBrush(m_colour);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+    const QRectF tile = QRectF(rect()).adjusted(1, 1, -1, -1);
+    painter.drawRoundedRect(tile, radius, radius);
+    if (!m_filled)
+        painter.drawLine(tile.bottomLeft() + QPointF(1, -1), tile.topRight() + QPointF(-1, 1));
 }
 
 } // namespace brinemark

@@ -5,7 +5,7 @@
 namespace brinemark
 {
 
-/// A small tile of one colour, or only its frame.
+/// A small tile of one colour, or only its frame, crossed out.
 class ColourSwatch : public QWidget
 {
     Q_OBJECT
