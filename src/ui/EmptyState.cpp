@@ -7,8 +7,17 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace brinemark
 {
+
+namespace
+{
+
+constexpr int readableWidth = 360; // pixels
+
+} // namespace
 
 EmptyState::EmptyState(const QIcon &picture, const QString &sentence, const QString &buttonText, QWidget *parent)
     : QWidget(parent)
@@ -16,7 +25,6 @@ EmptyState::EmptyState(const QIcon &picture, const QString &sentence, const QStr
     , m_sentence(new QLabel(sentence, this))
     , m_button(new QPushButton(this))
 {
-    constexpr int readableWidth = 360;
     m_sentence->setObjectName(QStringLiteral("emptyStateSentence"));
     m_sentence->setTextFormat(Qt::PlainText);
     m_sentence->setWordWrap(true);
@@ -35,6 +43,7 @@ EmptyState::EmptyState(const QIcon &picture, const QString &sentence, const QStr
     column->addStretch(3); // a little above the middle looks like the middle
     setPicture(picture);
     setButtonText(buttonText);
+    fitSentence();
 }
 
 QString EmptyState::sentence() const
@@ -52,6 +61,7 @@ void EmptyState::setPicture(const QIcon &picture)
 void EmptyState::setSentence(const QString &sentence)
 {
     m_sentence->setText(sentence);
+    fitSentence();
 }
 
 void EmptyState::setButtonText(const QString &text)
@@ -65,6 +75,14 @@ void EmptyState::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         applyLook();
+    if (event->type() == QEvent::FontChange)
+        fitSentence();
+}
+
+/// Layouts do not ask a label that they align how tall its lines make it.
+void EmptyState::fitSentence()
+{
+    m_sentence->setFixedHeight(std::max(0, m_sentence->heightForWidth(readableWidth)));
 }
 
 void EmptyState::applyLook()

@@ -34,6 +34,7 @@ protected:
 
 private:
     void applyLook();
+    void fitSentence();
 
     QIcon m_icon;
     QLabel *m_picture;

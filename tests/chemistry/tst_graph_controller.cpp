@@ -178,6 +178,7 @@ private Q_SLOTS:
         const QLocale before;
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
         addTests(11);
+        test(3).kH = 8;
         open();
         type("startDateCombo", start);
         type("endDateCombo", end);
@@ -188,8 +189,17 @@ private Q_SLOTS:
         type("startDateCombo", QStringLiteral("2.3.26"));
         type("endDateCombo", QStringLiteral("9.3.2026"));
         press("drawButton");
+        QVERIFY(!find<QLabel>("emptyStateSentence")->isVisible());
         // From midnight to midnight: the test of the last day came later.
         QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(7));
+
+        // The same from the graph's own boxes: nothing stays drawn.
+        m_beeps = 0;
+        type("startDateComboSmall", start);
+        type("endDateComboSmall", end);
+        expectRangeAlert([this] { press("drawButtonSmall"); });
+        QCOMPARE(find<QLabel>("emptyStateSentence")->text(), text("DateRangeMessage"));
+        QVERIFY(!view().isVisible());
         QLocale::setDefault(before);
     }
 

@@ -103,6 +103,7 @@ void GraphController::graphAction()
     const QDateTime start = startCombo.date();
     const QDateTime end = endCombo.date();
     if (!start.isValid() || !end.isValid() || start >= end) {
+        m_graphContentView->showSentence(text("DateRangeMessage"));
         beep();
         runAlertPanel(m_graphWindow, {.title = text("DateRangeTitle"), .message = text("DateRangeMessage")});
         return;
@@ -143,14 +144,13 @@ void GraphController::showSeries(const ConditionSeries &series)
     view.setNumberOfTickMarks(series.numberOfYTickMarks(), GraphAxis::Y);
     view.setNumberOfTickMarks(series.numberOfXTickMarks(), GraphAxis::X);
     view.reloadData();
-    m_graphContentView->showGraph(whyEmpty());
-    if (graphArray().empty() || !m_graphTank) {
-        m_graphContentView->showHint({});
+    if (const QString why = whyEmpty(); !why.isEmpty()) {
+        m_graphContentView->showSentence(why);
         return;
     }
     const QString first = localeDateText(graphArray().front()->date);
     const QString last = localeDateText(graphArray().back()->date);
-    m_graphContentView->showHint(formatText(text("GraphHint"), {first}));
+    m_graphContentView->showGraph(formatText(text("GraphHint"), {first}));
     view.setPaperTitle(fillPlaceholders(text("GraphPaperTitle"), {m_graphTank->name, first, last}));
 }
 

@@ -113,20 +113,24 @@ QHBoxLayout *GraphContentView::makeBottomRow()
     return row;
 }
 
-void GraphContentView::showGraph(const QString &whyEmpty)
-{
-    m_emptyState->setSentence(whyEmpty);
-    if (whyEmpty.isEmpty())
-        m_place->setCurrentWidget(m_graphView);
-    else
-        m_place->setCurrentWidget(m_emptyState);
-    m_scaleSlider->setEnabled(whyEmpty.isEmpty());
-    enableButtons();
-}
-
-void GraphContentView::showHint(const QString &hint)
+void GraphContentView::showGraph(const QString &hint)
 {
     m_hint->setText(hint);
+    showPart(m_graphView);
+}
+
+void GraphContentView::showSentence(const QString &whyEmpty)
+{
+    m_hint->clear();
+    m_emptyState->setSentence(whyEmpty);
+    showPart(m_emptyState);
+}
+
+void GraphContentView::showPart(QWidget *part)
+{
+    m_place->setCurrentWidget(part);
+    m_scaleSlider->setVisible(part == m_graphView);
+    enableButtons();
 }
 
 void GraphContentView::enableButtons()

@@ -37,11 +37,11 @@ public:
     [[nodiscard]] GraphLegend &legend() const { return *m_legend; }
     [[nodiscard]] QPushButton &drawButton() const { return *m_drawButton; }
 
-    /// Shows the graph or, with a sentence that says why there is nothing to see, the sentence in its place.
-    void showGraph(const QString &whyEmpty = {});
+    /// Shows the graph, with a line below it that says what is not obvious.
+    void showGraph(const QString &hint);
 
-    /// A line below the graph that says what is not obvious.
-    void showHint(const QString &hint);
+    /// Shows a sentence in the graph's place, which says why there is nothing to see.
+    void showSentence(const QString &whyEmpty);
 
 Q_SIGNALS:
     void drawRequested();
@@ -54,6 +54,7 @@ private:
     [[nodiscard]] QHBoxLayout *makeTopRow();
     [[nodiscard]] QHBoxLayout *makeGraphRow();
     [[nodiscard]] QHBoxLayout *makeBottomRow();
+    void showPart(QWidget *part);
     void enableButtons();
 
     TestDateCombo *m_startDateComboSmall;

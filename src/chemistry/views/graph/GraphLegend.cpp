@@ -65,6 +65,7 @@ void GraphLegend::showLines(const ConditionSeries &series, const Tank *tank)
         m_column->insertWidget(line, entry);
         m_entries.push_back(entry);
     }
+    setVisible(!m_entries.empty()); // a sentence in the graph's place then has the whole width
 }
 
 QSize GraphLegend::sizeHint() const
