@@ -98,6 +98,27 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Calcium</translation>
     </message>
     <message>
+        <source>CalendarChosenDay</source>
+        <extracomment>^0 is the day with its weekday and month written out</extracomment>
+        <translation>Gewählter Tag: ^0</translation>
+    </message>
+    <message>
+        <source>CalendarDays</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>CalendarPopup</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>CalendarTime</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>CalendarToday</source>
+        <translation>Heute wählen (T)</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -1358,6 +1379,14 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <translation>Neu</translation>
     </message>
     <message>
+        <source>NextMonth</source>
+        <translation>Nächster Monat (Bild ab)</translation>
+    </message>
+    <message>
+        <source>NextYear</source>
+        <translation>Nächstes Jahr (Umschalt + Bild ab)</translation>
+    </message>
+    <message>
         <source>Nitrate</source>
         <translation>Nitrat</translation>
     </message>
@@ -1633,6 +1662,14 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
     <message>
         <source>PrefsTitle</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>PreviousMonth</source>
+        <translation>Voriger Monat (Bild auf)</translation>
+    </message>
+    <message>
+        <source>PreviousYear</source>
+        <translation>Voriges Jahr (Umschalt + Bild auf)</translation>
     </message>
     <message>
         <source>PrintItemMenu</source>

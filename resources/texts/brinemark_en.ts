@@ -98,6 +98,27 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>Calcium</translation>
     </message>
     <message>
+        <source>CalendarChosenDay</source>
+        <extracomment>^0 is the day with its weekday and month written out</extracomment>
+        <translation>Chosen day: ^0</translation>
+    </message>
+    <message>
+        <source>CalendarDays</source>
+        <translation>Days</translation>
+    </message>
+    <message>
+        <source>CalendarPopup</source>
+        <translation>Calendar</translation>
+    </message>
+    <message>
+        <source>CalendarTime</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>CalendarToday</source>
+        <translation>Choose today (T)</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
@@ -1358,6 +1379,14 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <translation>New</translation>
     </message>
     <message>
+        <source>NextMonth</source>
+        <translation>Next month (Page Down)</translation>
+    </message>
+    <message>
+        <source>NextYear</source>
+        <translation>Next year (Shift + Page Down)</translation>
+    </message>
+    <message>
         <source>Nitrate</source>
         <translation>Nitrate</translation>
     </message>
@@ -1633,6 +1662,14 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
     <message>
         <source>PrefsTitle</source>
         <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>PreviousMonth</source>
+        <translation>Previous month (Page Up)</translation>
+    </message>
+    <message>
+        <source>PreviousYear</source>
+        <translation>Previous year (Shift + Page Up)</translation>
     </message>
     <message>
         <source>PrintItemMenu</source>

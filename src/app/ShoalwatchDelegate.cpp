@@ -30,6 +30,7 @@
 #include "ui/Desktop.h"
 #include "ui/HelpWindow.h"
 #include "ui/WindowPlacement.h"
+#include "ui/calendar/CalendarController.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -63,6 +64,7 @@ void ShoalwatchDelegate::destroyEverything()
     // Undo steps hold records and call back into the controllers, so they go first.
     if (hasSharedInstance())
         sharedInstance().m_undoManager->clear();
+    CalendarController::destroyShared();
     GraphController::destroyShared();
     ConditionListController::destroyShared();
     TankDataController::destroyShared();

@@ -19,6 +19,8 @@ inline constexpr std::array iconNames{
     "FishBig", "Plant", "Invertebrates", "Coral", "Profileplaceholder3",
     // Lists and their buttons.
     "Ellipse", "New", "Remove", "Action", "Edit", "Help", "Graph", "WholeGraph", "Export", "Search",
+    // The calendar's buttons; where text runs from right to left, each pair changes places.
+    "PreviousYear", "PreviousMonth", "NextMonth", "NextYear",
     // States and alerts; each differs from the others in shape as well as in colour.
     "StateInRange", "StateNear", "StateOut", "StateNotTested", "StateOverdue", "StateDone", "AlertCritical",
     "AlertQuestion", "AlertInformation",

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QDate>
+#include <QWidget>
+
+namespace brinemark
+{
+
+/// A month's page: the weekdays in the locale's order above six weeks of days. It shows a month, which may be another
+/// than the chosen day's, takes a day by click and moves it by key (ui/calendar/CalendarMonth.h).
+class CalendarDays : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Begins on `day`'s page, with that day chosen or only as the place where the keys begin.
+    CalendarDays(QDate day, bool isChosen, QDate today, QWidget *parent = nullptr);
+
+    [[nodiscard]] QDate day() const { return m_day; }
+    [[nodiscard]] bool isChosen() const { return m_isChosen; }
+    [[nodiscard]] QDate shownMonth() const { return m_month; } ///< the first of the month
+
+    /// Chooses a day and turns to its page.
+    void choose(QDate day);
+    /// Turns to another page; the chosen day stays. Nothing happens at the ends of the range.
+    void turnPage(int months);
+
+    /// Where a day stands; an empty rectangle when it is not on the page.
+    [[nodiscard]] QRect rectOf(QDate day) const;
+    /// The day at a point; null where there is none.
+    [[nodiscard]] QDate dayAt(QPoint point) const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+Q_SIGNALS:
+    void pageTurned();
+    void dayClicked();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+
+private:
+    [[nodiscard]] QSize cellSize() const;
+    [[nodiscard]] QRect cellAt(int row, int column) const; ///< row 0 holds the weekdays
+    [[nodiscard]] QDate dayOfCell(int row, int column) const;
+    void showMonth(QDate month);
+    void setHovered(QDate day);
+    void describe();
+    void paintDay(QPainter &painter, const QRect &cell, QDate day) const;
+
+    QDate m_day;
+    bool m_isChosen;
+    QDate m_today;
+    QDate m_month;
+    QDate m_hovered;
+    QDate m_pressed;
+    Qt::DayOfWeek m_firstDayOfWeek;
+};
+
+} // namespace brinemark

@@ -1,0 +1,234 @@
+#include "ui/calendar/CalendarPopup.h"
+
+#include "base/Clock.h"
+#include "base/text/Texts.h"
+#include "ui/IconButton.h"
+#include "ui/calendar/CalendarDays.h"
+#include "ui/calendar/CalendarMonth.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QPushButton>
+#include <QTimeEdit>
+#include <QToolButton>
+#include <QWheelEvent>
+
+namespace brinemark
+{
+
+namespace
+{
+
+constexpr int monthsInYear = 12;
+
+bool isUsable(const QDateTime &date)
+{
+    return date.isValid() && calendar::isInRange(date.date());
+}
+
+/// Hour and minute: what the time field shows.
+QTime toMinute(QTime time)
+{
+    return {time.hour(), time.minute()};
+}
+
+} // namespace
+
+CalendarPopup::CalendarPopup(const QDateTime &date, QWidget *parent)
+    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint)
+    , m_hasStart(isUsable(date))
+    , m_start(m_hasStart ? date : clock::now())
+    , m_days(new CalendarDays(m_start.date(), m_hasStart, clock::now().date(), this))
+{
+    setObjectName("calendarPopup");
+    setAccessibleName(text("CalendarPopup"));
+    setWindowTitle(text("CalendarPopup"));
+    if (parent)
+        setLayoutDirection(parent->layoutDirection());
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(8, 8, 8, 8);
+    column->setSpacing(4);
+    column->addLayout(makeTitleRow());
+    column->addWidget(m_days, 1);
+    auto *line = new QFrame;
+    line->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
+    column->addSpacing(4);
+    column->addWidget(line);
+    column->addSpacing(4);
+    column->addLayout(makeTimeRow());
+
+    connect(m_days, &CalendarDays::pageTurned, this, &CalendarPopup::showTitle);
+    connect(m_days, &CalendarDays::dayClicked, this, [this] { Q_EMIT finished(true); });
+    setTabOrder(m_days, m_time);
+    m_days->setFocus();
+    showTitle();
+}
+
+// ---- building
+
+QToolButton *CalendarPopup::addPageButton(const char *iconName, const QString &title, const char *objectName,
+                                          int months)
+{
+    QToolButton *button = makeIconButton(iconName, title, objectName);
+    button->setFocusPolicy(Qt::NoFocus); // each has its key, and the tab key is for the days and the time
+    button->setAutoRepeat(true);
+    connect(button, &QToolButton::clicked, m_days, [this, months] { m_days->turnPage(months); });
+    m_pageButtons.append({button, months});
+    return button;
+}
+
+QLayout *CalendarPopup::makeTitleRow()
+{
+    // The arrows point to where the pages lie.
+    const bool mirrored = isRightToLeft();
+    const char *previousMonth = mirrored ? "NextMonth" : "PreviousMonth";
+    const char *nextMonth = mirrored ? "PreviousMonth" : "NextMonth";
+    const char *previousYear = mirrored ? "NextYear" : "PreviousYear";
+    const char *nextYear = mirrored ? "PreviousYear" : "NextYear";
+
+    m_title = new QLabel;
+    m_title->setObjectName("calendarTitle");
+    m_title->setAlignment(Qt::AlignCenter);
+    QFont bold = m_title->font();
+    bold.setBold(true);
+    m_title->setFont(bold);
+
+    auto *row = new QHBoxLayout;
+    row->setSpacing(0);
+    row->addWidget(addPageButton(previousYear, text("PreviousYear"), "previousYearButton", -monthsInYear));
+    row->addWidget(addPageButton(previousMonth, text("PreviousMonth"), "previousMonthButton", -1));
+    row->addWidget(m_title, 1);
+    row->addWidget(addPageButton(nextMonth, text("NextMonth"), "nextMonthButton", 1));
+    row->addWidget(addPageButton(nextYear, text("NextYear"), "nextYearButton", monthsInYear));
+    return row;
+}
+
+QLayout *CalendarPopup::makeTimeRow()
+{
+    m_time = new QTimeEdit(m_start.time());
+    m_time->setObjectName("timeField");
+    m_time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
+    m_time->setWrapping(true);
+    m_time->setAccessibleName(text("CalendarTime"));
+    m_time->setToolTip(text("CalendarTime"));
+    auto *caption = new QLabel(text("CalendarTime"));
+    caption->setBuddy(m_time);
+
+    auto *today = new QPushButton(text("Today"));
+    today->setObjectName("todayButton");
+    today->setToolTip(text("CalendarToday"));
+    today->setAccessibleDescription(text("CalendarToday"));
+    today->setFocusPolicy(Qt::NoFocus);
+    today->setAutoDefault(false);
+    connect(today, &QPushButton::clicked, m_days, [this] {
+        if (const QDate day = clock::now().date(); calendar::isInRange(day))
+            m_days->choose(day);
+    });
+
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(caption);
+    row->addWidget(m_time);
+    row->addStretch(1);
+    row->addWidget(today);
+    return row;
+}
+
+void CalendarPopup::showTitle()
+{
+    const QDate month = m_days->shownMonth();
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    m_title->setText(locale.standaloneMonthName(month.month()) + ' ' + locale.toString(month.year()));
+    for (const auto &[button, months] : m_pageButtons)
+        button->setEnabled(calendar::addMonths(month, months) != month);
+}
+
+// ---- the date
+
+QTime CalendarPopup::chosenTime() const
+{
+    const QTime start = m_start.time();
+    const QTime shown = m_time->time();
+    if (m_time->displayedSections() & QDateTimeEdit::SecondSection)
+        return QTime(shown.hour(), shown.minute(), shown.second()) ==
+                       QTime(start.hour(), start.minute(), start.second())
+                   ? start
+                   : shown;
+    return toMinute(shown) == toMinute(start) ? start : toMinute(shown);
+}
+
+QDateTime CalendarPopup::date() const
+{
+    if (m_days->day() == m_start.date() && chosenTime() == m_start.time())
+        return m_start; // made anew it could be the other one of two equal hours when the clocks go back
+    return calendar::moved(m_start, m_days->day(), chosenTime());
+}
+
+bool CalendarPopup::isChanged() const
+{
+    return (!m_hasStart && m_days->isChosen()) || date() != m_start;
+}
+
+// ---- how it ends
+
+void CalendarPopup::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        Q_EMIT finished(false);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // Without a date to begin at, this takes the day that the keys stand on.
+        if (!m_hasStart)
+            m_days->choose(m_days->day());
+        Q_EMIT finished(true);
+        break;
+    default:
+        QFrame::keyPressEvent(event);
+    }
+}
+
+void CalendarPopup::mousePressEvent(QMouseEvent *event)
+{
+    // A pop-up gets every press while it is open, those beside it too.
+    if (!rect().contains(event->position().toPoint()))
+        Q_EMIT left(event->globalPosition().toPoint());
+}
+
+void CalendarPopup::closeEvent(QCloseEvent *event)
+{
+    // The window system or a longer-lived command closed it, not the person: what was changed is kept.
+    QFrame::closeEvent(event);
+    Q_EMIT finished(true);
+}
+
+void CalendarPopup::wheelEvent(QWheelEvent *event)
+{
+    constexpr int step = QWheelEvent::DefaultDeltasPerStep;
+    m_wheel += event->angleDelta().y();
+    const int pages = m_wheel / step;
+    m_wheel -= pages * step;
+    if (pages != 0)
+        m_days->turnPage(-pages);
+    event->accept();
+}
+
+void CalendarPopup::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+    // The window system draws no frame, so this does: a line between the paper's colour and the text's.
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(0.35F);
+    painter.setPen(line);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+} // namespace brinemark
