@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QScopeGuard>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTimeEdit>
@@ -123,8 +124,11 @@ private Q_SLOTS:
 
     void rightToLeftTurnsTheArrows()
     {
-        m_table->setLayoutDirection(Qt::RightToLeft);
+        const auto before = QApplication::layoutDirection();
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        const auto restore = qScopeGuard([before] { QApplication::setLayoutDirection(before); });
         open(at(2026, 3, 11));
+        QCOMPARE(child<QTimeEdit>("timeField")->text(), QLocale().toString(QTime(18, 22, 5), QLocale::ShortFormat));
         QVERIFY(days()->rectOf({2026, 3, 12}).center().x() < days()->rectOf({2026, 3, 11}).center().x());
         QVERIFY(child<QToolButton>("nextMonthButton")->x() < child<QToolButton>("previousMonthButton")->x());
         press(Qt::Key_Left);

@@ -136,7 +136,7 @@ void CalendarController::leave(QPoint globalPoint)
         closeAndSave(false, false);
         return;
     }
-    // The press goes on to what lies there; at the cell itself it would open the calendar anew.
+    // Some window systems pass the press on to what lies there; at the cell itself it would open the calendar anew.
     m_popup->setAttribute(Qt::WA_NoMouseReplay, m_cell.contains(globalPoint));
     closeAndSave(true, true);
 }

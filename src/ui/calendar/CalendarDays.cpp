@@ -11,6 +11,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <utility>
 
 namespace brinemark
 {
@@ -158,7 +159,9 @@ void CalendarDays::paintDay(QPainter &painter, const QRect &cell, QDate day) con
     const bool isChosen = m_isChosen && day == m_day;
     const bool isOfMonth = calendar::monthOf(day) == m_month;
     const QColor highlight = palette().color(QPalette::Active, QPalette::Highlight);
-    QColor ink = palette().color(isOfMonth ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
+    QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
+    if (!isOfMonth)
+        ink.setAlphaF(0.5F); // greyed, but to be read: these days can be taken too
 
     painter.setBrush(Qt::NoBrush);
     if (isChosen) {

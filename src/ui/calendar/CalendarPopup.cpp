@@ -54,11 +54,7 @@ CalendarPopup::CalendarPopup(const QDateTime &date, QWidget *parent)
     column->setSpacing(4);
     column->addLayout(makeTitleRow());
     column->addWidget(m_days, 1);
-    auto *line = new QFrame;
-    line->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
-    column->addSpacing(4);
-    column->addWidget(line);
-    column->addSpacing(4);
+    column->addSpacing(12); // the line of paintEvent() runs through its middle
     column->addLayout(makeTimeRow());
 
     connect(m_days, &CalendarDays::pageTurned, this, &CalendarPopup::showTitle);
@@ -111,6 +107,7 @@ QLayout *CalendarPopup::makeTimeRow()
 {
     m_time = new QTimeEdit(m_start.time());
     m_time->setObjectName("timeField");
+    m_time->setLayoutDirection(Qt::LeftToRight); // from right to left it would show the minute first
     m_time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
     m_time->setWrapping(true);
     m_time->setAccessibleName(text("CalendarTime"));
@@ -221,14 +218,19 @@ void CalendarPopup::wheelEvent(QWheelEvent *event)
 
 void CalendarPopup::paintEvent(QPaintEvent *)
 {
+    // The window system draws no frame and styles draw theirs for light palettes, so lines are the text's colour, thin.
+    const auto ink = [this](float strength) {
+        QColor colour = palette().color(QPalette::WindowText);
+        colour.setAlphaF(strength);
+        return colour;
+    };
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
-    // The window system draws no frame, so this does: a line between the paper's colour and the text's.
-    QColor line = palette().color(QPalette::WindowText);
-    line.setAlphaF(0.35F);
-    painter.setPen(line);
+    painter.setPen(ink(0.35F));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    const QRect days = m_days->geometry();
+    painter.fillRect(QRect(days.left(), days.bottom() + 10, days.width(), 1), ink(0.2F));
 }
 
 } // namespace brinemark
