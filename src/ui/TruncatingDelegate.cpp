@@ -36,8 +36,12 @@ void TruncatingDelegate::initStyleOption(QStyleOptionViewItem *option, const QMo
 void TruncatingDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QStyledItemDelegate::paint(painter, option, index);
-    if (const QVariant mark = index.data(CellMarkRole); mark.isValid())
-        paintCellMark(painter, option, mark.value<CellMark>());
+    const QVariant mark = index.data(CellMarkRole);
+    if (!mark.isValid())
+        return;
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    paintCellMark(painter, cell, mark.value<CellMark>());
 }
 
 bool TruncatingDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

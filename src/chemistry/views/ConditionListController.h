@@ -1,7 +1,6 @@
 #pragma once
 
-#include "chemistry/SFCheckedFormatter.h"
-#include "model/Parameters.h"
+#include "chemistry/views/ConditionTableColumns.h"
 #include "ui/Shared.h"
 #include "ui/lists/RecordListController.h"
 
@@ -9,7 +8,6 @@ namespace brinemark
 {
 
 class ConditionColumnWindow;
-struct ConditionColumnTraits;
 struct TankData;
 
 /// The water tests of the current tank. Which columns it shows, in which order and how wide, belongs to the tank.
@@ -31,7 +29,8 @@ public:
     /// column does nothing.
     void toogleConditionColumn(int tag);
     [[nodiscard]] bool isColumnVisible(int tag) const;
-    [[nodiscard]] int columnFromTag(int tag) const; ///< the table's column, -1 when it is not shown
+    /// The table's column of a tag, -1 when it is not shown.
+    [[nodiscard]] int columnFromTag(int tag) const { return m_columns.columnFromTag(tag); }
 
     /// Shows a sheet when the value of the parameter lies outside its target in the current tank.
     void warningCheckIdentifier(QStringView identifier, double value);
@@ -56,27 +55,12 @@ private:
     friend class Shared<ConditionListController>;
     ConditionListController();
 
-    /// What is asked of a column again and again, worked out once.
-    struct ShownColumn {
-        const ConditionColumnTraits *traits;
-        std::optional<Parameter> parameter; ///< none for the date
-        SFCheckedFormatter formatter;
-    };
-    [[nodiscard]] static const TankData *targetOf(const Record &record, const ShownColumn &column);
+    [[nodiscard]] static const TankData *targetOf(const Record &record, const ConditionTableColumns::Column &column);
     void closeWarningSheet();
-    void addShownColumn(const ConditionColumnTraits &column);
-    void toggleColumnWithTag(int tag, bool autoSize);
-    [[nodiscard]] int minimumWidth(int column) const;
-    void arrangeColumns();
-    void columnResized(int section, int width);
     void showColumnChecks();
-    [[nodiscard]] std::vector<int> columnsInDisplayOrder() const;
 
-    std::vector<ShownColumn> m_shown;         ///< by column of the model
-    std::vector<RecordColumn> m_shownColumns; ///< the same for the model
-    std::weak_ptr<Tank> m_shownTank;
+    ConditionTableColumns m_columns;
     QPointer<ConditionColumnWindow> m_columnWindow;
-    bool m_arranging = false; ///< the columns change by the program, not by the user
 };
 
 } // namespace brinemark

@@ -1,8 +1,11 @@
 #include "ui/lists/CellMark.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionViewItem>
+
+#include <algorithm>
 
 namespace brinemark
 {
@@ -22,6 +25,19 @@ QPainterPath triangle(QPointF middle, double upwards)
     return path;
 }
 
+QPointF placeOf(const QStyleOptionViewItem &option)
+{
+    constexpr double gap = 3;
+    const QRectF cell = option.rect;
+    const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
+    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+    const bool leftToRight = option.direction == Qt::LeftToRight;
+    double fromStart = cell.width() - half - 1;
+    if (!(QStyle::visualAlignment(option.direction, option.displayAlignment) & (Qt::AlignHCenter | Qt::AlignRight)))
+        fromStart = std::min(fromStart, margin + option.fontMetrics.horizontalAdvance(option.text) + gap + half);
+    return {leftToRight ? cell.left() + fromStart : cell.right() - fromStart, cell.center().y()};
+}
+
 } // namespace
 
 void paintCellMark(QPainter *painter, const QStyleOptionViewItem &option, const CellMark &mark)
@@ -35,10 +51,7 @@ void paintCellMark(QPainter *painter, const QStyleOptionViewItem &option, const 
         option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
     const QColor ink =
         mark.role && !selected ? colour(*mark.role, option.palette) : option.palette.color(group, textRole);
-    constexpr double fromRight = half + 1.5;
-    const bool leftToRight = option.direction == Qt::LeftToRight;
-    const QPointF middle(leftToRight ? option.rect.right() + 1 - fromRight : option.rect.left() + fromRight,
-                         option.rect.top() + option.rect.height() / 2.0);
+    const QPointF middle = placeOf(option);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     if (mark.shape == CellMark::Shape::Opens) {

@@ -29,8 +29,8 @@ struct CellMark {
 /// Under which a model hands out the CellMark of a cell.
 inline constexpr int CellMarkRole = int(Qt::UserRole) + 77;
 
-/// Draws the shape into the right margin of the cell, where it takes no room from the text. To be called after the cell
-/// has been drawn.
+/// Draws the shape behind the end of the cell's text, or into the right margin when there is no more room. To be called
+/// after the cell has been drawn, with the option of its view item (text, font and alignment).
 void paintCellMark(QPainter *painter, const QStyleOptionViewItem &option, const CellMark &mark);
 
 } // namespace brinemark

@@ -7,6 +7,7 @@
 #include "model/TankList.h"
 #include "ui/Alerts.h"
 #include "ui/Shell.h"
+#include "ui/calendar/CalendarController.h"
 #include "ui/lists/RecordSelectionModel.h"
 
 #include <QHeaderView>
@@ -56,6 +57,11 @@ void RecordListController::makeView()
 
     connect(m_page, &RecordListPage::newRequested, this, &RecordListController::newEntry);
     connect(m_page, &RecordListPage::deleteRequested, this, &RecordListController::deleteSelected);
+    m_table->openCell = [this](const QModelIndex &cell) { return displayCalendar(cell); };
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionPressed, this, [] {
+        if (CalendarController::hasSharedInstance())
+            CalendarController::sharedInstance().closeAndSave(false, false);
+    });
     connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, &RecordListController::headerClicked);
     connect(m_selection, &QItemSelectionModel::selectionChanged, this, &RecordListController::selectionDidChange);
     watchModel();
@@ -118,10 +124,10 @@ void RecordListController::showTank(Tank *tank)
 {
     const Container *list = m_model->container();
     const bool another = !tank || !list || list->tank() != tank;
+    if (another && m_rowNeedsSort >= 0) // the tank that goes is left in order
+        m_model->sortContainer();
     const std::span<const RecordColumn> columns = columnsFor(tank);
     if (another) {
-        if (m_rowNeedsSort >= 0) // the tank that goes is left in order
-            m_model->sortContainer();
         m_model->setTank(tank, columns);
         for (int i = 0; i < int(columns.size()); ++i)
             m_table->setColumnWidth(i, ownWidth(columns[std::size_t(i)]));
@@ -175,14 +181,19 @@ QString RecordListController::cellText(const Record &record, int place) const
     return value.toString();
 }
 
-CellMark RecordListController::cellMark(const Record &, int) const
+CellMark RecordListController::cellMark(const Record &, int place) const
 {
-    return {};
+    const RecordColumn &column = m_model->columns()[std::size_t(place)];
+    const bool opensCalendar = column.editable && column.kind == ColumnKind::Date;
+    return {.shape = opensCalendar ? CellMark::Shape::Opens : CellMark::Shape::None};
 }
 
-QString RecordListController::cellToolTip(const Record &, int) const
+QString RecordListController::cellToolTip(const Record &record, int place) const
 {
-    return {};
+    const RecordColumn &column = m_model->columns()[std::size_t(place)];
+    if (!column.editable || column.kind != ColumnKind::Date)
+        return {};
+    return QLocale().toString(valueForKey(record, column.identifier).toDateTime(), QLocale::LongFormat);
 }
 
 // ---- sorting
@@ -270,6 +281,28 @@ bool RecordListController::editCell(int row, int place, const QVariant &value)
     const QString actionName = QLatin1String(m_traits.undoActionName);
     Shell::shared().undoManager().push(new CellEditCommand(*this, std::move(undo), actionName));
     cellEdited(*record, column, changed);
+    return true;
+}
+
+bool RecordListController::displayCalendar(const QModelIndex &cell)
+{
+    const std::shared_ptr<Record> record = cell.isValid() ? m_model->recordAt(cell.row()) : nullptr;
+    if (!record)
+        return false;
+    const RecordColumn &column = m_model->columns()[std::size_t(cell.column())];
+    if (!column.editable || column.kind != ColumnKind::Date)
+        return false;
+    m_table->finishEditing();
+    const QString key = column.identifier.toString();
+    const auto dateChosen = [list = QPointer(this), record, key](const QDateTime &date) {
+        const Container *records = list ? list->m_model->container() : nullptr;
+        const int row = records ? records->indexOf(record.get()) : -1;
+        const int place = list ? list->m_model->columnOf(key) : -1;
+        if (row >= 0 && place >= 0)
+            list->editCell(row, place, date);
+    };
+    CalendarController::sharedInstance().setCalendar(dateChosen, m_table, key, m_table->visualRect(cell),
+                                                     valueForKey(*record, key).toDateTime());
     return true;
 }
 

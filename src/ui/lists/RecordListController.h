@@ -73,6 +73,9 @@ public:
     /// Whether the menu items of a tag can be chosen now.
     [[nodiscard]] virtual bool validateMenuItem(int) const { return true; }
 
+    /// Opens the calendar at an editable date cell; the chosen date is an edit like any other. False for other cells.
+    bool displayCalendar(const QModelIndex &cell);
+
     /// What takes an edit of the field back, as the record is now.
     [[nodiscard]] static UndoDictionary createUndoDictionaryWithData(const std::shared_ptr<Record> &record,
                                                                      const QString &key);

@@ -77,6 +77,7 @@ RecordTableView::RecordTableView(std::function<void()> deletePressed, QWidget *p
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    viewport()->setAttribute(Qt::WA_Hover);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
     // All rows are alike, so that a hundred thousand of them need no measuring.
