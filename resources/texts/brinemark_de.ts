@@ -66,9 +66,11 @@
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Jede nachweisbare Menge Ammoniak ist eine Gefahr, und je höher pH-Wert und Temperatur, desto mehr davon ist giftig. Wechseln Sie jetzt 30 bis 50 Prozent des Wassers gegen aufbereitetes Wasser gleicher Temperatur, füttern Sie ein bis zwei Tage nicht, entfernen Sie tote Tiere und faulende Pflanzen und belüften Sie kräftig. Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist.
+Ammoniak verätzt die Kiemen. Jede nachweisbare Menge ist eine Gefahr, und je höher pH-Wert und Temperatur, desto mehr davon ist giftig. Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist.
 
-Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwasser, setzen Sie keine Tiere ein und testen Sie täglich, bis der Wert null ist. Bleibt er darüber, wiederholen Sie den Wasserwechsel jeden Tag.</translation>
+Ersetzen Sie jetzt ein Drittel bis die Hälfte des Wassers durch aufbereitetes Wasser gleicher Temperatur und möglichst ohne höheren pH-Wert. Füttern Sie ein bis zwei Tage nicht, entfernen Sie tote Tiere und faulende Pflanzen und belüften Sie kräftig.
+
+Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist. Prüfen Sie bis dahin, ob der Filter läuft, spülen Sie sein Material nur in Aquarienwasser und setzen Sie keine Tiere ein.</translation>
     </message>
     <message>
         <source>Analyze</source>
@@ -1405,9 +1407,11 @@ Prüfen Sie, ob der Filter läuft, spülen Sie Filtermaterial nur in Aquarienwas
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrat schadet langsam, Sie haben also Zeit. Wechseln Sie jetzt und dann alle paar Tage 20 bis 30 Prozent des Wassers, bis der Wert im Rahmen liegt, statt alles auf einmal: Tiere, die an viel Nitrat gewöhnt sind, vertragen kein plötzliches Absinken. Testen Sie auch das Leitungswasser, es kann selbst Nitrat enthalten.
+Nitrat ist, was von Futter und Ausscheidungen bleibt, wenn der Filter seine Arbeit getan hat. Es schadet langsam, Sie haben also Zeit: Wechseln Sie jetzt und dann alle paar Tage ein Fünftel bis ein Drittel des Wassers, bis der Wert im Rahmen liegt. Wechseln Sie nicht alles auf einmal, denn Tiere, die an viel Nitrat gewöhnt sind, vertragen ein plötzliches Absinken schlecht. Testen Sie auch das Leitungswasser, es kann selbst Nitrat enthalten.
 
-Damit es so bleibt: weniger füttern, Filter und Boden reinigen, den Besatz gering halten und Pflanzen wachsen lassen, im Meerwasser Makroalgen bei guter Abschäumung. Ist der Wert für die Pflanzen zu niedrig, geben Sie einen Nitratdünger in kleinen Mengen zu.</translation>
+Damit der Wert niedrig bleibt: weniger füttern, den Boden reinigen, den Filter in Aquarienwasser ausspülen, den Besatz gering halten und Pflanzen wachsen lassen, im Meerwasser Makroalgen bei guter Abschäumung.
+
+Zu niedrig für Pflanzen oder Korallen: etwas mehr füttern oder einen Nitratdünger in kleinen Mengen zugeben und vor jeder Gabe testen.</translation>
     </message>
     <message>
         <source>Nitrite</source>
@@ -1428,9 +1432,11 @@ Damit es so bleibt: weniger füttern, Filter und Boden reinigen, den Besatz geri
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrit hindert das Blut daran, Sauerstoff zu transportieren; handeln Sie deshalb noch heute. Wechseln Sie 30 bis 50 Prozent des Wassers gegen aufbereitetes Wasser gleicher Temperatur, füttern Sie ein bis zwei Tage nicht und belüften Sie kräftig.
+Die Bakterien des Filters kommen nicht nach, wie oft in einem neuen Becken. Nitrit hindert das Blut daran, Sauerstoff zu transportieren; handeln Sie deshalb noch heute: Ersetzen Sie ein Drittel bis die Hälfte des Wassers durch aufbereitetes Wasser gleicher Temperatur, füttern Sie ein bis zwei Tage nicht und belüften Sie kräftig.
 
-Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz (Natriumchlorid ohne Jod und Rieselhilfen) auf 10 Liter, in Aquarienwasser gelöst und über mehrere Stunden zugegeben, vertragen fast alle Fische und Pflanzen. Meerwasser enthält bereits genug. Setzen Sie keine Tiere ein, spülen Sie Filtermaterial nur in Aquarienwasser und testen Sie täglich, bis der Wert null ist.</translation>
+Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz (Natriumchlorid ohne Zusätze) auf 10 Liter, in Aquarienwasser gelöst und über mehrere Stunden zugegeben, vertragen fast alle Fische und Pflanzen. Meerwasser enthält bereits genug Chlorid.
+
+Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist. Setzen Sie bis dahin keine Tiere ein und spülen Sie Filtermaterial nur in Aquarienwasser.</translation>
     </message>
     <message>
         <source>NoBrowserMessage</source>
@@ -1576,9 +1582,11 @@ Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz 
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Der pH-Wert sollte sich um höchstens 0,2 bis 0,3 am Tag ändern: Ein beständiger, nicht ganz passender Wert schadet weniger als eine schnelle Korrektur. Messen Sie zuerst Ammoniak und Karbonathärte (KH). Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist; unter etwa 4 Grad KH schwankt der pH-Wert leicht.
+Eine ganze pH-Stufe bedeutet das Zehnfache. Ändern Sie den Wert deshalb um höchstens 0,2 bis 0,3 am Tag: Ein beständiger, nicht ganz passender Wert schadet weniger als eine schnelle Korrektur. Messen Sie zuerst Ammoniak und Karbonathärte (KH). Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist; unter etwa 4 Grad KH schwankt er leicht.
 
-Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des Wassers und heben Sie die KH dann in kleinen Schritten an. Zu hoch: Im Süßwasser weicheres Wasser beimischen, Kohlendioxid oder Torf einsetzen; im Meerwasser, wo 8,0 bis 8,4 üblich sind, vor jedem Zusatz die Alkalinität prüfen. Ein niedriger pH-Wert im Meerwasser verlangt oft nur frische Luft.</translation>
+Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie jeden Tag ein wenig Wasser und heben Sie die KH dann in kleinen Schritten an. Im Meerwasser hilft oft schon frische Luft im Raum.
+
+Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf einsetzen; im Meerwasser, wo 8,0 bis 8,4 üblich sind, vor jedem Zusatz die Alkalinität prüfen.</translation>
     </message>
     <message>
         <source>Phosphate</source>
@@ -1937,9 +1945,11 @@ Zu niedrig: Meist ist die Karbonathärte verbraucht; wechseln Sie einen Teil des
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Bringen Sie die Temperatur langsam zurück, um höchstens etwa 1 Grad Celsius in der Stunde. Vergleichen Sie zuerst mit einem zweiten Thermometer und prüfen Sie, ob der Heizer arbeitet und das Wasser umgewälzt wird.
+Eine plötzliche Änderung schadet den Tieren mehr als ein bis zwei Grad Abweichung. Bringen Sie die Temperatur deshalb um höchstens etwa 1 Grad Celsius in der Stunde zurück. Vergleichen Sie zuerst mit einem zweiten Thermometer und prüfen Sie, ob der Heizer arbeitet und das Wasser umgewälzt wird.
 
-Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventilator über die Oberfläche blasen lassen und belüften, denn warmes Wasser enthält weniger Sauerstoff. Zu kalt: Heizer instand setzen oder ergänzen und das Becken abdecken; ein Wasserwechsel mit etwas wärmerem, aufbereitetem Wasser hilft, im selben Rahmen.</translation>
+Zu warm: Heizer herunterregeln oder ausstecken, Abdeckung öffnen, Licht dämpfen, einen Ventilator über die Oberfläche blasen lassen und belüften, denn warmes Wasser enthält weniger Sauerstoff.
+
+Zu kalt: Heizer instand setzen oder ergänzen und das Becken abdecken; ein Wasserwechsel mit etwas wärmerem, aufbereitetem Wasser hilft, im selben Rahmen.</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -2145,9 +2155,11 @@ Zu warm: Heizer herunterregeln, Abdeckung öffnen, Licht dämpfen, einen Ventila
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Wiederholen Sie den Test, bevor Sie eingreifen. Ändern Sie die Alkalinität dann um höchstens etwa 1 °dKH (18 ppm, 0,36 mmol/l) am Tag und testen Sie auch Calcium und Magnesium, denn die drei hängen voneinander ab.
+Die Alkalinität hält den pH-Wert stabil, und Korallen brauchen sie für ihr Skelett. Wiederholen Sie den Test, bevor Sie eingreifen, und ändern Sie den Wert dann um höchstens etwa 1 °dKH (18 ppm, 0,36 mmol/l) am Tag. Testen Sie auch Calcium und Magnesium, denn die drei hängen voneinander ab.
 
-Zu niedrig: einen Karbonatpuffer wie Natriumhydrogencarbonat in kleinen, in Wasser gelösten Mengen dort zugeben, wo die Strömung stark ist; auch ein Wasserwechsel hilft. Zu hoch: nichts mehr zugeben und den Wert durch Verbrauch und gewöhnliche Wasserwechsel sinken lassen.</translation>
+Zu niedrig: einen Teil des Wassers wechseln oder einen Karbonatpuffer wie Natriumhydrogencarbonat in kleinen, in Wasser gelösten Mengen dort zugeben, wo die Strömung stark ist. Solange Ammoniak nachweisbar ist, warten Sie damit: Ein Puffer hebt den pH-Wert.
+
+Zu hoch: nichts mehr zugeben und den Wert durch Verbrauch und gewöhnliche Wasserwechsel sinken lassen.</translation>
     </message>
     <message>
         <source>iCalAlertMessage</source>
@@ -2162,11 +2174,11 @@ Zu niedrig: einen Karbonatpuffer wie Natriumhydrogencarbonat in kleinen, in Wass
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Wiederholen Sie den Test, bevor Sie eingreifen, und prüfen Sie, ob Test und Zielwert dieselbe Einheit haben. Ändern Sie den Wert dann langsam.
+Ein einzelner Test kann falsch sein: Wiederholen Sie ihn, bevor Sie eingreifen, und prüfen Sie, ob Test und Zielwert dieselbe Einheit haben. Ändern Sie den Wert dann langsam, die Härte um etwa 1 Grad am Tag, die Salinität um höchstens 0,001 der relativen Dichte am Tag.
 
-Zu hoch: täglich 10 bis 20 Prozent des Wassers gegen gut vorbereitetes Wasser wechseln, bis der Wert im Rahmen liegt, und die Ursache suchen. Zu niedrig: das Fehlende in kleinen Mengen nach Anweisung des Herstellers zugeben und vor jeder Gabe testen.
+Zu hoch: täglich ein Zehntel bis ein Fünftel des Wassers durch Wasser mit bekannten Werten ersetzen und die Ursache suchen, etwa Futter, Leitungswasser oder Zusätze. Bei der Salinität Verdunstetes nur mit Süßwasser nachfüllen. Zu niedrig: das Fehlende in kleinen Mengen nach Anweisung des Herstellers zugeben und vor jeder Gabe testen.
 
-Zwei Fälle dulden keinen Aufschub. Bei zu wenig Sauerstoff oder zu viel Kohlendioxid sofort kräftig belüften. Kupfer tötet Wirbellose schon in Spuren: mehr Wasser wechseln und über Aktivkohle filtern.</translation>
+Zwei Fälle dulden keinen Aufschub. Bei zu wenig Sauerstoff oder zu viel Kohlendioxid sofort kräftig belüften und die Kohlendioxidzufuhr abstellen. Kupfer tötet Wirbellose schon in Spuren: ein Drittel bis die Hälfte des Wassers wechseln, über frische Aktivkohle filtern und jedes kupferhaltige Mittel absetzen.</translation>
     </message>
 </context>
 <context>

@@ -66,9 +66,11 @@
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Any ammonia that a test can show is a danger, and the higher the pH and the temperature, the more of it is toxic. Change 30 to 50 per cent of the water now with conditioned water of the same temperature, stop feeding for a day or two, take out dead animals and rotting plants, and aerate strongly. Never raise the pH while ammonia is present.
+Ammonia burns the gills. Any amount that a test can show is a danger, and the higher the pH and the temperature, the more of it is toxic. Never raise the pH while ammonia is present.
 
-See that the filter runs, rinse its media only in tank water, add no animals, and test every day until the value is zero. If it stays above zero, repeat the water change daily.</translation>
+Replace a third to a half of the water now with conditioned water of the same temperature and, if you can, of no higher pH. Stop feeding for a day or two, take out dead animals and rotting plants, and aerate strongly.
+
+Test every day and repeat the water change until the value is zero. Meanwhile see that the filter runs, rinse its media only in tank water, and add no animals.</translation>
     </message>
     <message>
         <source>Analyze</source>
@@ -1405,9 +1407,11 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrate harms slowly, so there is time. Change 20 to 30 per cent of the water now and again every few days until the value is in range, rather than all at once: animals that are used to much nitrate do not bear a sudden drop. Test the tap water too, as it may bring nitrate with it.
+Nitrate is what remains of food and waste when the filter has done its work. It harms slowly, so there is time: change a fifth to a third of the water now and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it.
 
-To keep it down, feed less, clean the filter and the bottom, stock lightly and grow plants, or in a marine tank macroalgae with a good skimmer. If it is too low for the plants, add a nitrate fertiliser in small doses.</translation>
+To keep it down, feed less, clean the bottom, rinse the filter in tank water, stock lightly and grow plants, or in a marine tank macroalgae beside a good skimmer.
+
+Too low for plants or corals: feed a little more, or add a nitrate fertiliser in small doses, testing before each one.</translation>
     </message>
     <message>
         <source>Nitrite</source>
@@ -1428,9 +1432,11 @@ To keep it down, feed less, clean the filter and the bottom, stock lightly and g
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrite keeps the blood from carrying oxygen, so act today. Change 30 to 50 per cent of the water with conditioned water of the same temperature, stop feeding for a day or two and aerate strongly.
+The bacteria of the filter are not keeping up, as often in a new tank. Nitrite keeps the blood from carrying oxygen, so act today: replace a third to a half of the water with conditioned water of the same temperature, stop feeding for a day or two, and aerate strongly.
 
-In fresh water chloride protects fish from nitrite: about 1 gram of pure salt (sodium chloride without iodine or anti-caking agents) to 10 litres, dissolved in tank water and added over several hours, is borne by nearly all fish and plants. Sea water already holds enough. Add no animals, rinse filter media only in tank water, and test every day until the value is zero.</translation>
+In fresh water chloride protects fish from nitrite: nearly all fish and plants tolerate about 1 gram of pure salt (sodium chloride without additives) to 10 litres, dissolved in tank water and added over several hours. Sea water already holds enough chloride.
+
+Test every day and repeat the water change until the value is zero. Meanwhile add no animals, and rinse filter media only in tank water.</translation>
     </message>
     <message>
         <source>NoBrowserMessage</source>
@@ -1576,9 +1582,11 @@ In fresh water chloride protects fish from nitrite: about 1 gram of pure salt (s
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-The pH should not move by more than 0.2 to 0.3 a day: a steady value that is a little off does less harm than a quick correction. Measure ammonia and carbonate hardness (KH) first. Never raise the pH while ammonia is present, and expect the pH to drift easily below about 4 degrees KH.
+A whole step of pH is a tenfold change, so move it by no more than 0.2 to 0.3 a day: a steady value that is a little off does less harm than a quick correction. Measure ammonia and carbonate hardness (KH) first. Never raise the pH while ammonia is present, and expect the pH to swing below about 4 degrees KH.
 
-Too low: the carbonate hardness is usually used up; change some of the water, then raise the KH in small steps. Too high: in fresh water mix in softer water or add carbon dioxide or peat; in a marine tank, where 8.0 to 8.4 is usual, check the alkalinity before you add anything. A low marine pH often only wants fresh air.</translation>
+Too low: the carbonate hardness is usually used up; change a little of the water every day, then raise the KH in small steps. A marine tank often only wants fresh air in the room.
+
+Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in a marine tank, where 8.0 to 8.4 is usual, check the alkalinity before you add anything.</translation>
     </message>
     <message>
         <source>Phosphate</source>
@@ -1937,9 +1945,11 @@ Too low: the carbonate hardness is usually used up; change some of the water, th
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Bring the temperature back slowly, by no more than about 1 degree Celsius an hour. First compare with a second thermometer and see that the heater works and the water circulates.
+A sudden change harms animals more than a degree or two does, so bring the temperature back by no more than about 1 degree Celsius an hour. First compare with a second thermometer, and see that the heater works and the water circulates.
 
-Too warm: turn the heater down, open the lid, dim the light, let a fan blow over the surface, and aerate, because warm water holds less oxygen. Too cold: repair or add a heater and cover the tank; a water change with slightly warmer, conditioned water helps within the same limit.</translation>
+Too warm: turn the heater down or unplug it, open the lid, dim the light, let a fan blow over the surface, and aerate, because warm water holds less oxygen.
+
+Too cold: repair or add a heater and cover the tank; a water change with slightly warmer, conditioned water helps within the same limit.</translation>
     </message>
     <message>
         <source>Temperature</source>
@@ -2145,9 +2155,11 @@ Too warm: turn the heater down, open the lid, dim the light, let a fan blow over
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Repeat the test before you act. Then change the alkalinity by no more than about 1 dKH (18 ppm, 0.36 meq/l) a day, and test calcium and magnesium too, as the three depend on each other.
+Alkalinity keeps the pH steady, and corals need it for their skeletons. Repeat the test before you act, then change the value by no more than about 1 dKH (18 ppm, 0.36 meq/l) a day. Test calcium and magnesium too, as the three depend on each other.
 
-Too low: add a carbonate buffer, such as sodium bicarbonate, in small portions dissolved in water, where the current is strong; a water change also helps. Too high: stop dosing and let use and ordinary water changes bring it down.</translation>
+Too low: change some of the water, or add a carbonate buffer, such as sodium bicarbonate, in small portions dissolved in water, where the current is strong. While ammonia is present, wait: a buffer raises the pH.
+
+Too high: stop dosing, and let use and ordinary water changes bring it down.</translation>
     </message>
     <message>
         <source>iCalAlertMessage</source>
@@ -2162,11 +2174,11 @@ Too low: add a carbonate buffer, such as sodium bicarbonate, in small portions d
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Repeat the test before you act, and check that test and target use the same unit. Then move the value slowly.
+One test can be wrong: repeat it before you act, and check that test and target use the same unit. Then move the value slowly, hardness by about 1 degree a day, salinity by no more than 0.001 of specific gravity a day.
 
-Too high: change 10 to 20 per cent of the water a day with well-prepared water until it is in range, and look for the source. Too low: add what is missing in small doses as its maker directs, testing before each one.
+Too high: replace a tenth to a fifth of the water a day with water whose values you know, and look for the source, such as food, tap water or dosing. For salinity, make up what has evaporated with fresh water only. Too low: add what is missing in small doses as its maker directs, testing before each one.
 
-Two cases cannot wait. When oxygen is short or carbon dioxide too high, aerate strongly at once. Copper kills invertebrates even in traces: change more of the water and filter over activated carbon.</translation>
+Two cases cannot wait. When oxygen is short or carbon dioxide too high, aerate strongly and turn off the carbon dioxide supply at once. Copper kills invertebrates even in traces: change a third to a half of the water, filter over fresh activated carbon, and stop every remedy that holds copper.</translation>
     </message>
 </context>
 <context>

@@ -4,15 +4,6 @@
 <context>
     <name>Default</name>
     <message>
-        <source>AmmoniaTreatment</source>
-        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
-        <translation>
-
-Any ammonia that a test can show is a danger, and the higher the pH and the temperature, the more of it is toxic. Change 30 to 50 percent of the water now with conditioned water of the same temperature, stop feeding for a day or two, take out dead animals and rotting plants, and aerate strongly. Never raise the pH while ammonia is present.
-
-See that the filter runs, rinse its media only in tank water, add no animals, and test every day until the value is zero. If it stays above zero, repeat the water change daily.</translation>
-    </message>
-    <message>
         <source>Analyze</source>
         <translation>Analyze…</translation>
     </message>
@@ -52,18 +43,22 @@ See that the filter runs, rinse its media only in tank water, add no animals, an
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrate harms slowly, so there is time. Change 20 to 30 percent of the water now and again every few days until the value is in range, rather than all at once: animals that are used to much nitrate do not bear a sudden drop. Test the tap water too, as it may bring nitrate with it.
+Nitrate is what remains of food and waste when the filter has done its work. It harms slowly, so there is time: change a fifth to a third of the water now and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it.
 
-To keep it down, feed less, clean the filter and the substrate, stock lightly and grow plants, or in a saltwater tank macroalgae with a good skimmer. If it is too low for the plants, add a nitrate fertilizer in small doses.</translation>
+To keep it down, feed less, clean the substrate, rinse the filter in tank water, stock lightly and grow plants, or in a saltwater tank macroalgae beside a good skimmer.
+
+Too low for plants or corals: feed a little more, or add a nitrate fertilizer in small doses, testing before each one.</translation>
     </message>
     <message>
         <source>NitriteTreatment</source>
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrite keeps the blood from carrying oxygen, so act today. Change 30 to 50 percent of the water with conditioned water of the same temperature, stop feeding for a day or two and aerate strongly.
+The bacteria of the filter are not keeping up, as often in a new tank. Nitrite keeps the blood from carrying oxygen, so act today: replace a third to a half of the water with conditioned water of the same temperature, stop feeding for a day or two, and aerate strongly.
 
-In fresh water chloride protects fish from nitrite: about 4 grams (two thirds of a teaspoon) of pure salt (sodium chloride without iodine or anti-caking agents) to 10 gallons, dissolved in tank water and added over several hours, is borne by nearly all fish and plants. Salt water already holds enough. Add no animals, rinse filter media only in tank water, and test every day until the value is zero.</translation>
+In fresh water chloride protects fish from nitrite: nearly all fish and plants tolerate about 4 grams (two thirds of a teaspoon) of pure salt (sodium chloride without additives) to 10 gallons, dissolved in tank water and added over several hours. Salt water already holds enough chloride.
+
+Test every day and repeat the water change until the value is zero. Meanwhile add no animals, and rinse filter media only in tank water.</translation>
     </message>
     <message>
         <source>SurfaceMenu</source>
@@ -84,9 +79,11 @@ In fresh water chloride protects fish from nitrite: about 4 grams (two thirds of
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Bring the temperature back slowly, by no more than about 2 degrees Fahrenheit an hour. First compare with a second thermometer and see that the heater works and the water circulates.
+A sudden change harms animals more than a few degrees do, so bring the temperature back by no more than about 2 degrees Fahrenheit an hour. First compare with a second thermometer, and see that the heater works and the water circulates.
 
-Too warm: turn the heater down, open the lid, dim the light, let a fan blow over the surface, and aerate, because warm water holds less oxygen. Too cold: repair or add a heater and cover the tank; a water change with slightly warmer, conditioned water helps within the same limit.</translation>
+Too warm: turn the heater down or unplug it, open the lid, dim the light, let a fan blow over the surface, and aerate, because warm water holds less oxygen.
+
+Too cold: repair or add a heater and cover the tank; a water change with slightly warmer, conditioned water helps within the same limit.</translation>
     </message>
     <message>
         <source>ToolbarCustomise</source>
@@ -100,17 +97,6 @@ Too warm: turn the heater down, open the lid, dim the light, let a fan blow over
         <source>VolumeMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>Imperial gallons to US gallons, Imperial gallons to liters, Liters to imperial gallons, Liters to US gallons, US gallons to liters, US gallons to US quarts</translation>
-    </message>
-    <message>
-        <source>ppmTreatment</source>
-        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
-        <translation>
-
-Repeat the test before you act, and check that test and target use the same unit. Then move the value slowly.
-
-Too high: change 10 to 20 percent of the water a day with well-prepared water until it is in range, and look for the source. Too low: add what is missing in small doses as its maker directs, testing before each one.
-
-Two cases cannot wait. When oxygen is short or carbon dioxide too high, aerate strongly at once. Copper kills invertebrates even in traces: change more of the water and filter over activated carbon.</translation>
     </message>
 </context>
 </TS>

@@ -38,6 +38,8 @@ private Q_SLOTS:
         row("above the band", 7.0, 0.2, 7.3, high, QStringLiteral("HighValueMessage"), 7.2F);
         row("on the lower limit", 7.0, 0.2, 6.8, none, none, 0.0F);
         row("on the upper limit", 7.0, 0.2, 7.2, none, none, 0.0F);
+        row("the next number above it", 7.0, 0.2, double(std::nextafter(7.2F, 8.0F)), high,
+            QStringLiteral("HighValueMessage"), 7.2F);
         row("beyond it in double precision only", 7.0, 0.2, 7.20000001, none, none, 0.0F);
         row("below a single value", 25.0, -1.0, 24.0, low, equal, 25.0F);
         row("above a single value", 25.0, -1.0, 25.5, high, equal, 25.0F);
@@ -94,20 +96,37 @@ private Q_SLOTS:
             {Parameter::Ammonia, QStringLiteral("AmmoniaTreatment")},
             {Parameter::Alkalinity, QStringLiteral("genericTreatment")},
         };
-        for (const char *language : {"en", "de"}) {
+        QHash<Parameter, QString> english;
+        for (const char *language : {"en", "en_US", "de"}) {
             setTextLanguages({QString::fromLatin1(language)});
             const auto tank = std::make_shared<Tank>(QStringLiteral("Tank"));
             for (const ParameterTraits &traits : parameterTable) {
                 TankData &target = *tank->target(traits.parameter);
                 target.warningOn = true;
                 target.deviationOn = false;
-                const auto warning = targetWarning(*tank, traits.identifier, double(target.preferredValue) + 1, QStringLiteral("it"));
+                const auto warning =
+                    targetWarning(*tank, traits.identifier, double(target.preferredValue) + 1, QStringLiteral("it"));
                 QVERIFY(warning);
                 const QString treatment = textOf(own.value(traits.parameter, QStringLiteral("ppmTreatment")));
                 QVERIFY(treatment.size() > 100);
                 QVERIFY(warning->message.endsWith(treatment));
                 QVERIFY(!warning->message.contains(u'%')); // alerts take it for a format
+                for (const QString &paragraph : treatment.split(QStringLiteral("\n\n")))
+                    QVERIFY2(paragraph.size() < 500, qPrintable(paragraph)); // an alert is no place for a wall of text
+                if (qstrcmp(language, "de") == 0)
+                    QVERIFY(treatment != english.value(traits.parameter));
+                english.insert(traits.parameter, treatment);
             }
+        }
+    }
+
+    void placeholders()
+    {
+        for (const char *language : {"en", "en_US", "de"}) {
+            setTextLanguages({QString::fromLatin1(language)});
+            for (const TextKey key : {"LowValueTitle"_key, "HighValueTitle"_key, "LowValueMessage"_key,
+                                      "HighValueMessage"_key, "EqualValueMessage"_key})
+                QCOMPARE(text(key).count(QStringLiteral("^0")), 1);
         }
     }
 
