@@ -86,6 +86,11 @@ bool CalendarController::isOpen() const
     return m_popup != nullptr;
 }
 
+QTableView *CalendarController::table() const
+{
+    return qobject_cast<QTableView *>(m_table.data());
+}
+
 void CalendarController::watchTable()
 {
     m_watch = std::make_unique<QObject>();
@@ -107,17 +112,17 @@ void CalendarController::closeAndSave(bool save, bool fade)
 {
     const auto target = std::exchange(m_target, {});
     const QPointer<CalendarPopup> popup = std::exchange(m_popup, {});
-    const QPointer<QTableView> table = std::exchange(m_table, {});
+    const QPointer<QWidget> widget = std::exchange(m_table, {});
     const QPointer<QAbstractItemModel> model = std::exchange(m_model, {});
     m_columnIdentifier.clear();
     m_watch.reset();
-    if (table)
-        table->removeEventFilter(this);
+    if (widget)
+        widget->removeEventFilter(this);
     if (!popup)
         return;
 
-    // A table that goes is abandoned, and may not be asked any more.
-    const bool isInPlace = (save || fade) && table && model && table->model() == model;
+    auto *table = qobject_cast<QTableView *>(widget.data());
+    const bool isInPlace = table && model && table->model() == model;
     const QDateTime chosen = save && isInPlace && popup->isChanged() ? popup->date() : QDateTime();
     popup->disconnect();
     if (fade && isInPlace)
@@ -130,9 +135,9 @@ void CalendarController::closeAndSave(bool save, bool fade)
 
 void CalendarController::leave(QPoint globalPoint)
 {
-    if (!m_popup || !m_table)
+    if (!m_popup || !table())
         return;
-    if (isAt(m_table->horizontalHeader(), globalPoint)) {
+    if (isAt(table()->horizontalHeader(), globalPoint)) {
         closeAndSave(false, false);
         return;
     }

@@ -52,7 +52,7 @@ public:
     [[nodiscard]] bool isOpen() const;
     /// The column and table that the calendar is open at; empty and null when it is not.
     [[nodiscard]] QString columnIdentifier() const { return m_columnIdentifier; }
-    [[nodiscard]] QTableView *table() const { return m_table; }
+    [[nodiscard]] QTableView *table() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -63,7 +63,7 @@ private:
     void leave(QPoint globalPoint);
 
     QPointer<CalendarPopup> m_popup; ///< belongs to the table
-    QPointer<QTableView> m_table;
+    QPointer<QWidget> m_table;       ///< a widget, because a table that is being destroyed is no table any more
     QPointer<QAbstractItemModel> m_model;
     std::unique_ptr<QObject> m_watch; ///< holds the connections of one opening
     std::function<void(const QDateTime &)> m_target;
