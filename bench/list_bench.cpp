@@ -20,7 +20,7 @@ std::shared_ptr<Tank> tankOf(int tests)
     auto tank = std::make_shared<Tank>(QStringLiteral("Reef"));
     for (int i = 0; i < tests; ++i) {
         auto record = std::make_shared<ConditionData>(tank.get());
-        record->date = QDateTime(QDate(2000, 1, 1), QTime(9, 0)).addDays(i);
+        record->date = QDateTime(QDate(2000, 1, 1).addDays(i), QTime(9, 0), Qt::OffsetFromUTC, 3600); // as read
         record->ph = 7.0F + float(i * 7919 % 1000) / 1000; // in no order
         record->temp = 25;
         tank->condition()->appendRecord(record);

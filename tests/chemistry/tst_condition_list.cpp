@@ -144,12 +144,14 @@ private Q_SLOTS:
         controller.showCustomizeConditionColumns();
         auto *window = m_shell->window.findChild<QDialog *>(QStringLiteral("customColumnWindow"));
         QVERIFY(window && window->isVisible());
+        controller.table()->selectRow(2);
         auto *iron = window->findChild<QCheckBox *>(QStringLiteral("column.iron"));
         QVERIFY(!iron->isChecked());
         iron->click();
         QCOMPARE(storedIdentifiers(controller), QStringList({"date", "ph", "iron"}));
         QVERIFY(controller.table()->columnWidth(1) < 300); // no longer the one that fills the table
         QVERIFY(controller.isColumnVisible(32));
+        QCOMPARE(test::selectedRows(controller.table()), QList<int>{2});
         window->findChild<QCheckBox *>(QStringLiteral("column.date"))->click();
         QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
         controller.toogleConditionColumn(36); // no such column

@@ -2,6 +2,7 @@
 
 #include "chemistry/ConditionColumns.h"
 #include "chemistry/TargetCheck.h"
+#include "chemistry/views/CheckedCellDelegate.h"
 #include "chemistry/views/ConditionColumnWindow.h"
 #include "chemistry/views/ConditionExport.h"
 #include "chemistry/views/GraphController.h"
@@ -63,6 +64,13 @@ ConditionListController::~ConditionListController()
 void ConditionListController::viewMade()
 {
     m_columns.setTable(*table());
+    table()->setItemDelegate(new CheckedCellDelegate(
+        [this](const QModelIndex &cell) -> const SFCheckedFormatter * {
+            const ConditionTableColumns::Column &column = m_columns.at(cell.column());
+            return column.parameter ? &column.formatter : nullptr;
+        },
+        table()));
+
     auto *corner = new HeaderCornerButton(*table(), "Ellipse", text("Customize condition columns"));
     corner->setObjectName(QStringLiteral("columnsButton"));
     connect(corner, &QToolButton::clicked, this, &ConditionListController::showCustomizeConditionColumns);
@@ -220,6 +228,8 @@ void ConditionListController::toogleConditionColumn(int tag)
         return;
     table()->finishEditing();
     m_columns.toggleColumnWithTag(tag, true);
+    QItemSelectionModel &selection = *table()->selectionModel();
+    selection.select(selection.selection(), QItemSelectionModel::Select | QItemSelectionModel::Rows); // as wide as now
     updateColumnInfo();
     updateDisplay();
 }

@@ -74,13 +74,13 @@ void RecordListController::watchModel()
 {
     // Whatever moves or removes rows leaves nothing to be sorted later, or another row.
     const auto forget = [this] { setRowNeedsSort(-1); };
-    connect(m_model, &QAbstractItemModel::layoutChanged, this, forget);
+    connect(m_model, &QAbstractItemModel::layoutChanged, m_page, forget);
     // A reset takes the selection away without saying so; rows that come and go may empty the table.
     for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
-        connect(m_model, signal, this, forget);
-        connect(m_model, signal, this, &RecordListController::showEmptyState);
+        connect(m_model, signal, m_page, forget);
+        connect(m_model, signal, m_page, [this] { showEmptyState(); });
     }
-    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+    connect(m_model, &QAbstractItemModel::modelReset, m_page, [this] {
         setRowNeedsSort(-1);
         showEmptyState();
         selectionDidChange();
@@ -124,6 +124,8 @@ void RecordListController::showTank(Tank *tank)
 {
     const Container *list = m_model->container();
     const bool another = !tank || !list || list->tank() != tank;
+    if (another)
+        m_table->finishEditing();
     if (another && m_rowNeedsSort >= 0) // the tank that goes is left in order
         m_model->sortContainer();
     const std::span<const RecordColumn> columns = columnsFor(tank);

@@ -201,6 +201,7 @@ QVariant RecordTableModel::data(const QModelIndex &index, int role) const
     case CellMarkRole:
         return QVariant::fromValue(m_cells.cellMark(*record, index.column()));
     case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
         if (const QString toolTip = m_cells.cellToolTip(*record, index.column()); !toolTip.isNull())
             return toolTip;
         return {};

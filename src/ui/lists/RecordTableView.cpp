@@ -119,6 +119,10 @@ void RecordTableView::keyPressEvent(QKeyEvent *event)
     }
     if (plain && (key == Qt::Key_F2 || key == Qt::Key_Space) && openCell && openCell(currentIndex()))
         return;
+    if (plain && key == Qt::Key_Space && currentIndex().flags().testFlag(Qt::ItemIsEditable)) {
+        edit(currentIndex()); // as it is, without a blank typed into it
+        return;
+    }
     RecordSelectionModel *selection = recordSelection();
     if (selection)
         selection->beginGesture();
