@@ -2,11 +2,11 @@
 #include "base/Product.h"
 #include "base/text/Texts.h"
 #include "support/AppFixture.h"
+#include "support/Python.h"
 #include "ui/MainView.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QUndoStack>
 
 using namespace brinemark;
@@ -210,8 +210,6 @@ private Q_SLOTS:
 
     void roundTrip()
     {
-        const QString python = QStandardPaths::findExecutable("python3");
-        QVERIFY2(!python.isEmpty(), "this test reads the file with python3");
         Program program;
         const QString sample = QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml");
         program.start(sample);
@@ -221,13 +219,12 @@ private Q_SLOTS:
         const QString saved = program.filePath("saved.xml");
         QVERIFY(answerPanel("savePanel", saved));
 
-        QProcess process;
-        process.start(python, {QStringLiteral(BRINEMARK_SOURCE_DIR "/tests/model/compare-tank-files"), sample, saved});
-        QVERIFY(process.waitForFinished());
+        const PythonRun python =
+            runPython({QStringLiteral(BRINEMARK_SOURCE_DIR "/tests/model/compare-tank-files"), sample, saved});
         const QString version = QString::number(product::packedVersion(product::shortVersion()));
-        QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()).trimmed(),
+        QCOMPARE(QString::fromUtf8(python.output).trimmed(),
                  "/FileAttributes/SelectedRow: 0 became 4\n/FileAttributes/bundleVersion: 16777216 became " + version);
-        QCOMPARE(process.readAllStandardError(), QByteArray());
+        QCOMPARE(python.errors, QByteArray());
     }
 };
 

@@ -2,9 +2,9 @@
 #include "base/plist/XmlReader.h"
 #include "base/plist/XmlWriter.h"
 #include "support/DataRow.h"
+#include "support/Python.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QStringEncoder>
 #include <QTest>
@@ -108,15 +108,10 @@ class PlistTest : public QObject
                             "    return v.hex() if isinstance(v, bytes) else v.isoformat()\n"
                             "root = plistlib.loads(sys.stdin.buffer.read())\n"
                             "print(json.dumps(root, default=plain, sort_keys=True), end='')\n"_qs;
-        QProcess python;
-        python.start(u"python3"_qs, {u"-c"_qs, script});
-        QVERIFY2(python.waitForStarted(), "python3 is needed as a second reader");
-        python.write(writeXml(root));
-        python.closeWriteChannel();
-        QVERIFY(python.waitForFinished());
-        QCOMPARE(python.readAllStandardError(), QByteArray());
+        const brinemark::test::PythonRun python = brinemark::test::runPython({u"-c"_qs, script}, writeXml(root));
+        QCOMPARE(python.errors, QByteArray());
         QCOMPARE(
-            python.readAllStandardOutput(),
+            python.output,
             QByteArray("{\"cr\": \"a\\rb\\r\\n\", \"data\": \"" + everyByte().toHex() +
                        "\", \"date\": \"1999-12-31T00:00:01\", \"deep\": [[[{\"\\ud83d\\udc20<&>\": \"616263\"}]]], "
                        "\"dropped\": \"abcd\", \"empty\": [{}, [], \"\", \"\"], "

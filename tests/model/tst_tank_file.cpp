@@ -4,11 +4,11 @@
 #include "base/plist/XmlWriter.h"
 #include "model/TankFile.h"
 #include "support/Files.h"
+#include "support/Python.h"
 
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
 using namespace brinemark;
 using brinemark::test::bytesOf;
@@ -152,11 +152,9 @@ private Q_SLOTS:
         QVERIFY(writeTankDictionary(saved, tankFileDictionary(document.tanks, document.result.selectedRow,
                                                               *document.tank(0).bundleVersion))
                     .ok);
-        QProcess python;
-        python.start(QStringLiteral("python3"),
-                     {QStringLiteral(BRINEMARK_TEST_DATA "/../model/compare-tank-files"), path, saved});
-        QVERIFY(python.waitForFinished(60'000));
-        QVERIFY2(python.exitCode() == 0, (python.readAllStandardOutput() + python.readAllStandardError()).constData());
+        const test::PythonRun python =
+            test::runPython({QStringLiteral(BRINEMARK_TEST_DATA "/../model/compare-tank-files"), path, saved});
+        QVERIFY2(python.exitCode == 0, (python.output + python.errors).constData());
     }
 
     void keysFromBeforeAParameter()
@@ -417,4 +415,5 @@ int main(int argc, char **argv)
     return brinemark::test::run<QGuiApplication, TankFileTest>(argc, argv);
 }
 #include "support/Files.h"
+#include "support/Python.h"
 #include "tst_tank_file.moc"

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QStringList>
+
+namespace brinemark::test
+{
+
+/// What a run of python3 left: the witness of tests about formats that other programs read.
+struct PythonRun {
+    int exitCode = -1; ///< -1 when it did not run to its end
+    QByteArray output;
+    QByteArray errors;
+};
+
+/// Runs python3 ("-c" and a program, or a script and its arguments) with `input` as its standard input.
+inline PythonRun runPython(const QStringList &arguments, const QByteArray &input = {})
+{
+    QProcess python;
+    python.start(QStringLiteral("python3"), arguments);
+    if (!python.waitForStarted())
+        return {-1, {}, "python3 is needed: " + python.errorString().toUtf8()};
+    python.write(input);
+    python.closeWriteChannel();
+    const bool ended = python.waitForFinished(60'000) && python.exitStatus() == QProcess::NormalExit;
+    return {ended ? python.exitCode() : -1, python.readAllStandardOutput(), python.readAllStandardError()};
+}
+
+} // namespace brinemark::test
