@@ -1,6 +1,5 @@
 #include "chemistry/ConditionCsv.h"
 
-#include "base/text/DateText.h"
 #include "base/text/NumberText.h"
 #include "model/RecordFields.h"
 
@@ -17,15 +16,20 @@ namespace
 constexpr QChar separator = u',';
 constexpr QChar lineEnd = u'\r';
 
+QString csvField(const QString &text)
+{
+    return text.contains(separator) ? u'"' + text + u'"' : text;
+}
+
 using Member = Field<ConditionData>::Member;
 
-/// Writes fields of a log. Texts of dates and numbers are kept: a log of years repeats most of them, and the user's
-/// date format is looked up once.
+/// Writes fields of a log. Texts of dates and numbers are kept: a log of years repeats most of them.
 class FieldWriter
 {
 public:
-    explicit FieldWriter(QString &out)
+    FieldWriter(QString &out, QString dateFormat)
         : m_out(out)
+        , m_dateFormat(std::move(dateFormat))
     {
     }
 
@@ -60,19 +64,14 @@ public:
 
 private:
     QString &m_out;
-    QString m_dateFormat = dateFormatterForLocale();
+    QString m_dateFormat;
     QHash<QDate, QString> m_days;
     QHash<float, QString> m_numbers;
 };
 
 } // namespace
 
-QString csvField(const QString &text)
-{
-    return text.contains(separator) ? u'"' + text + u'"' : text;
-}
-
-QByteArray conditionCsv(const Condition &log, const std::vector<CsvColumn> &columns)
+QByteArray conditionCsv(const Condition &log, const std::vector<CsvColumn> &columns, const QString &dateFormat)
 {
     constexpr qsizetype usualFieldLength = 6;
     QString out;
@@ -87,7 +86,7 @@ QByteArray conditionCsv(const Condition &log, const std::vector<CsvColumn> &colu
     }
     out += lineEnd;
 
-    FieldWriter writer(out);
+    FieldWriter writer(out, dateFormat);
     for (const std::shared_ptr<ConditionData> &test : log.conditionArray()) {
         for (std::size_t i = 0; i < members.size(); ++i) {
             if (i > 0)

@@ -1,12 +1,19 @@
 #include "chemistry/ConditionCsv.h"
 
 #include "base/text/DateText.h"
+#include "chemistry/ConditionColumns.h"
 #include "model/KeyAccess.h"
 #include "model/Tank.h"
 #include "support/DataRow.h"
+#include "support/Python.h"
 #include "support/RunTest.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <random>
 
 using namespace brinemark;
 using test::row;
@@ -80,12 +87,76 @@ private Q_SLOTS:
                  QByteArray("a,\"b\"\r7.2\r7.2\r")); // headers are not quoted
     }
 
-    /// No locale of the toolkit writes short dates so, but a desktop's own settings can.
     void fieldsWithCommas()
     {
-        QCOMPARE(csvField(QStringLiteral("Feb 9, 2026")), QStringLiteral("\"Feb 9, 2026\""));
-        QCOMPARE(csvField(QStringLiteral("9, \"b\"")), QStringLiteral("\"9, \"b\"\""));
-        QCOMPARE(csvField(QStringLiteral("02/09/26")), QStringLiteral("02/09/26"));
+        Tank tank(QStringLiteral("Tank"));
+        auto test = std::make_shared<ConditionData>(&tank);
+        test->date = noonOf(2026, 2, 9);
+        tank.condition()->appendRecord(test);
+        const auto dated = [&](const char *format) {
+            return conditionCsv(*tank.condition(), {column("date")}, QString::fromLatin1(format));
+        };
+        QCOMPARE(dated("%1d, %1m, %Y"), QByteArray("DATE\r\"9, 2, 2026\"\r"));
+        QCOMPARE(dated("%1d, \"%m\""), QByteArray("DATE\r\"9, \"02\"\"\r"));
+        QCOMPARE(dated("\"%d\""), QByteArray("DATE\r\"09\"\r"));
+    }
+
+    void asPythonWritesIt_data()
+    {
+        QTest::addColumn<QString>("format");
+        row("the user's dates", dateFormatterForLocale());
+        row("dates with commas", QStringLiteral("%1d, %m, %Y"));
+    }
+    void asPythonWritesIt()
+    {
+        QFETCH(QString, format);
+        std::minstd_rand random(5);
+        Tank tank(QStringLiteral("Tank"));
+        std::vector<CsvColumn> columns;
+        QJsonArray headers;
+        for (const ConditionColumnTraits &traits : conditionColumnTable) {
+            columns.push_back({traits.identifier.toString(), text(traits.headerKey)});
+            headers << columns.back().header;
+        }
+        QJsonArray tests;
+        for (int i = 0; i < 2000; ++i) {
+            auto test = std::make_shared<ConditionData>(&tank);
+            test->date = noonOf(1990, 1, 1).addDays(qint64(random() % 15'000));
+            QJsonArray values;
+            for (const ConditionColumnTraits &traits : conditionColumnTable) {
+                if (traits.identifier == u"date") {
+                    values << test->date.date().toString(Qt::ISODate);
+                    continue;
+                }
+                if (random() % 3 > 0)
+                    setValueForKey(*test, traits.identifier, double(random() % 4'000'000) / 1000 - 2);
+                values << valueForKey(*test, traits.identifier).toDouble(); // as it is kept: single or whole
+            }
+            tank.condition()->appendRecord(test);
+            tests << values;
+        }
+        // "%1d" is ours, "%-d" the other's, for a day without a leading zero.
+        const QJsonObject log{{QStringLiteral("format"), QString(format).replace(u"%1"_qs, u"%-"_qs)},
+                              {QStringLiteral("headers"), headers},
+                              {QStringLiteral("tests"), tests}};
+        const auto script = u"import csv, datetime, io, json, sys\n"
+                            "log = json.load(sys.stdin)\n"
+                            "def field(value):\n"
+                            "    if isinstance(value, str):\n"
+                            "        return datetime.date.fromisoformat(value).strftime(log['format'])\n"
+                            "    return '' if int(value) < 0 else '%.7g' % value\n"
+                            "out = io.TextIOWrapper(sys.stdout.buffer, 'utf-8', newline='')\n"
+                            "writer = csv.writer(out, lineterminator='\\r')\n"
+                            "writer.writerow(log['headers'])\n"
+                            "writer.writerows([field(value) for value in test] for test in log['tests'])\n"_qs;
+        const test::PythonRun python = test::runPython({u"-c"_qs, script}, QJsonDocument(log).toJson());
+        QCOMPARE(python.errors, QByteArray());
+        const QList<QByteArray> ours = conditionCsv(*tank.condition(), columns, format).split('\r');
+        const QList<QByteArray> theirs = python.output.split('\r');
+        for (qsizetype i = 0; i < std::min(ours.size(), theirs.size()); ++i)
+            QCOMPARE(ours.at(i), theirs.at(i));
+        QCOMPARE(ours.size(), 2002); // the headers, and what follows the last line's end
+        QCOMPARE(theirs.size(), ours.size());
     }
 
     /// The day of a test is that of its own zone, not of the computer's.
