@@ -92,12 +92,14 @@ QString fileNameFor(const QString &text)
     constexpr qsizetype longest = 200; // bytes; file systems take 255, the suffix included
     QString name;
     for (const QChar c : text.simplified()) {
+        if (name.isEmpty() && (c == u'.' || c == u' '))
+            continue;
+        if (name.size() == longest)
+            break;
         const bool reserved = c.unicode() < 32 || c.unicode() == 127 || QStringView(u"/\\:*?\"<>|").contains(c);
         name += reserved ? QChar(u'-') : c;
     }
-    while (name.startsWith(u'.'))
-        name.remove(0, 1);
-    while (name.toUtf8().size() > longest)
+    while (name.toUtf8().size() > longest || (!name.isEmpty() && name.back().isHighSurrogate()))
         name.chop(name.back().isLowSurrogate() ? 2 : 1);
     name = name.trimmed();
     return name.isEmpty() ? QStringLiteral("-") : name;

@@ -1,6 +1,7 @@
 #include "base/SafeFile.h"
 #include "support/DataRow.h"
 #include "support/Files.h"
+#include "support/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,8 +11,6 @@
 #include <QTest>
 
 #ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #endif
 
@@ -139,16 +138,12 @@ private Q_SLOTS:
     {
 #ifdef Q_OS_UNIX
         QVERIFY(writeFile(path("tanks.xml"), "old and good"));
-        rlimit before{};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-        rlimit small = before;
-        small.rlim_cur = 64 * 1024;
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write")));
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-        const WriteResult written = writeFileSafely(path("tanks.xml"), QByteArray(1'000'000, 'x'));
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
-        std::signal(SIGXFSZ, handler);
+        WriteResult written;
+        {
+            const brinemark::test::FullDisk disk;
+            written = writeFileSafely(path("tanks.xml"), QByteArray(1'000'000, 'x'));
+        }
         QVERIFY(!written.ok);
         QVERIFY(!written.error.isEmpty());
         QCOMPARE(bytesOf(path("tanks.xml")), QByteArray("old and good"));

@@ -2,32 +2,19 @@
 
 #include "base/text/Texts.h"
 #include "model/Tank.h"
+#include "support/AlertDriver.h"
 #include "support/DataRow.h"
 #include "support/Files.h"
+#include "support/FullDisk.h"
+#include "support/PanelDriver.h"
 #include "support/RunTest.h"
 #include "ui/SavePanel.h"
 
-#include <QApplication>
-#include <QLineEdit>
+#include <QScopeGuard>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace brinemark;
 using test::row;
-
-namespace
-{
-
-SavePanel *shownPanel()
-{
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->objectName() == u"exportPanel")
-            return qobject_cast<SavePanel *>(window);
-    }
-    return nullptr;
-}
-
-} // namespace
 
 class TestConditionExport : public QObject
 {
@@ -40,99 +27,132 @@ private Q_SLOTS:
         m_window->show();
         m_folder = std::make_unique<QTemporaryDir>();
         m_tank = std::make_shared<Tank>(QStringLiteral("Reef 2.5"));
-        auto test = std::make_shared<ConditionData>(m_tank.get());
-        test->ph = 8.2F;
-        m_tank->condition()->appendRecord(test);
+        addTest(8.2F);
     }
 
-    void writesUnderTheSuffix_data()
+    void writesTheLog_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("written");
+        QTest::addColumn<bool>("there");
+        row("a new file", false);
+        row("over one that is there", true);
+    }
+    void writesTheLog()
+    {
+        QFETCH(bool, there);
+        const QString path = m_folder->filePath(QStringLiteral("log.csv"));
+        if (there) {
+            QVERIFY(test::writeFile(path, "old and longer than what comes"));
+            test::onNextQuestion(QMessageBox::Yes);
+        }
+        begin();
+        addTest(8.4F); // what is exported is what the log holds when the panel is answered
+        QVERIFY(test::answerPanel("exportPanel", m_folder->filePath(QStringLiteral("log"))));
+        QCOMPARE(test::bytesOf(path), QByteArray("pH\r8.2\r8.4\r"));
+        QCOMPARE(entries(), QStringList{"log.csv"});
+    }
+
+    void proposesTheTanksName_data()
+    {
+        QTest::addColumn<QString>("tank");
         using S = QString;
-        row("without a suffix", S("log"), S("log.csv"));
-        row("with it", S("log.csv"), S("log.csv"));
-        row("in capitals", S("log.CSV"), S("log.CSV"));
-        row("a full stop in the name", S("Reef 2.5"), S("Reef 2.5.csv"));
+        row("plain", S("Reef 2.5"));
+        row("folders", S("../a/b:c"));
+        row("hidden", S(".Reef"));
+        row("a nul character", S("Reef") + QChar(0) + S("2"));
+        row("long", S(300, u'x'));
+        row("a format", S("%@ %i"));
     }
-    void writesUnderTheSuffix()
-    {
-        QFETCH(QString, typed);
-        QFETCH(QString, written);
-        exportTo(m_folder->filePath(typed));
-        QTRY_COMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{written});
-        QCOMPARE(test::bytesOf(m_folder->filePath(written)), QByteArray("pH\r8.2\r"));
-    }
-
+    /// Whatever the tank is called: the proposal can be accepted as it is, in the documents folder.
     void proposesTheTanksName()
     {
+        QFETCH(QString, tank);
+        m_tank->name = tank;
+        const QString documents = QDir::homePath() + QStringLiteral("/Documents");
+        const auto cleanUp = qScopeGuard([&] { QDir(documents).removeRecursively(); });
+        QVERIFY(QDir().mkpath(documents));
         begin();
-        QCOMPARE(shownPanel()->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text(),
-                 formatText(text("ExportName"), {m_tank->name}));
-        shownPanel()->reject();
+        auto *panel = test::awaitWindow<SavePanel>("exportPanel");
+        QVERIFY(panel);
+        QCOMPARE(panel->windowTitle(), text("ExportMessage"));
+        QMetaObject::invokeMethod(panel, "accept");
+        QCoreApplication::processEvents();
+        const QString name = fileNameFor(formatText(text("ExportName"), {tank})) + QStringLiteral(".csv");
+        QCOMPARE(QDir(documents).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList{name});
     }
 
-    /// Where nothing can be written, what was there stays, and nobody is told.
-    void failureLeavesNothing()
+    void failuresLeaveWhatWasThere_data()
     {
-        const QString blocked = m_folder->filePath(QStringLiteral("file"));
-        QVERIFY(test::writeFile(blocked, "old"));
-        exportTo(blocked + QStringLiteral("/log.csv"));
-        QCoreApplication::processEvents();
-        if (auto *question = QApplication::activeModalWidget())
-            question->close();
-        if (shownPanel())
-            shownPanel()->reject();
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"file"});
-        QCOMPARE(test::bytesOf(blocked), QByteArray("old"));
+        QTest::addColumn<QString>("path"); // %1 for the folder
+        QTest::addColumn<bool>("full");
+        using S = QString;
+        row("a folder that is none", S("%1/old.csv/log.csv"), false);
+        row("a folder that is gone", S("%1/gone/log.csv"), false);
+#ifdef Q_OS_LINUX
+        row("a folder in which nobody can write", S("/proc/log.csv"), false);
+#endif
+#ifdef Q_OS_UNIX
+        row("a full disk, a new file", S("%1/log.csv"), true);
+        row("a full disk, over one that is there", S("%1/old.csv"), true);
+#endif
+    }
+    /// No half file, the old one as it was, and nothing on the screen: only a line in the log.
+    void failuresLeaveWhatWasThere()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, full);
+        const QString old = m_folder->filePath(QStringLiteral("old.csv"));
+        QVERIFY(test::writeFile(old, "old"));
+        path.replace(QStringLiteral("%1"), m_folder->path());
+        if (path == old)
+            test::onNextQuestion(QMessageBox::Yes);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Cannot write ")));
+        begin();
+        {
+#ifdef Q_OS_UNIX
+            std::optional<test::FullDisk> disk;
+            if (full) {
+                for (int i = 0; i < 20'000; ++i)
+                    addTest(8.4F);
+                disk.emplace();
+            }
+#endif
+            QVERIFY(test::answerPanel("exportPanel", path));
+        }
+        QVERIFY(!test::shownAlert());
+        QVERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(entries(), QStringList{"old.csv"});
+        QCOMPARE(test::bytesOf(old), QByteArray("old"));
     }
 
     void theTankGoesMeanwhile()
     {
         begin();
         m_tank.reset();
-        choose(m_folder->filePath(QStringLiteral("log.csv")));
-        QCoreApplication::processEvents();
-        QVERIFY(QDir(m_folder->path()).isEmpty());
+        QVERIFY(test::answerPanel("exportPanel", m_folder->filePath(QStringLiteral("log.csv"))));
+        QCOMPARE(entries(), QStringList());
     }
 
-    void fileNames_data()
+    void cancelled()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("name");
-        using S = QString;
-        row("plain", S("Reef"), S("Reef"));
-        row("folders", S("a/b\\c:d"), S("a-b-c-d"));
-        row("hidden", S("..Reef"), S("Reef"));
-        row("nothing left", S(" ... "), S("-"));
-        row("control characters", S("a") + QChar(0) + S("b\nc"), S("a-b c"));
-        row("long", S(300, u'x'), S(200, u'x'));
-        row("long, of surrogates", S::fromUtf8("\xF0\x9F\x90\xA0").repeated(100),
-            S::fromUtf8("\xF0\x9F\x90\xA0").repeated(50));
-    }
-    void fileNames()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, name);
-        QCOMPARE(fileNameFor(text), name);
+        begin();
+        QVERIFY(test::answerPanel("exportPanel", {}));
+        QCOMPARE(entries(), QStringList());
     }
 
 private:
+    void addTest(float ph)
+    {
+        auto test = std::make_shared<ConditionData>(m_tank.get());
+        test->ph = ph;
+        m_tank->condition()->appendRecord(test);
+    }
     void begin()
     {
         beginConditionExport(m_window.get(), m_tank, {{QStringLiteral("ph"), text("Ph")}});
-        QTRY_VERIFY(shownPanel());
     }
-    void choose(const QString &path)
+    QStringList entries() const
     {
-        shownPanel()->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(path);
-        QMetaObject::invokeMethod(shownPanel(), "accept", Qt::QueuedConnection);
-        QCoreApplication::processEvents();
-    }
-    void exportTo(const QString &path)
-    {
-        begin();
-        choose(path);
+        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
 
     std::unique_ptr<QWidget> m_window;

@@ -13,14 +13,12 @@
 #include "model/TankFile.h"
 #include "support/AlertDriver.h"
 #include "support/Files.h"
+#include "support/PanelDriver.h"
 #include "support/TestHome.h"
 #include "ui/Desktop.h"
 
-#include <QCheckBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -62,44 +60,6 @@ protected:
 private:
     QList<AlertAnswer> m_answers;
 };
-
-/// The window of this object name that is on the screen; null when there is none.
-template <class Window>
-Window *shownWindow(const char *name)
-{
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->objectName() == QLatin1String(name))
-            return qobject_cast<Window *>(window);
-    }
-    return nullptr;
-}
-
-/// Waits for a window to come up; null when it does not.
-template <class Window = QDialog>
-Window *awaitWindow(const char *name)
-{
-    return QTest::qWaitFor([name] { return shownWindow<Window>(name) != nullptr; }, 2000) ? shownWindow<Window>(name)
-                                                                                          : nullptr;
-}
-
-/// Waits for the open or save panel, leaves its make-default box as told, and chooses `path`, or cancels when it is
-/// empty. False when no panel came up.
-inline bool answerPanel(const char *name, const QString &path, std::optional<bool> makeDefault = {})
-{
-    auto *panel = awaitWindow<QFileDialog>(name);
-    if (!panel)
-        return false;
-    if (makeDefault)
-        panel->findChild<QCheckBox *>("makeDefaultCheck")->setChecked(*makeDefault);
-    if (path.isEmpty()) {
-        panel->reject();
-    } else {
-        panel->findChild<QLineEdit *>("fileNameEdit")->setText(path);
-        QMetaObject::invokeMethod(panel, "accept");
-    }
-    QCoreApplication::processEvents(); // what the answer leads to is queued
-    return !shownWindow<QFileDialog>(name);
-}
 
 inline QString testFile(const QString &name)
 {

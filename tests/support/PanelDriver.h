@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include <optional>
+
+namespace brinemark::test
+{
+
+/// The window of this object name that is on the screen; null when there is none.
+template <class Window>
+Window *shownWindow(const char *name)
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->objectName() == QLatin1String(name))
+            return qobject_cast<Window *>(window);
+    }
+    return nullptr;
+}
+
+/// Waits for a window to come up; null when it does not.
+template <class Window = QDialog>
+Window *awaitWindow(const char *name)
+{
+    return QTest::qWaitFor([name] { return shownWindow<Window>(name) != nullptr; }, 2000) ? shownWindow<Window>(name)
+                                                                                          : nullptr;
+}
+
+/// Waits for the open or save panel, leaves its make-default box as told, and chooses `path`, or cancels when it is
+/// empty. False when no panel came up.
+inline bool answerPanel(const char *name, const QString &path, std::optional<bool> makeDefault = {})
+{
+    auto *panel = awaitWindow<QFileDialog>(name);
+    if (!panel)
+        return false;
+    if (makeDefault)
+        panel->findChild<QCheckBox *>("makeDefaultCheck")->setChecked(*makeDefault);
+    if (path.isEmpty()) {
+        panel->reject();
+    } else {
+        panel->findChild<QLineEdit *>("fileNameEdit")->setText(path);
+        QMetaObject::invokeMethod(panel, "accept");
+    }
+    QCoreApplication::processEvents(); // what the answer leads to is queued
+    return !shownWindow<QFileDialog>(name);
+}
+
+/// Answers the question that the panel is about to ask (whether a file may be replaced) as soon as it is on the screen.
+/// Within two seconds nothing asked means nothing answered.
+inline void onNextQuestion(QMessageBox::StandardButton answer, int triesLeft = 200)
+{
+    QTimer::singleShot(10, qApp, [answer, triesLeft] {
+        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (question)
+            question->button(answer)->click();
+        else if (triesLeft > 0)
+            onNextQuestion(answer, triesLeft - 1);
+    });
+}
+
+} // namespace brinemark::test

@@ -1,0 +1,131 @@
+#include "ui/SavePanel.h"
+
+#include "support/DataRow.h"
+#include "support/Files.h"
+#include "support/PanelDriver.h"
+#include "support/RunTest.h"
+
+#include <QTemporaryDir>
+
+using namespace brinemark;
+using test::row;
+
+class TestSavePanel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_window = std::make_unique<QWidget>();
+        m_window->show();
+        m_chosen.clear();
+    }
+
+    void suffixes_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("chosen");
+        using S = QString;
+        row("without a suffix", S("reef"), 0, S("reef.png"));
+        row("of the other kind", S("reef"), 1, S("reef.pdf"));
+        row("with it", S("reef.png"), 0, S("reef.png"));
+        row("with that of another kind", S("reef.pdf"), 0, S("reef.pdf"));
+        row("in capitals", S("reef.PNG"), 0, S("reef.PNG"));
+        row("a full stop in the name", S("Reef 2.5"), 0, S("Reef 2.5.png"));
+    }
+    void suffixes()
+    {
+        QFETCH(QString, typed);
+        QFETCH(int, kind);
+        QFETCH(QString, chosen);
+        open();
+        auto *panel = test::awaitWindow<SavePanel>("reefPanel");
+        QVERIFY(panel);
+        panel->selectNameFilter(panel->nameFilters().at(kind));
+        QVERIFY(test::answerPanel("reefPanel", m_folder->filePath(typed)));
+        QCOMPARE(m_chosen, QStringList{m_folder->filePath(chosen)});
+    }
+
+    void asksBeforeReplacing_data()
+    {
+        QTest::addColumn<QMessageBox::StandardButton>("answer");
+        row("yes", QMessageBox::Yes);
+        row("no", QMessageBox::No);
+    }
+    void asksBeforeReplacing()
+    {
+        QFETCH(QMessageBox::StandardButton, answer);
+        const QString there = m_folder->filePath(QStringLiteral("reef.png"));
+        QVERIFY(test::writeFile(there, "old"));
+        open();
+        const bool replace = answer == QMessageBox::Yes;
+        test::onNextQuestion(answer);
+        // Asked about the file with the suffix, which was not typed; after a no the panel is still there.
+        QCOMPARE(test::answerPanel("reefPanel", m_folder->filePath(QStringLiteral("reef"))), replace);
+        QCOMPARE(m_chosen, replace ? QStringList{there} : QStringList());
+        if (!replace)
+            QVERIFY(test::answerPanel("reefPanel", {}));
+        QCOMPARE(m_chosen.size(), 1);
+        QCOMPARE(test::bytesOf(there), QByteArray("old"));
+    }
+
+    void fileNames_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("name");
+        using S = QString;
+        const S fish = S::fromUtf8("\xF0\x9F\x90\xA0");
+        row("plain", S("Reef"), S("Reef"));
+        row("folders", S("a/b\\c:d"), S("a-b-c-d"));
+        row("up", S("../../etc"), S("-..-etc"));
+        row("hidden", S("..Reef"), S("Reef"));
+        row("hidden by blanks between", S(". .Reef"), S("Reef"));
+        row("nothing", S(), S("-"));
+        row("nothing left", S(" ... "), S("-"));
+        row("control characters", S("a") + QChar(0) + S("b\nc"), S("a-b c"));
+        row("long", S(300, u'x'), S(200, u'x'));
+        row("long, of umlauts", S(300, u'\u00e4'), S(100, u'\u00e4'));
+        row("long, of surrogates", fish.repeated(100), fish.repeated(50));
+        row("a surrogate cut in two", S(199, u'x') + fish, S(199, u'x'));
+        row("half a surrogate", S("a") + QChar(0xd83d), S("a"));
+        row("very long", S(10'000'000, u'x'), S(200, u'x'));
+    }
+    void fileNames()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, name);
+        QCOMPARE(fileNameFor(text), name);
+        // The panel proposes it in its folder, and it can be written there.
+        SavePanelOptions options{QStringLiteral("reefPanel")};
+        options.folder = m_folder->path();
+        options.proposedName = text.isEmpty() ? QStringLiteral(".") : text;
+        options.kinds = {{QStringLiteral("csv"), QStringLiteral("Values (*.csv)")}};
+        SavePanel panel(nullptr, options);
+        QCOMPARE(panel.selectedFiles(), QStringList{m_folder->filePath(name)});
+        QVERIFY(test::writeFile(m_folder->filePath(name + QStringLiteral(".csv")), "x"));
+    }
+
+private:
+    void open()
+    {
+        SavePanelOptions options{QStringLiteral("reefPanel")};
+        options.folder = m_folder->path();
+        options.kinds = {{QStringLiteral("png"), QStringLiteral("Pictures (*.png)")},
+                         {QStringLiteral("pdf"), QStringLiteral("Pages (*.pdf)")}};
+        beginSavePanel(m_window.get(), options, [this](const QString &path) { m_chosen << path; });
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QWidget> m_window;
+    QStringList m_chosen;
+};
+
+int main(int argc, char **argv)
+{
+    return test::run<QApplication, TestSavePanel>(argc, argv);
+}
+
+#include "tst_save_panel.moc"
