@@ -16,7 +16,7 @@ namespace
 /// How far symbols reach beyond the plot when their points are on its edge.
 constexpr int symbolMargin = 6;
 
-/// Symbols nearer to one another than this would be a mere thickening of the line, in pixels.
+/// Symbols nearer to one another than this on average would be a mere thickening of the line, in pixels.
 constexpr double symbolDistance = 8;
 
 /// Of a column of pixels, whatever the screen's resolution: lines are seldom thinner than that.
@@ -141,15 +141,17 @@ void GraphLinesLayer::drawSymbols(QCPPainter *painter, const GraphLine &line, co
     painter->setPen(QPen(outline.isValid() ? outline : m_plot->look().background, outlineWidth / 2));
     painter->setBrush(line.attributes.colour);
     const QRectF area = QRectF(m_plot->plotRect()).adjusted(-0.5, -0.5, 0.5, 0.5);
-    const auto near = [&](qsizetype a, qsizetype b) {
-        return std::abs(pixels[a].x() - pixels[b].x()) < symbolDistance;
-    };
-    for (qsizetype i = 0; i < pixels.size(); ++i) {
-        const bool crowded = (i > 0 || i + 1 < pixels.size()) && (i == 0 || near(i - 1, i)) &&
-                             (i + 1 == pixels.size() || near(i, i + 1));
-        if (!crowded && area.contains(pixels[i]))
-            drawGraphSymbol(*painter, symbol, pixels[i]);
+    QPolygonF shown;
+    for (const QPointF &pixel : pixels) {
+        if (area.contains(pixel))
+            shown.append(pixel);
     }
+    // All or none: symbols here and there would seem to say something about their points.
+    const qsizetype gaps = shown.size() - 1;
+    if (gaps > 0 && shown.last().x() - shown.first().x() < symbolDistance * double(gaps))
+        return;
+    for (const QPointF &pixel : shown)
+        drawGraphSymbol(*painter, symbol, pixel);
 }
 
 } // namespace brinemark
