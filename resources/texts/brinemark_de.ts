@@ -2176,7 +2176,9 @@ Zu hoch: nichts mehr zugeben und den Wert durch Verbrauch und gewöhnliche Wasse
 
 Ein einzelner Test kann falsch sein: Wiederholen Sie ihn, bevor Sie eingreifen, und prüfen Sie, ob Test und Zielwert dieselbe Einheit haben. Ändern Sie den Wert dann langsam, die Härte um etwa 1 Grad am Tag, die Salinität um höchstens 0,001 der relativen Dichte am Tag.
 
-Zu hoch: täglich ein Zehntel bis ein Fünftel des Wassers durch Wasser mit bekannten Werten ersetzen und die Ursache suchen, etwa Futter, Leitungswasser oder Zusätze. Bei der Salinität Verdunstetes nur mit Süßwasser nachfüllen. Zu niedrig: das Fehlende in kleinen Mengen nach Anweisung des Herstellers zugeben und vor jeder Gabe testen.
+Zu hoch: täglich ein Zehntel bis ein Fünftel des Wassers durch Wasser mit bekannten Werten ersetzen und die Ursache suchen, etwa Futter, Leitungswasser oder Zusätze. Bei der Salinität Verdunstetes nur mit Süßwasser nachfüllen.
+
+Zu niedrig: das Fehlende in kleinen Mengen nach Anweisung des Herstellers zugeben und vor jeder Gabe testen.
 
 Zwei Fälle dulden keinen Aufschub. Bei zu wenig Sauerstoff oder zu viel Kohlendioxid sofort kräftig belüften und die Kohlendioxidzufuhr abstellen. Kupfer tötet Wirbellose schon in Spuren: ein Drittel bis die Hälfte des Wassers wechseln, über frische Aktivkohle filtern und jedes kupferhaltige Mittel absetzen.</translation>
     </message>

@@ -2176,7 +2176,9 @@ Too high: stop dosing, and let use and ordinary water changes bring it down.</tr
 
 One test can be wrong: repeat it before you act, and check that test and target use the same unit. Then move the value slowly, hardness by about 1 degree a day, salinity by no more than 0.001 of specific gravity a day.
 
-Too high: replace a tenth to a fifth of the water a day with water whose values you know, and look for the source, such as food, tap water or dosing. For salinity, make up what has evaporated with fresh water only. Too low: add what is missing in small doses as its maker directs, testing before each one.
+Too high: replace a tenth to a fifth of the water a day with water whose values you know, and look for the source, such as food, tap water or dosing. For salinity, make up what has evaporated with fresh water only.
+
+Too low: add what is missing in small doses as its maker directs, testing before each one.
 
 Two cases cannot wait. When oxygen is short or carbon dioxide too high, aerate strongly and turn off the carbon dioxide supply at once. Copper kills invertebrates even in traces: change a third to a half of the water, filter over fresh activated carbon, and stop every remedy that holds copper.</translation>
     </message>
