@@ -1,81 +1,21 @@
-#include "chemistry/views/ConditionListController.h"
+#include "chemistry/ConditionLog.h"
 #include "model/KeyAccess.h"
 #include "support/AlertDriver.h"
 #include "support/DataRow.h"
-#include "support/ListDriver.h"
 #include "support/RunTest.h"
-#include "ui/AlertPanelDontAskAgain.h"
-#include "ui/Alerts.h"
-#include "ui/calendar/CalendarController.h"
 
-#include <QAbstractItemModelTester>
-#include <QMenu>
 #include <QPushButton>
-#include <QToolButton>
 
 using namespace brinemark;
-using test::clickCell;
-using test::press;
-using test::row;
-using test::type;
+using namespace brinemark::test;
 
-namespace
-{
-
-enum Column { Date, Ph, Ammonia, Calcium };
-const QString notTestedIdentifier = QStringLiteral("DontShowAgainNotTested");
-
-/// pH 7.0, 7.1 ... one a day, the oldest first.
-std::shared_ptr<Tank> makeTank(int tests)
-{
-    auto tank = std::make_shared<Tank>(QStringLiteral("Reef"));
-    for (int i = 0; i < tests; ++i) {
-        auto record = std::make_shared<ConditionData>(tank.get());
-        record->date = QDateTime(QDate(2026, 1, 1 + i), QTime(9, 0));
-        record->ph = 7.0F + float(i) / 10;
-        tank->condition()->appendRecord(record);
-    }
-    tank->condition()->setColumnInfoArray({{"date", 0}, {"ph", 0}, {"ammonia", 0}, {"calcium", 0}});
-    tank->condition()->setSortIdentifier(QStringLiteral("ph"));
-    for (const ParameterTraits &parameter : parameterTable)
-        tank->target(parameter.parameter)->warningOn = false;
-    return tank;
-}
-
-QString number(double value)
-{
-    return QLocale().toString(value, 'f', 2);
-}
-
-} // namespace
-
-class TestConditionEditing : public QObject
+class TestConditionEditing : public QObject, protected ConditionLog
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        AlertPanelDontAskAgain::setValue(1, notTestedIdentifier);
-        m_shell = std::make_unique<test::RecordingShell>();
-        m_shell->appendTank(makeTank(5));
-        m_tank = m_shell->tanks.at(0);
-        setBeepHandler([this] { ++m_beeps; });
-        m_beeps = 0;
-        test::present(log(), *m_shell);
-        m_shell->window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&m_shell->window));
-        m_tester = std::make_unique<QAbstractItemModelTester>(table()->model());
-    }
-    void cleanup()
-    {
-        m_tester.reset();
-        ConditionListController::destroyShared();
-        CalendarController::destroyShared();
-        m_shell.reset();
-        m_tank.reset();
-        setBeepHandler({});
-    }
+    void init() { QVERIFY(open()); }
+    void cleanup() { close(); }
 
     void editing_data()
     {
@@ -123,7 +63,7 @@ private Q_SLOTS:
         edit(0, Ph, 9);
         const auto record = m_tank->condition()->recordAt(0);
         m_shell->appendTank(makeTank(2));
-        test::present(log(), *m_shell);
+        present(log(), *m_shell);
         QCOMPARE(m_tank->condition()->indexOf(record.get()), 4); // left in order
         m_shell->undo.undo();
         QCOMPARE(m_tank->condition()->indexOf(record.get()), 0);
@@ -144,91 +84,6 @@ private Q_SLOTS:
         QCOMPARE(m_beeps, 2);
     }
 
-    void sortsWhenTheSelectionMoves_data()
-    {
-        QTest::addColumn<std::function<void(QTableView *)>>("move");
-        QTest::addColumn<QList<int>>("selected");
-        using Move = std::function<void(QTableView *)>;
-        const QList<int> itself{4};
-        row("click", Move([](QTableView *table) { clickCell(table, 2, Ammonia); }), itself);
-        row("click and extend", Move([](QTableView *table) { clickCell(table, 2, Ph, Qt::ShiftModifier); }), itself);
-        row("click to add", Move([](QTableView *table) { clickCell(table, 2, Ph, Qt::ControlModifier); }), itself);
-        row("down", Move([](QTableView *table) { QTest::keyClick(table, Qt::Key_Down); }), itself);
-        row("end", Move([](QTableView *table) { QTest::keyClick(table, Qt::Key_End, Qt::ControlModifier); }), itself);
-        row("select all", Move([](QTableView *table) { table->selectAll(); }), itself);
-        row("select row", Move([](QTableView *table) { table->selectRow(3); }), itself);
-        row("drag", Move([](QTableView *table) {
-                const auto middle = [&](int row) { return table->visualRect(table->model()->index(row, 1)).center(); };
-                QTest::mousePress(table->viewport(), Qt::LeftButton, {}, middle(1));
-                QTest::mouseMove(table->viewport(), middle(2));
-                QTest::mouseMove(table->viewport(), middle(3));
-                QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, middle(3));
-            }),
-            itself);
-    }
-    void sortsWhenTheSelectionMoves()
-    {
-        using Move = std::function<void(QTableView *)>;
-        QFETCH(Move, move);
-        clickCell(table(), 0, Ph);
-        edit(0, Ph, 9);
-        QCOMPARE(log().rowNeedsSort(), 0);
-        edit(0, Ammonia, 1); // not the sort column, and one is pending
-        clickCell(table(), 0, Ammonia);
-        QTest::keyClick(table(), Qt::Key_Right);
-        QCOMPARE(log().rowNeedsSort(), 0); // between the cells of the row nothing moves
-        QCOMPARE(test::column(table(), Ph).first(), number(9));
-        move(table());
-        QCOMPARE(test::column(table(), Ph).last(), number(9));
-        QTEST(test::selectedRows(table()), "selected");
-        QCOMPARE(log().rowNeedsSort(), -1);
-        clickCell(table(), 2, Ph); // and from now on as usual
-        QCOMPARE(test::selectedRows(table()), QList<int>{2});
-    }
-
-    void whereNothingMovesTheSelectionGoes()
-    {
-        clickCell(table(), 1, Ph);
-        edit(1, Ph, 7.15);
-        clickCell(table(), 3, Ph);
-        QCOMPARE(test::selectedRows(table()), QList<int>{3});
-        QCOMPARE(log().rowNeedsSort(), -1);
-    }
-
-    void nothingPendingSurvives_data()
-    {
-        QTest::addColumn<QString>("event");
-        for (const char *event : {"another tank", "deleted", "header", "removed elsewhere", "file closed"})
-            QTest::newRow(event) << QString::fromLatin1(event);
-    }
-    void nothingPendingSurvives()
-    {
-        QFETCH(QString, event);
-        clickCell(table(), 0, Ph);
-        edit(0, Ph, 9);
-        if (event == u"another tank") {
-            m_shell->appendTank(makeTank(3));
-            log().updateDisplay();
-        } else if (event == u"deleted") {
-            log().deleteSelected();
-            QTRY_VERIFY(test::shownAlert());
-            QVERIFY(test::pressAlertButton("defaultButton"));
-        } else if (event == u"header") {
-            test::clickHeader(table(), Date);
-            QCOMPARE(test::selectedRows(table()), QList<int>{0});
-        } else if (event == u"removed elsewhere") {
-            m_tank->removeFromConditionListArrayAtIndex(0);
-        } else {
-            m_shell->current = nullptr;
-            m_tank.reset();
-            m_shell->tanks.clear();
-            log().updateDisplay();
-        }
-        QCOMPARE(log().rowNeedsSort(), -1);
-        table()->selectRow(1);
-        QCOMPARE(test::selectedRows(table()).size(), table()->model()->rowCount() > 0 ? 1 : 0);
-    }
-
     void theFirstEntry()
     {
         m_shell->appendTank(makeTank(0));
@@ -237,7 +92,7 @@ private Q_SLOTS:
         QVERIFY(editor() && editor()->hasFocus());
         type(number(8));
         clickCell(table(), 0, Ammonia); // which commits
-        QCOMPARE(test::column(table(), Ph), QStringList{number(8)});
+        QCOMPARE(column(table(), Ph), QStringList{number(8)});
         press(Qt::Key_Space);
         QVERIFY(editor());
         type(number(1));
@@ -262,12 +117,12 @@ private Q_SLOTS:
         QCOMPARE(m_tank->condition()->count(), 6);
         QCOMPARE(m_shell->changes, 1);
         QCOMPARE(m_shell->undo.count(), 0);
-        QCOMPARE(test::selectedRows(table()), QList<int>{0}); // not tested sorts first
+        QCOMPARE(selectedRows(table()), QList<int>{0}); // not tested sorts first
         QCOMPARE(log().rowNeedsSort(), 0);
         if (!silenced) {
-            QTRY_VERIFY(test::shownAlert());
+            QTRY_VERIFY(shownAlert());
             QVERIFY(!editor());
-            QVERIFY(test::pressAlertButton("defaultButton"));
+            QVERIFY(pressAlertButton("defaultButton"));
         }
         QTRY_VERIFY(editor() && editor()->hasFocus());
         QCOMPARE(table()->currentIndex(), table()->model()->index(0, Ph));
@@ -308,7 +163,7 @@ private Q_SLOTS:
         press(Qt::Key_Tab); // the last one
         QTRY_VERIFY(!editor());
         QVERIFY(table()->hasFocus());
-        QCOMPARE(test::selectedRows(table()), QList<int>{1});
+        QCOMPARE(selectedRows(table()), QList<int>{1});
         const auto &record = static_cast<ConditionData &>(*m_tank->condition()->recordAt(1));
         QCOMPARE(record.calcium, 380);
         QCOMPARE(record.ammonia, 3.0F);
@@ -339,77 +194,17 @@ private Q_SLOTS:
         else
             type(number(value));
         press(Qt::Key_Tab);
-        QCOMPARE(test::shownAlert() != nullptr, warns);
+        QCOMPARE(shownAlert() != nullptr, warns);
         QCOMPARE(table()->currentIndex(), table()->model()->index(1, Ammonia));
         if (warns) {
             QCOMPARE(m_shell->undo.count(), 1); // stored before anything is said
-            QCOMPARE(test::shownAlert()->title(), fillPlaceholders(text("HighValueTitle"), {text("Ph")}));
-            QVERIFY(!test::shownAlert()->button(AlertAlternate));
+            QCOMPARE(shownAlert()->title(), fillPlaceholders(text("HighValueTitle"), {text("Ph")}));
+            QVERIFY(!shownAlert()->button(AlertAlternate));
             QVERIFY(!editor());
-            QVERIFY(test::pressAlertButton("defaultButton"));
+            QVERIFY(pressAlertButton("defaultButton"));
         }
         QTRY_VERIFY(editor() && editor()->hasFocus()); // where the tab key went
         QCOMPARE(m_shell->undo.count(), 1);
-    }
-
-    void marks_data()
-    {
-        QTest::addColumn<float>("value");
-        QTest::addColumn<CellMark::Shape>("shape");
-        QTest::addColumn<bool>("says");
-        row("low", 7.0F, CellMark::Shape::Below, true);
-        row("on the limit", 7.5F, CellMark::Shape::None, false);
-        row("high", 8.6F, CellMark::Shape::Above, true);
-        row("not tested", -1.0F, CellMark::Shape::None, false);
-    }
-    void marks()
-    {
-        QFETCH(float, value);
-        TankData &target = *m_tank->phData();
-        target.warningOn = target.deviationOn = true;
-        target.preferredValue = 8;
-        target.deviationValue = 0.5;
-        m_tank->condition()->records().front()->ph = value;
-        const QModelIndex cell = table()->model()->index(0, Ph);
-        const CellMark mark = cell.data(CellMarkRole).value<CellMark>();
-        QTEST(mark.shape, "shape");
-        QFETCH(bool, says);
-        QCOMPARE(!cell.data(Qt::ToolTipRole).toString().isEmpty(), says);
-        QCOMPARE(cell.data(Qt::ForegroundRole).isValid(), says || value < 0);
-        QCOMPARE(cell.data().toString(), value < 0 ? text("NotTested") : number(double(value)));
-    }
-
-    void menu_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<bool>("enabled");
-        row("none", 0, false);
-        row("one", 1, false);
-        row("two", 2, true);
-    }
-    void menu()
-    {
-        QFETCH(int, rows);
-        QFETCH(bool, enabled);
-        m_shell->appendTank(makeTank(rows));
-        log().updateDisplay();
-        auto *button = log().view()->findChild<QToolButton *>(QStringLiteral("actionButton"));
-        QVERIFY(button->isVisible());
-        auto *context = table()->findChild<QMenu *>(QStringLiteral("conditionCM"));
-        for (QMenu *menu : {button->menu(), context}) {
-            Q_EMIT menu->aboutToShow();
-            QStringList titles;
-            for (const QAction *action : menu->actions()) {
-                titles << action->text();
-                const bool needsTwo = action->text() == text("Graph") || action->text() == text("Export");
-                if (!action->isSeparator())
-                    QCOMPARE(action->isEnabled(), enabled || !needsTwo);
-            }
-            QCOMPARE(titles, QStringList({text("Graph"), text("Export"), QString(), text("NewTitle"),
-                                          text("DeleteTitle"), QString(), text("Condition Columns...")}));
-            menu->actions().at(4)->trigger();
-        }
-        QCOMPARE(m_shell->deletesAsked, 2);
     }
 
     void datesComeFromTheCalendar_data()
@@ -456,40 +251,8 @@ private Q_SLOTS:
         QCOMPARE(record.date, QDateTime(QDate(2026, 2, 2), QTime(9, 0)));
         QCOMPARE(m_shell->undo.count(), 1);
         QCOMPARE(log().rowNeedsSort(), 1);
-        QVERIFY(!test::shownAlert());
+        QVERIFY(!shownAlert());
     }
-
-    void deletesScatteredRows()
-    {
-        for (const int row : {0, 2, 4})
-            clickCell(table(), row, Ph, Qt::ControlModifier);
-        QTest::keyClick(table(), Qt::Key_Delete);
-        QTRY_VERIFY(test::shownAlert());
-        QVERIFY(test::pressAlertButton("defaultButton"));
-        QCOMPARE(test::column(table(), Ph), QStringList({number(7.1), number(7.3)}));
-        QCOMPARE(m_shell->undo.count(), 0);
-    }
-
-private:
-    static ConditionListController &log() { return ConditionListController::sharedInstance(); }
-    static QTableView *table() { return log().table(); }
-    /// The one that is typed into; null when nothing is edited.
-    static QWidget *editor() { return table()->indexWidget(table()->currentIndex()); }
-    static QStringView conditionKey(int column)
-    {
-        constexpr std::array keys{QStringView(u"date"), QStringView(u"ph"), QStringView(u"ammonia"),
-                                  QStringView(u"calcium")};
-        return keys.at(std::size_t(column));
-    }
-    static void edit(int row, int column, double value)
-    {
-        QVERIFY(table()->model()->setData(table()->model()->index(row, column), value));
-    }
-
-    std::unique_ptr<test::RecordingShell> m_shell;
-    std::shared_ptr<Tank> m_tank;
-    std::unique_ptr<QAbstractItemModelTester> m_tester;
-    int m_beeps = 0;
 };
 
 int main(int argc, char **argv)

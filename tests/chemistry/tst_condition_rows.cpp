@@ -1,0 +1,186 @@
+#include "chemistry/ConditionLog.h"
+#include "support/AlertDriver.h"
+#include "support/DataRow.h"
+#include "support/RunTest.h"
+
+#include <QMenu>
+#include <QToolButton>
+
+using namespace brinemark;
+using namespace brinemark::test;
+
+class TestConditionRows : public QObject, protected ConditionLog
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QVERIFY(open()); }
+    void cleanup() { close(); }
+
+    void sortsWhenTheSelectionMoves_data()
+    {
+        QTest::addColumn<std::function<void(QTableView *)>>("move");
+        QTest::addColumn<QList<int>>("selected");
+        using Move = std::function<void(QTableView *)>;
+        const QList<int> itself{4};
+        row("click", Move([](QTableView *table) { clickCell(table, 2, Ammonia); }), itself);
+        row("click and extend", Move([](QTableView *table) { clickCell(table, 2, Ph, Qt::ShiftModifier); }), itself);
+        row("click to add", Move([](QTableView *table) { clickCell(table, 2, Ph, Qt::ControlModifier); }), itself);
+        row("down", Move([](QTableView *table) { QTest::keyClick(table, Qt::Key_Down); }), itself);
+        row("end", Move([](QTableView *table) { QTest::keyClick(table, Qt::Key_End, Qt::ControlModifier); }), itself);
+        row("select all", Move([](QTableView *table) { table->selectAll(); }), itself);
+        row("select row", Move([](QTableView *table) { table->selectRow(3); }), itself);
+        row("drag", Move([](QTableView *table) {
+                const auto middle = [&](int row) { return table->visualRect(table->model()->index(row, 1)).center(); };
+                QTest::mousePress(table->viewport(), Qt::LeftButton, {}, middle(1));
+                QTest::mouseMove(table->viewport(), middle(2));
+                QTest::mouseMove(table->viewport(), middle(3));
+                QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, middle(3));
+            }),
+            itself);
+    }
+
+    void sortsWhenTheSelectionMoves()
+    {
+        using Move = std::function<void(QTableView *)>;
+        QFETCH(Move, move);
+        clickCell(table(), 0, Ph);
+        edit(0, Ph, 9);
+        QCOMPARE(log().rowNeedsSort(), 0);
+        edit(0, Ammonia, 1); // not the sort column, and one is pending
+        clickCell(table(), 0, Ammonia);
+        QTest::keyClick(table(), Qt::Key_Right);
+        QCOMPARE(log().rowNeedsSort(), 0); // between the cells of the row nothing moves
+        QCOMPARE(column(table(), Ph).first(), number(9));
+        move(table());
+        QCOMPARE(column(table(), Ph).last(), number(9));
+        QTEST(selectedRows(table()), "selected");
+        QCOMPARE(log().rowNeedsSort(), -1);
+        clickCell(table(), 2, Ph); // and from now on as usual
+        QCOMPARE(selectedRows(table()), QList<int>{2});
+    }
+
+    void whereNothingMovesTheSelectionGoes()
+    {
+        clickCell(table(), 1, Ph);
+        edit(1, Ph, 7.15);
+        clickCell(table(), 3, Ph);
+        QCOMPARE(selectedRows(table()), QList<int>{3});
+        QCOMPARE(log().rowNeedsSort(), -1);
+    }
+
+    void nothingPendingSurvives_data()
+    {
+        QTest::addColumn<QString>("event");
+        for (const char *event : {"another tank", "deleted", "header", "removed elsewhere", "file closed"})
+            QTest::newRow(event) << QString::fromLatin1(event);
+    }
+
+    void nothingPendingSurvives()
+    {
+        QFETCH(QString, event);
+        clickCell(table(), 0, Ph);
+        edit(0, Ph, 9);
+        if (event == u"another tank") {
+            m_shell->appendTank(makeTank(3));
+            log().updateDisplay();
+        } else if (event == u"deleted") {
+            log().deleteSelected();
+            QTRY_VERIFY(shownAlert());
+            QVERIFY(pressAlertButton("defaultButton"));
+        } else if (event == u"header") {
+            clickHeader(table(), Date);
+            QCOMPARE(selectedRows(table()), QList<int>{0});
+        } else if (event == u"removed elsewhere") {
+            m_tank->removeFromConditionListArrayAtIndex(0);
+        } else {
+            m_shell->current = nullptr;
+            m_tank.reset();
+            m_shell->tanks.clear();
+            log().updateDisplay();
+        }
+        QCOMPARE(log().rowNeedsSort(), -1);
+        table()->selectRow(1);
+        QCOMPARE(selectedRows(table()).size(), table()->model()->rowCount() > 0 ? 1 : 0);
+    }
+
+    void marks_data()
+    {
+        QTest::addColumn<float>("value");
+        QTest::addColumn<CellMark::Shape>("shape");
+        QTest::addColumn<bool>("says");
+        row("low", 7.0F, CellMark::Shape::Below, true);
+        row("on the limit", 7.5F, CellMark::Shape::None, false);
+        row("high", 8.6F, CellMark::Shape::Above, true);
+        row("not tested", -1.0F, CellMark::Shape::None, false);
+    }
+
+    void marks()
+    {
+        QFETCH(float, value);
+        TankData &target = *m_tank->phData();
+        target.warningOn = target.deviationOn = true;
+        target.preferredValue = 8;
+        target.deviationValue = 0.5;
+        m_tank->condition()->records().front()->ph = value;
+        const QModelIndex cell = table()->model()->index(0, Ph);
+        const CellMark mark = cell.data(CellMarkRole).value<CellMark>();
+        QTEST(mark.shape, "shape");
+        QFETCH(bool, says);
+        QCOMPARE(!cell.data(Qt::ToolTipRole).toString().isEmpty(), says);
+        QCOMPARE(cell.data(Qt::ForegroundRole).isValid(), says || value < 0);
+        QCOMPARE(cell.data().toString(), value < 0 ? text("NotTested") : number(double(value)));
+    }
+
+    void menu_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<bool>("enabled");
+        row("none", 0, false);
+        row("one", 1, false);
+        row("two", 2, true);
+    }
+
+    void menu()
+    {
+        QFETCH(int, rows);
+        QFETCH(bool, enabled);
+        m_shell->appendTank(makeTank(rows));
+        log().updateDisplay();
+        auto *button = log().view()->findChild<QToolButton *>(QStringLiteral("actionButton"));
+        QVERIFY(button->isVisible());
+        auto *context = table()->findChild<QMenu *>(QStringLiteral("conditionCM"));
+        for (QMenu *menu : {button->menu(), context}) {
+            Q_EMIT menu->aboutToShow();
+            QStringList titles;
+            for (const QAction *action : menu->actions()) {
+                titles << action->text();
+                const bool needsTwo = action->text() == text("Graph") || action->text() == text("Export");
+                if (!action->isSeparator())
+                    QCOMPARE(action->isEnabled(), enabled || !needsTwo);
+            }
+            QCOMPARE(titles, QStringList({text("Graph"), text("Export"), QString(), text("NewTitle"),
+                                          text("DeleteTitle"), QString(), text("Condition Columns...")}));
+            menu->actions().at(4)->trigger();
+        }
+        QCOMPARE(m_shell->deletesAsked, 2);
+    }
+
+    void deletesScatteredRows()
+    {
+        for (const int row : {0, 2, 4})
+            clickCell(table(), row, Ph, Qt::ControlModifier);
+        QTest::keyClick(table(), Qt::Key_Delete);
+        QTRY_VERIFY(shownAlert());
+        QVERIFY(pressAlertButton("defaultButton"));
+        QCOMPARE(column(table(), Ph), QStringList({number(7.1), number(7.3)}));
+        QCOMPARE(m_shell->undo.count(), 0);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    return brinemark::test::run<QApplication, TestConditionRows>(argc, argv);
+}
+
+#include "tst_condition_rows.moc"
