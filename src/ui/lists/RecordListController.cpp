@@ -230,7 +230,8 @@ void RecordListController::sortAndSelect(const std::shared_ptr<Record> &record)
     showSortIndicator();
     if (record)
         selectRecord(*record);
-    m_table->setFocus();
+    if (m_table->isVisible()) // an edit may be taken back from another view
+        m_table->setFocus();
 }
 
 void RecordListController::setRowNeedsSort(int row)

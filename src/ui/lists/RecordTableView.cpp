@@ -40,8 +40,11 @@ public:
         const bool marked = header->sortIndicator != QStyleOptionHeader::None;
         const auto place = [&](const QRect &rect) { return visualRect(header->direction, header->rect, rect); };
         const QRect whole = header->rect;
-        part.rect = place(whole.adjusted(pixelMetric(PM_HeaderMargin, option, widget), 0,
-                                         marked ? -(markWidth + markMargin) : -markMargin, 0));
+        const int margin = pixelMetric(PM_HeaderMargin, option, widget);
+        int atEnd = header->textAlignment & Qt::AlignRight ? margin : markMargin; // above right-aligned cells
+        if (marked)
+            atEnd = markWidth + markMargin;
+        part.rect = place(whole.adjusted(margin, 0, -atEnd, 0));
         drawControl(CE_HeaderLabel, &part, painter, widget);
         if (marked) {
             part.rect = place({whole.right() + 1 - markMargin - markWidth, whole.top() + 1, markWidth, whole.height()});
