@@ -1,0 +1,253 @@
+#include "app/tree/TankOutlineView.h"
+#include "base/text/DateText.h"
+#include "base/text/Texts.h"
+#include "chemistry/ConditionColumns.h"
+#include "chemistry/views/ConditionListController.h"
+#include "chemistry/views/GraphController.h"
+#include "support/AppFixture.h"
+#include "support/PanelDriver.h"
+#include "support/Python.h"
+#include "ui/graph/TwoDGraphView.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableView>
+#include <QToolButton>
+
+#include <cmath>
+
+using namespace brinemark;
+using namespace brinemark::test;
+
+namespace
+{
+
+constexpr const char *reef = "Reef";
+
+/// A number as the user types it.
+QString typed(const char *number)
+{
+    return QString::fromLatin1(number).replace(u'.', QLocale().decimalPoint());
+}
+
+} // namespace
+
+/// What a keeper does every week, through the real windows: enter a test, heed the warning, sort, export, look at the
+/// graph.
+class TestWeeklyUse : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_program = std::make_unique<Program>();
+        m_file = m_program->copyOf(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml"));
+        m_program->start(m_file);
+        m_program->window().show();
+        QVERIFY(QTest::qWaitForWindowActive(&m_program->window()));
+        for (int row = 0; row < 100 && !showsReefLog(); ++row)
+            m_program->tree().selectRow(row);
+        QVERIFY(showsReefLog());
+    }
+    void cleanup() { m_program.reset(); }
+
+    void aTestIsEntered()
+    {
+        const int before = reefLog().count();
+        QTest::mouseClick(view()->findChild<QToolButton *>(QStringLiteral("newButton")), Qt::LeftButton);
+        QTRY_VERIFY(shownAlert());
+        QCOMPARE(shownAlert()->title(), text("NotTestedDialogTitle"));
+        QVERIFY(pressAlertButton("defaultButton"));
+        QTRY_VERIFY(editor());
+        QCOMPARE(reefLog().count(), before + 1);
+
+        // temperature, salinity, pH, then over the others to the ammonia
+        for (const char *value : {"26.4", "1.025", "8.1", "", "", "", "", ""}) {
+            QTest::keyClicks(editor(), typed(value));
+            QTest::keyClick(editor(), Qt::Key_Tab);
+            QTRY_VERIFY(editor());
+        }
+        QTest::keyClicks(editor(), typed("0.5"));
+        QTest::keyClick(editor(), Qt::Key_Return);
+        QTRY_VERIFY(shownAlert());
+        QVERIFY2(shownAlert()->title().contains(text("Ammonia")), qPrintable(shownAlert()->title()));
+        QVERIFY(shownAlert()->message().endsWith(text("AmmoniaTreatment")));
+        QVERIFY(pressAlertButton("defaultButton"));
+
+        const int row = table()->currentIndex().row(); // the clock stands between the sample's dates
+        const auto test = std::static_pointer_cast<ConditionData>(reefLog().recordAt(row));
+        QCOMPARE(test->date, clock::now());
+        QCOMPARE(test->temp, 26.4F);
+        QCOMPARE(test->salt, 1.025F);
+        QCOMPARE(test->ph, 8.1F);
+        QCOMPARE(test->alkalinity, -1.0F);
+        QCOMPARE(test->calcium, -1);
+        QCOMPARE(test->ammonia, 0.5F);
+
+        QTRY_VERIFY(!editor());
+        m_program->controller().performCommand(Command::Undo);
+        QCOMPARE(test->ammonia, -1.0F);
+        m_program->controller().performCommand(Command::Undo);
+        QCOMPARE(test->ph, -1.0F);
+        m_program->controller().performCommand(Command::Redo);
+        m_program->controller().performCommand(Command::Redo);
+        QCOMPARE(test->ph, 8.1F);
+        QCOMPARE(test->ammonia, 0.5F);
+        QVERIFY(!shownAlert()); // taking back and making again warns of nothing
+    }
+
+    void aHeaderSorts()
+    {
+        QHeaderView &header = *table()->horizontalHeader();
+        const int section = sectionOf(u"ammonia");
+        const auto ammonia = [&](int row) {
+            return std::static_pointer_cast<ConditionData>(reefLog().recordAt(row))->ammonia;
+        };
+        for (const bool ascending : {true, false}) {
+            clickHeader(section);
+            QCOMPARE(header.sortIndicatorSection(), section);
+            QCOMPARE(header.sortIndicatorOrder(), ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+            for (int row = 1; row < reefLog().count(); ++row)
+                QVERIFY(ascending ? ammonia(row - 1) <= ammonia(row) : ammonia(row - 1) >= ammonia(row));
+        }
+        QVERIFY(m_program->window().isWindowModified());
+    }
+
+    void theLogIsExported()
+    {
+        clickHeader(sectionOf(u"nitrate"));
+        const QString path = m_program->filePath(QStringLiteral("reef.csv"));
+        chooseAction("Export");
+        QVERIFY(answerPanel("exportPanel", path));
+        QTRY_VERIFY(QFileInfo::exists(path));
+
+        ConditionListController::sharedInstance().updateColumnInfo();
+        m_program->commands().saveCurrentFile();
+        QVERIFY(!m_program->window().isWindowModified());
+        QStringList arguments{QStringLiteral(BRINEMARK_SOURCE_DIR "/tests/app/expected-log-csv"), m_file,
+                              QString::fromLatin1(reef), dateFormatterForLocale()};
+        for (const ColumnInfo &column : reefColumns())
+            arguments << text(conditionColumnFromIdentifier(column.identifier)->headerKey);
+        const PythonRun python = runPython(arguments);
+        QVERIFY2(python.exitCode == 0, python.errors.constData());
+        const QByteArray expected = python.output;
+        QVERIFY(expected.count('\r') == reefLog().count() + 1);
+        QCOMPARE(bytesOf(path), expected);
+    }
+
+    void theGraphIsDrawn()
+    {
+        chooseAction("Graph");
+        auto *sheet = awaitWindow("graphWindow");
+        QVERIFY(sheet);
+        // The seven tests of the cycle's second half: 5, 7, 9, 13, 14, 17 and 21 December 2024.
+        chooseDate(sheet, "startDateCombo", QDate(2024, 12, 5));
+        chooseDate(sheet, "endDateCombo", QDate(2024, 12, 21));
+        QTest::mouseClick(sheet->findChild<QPushButton *>(QStringLiteral("drawButton")), Qt::LeftButton);
+        auto *graph = sheet->findChild<TwoDGraphView *>(QStringLiteral("graphView"));
+        QTRY_VERIFY(graph->isVisible());
+
+        // Shown columns without the date and the temperature, in their order.
+        const QStringList lines{"salt",    "ph",        "alkalinity", "calcium", "magnesium",
+                                "nitrate", "phosphate", "ammonia",    "nitrite", "iodine"};
+        const TwoDGraphDataSource &source = GraphController::sharedInstance();
+        QCOMPARE(source.numberOfLinesInTwoDGraphView(*graph), lines.size());
+
+        // Days between 19:14:21 on the 5th and each test, by hand.
+        const QList<double> days{0, 2.029525, 4.005694, 7.938414, 8.929421, 12.041204, 16.037407};
+        const auto expect = [&](const char *line, const QList<double> &values) {
+            const QList<QPointF> points = source.dataForLineIndex(*graph, int(lines.indexOf(QLatin1String(line))));
+            QCOMPARE(points.size(), days.size());
+            for (int i = 0; i < days.size(); ++i) {
+                QVERIFY2(std::abs(points.at(i).x() - days.at(i)) < 1e-5, qPrintable(QString::number(points.at(i).x())));
+                QVERIFY2(std::abs(points.at(i).y() - values.at(i)) < 1e-4,
+                         qPrintable(QString::number(points.at(i).y())));
+            }
+        };
+        expect("ammonia", {1.15, 0.85, 0.5, 0.1, 0.05, 0, 0});
+        expect("magnesium", {1350, 1350, 1348, 1346, 1344, 1342, 1340}); // level before the 7th, bridged to the 21st
+        expect("nitrate", {3, 3, 13.0 / 3, 17.0 / 3, 7, 9, 11});         // bridged twice: 3 to 7 and 7 to 11
+        expect("iodine", {0.08, 0.08, 0.08, 0.08, 0.08, 0.08, 0.08});    // one reading only
+        QCOMPARE(source.maximumValueForLineIndex(*graph, 0, GraphAxis::Y), 1350.0);
+        QVERIFY(std::abs(source.maximumValueForLineIndex(*graph, 0, GraphAxis::X) - 16.037407) < 1e-5);
+        sheet->reject();
+        QTRY_VERIFY(!sheet->isVisible());
+    }
+
+private:
+    [[nodiscard]] bool showsReefLog() const
+    {
+        return m_program->tree().currentTank() && m_program->tree().currentTank()->name == QLatin1String(reef) &&
+               m_program->controller().currentView() == MainView::Conditions;
+    }
+    static Container &reefLog() { return *TankListController::sharedInstance().currentTank()->condition(); }
+    static const Condition::ColumnInfoArray &reefColumns()
+    {
+        return TankListController::sharedInstance().currentTank()->condition()->columnInfoArray();
+    }
+    static QTableView *table() { return ConditionListController::sharedInstance().table(); }
+    static QWidget *view() { return ConditionListController::sharedInstance().view(); }
+    /// The cell that is being typed into; null for none.
+    static QLineEdit *editor()
+    {
+        auto *focused = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+        return focused && focused->objectName() == u"cellEditor" ? focused : nullptr;
+    }
+
+    static int sectionOf(QStringView identifier)
+    {
+        const auto &columns = reefColumns();
+        const auto isColumn = [&](const ColumnInfo &info) { return info.identifier == identifier; };
+        const QHeaderView &header = *table()->horizontalHeader();
+        return header.logicalIndex(int(std::find_if(columns.begin(), columns.end(), isColumn) - columns.begin()));
+    }
+
+    static void clickHeader(int section)
+    {
+        const QHeaderView &header = *table()->horizontalHeader();
+        table()->scrollTo(table()->model()->index(0, section));
+        QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
+                          {header.sectionViewportPosition(section) + 8, header.height() / 2});
+    }
+
+    /// An item of the action button's menu, as its menu would trigger it.
+    static void chooseAction(const char *key)
+    {
+        auto *button = view()->findChild<QToolButton *>(QStringLiteral("actionButton"));
+        QVERIFY(button && button->menu());
+        Q_EMIT button->menu()->aboutToShow();
+        for (QAction *action : button->menu()->actions()) {
+            if (action->text() == text(operator""_key(key, 0))) {
+                QVERIFY(action->isEnabled());
+                action->trigger();
+                return;
+            }
+        }
+        QFAIL(key);
+    }
+
+    /// Chooses the test of a day in a combo box of dates.
+    static void chooseDate(QWidget *sheet, const char *name, QDate day)
+    {
+        auto *combo = sheet->findChild<QComboBox *>(QLatin1String(name));
+        int item = 0;
+        while (item < combo->count() && combo->itemText(item) != localeDateText(day.startOfDay()))
+            ++item;
+        QVERIFY(item < combo->count());
+        combo->setCurrentIndex(item);
+    }
+
+    std::unique_ptr<Program> m_program;
+    QString m_file;
+};
+
+int main(int argc, char **argv)
+{
+    return runWithApp<TestWeeklyUse>(argc, argv);
+}
+
+#include "tst_weekly_use.moc"
