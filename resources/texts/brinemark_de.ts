@@ -1873,6 +1873,14 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Auswahl aus %@ löschen?</translation>
     </message>
     <message>
+        <source>StepDown</source>
+        <translation>Verringern</translation>
+    </message>
+    <message>
+        <source>StepUp</source>
+        <translation>Erhöhen</translation>
+    </message>
+    <message>
         <source>SubmitMessage</source>
         <translation>Ihr E-Mail-Programm öffnet eine Nachricht mit allem, was im Editor zu sehen ist. Nichts verlässt diesen Rechner, bevor Sie diese Nachricht abschicken.</translation>
     </message>

@@ -1873,6 +1873,14 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Delete the selection from %@?</translation>
     </message>
     <message>
+        <source>StepDown</source>
+        <translation>Decrease</translation>
+    </message>
+    <message>
+        <source>StepUp</source>
+        <translation>Increase</translation>
+    </message>
+    <message>
         <source>SubmitMessage</source>
         <translation>Your mail program will open with a message that holds everything shown in the editor. Nothing leaves this computer until you send that message.</translation>
     </message>
