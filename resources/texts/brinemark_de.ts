@@ -516,9 +516,25 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>Löschen</translation>
     </message>
     <message>
+        <source>DeviationCheckboxLabel</source>
+        <translation>To&amp;leranz zulassen</translation>
+    </message>
+    <message>
+        <source>DeviationCheckboxToolTip</source>
+        <translation>Auch Werte nahe am Ziel gelten lassen</translation>
+    </message>
+    <message>
+        <source>DeviationStepperToolTip</source>
+        <translation>Toleranz erhöhen oder senken</translation>
+    </message>
+    <message>
+        <source>DeviationToolTip</source>
+        <translation>Wie weit ein Wert über oder unter dem Ziel liegen darf</translation>
+    </message>
+    <message>
         <source>DisplayWarningCheckboxLabel</source>
         <extracomment>^0 is the parameter&apos;s name.</extracomment>
-        <translation>Warnen, wenn „^0“ vom Ziel abweicht</translation>
+        <translation>&amp;Warnen, wenn „^0“ vom Ziel abweicht</translation>
     </message>
     <message>
         <source>DockMenuTitle</source>
@@ -1033,6 +1049,21 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>Symbolleiste ausblenden</translation>
     </message>
     <message>
+        <source>HighAmmoniaReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Über ^0 schädigt Ammoniak die Kiemen. Je höher der pH-Wert, desto giftiger ist es.</translation>
+    </message>
+    <message>
+        <source>HighNitrateReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Über ^0 schwächt Nitrat die Tiere auf Dauer, und Algen gedeihen davon.</translation>
+    </message>
+    <message>
+        <source>HighNitriteReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Über ^0 kann das Blut der Fische wegen Nitrit kaum noch Sauerstoff tragen.</translation>
+    </message>
+    <message>
         <source>HighValueMessage</source>
         <extracomment>No per-cent sign: this text is used as a format. ^0 is the upper limit.</extracomment>
         <translation>In diesem Aquarium sollte er nicht über ^0 liegen.</translation>
@@ -1044,8 +1075,8 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     </message>
     <message>
         <source>HighValueWarning</source>
-        <extracomment>Shown in the target editor for ammonia, nitrate and nitrite.</extracomment>
-        <translation>Das ist mehr, als die meisten Tiere auf Dauer vertragen.</translation>
+        <extracomment>Shown in the target editor for ammonia, nitrate and nitrite. ^0 is the highest value that the target accepts.</extracomment>
+        <translation>Ein Wert von ^0 ist mehr, als die meisten Tiere auf Dauer vertragen.</translation>
     </message>
     <message>
         <source>InventoryDataCount</source>
@@ -1632,6 +1663,14 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Nitrat in Nitratstickstoff, Nitratstickstoff in Nitrat</translation>
     </message>
     <message>
+        <source>PreferredStepperToolTip</source>
+        <translation>Zielwert erhöhen oder senken</translation>
+    </message>
+    <message>
+        <source>PreferredToolTip</source>
+        <translation>Der angestrebte Wert, in der Einheit Ihres Testsets</translation>
+    </message>
+    <message>
         <source>PrefsAutoSaveAsk</source>
         <translation>Nachfragen</translation>
     </message>
@@ -1921,9 +1960,41 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Meerwasser</translation>
     </message>
     <message>
+        <source>TankSheetDeviation</source>
+        <translation>&amp;Toleranz (±):</translation>
+    </message>
+    <message>
+        <source>TankSheetHelpToolTip</source>
+        <translation>Wassertests und Zielwerte erklären</translation>
+    </message>
+    <message>
+        <source>TankSheetName</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>TankSheetParameter</source>
+        <translation>&amp;Messgröße:</translation>
+    </message>
+    <message>
+        <source>TankSheetPreferred</source>
+        <translation>&amp;Zielwert:</translation>
+    </message>
+    <message>
+        <source>TankSheetSize</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>TankSheetType</source>
+        <translation>&amp;Art:</translation>
+    </message>
+    <message>
         <source>TankSize</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Größe: </translation>
+    </message>
+    <message>
+        <source>TankSizeToolTip</source>
+        <translation>Volumen oder Maße, wie Sie sie schreiben möchten</translation>
     </message>
     <message>
         <source>TankType</source>
@@ -1933,6 +2004,10 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>TankViewTitle</source>
         <translation>Aquarium</translation>
+    </message>
+    <message>
+        <source>TargetPopupToolTip</source>
+        <translation>Die Messgröße, deren Ziel unten steht</translation>
     </message>
     <message>
         <source>TargetsTitle</source>
@@ -2143,6 +2218,10 @@ Zu kalt: Heizer instand setzen oder ergänzen und das Becken abdecken; ein Wasse
         <source>VolumeMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>Britische Gallonen in US-Gallonen, Britische Gallonen in Liter, Liter in britische Gallonen, Liter in US-Gallonen, US-Gallonen in Liter, US-Gallonen in US-Quart</translation>
+    </message>
+    <message>
+        <source>WarningCheckboxToolTip</source>
+        <translation>Neue Wassertests mit diesem Ziel vergleichen</translation>
     </message>
     <message>
         <source>WindowEditedMark</source>

@@ -516,9 +516,25 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>Delete</translation>
     </message>
     <message>
+        <source>DeviationCheckboxLabel</source>
+        <translation>&amp;Allow a tolerance</translation>
+    </message>
+    <message>
+        <source>DeviationCheckboxToolTip</source>
+        <translation>Accept values near the target as well</translation>
+    </message>
+    <message>
+        <source>DeviationStepperToolTip</source>
+        <translation>Raise or lower the tolerance</translation>
+    </message>
+    <message>
+        <source>DeviationToolTip</source>
+        <translation>How far a value may lie above or below the target</translation>
+    </message>
+    <message>
         <source>DisplayWarningCheckboxLabel</source>
         <extracomment>^0 is the parameter&apos;s name.</extracomment>
-        <translation>Warn when ^0 is off target</translation>
+        <translation>&amp;Warn when ^0 is off target</translation>
     </message>
     <message>
         <source>DockMenuTitle</source>
@@ -1033,6 +1049,21 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>Hide Toolbar</translation>
     </message>
     <message>
+        <source>HighAmmoniaReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Above ^0, ammonia damages the gills. The higher the pH, the more of it is toxic.</translation>
+    </message>
+    <message>
+        <source>HighNitrateReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Above ^0, nitrate weakens animals in the long run, and algae thrive on it.</translation>
+    </message>
+    <message>
+        <source>HighNitriteReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Above ^0, nitrite keeps the blood from carrying oxygen, and fish suffocate.</translation>
+    </message>
+    <message>
         <source>HighValueMessage</source>
         <extracomment>No per-cent sign: this text is used as a format. ^0 is the upper limit.</extracomment>
         <translation>In this tank it should not be above ^0.</translation>
@@ -1044,8 +1075,8 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
     </message>
     <message>
         <source>HighValueWarning</source>
-        <extracomment>Shown in the target editor for ammonia, nitrate and nitrite.</extracomment>
-        <translation>This is more than most animals bear for long.</translation>
+        <extracomment>Shown in the target editor for ammonia, nitrate and nitrite. ^0 is the highest value that the target accepts.</extracomment>
+        <translation>A value of ^0 is more than most animals bear for long.</translation>
     </message>
     <message>
         <source>InventoryDataCount</source>
@@ -1632,6 +1663,14 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Nitrate to nitrate nitrogen, Nitrate nitrogen to nitrate</translation>
     </message>
     <message>
+        <source>PreferredStepperToolTip</source>
+        <translation>Raise or lower the target</translation>
+    </message>
+    <message>
+        <source>PreferredToolTip</source>
+        <translation>The value to aim for, in the unit of your test kit</translation>
+    </message>
+    <message>
         <source>PrefsAutoSaveAsk</source>
         <translation>Ask what to do</translation>
     </message>
@@ -1921,9 +1960,41 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Marine</translation>
     </message>
     <message>
+        <source>TankSheetDeviation</source>
+        <translation>T&amp;olerance (±):</translation>
+    </message>
+    <message>
+        <source>TankSheetHelpToolTip</source>
+        <translation>Explain water tests and targets</translation>
+    </message>
+    <message>
+        <source>TankSheetName</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>TankSheetParameter</source>
+        <translation>&amp;Parameter:</translation>
+    </message>
+    <message>
+        <source>TankSheetPreferred</source>
+        <translation>&amp;Target:</translation>
+    </message>
+    <message>
+        <source>TankSheetSize</source>
+        <translation>&amp;Size:</translation>
+    </message>
+    <message>
+        <source>TankSheetType</source>
+        <translation>T&amp;ype:</translation>
+    </message>
+    <message>
         <source>TankSize</source>
         <extracomment>Stands directly before its value.</extracomment>
         <translation>Size: </translation>
+    </message>
+    <message>
+        <source>TankSizeToolTip</source>
+        <translation>Volume or measures, as you like to write them</translation>
     </message>
     <message>
         <source>TankType</source>
@@ -1933,6 +2004,10 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>TankViewTitle</source>
         <translation>Tank</translation>
+    </message>
+    <message>
+        <source>TargetPopupToolTip</source>
+        <translation>The parameter whose target is shown below</translation>
     </message>
     <message>
         <source>TargetsTitle</source>
@@ -2143,6 +2218,10 @@ Too cold: repair or add a heater and cover the tank; a water change with slightl
         <source>VolumeMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>Imperial gallons to US gallons, Imperial gallons to litres, Litres to imperial gallons, Litres to US gallons, US gallons to litres, US gallons to US quarts</translation>
+    </message>
+    <message>
+        <source>WarningCheckboxToolTip</source>
+        <translation>Hold new water tests against this target</translation>
     </message>
     <message>
         <source>WindowEditedMark</source>

@@ -5,19 +5,36 @@
 #include "chemistry/views/TargetTableModel.h"
 #include "model/Tank.h"
 #include "ui/CaptionForm.h"
+#include "ui/EmptyState.h"
 #include "ui/Icons.h"
-#include "ui/lists/RecordTableView.h"
 #include "ui/Shell.h"
 #include "ui/TitleLine.h"
 #include "ui/TruncatingDelegate.h"
+#include "ui/lists/RecordTableView.h"
 
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedWidget>
+
+#include <array>
+#include <initializer_list>
 
 namespace brinemark
 {
+
+namespace
+{
+
+void showValue(QLabel *field, const QString &value)
+{
+    field->setText(value);
+    // A field without text is no stop of the tab key.
+    field->setFocusPolicy(value.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+} // namespace
 
 TankDataController::TankDataController()
     : m_model(new TargetTableModel(this))
@@ -41,23 +58,34 @@ void TankDataController::makeView()
     m_view = new QWidget;
     m_view->setObjectName(QStringLiteral("tankView"));
     m_titleLine = new TitleLine;
+    m_emptyState = new EmptyState(icon("NewTankBig"), text("EmptyTanks"), text("ToolbarNewTank"));
+    m_pages = new QStackedWidget;
+    m_pages->addWidget(makeContent());
+    m_pages->addWidget(m_emptyState);
+    auto *column = new QVBoxLayout(m_view);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_titleLine);
+    column->addWidget(m_pages, 1);
+
+    connect(m_emptyState, &EmptyState::addRequested, this,
+            [] { TankDataEntryController::sharedInstance().displayTank(nullptr, true, {}); });
+    connect(m_editButton, &QPushButton::clicked, this, &TankDataController::editAction);
+    connect(m_table, &QTableView::doubleClicked, this, &TankDataController::edit);
+    m_table->returnPressed = [this] { editAction(); };
+}
+
+QWidget *TankDataController::makeContent()
+{
     m_nameField = makeValue(QStringLiteral("nameField"));
     m_sizeField = makeValue(QStringLiteral("sizeField"));
     m_typeField = makeValue(QStringLiteral("typeField"));
-    m_table = new RecordTableView([] { Shell::shared().deleteItem(); });
-    m_table->setObjectName(QStringLiteral("conditionTableView"));
-    m_table->setModel(m_model);
-    m_table->setItemDelegate(new TruncatingDelegate(m_table));
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->horizontalHeader()->setSectionsClickable(false);
-    m_table->horizontalHeader()->setSortIndicatorShown(false);
-    constexpr std::array widths{200, 110, 100};
-    for (int i = 0; i < int(widths.size()); ++i)
-        m_table->setColumnWidth(i, widths[std::size_t(i)]);
-    auto *editButton = new QPushButton(icon("Edit"), text("Edit..."));
-    editButton->setObjectName(QStringLiteral("editButton"));
-    editButton->setToolTip(text("EditTankToolTip"));
-    m_editButton = editButton;
+    for (QLabel *value : {m_nameField, m_sizeField, m_typeField})
+        value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    makeTable();
+    m_editButton = new QPushButton(icon("Edit"), text("Edit..."));
+    m_editButton->setObjectName(QStringLiteral("editButton"));
+    m_editButton->setToolTip(text("EditTankToolTip"));
 
     auto *form = new QGridLayout;
     form->setContentsMargins(16, 0, 16, 16);
@@ -71,28 +99,42 @@ void TankDataController::makeView()
     targetsTitle->setContentsMargins(16, 0, 16, 8);
     auto *buttons = new QHBoxLayout;
     buttons->setContentsMargins(8, 8, 8, 8);
-    buttons->addWidget(editButton);
+    buttons->addWidget(m_editButton);
     buttons->addStretch();
-    auto *column = new QVBoxLayout(m_view);
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(m_titleLine);
     column->addLayout(form);
     column->addWidget(targetsTitle);
     column->addWidget(m_table, 1);
     column->addLayout(buttons);
+    return content;
+}
 
-    connect(editButton, &QPushButton::clicked, this, &TankDataController::editAction);
-    connect(m_table, &QTableView::doubleClicked, this, &TankDataController::edit);
+void TankDataController::makeTable()
+{
+    m_table = new RecordTableView([] { Shell::shared().deleteItem(); });
+    m_table->setObjectName(QStringLiteral("conditionTableView"));
+    m_table->setAccessibleName(text("TargetsTitle"));
+    m_table->setModel(m_model);
+    m_table->setItemDelegate(new TruncatingDelegate(m_table));
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->horizontalHeader()->setSectionsClickable(false);
+    m_table->horizontalHeader()->setSortIndicatorShown(false);
+    constexpr std::array widths{200, 110, 100};
+    for (int i = 0; i < int(widths.size()); ++i)
+        m_table->setColumnWidth(i, widths[std::size_t(i)]);
 }
 
 void TankDataController::setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton)
 {
-    QWidget *shown = view();
-    QWidget::setTabOrder(tankTree, shown);
-    QWidget::setTabOrder(shown, m_table);
-    QWidget::setTabOrder(m_table, m_editButton);
-    QWidget::setTabOrder(m_editButton, helpButton);
+    QWidget *previous = tankTree;
+    for (QWidget *next : std::initializer_list<QWidget *>{view(), m_table, m_editButton, helpButton, m_nameField,
+                                                          m_sizeField, m_typeField}) {
+        QWidget::setTabOrder(previous, next);
+        previous = next;
+    }
     display();
 }
 
@@ -100,14 +142,15 @@ void TankDataController::display()
 {
     if (!m_view)
         return;
-    Tank *tank = Shell::shared().currentTank();
+    const Tank *tank = Shell::shared().currentTank();
     m_model->setTank(tank);
     m_titleLine->setTitle(text("TankViewTitle"));
     m_titleLine->setSecondary(tank ? tank->name : QString());
-    m_nameField->setText(tank ? tank->name : QString());
-    m_sizeField->setText(tank ? tank->size : QString());
-    m_typeField->setText(!tank ? QString() : tank->freshwater ? text("TankFreshwater") : text("TankSaltwater"));
+    showValue(m_nameField, tank ? tank->name : QString());
+    showValue(m_sizeField, tank ? tank->size : QString());
+    showValue(m_typeField, !tank ? QString() : tank->freshwater ? text("TankFreshwater") : text("TankSaltwater"));
     m_editButton->setEnabled(tank);
+    m_pages->setCurrentIndex(tank ? 0 : m_pages->indexOf(m_emptyState));
 }
 
 void TankDataController::editAction()
@@ -121,7 +164,7 @@ void TankDataController::edit(const QModelIndex &row)
     Tank *tank = Shell::shared().currentTank();
     if (!tank)
         return;
-    const TankData *target = m_model->targetAt(row.row());
+    const NamedTarget *target = m_model->targetAt(row.row());
     TankDataEntryController::sharedInstance().displayTank(tank->shared_from_this(), false,
                                                           target ? target->name : QString());
 }

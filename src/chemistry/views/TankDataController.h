@@ -7,11 +7,14 @@
 
 class QLabel;
 class QModelIndex;
-class QTableView;
+class QPushButton;
+class QStackedWidget;
 
 namespace brinemark
 {
 
+class EmptyState;
+class RecordTableView;
 class TargetTableModel;
 class TitleLine;
 
@@ -29,7 +32,7 @@ public:
     void updateDisplay() override { display(); }
 
     void display(); ///< fills the view from the current tank
-    /// Opens the tank editor at the selected target.
+    /// Opens the tank editor at the selected target, if one is.
     void editAction();
 
 private:
@@ -37,6 +40,8 @@ private:
     TankDataController();
 
     void makeView();
+    QWidget *makeContent();
+    void makeTable();
     void edit(const QModelIndex &row);
 
     QPointer<QWidget> m_view;
@@ -45,8 +50,10 @@ private:
     QLabel *m_nameField = nullptr;
     QLabel *m_sizeField = nullptr;
     QLabel *m_typeField = nullptr;
-    QTableView *m_table = nullptr;
-    QWidget *m_editButton = nullptr;
+    RecordTableView *m_table = nullptr;
+    QPushButton *m_editButton = nullptr;
+    QStackedWidget *m_pages = nullptr;
+    EmptyState *m_emptyState = nullptr;
 };
 
 } // namespace brinemark

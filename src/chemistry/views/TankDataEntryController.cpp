@@ -1,20 +1,25 @@
 #include "chemistry/views/TankDataEntryController.h"
 
 #include "base/text/Texts.h"
+#include "chemistry/HighValue.h"
+#include "chemistry/TargetInput.h"
+#include "chemistry/views/CheckedLineEdit.h"
 #include "chemistry/views/TankDataController.h"
+#include "chemistry/views/targets/HighValueBox.h"
+#include "chemistry/views/targets/TankSheet.h"
+#include "chemistry/views/targets/TargetNumberEdit.h"
 #include "model/Tank.h"
 #include "model/TankList.h"
-#include "ui/CaptionForm.h"
+#include "ui/HelpWindow.h"
 #include "ui/Sheets.h"
 #include "ui/Shell.h"
 
-#include <QDialog>
-#include <QDialogButtonBox>
-#include <QGridLayout>
-#include <QLabel>
-#include <QLineEdit>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include <utility>
 
 namespace brinemark
 {
@@ -22,7 +27,7 @@ namespace brinemark
 namespace
 {
 
-constexpr int fieldWidth = 280; ///< pixels
+enum ReturnCode { Dismissed = 0, Confirmed = 1, Cancelled = 2 };
 
 } // namespace
 
@@ -35,95 +40,273 @@ TankDataEntryController::~TankDataEntryController()
 
 void TankDataEntryController::makeSheet()
 {
-    m_infoPanel = new QDialog(Shell::shared().mainWindow());
-    m_infoPanel->setObjectName(QStringLiteral("tankSheet"));
-    m_nameField = new QLineEdit;
-    m_nameField->setObjectName(QStringLiteral("nameField"));
-    m_nameField->setMinimumWidth(fieldWidth);
-    m_sizeField = new QLineEdit;
-    m_sizeField->setObjectName(QStringLiteral("sizeField"));
-    m_freshwaterButton = new QRadioButton(text("TankFreshwater"));
-    m_freshwaterButton->setObjectName(QStringLiteral("freshwaterButton"));
-    m_marineButton = new QRadioButton(text("TankSaltwater"));
-    m_marineButton->setObjectName(QStringLiteral("marineButton"));
-    auto *buttons = new QDialogButtonBox;
-    m_okButton = buttons->addButton(text("OK"), QDialogButtonBox::AcceptRole);
-    m_okButton->setObjectName(QStringLiteral("okButton"));
-    m_okButton->setDefault(true);
-    m_cancelButton = buttons->addButton(text("CancelLabel"), QDialogButtonBox::RejectRole);
-    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
-
-    auto *types = new QWidget;
-    auto *typeLine = new QHBoxLayout(types);
-    typeLine->setContentsMargins(0, 0, 0, 0);
-    typeLine->setSpacing(16);
-    typeLine->addWidget(m_freshwaterButton);
-    typeLine->addWidget(m_marineButton);
-    typeLine->addStretch();
-    auto *form = new QGridLayout;
-    form->setHorizontalSpacing(8);
-    form->setVerticalSpacing(8);
-    addCaptioned(*form, 0, 0, text("TankNameLabel"), m_nameField);
-    addCaptioned(*form, 1, 0, text("TankSize"), m_sizeField);
-    addCaptioned(*form, 2, 0, text("TankType"), types);
-    auto *column = new QVBoxLayout(m_infoPanel);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(16);
-    column->addLayout(form);
-    column->addWidget(buttons);
-    column->setSizeConstraint(QLayout::SetFixedSize);
-
-    connect(buttons, &QDialogButtonBox::accepted, this, &TankDataEntryController::okAction);
-    connect(buttons, &QDialogButtonBox::rejected, this, &TankDataEntryController::cancelAction);
-    connect(m_infoPanel, &QDialog::finished, this, &TankDataEntryController::closeSheet);
+    m_infoPanel = new TankSheet(Shell::shared().mainWindow());
+    const TankSheet &sheet = *m_infoPanel;
+    const auto onClick = [this](QAbstractButton *button, auto action) {
+        connect(button, &QAbstractButton::clicked, this, action);
+    };
+    onClick(sheet.okButton, &TankDataEntryController::okAction);
+    onClick(sheet.cancelButton, &TankDataEntryController::cancelAction);
+    onClick(sheet.helpButton, &TankDataEntryController::helpButtonAction);
+    onClick(sheet.warningCheckbox, &TankDataEntryController::warningCheckboxAction);
+    onClick(sheet.deviationCheckbox, &TankDataEntryController::deviationCheckboxAction);
+    connect(sheet.freshwaterButton, &QRadioButton::toggled, this, &TankDataEntryController::highValueCheck);
+    connect(sheet.warningPopup, &QComboBox::currentIndexChanged, this, &TankDataEntryController::warningPopupAction);
+    connect(sheet.preferred, &TargetNumberEdit::stepped, this, &TankDataEntryController::preferredStepperAction);
+    connect(sheet.deviation, &TargetNumberEdit::stepped, this, &TankDataEntryController::deviationStepperAction);
+    for (TargetNumberEdit *number : {sheet.preferred, sheet.deviation}) {
+        connect(number, &TargetNumberEdit::typing, this, &TankDataEntryController::highValueCheck);
+        connect(number, &TargetNumberEdit::editingFinished, this, [this, number] { controlTextDidEndEditing(number); });
+    }
+    connect(&sheet, &TankSheet::dismissed, this, [this] { endSheet(Dismissed); });
+    connect(&sheet, &QDialog::finished, this, &TankDataEntryController::closeSheet);
 }
 
-void TankDataEntryController::displayTank(std::shared_ptr<Tank> tank, bool withCancel, const QString &)
+// ---- opening
+
+void TankDataEntryController::displayTank(std::shared_ptr<Tank> tank, bool withCancel, const QString &title)
 {
     if (!m_infoPanel)
         makeSheet();
-    if (m_infoPanel->isVisible())
+    else if (m_tank)
         return;
     const bool isNew = !tank;
     m_tank = isNew ? std::make_shared<Tank>(text("NewTankName")) : std::move(tank);
-    m_infoPanel->setWindowTitle(isNew ? text("NewTankTitle") : text("EditTankTitle"));
-    m_nameField->setText(m_tank->name);
-    m_sizeField->setText(m_tank->size);
-    (m_tank->freshwater ? m_freshwaterButton : m_marineButton)->setChecked(true);
-    m_cancelButton->setVisible(withCancel);
-    m_nameField->setFocus();
-    m_nameField->selectAll();
+    m_currentData = nullptr;
+    m_targetsChanged = false;
+    showTank(isNew);
+    m_infoPanel->cancelButton->setVisible(withCancel);
+    QLineEdit *first = selectTitle(title) ? m_infoPanel->preferred->field() : m_infoPanel->nameField;
+    warningPopupAction();
+    first->setFocus();
+    first->selectAll();
     openSheet(Shell::shared().mainWindow(), m_infoPanel);
+}
+
+void TankDataEntryController::showTank(bool isNew)
+{
+    m_infoPanel->setWindowTitle(isNew ? text("NewTankTitle") : text("EditTankTitle"));
+    m_infoPanel->nameField->setText(m_tank->name);
+    m_infoPanel->sizeField->setText(m_tank->size);
+    (m_tank->freshwater ? m_infoPanel->freshwaterButton : m_infoPanel->marineButton)->setChecked(true);
+    m_infoPanel->fillChooser(*m_tank);
+}
+
+/// Chooses the target of that name; the first one when there is none.
+bool TankDataEntryController::selectTitle(const QString &title)
+{
+    const QSignalBlocker quiet(m_infoPanel->warningPopup);
+    const int item =
+        title.isEmpty() ? -1 : m_infoPanel->warningPopup->findText(title, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    m_infoPanel->warningPopup->setCurrentIndex(std::max(item, 0));
+    return item >= 0;
+}
+
+// ---- one target
+
+void TankDataEntryController::warningPopupAction()
+{
+    if (!m_tank)
+        return;
+    storeNumbers();
+    const QComboBox &popup = *m_infoPanel->warningPopup;
+    m_infoPanel->setWarningTitle(popup.currentText());
+    m_currentData = m_tank->targetForKey(popup.currentData(TankSheet::TargetKeyRole).toString());
+    setupInputWithTag(popup.currentData(TankSheet::TargetTagRole).toInt());
+    showCurrentData();
+    setupStepperValues();
+    enableWarningControls(m_infoPanel->warningCheckbox->isChecked());
+    highValueCheck();
+}
+
+void TankDataEntryController::showCurrentData()
+{
+    const TankSheet &sheet = *m_infoPanel;
+    sheet.warningCheckbox->setEnabled(m_currentData);
+    sheet.preferred->setEnabled(m_currentData);
+    sheet.warningCheckbox->setChecked(m_currentData && m_currentData->warningOn);
+    sheet.deviationCheckbox->setChecked(m_currentData && m_currentData->deviationOn);
+    if (m_currentData) {
+        sheet.preferred->setValue(m_currentData->preferredValue);
+        sheet.deviation->setValue(m_currentData->deviationValue);
+    } else {
+        sheet.preferred->clear();
+        sheet.deviation->clear();
+    }
+}
+
+void TankDataEntryController::setupInputWithTag(int tag)
+{
+    const TargetInput *input = targetInputForTag(tag);
+    if (!input || !m_infoPanel)
+        return;
+    m_infoPanel->preferred->setInput(input->preferred, input->decimals);
+    m_infoPanel->deviation->setInput(input->deviation, input->decimals);
+}
+
+void TankDataEntryController::setupStepperValues()
+{
+    m_infoPanel->preferred->setupStepper();
+    m_infoPanel->deviation->setupStepper();
+}
+
+template <class Value>
+void TankDataEntryController::store(Value TankData::*field, Value value)
+{
+    if (!m_currentData || m_currentData->*field == value)
+        return;
+    m_currentData->*field = value;
+    m_targetsChanged = true;
+}
+
+void TankDataEntryController::storeNumbers()
+{
+    storeNumber(*m_infoPanel->preferred);
+    storeNumber(*m_infoPanel->deviation);
+}
+
+/// A number that nobody touched stays as it was stored, to the last digit and beyond the field's maximum.
+void TankDataEntryController::storeNumber(const TargetNumberEdit &number)
+{
+    const bool isPreferred = &number == m_infoPanel->preferred;
+    if (number.isTouched())
+        store(isPreferred ? &TankData::preferredValue : &TankData::deviationValue, float(number.value()));
+}
+
+void TankDataEntryController::preferredStepperAction()
+{
+    m_infoPanel->preferred->takeStepperValue();
+    storeNumber(*m_infoPanel->preferred);
+    highValueCheck();
+}
+
+void TankDataEntryController::deviationStepperAction()
+{
+    m_infoPanel->deviation->takeStepperValue();
+    storeNumber(*m_infoPanel->deviation);
+    highValueCheck();
+}
+
+void TankDataEntryController::controlTextDidEndEditing(TargetNumberEdit *number)
+{
+    if (!m_currentData)
+        return; // the sheet has ended, and the field loses the focus only now
+    number->moveStepper();
+    storeNumber(*number);
+    highValueCheck();
+}
+
+void TankDataEntryController::warningCheckboxAction()
+{
+    const bool on = m_infoPanel->warningCheckbox->isChecked();
+    enableWarningControls(on);
+    store(&TankData::warningOn, on);
+    highValueCheck();
+}
+
+void TankDataEntryController::deviationCheckboxAction()
+{
+    const bool on = m_infoPanel->deviationCheckbox->isChecked();
+    m_infoPanel->deviation->setEnabled(on);
+    store(&TankData::deviationOn, on);
+    highValueCheck();
+}
+
+void TankDataEntryController::enableWarningControls(bool warningOn)
+{
+    m_infoPanel->deviationCheckbox->setEnabled(warningOn);
+    m_infoPanel->deviation->setEnabled(warningOn && m_infoPanel->deviationCheckbox->isChecked());
+}
+
+// ---- advice
+
+std::optional<Parameter> TankDataEntryController::chosenParameter() const
+{
+    const TargetInput *input =
+        targetInputForTag(m_infoPanel->warningPopup->currentData(TankSheet::TargetTagRole).toInt());
+    return input && m_currentData ? std::optional(input->parameter) : std::nullopt;
+}
+
+void TankDataEntryController::highValueCheck()
+{
+    const TankSheet &sheet = *m_infoPanel;
+    double value = sheet.preferred->value();
+    if (sheet.deviation->isEnabled())
+        value += sheet.deviation->value();
+    const std::optional<Parameter> parameter = chosenParameter();
+    const bool freshwater = sheet.freshwaterButton->isChecked();
+    const bool isHigh = parameter && isHighValue(*parameter, freshwater, value);
+    if (isHigh)
+        sheet.warningBox->setAdvice(*parameter, freshwater, value);
+    showHighValueWarningWithBool(isHigh);
+}
+
+void TankDataEntryController::showHighValueWarningWithBool(bool show)
+{
+    m_infoPanel->warningBox->setVisible(show);
+}
+
+// ---- closing
+
+QPushButton *TankDataEntryController::cancelButton() const
+{
+    return m_infoPanel ? m_infoPanel->cancelButton : nullptr;
+}
+
+void TankDataEntryController::helpButtonAction()
+{
+    showHelp(QStringLiteral("conditions"));
 }
 
 void TankDataEntryController::okAction()
 {
-    if (m_infoPanel)
-        m_infoPanel->done(1);
+    if (!m_infoPanel)
+        return;
+    storeNumbers();
+    endSheet(Confirmed);
 }
 
 void TankDataEntryController::cancelAction()
 {
     if (m_infoPanel)
-        m_infoPanel->done(2);
+        endSheet(Cancelled);
+}
+
+void TankDataEntryController::endSheet(int returnCode)
+{
+    m_currentData = nullptr; // a field that loses the focus with the sheet stores nothing any more
+    m_infoPanel->done(returnCode);
 }
 
 void TankDataEntryController::closeSheet(int returnCode)
 {
+    m_currentData = nullptr;
     const std::shared_ptr<Tank> tank = std::exchange(m_tank, nullptr);
+    if (!tank)
+        return;
     Shell &shell = Shell::shared();
-    // Escape ends a sheet without a cancel button too: what was typed then stays untold.
-    if (returnCode == 1 && tank) {
-        tank->name = m_nameField->text();
-        tank->size = m_sizeField->text();
-        tank->freshwater = m_freshwaterButton->isChecked();
-        if (shell.tankList().indexOf(tank.get()) < 0)
-            shell.appendTank(tank);
-        shell.updateTree();
+    if (returnCode == Confirmed) {
+        confirm(tank);
+    } else if (m_targetsChanged && shell.tankList().indexOf(tank.get()) >= 0) {
+        // Escape leaves name, size and type as they were, but the targets have changed already, and a change that
+        // nothing counts would be lost at the next quit without a question.
         TankDataController::sharedInstance().display();
         shell.documentModifiedWithChange(true);
     }
     shell.orderFrontAndCheckModified();
+}
+
+void TankDataEntryController::confirm(const std::shared_ptr<Tank> &tank)
+{
+    Shell &shell = Shell::shared();
+    if (shell.tankList().indexOf(tank.get()) < 0)
+        shell.appendTank(tank);
+    tank->name = m_infoPanel->nameField->text();
+    tank->size = m_infoPanel->sizeField->text();
+    tank->freshwater = m_infoPanel->freshwaterButton->isChecked();
+    shell.updateTree();
+    TankDataController::sharedInstance().display();
+    shell.documentModifiedWithChange(true);
 }
 
 } // namespace brinemark

@@ -3,12 +3,12 @@
 #include "base/text/NumberText.h"
 #include "base/text/Texts.h"
 #include "model/Tank.h"
-#include "ui/Colours.h"
 
 #include <QApplication>
 #include <QPalette>
 
-#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace brinemark
 {
@@ -24,8 +24,9 @@ constexpr std::array<TextKey, 4> headerKeys{
     "ColumnDeviation"_key,
 };
 
-QString cellText(const TankData &target, int column)
+QString cellText(const NamedTarget &named, int column)
 {
+    const TankData &target = *named.target;
     switch (column) {
     case PreferredValue:
         return localizeAndTrimZeros(target.preferredValue);
@@ -34,29 +35,28 @@ QString cellText(const TankData &target, int column)
     case DeviationValue:
         return formatText(QStringLiteral("%@ %@"), {text("PlusMinus"), localizeAndTrimZeros(target.deviationValue)});
     default:
-        return target.name;
+        return named.name;
     }
 }
 
 } // namespace
 
-void TargetTableModel::setTank(Tank *tank)
+void TargetTableModel::setTank(const Tank *tank)
 {
-    beginResetModel();
-    m_listArray.clear();
-    for (const ParameterTraits &traits : parameterTable) {
+    std::vector<NamedTarget> targets = tank ? targetsByName(*tank) : std::vector<NamedTarget>();
+    if (targets == m_listArray) {
         if (tank)
-            m_listArray.push_back(
-                std::static_pointer_cast<const TankData>(tank->target(traits.parameter)->shared_from_this()));
+            Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+        return;
     }
-    std::stable_sort(m_listArray.begin(), m_listArray.end(),
-                     [](const auto &a, const auto &b) { return a->name.compare(b->name, Qt::CaseInsensitive) < 0; });
+    beginResetModel();
+    m_listArray = std::move(targets);
     endResetModel();
 }
 
-const TankData *TargetTableModel::targetAt(int row) const
+const NamedTarget *TargetTableModel::targetAt(int row) const
 {
-    return row >= 0 && row < int(m_listArray.size()) ? m_listArray[std::size_t(row)].get() : nullptr;
+    return row >= 0 && row < int(m_listArray.size()) ? &m_listArray[std::size_t(row)] : nullptr;
 }
 
 int TargetTableModel::rowCount(const QModelIndex &parent) const
@@ -73,11 +73,13 @@ QVariant TargetTableModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const TankData &target = *targetAt(index.row());
+    const NamedTarget &named = *targetAt(index.row());
     if (role == Qt::DisplayRole)
-        return cellText(target, index.column());
-    if (role == Qt::ForegroundRole && index.column() == DeviationValue && !(target.warningOn && target.deviationOn))
-        return colour(ColourRole::SecondaryText, QApplication::palette());
+        return cellText(named, index.column());
+    // A selected row shows its own colour instead.
+    const bool bandIsUsed = named.target->warningOn && named.target->deviationOn;
+    if (role == Qt::ForegroundRole && index.column() == DeviationValue && !bandIsUsed)
+        return QApplication::palette().color(QPalette::Disabled, QPalette::Text);
     return {};
 }
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "model/TankData.h"
+#include "chemistry/NamedTargets.h"
 
 #include <QAbstractTableModel>
 
-#include <memory>
 #include <vector>
 
 namespace brinemark
@@ -12,7 +11,7 @@ namespace brinemark
 
 class Tank;
 
-/// A tank's targets as table rows, sorted by name without regard to case.
+/// A tank's targets as table rows, in the order of targetsByName().
 class TargetTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,8 +19,9 @@ class TargetTableModel : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void setTank(Tank *tank);                              ///< takes up the targets afresh; null for none
-    [[nodiscard]] const TankData *targetAt(int row) const; ///< null out of range
+    /// Takes up the targets afresh; null for none. Rows that are there already stay selected.
+    void setTank(const Tank *tank);
+    [[nodiscard]] const NamedTarget *targetAt(int row) const; ///< null out of range
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
@@ -29,7 +29,7 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    std::vector<std::shared_ptr<const TankData>> m_listArray;
+    std::vector<NamedTarget> m_listArray;
 };
 
 } // namespace brinemark

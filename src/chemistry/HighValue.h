@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/Parameters.h"
+
+#include <optional>
+#include <span>
+
+namespace brinemark
+{
+
+/// The advice on a parameter for which a target can be set too high to be good for the animals.
+struct HighValueAdvice {
+    Parameter parameter;
+    TextKey freshwaterKey; ///< of the number above which a target is too high, in fresh water
+    TextKey marineKey;     ///< the same in sea water
+    TextKey reasonKey;     ///< of the text that says why; "^0" stands for that number
+};
+
+[[nodiscard]] std::span<const HighValueAdvice> highValueAdvices();
+
+/// Null for a parameter without a threshold.
+[[nodiscard]] const HighValueAdvice *highValueAdviceOf(Parameter parameter);
+
+/// The highest value that passes without advice, in the parameter's unit; none where there is no threshold.
+[[nodiscard]] std::optional<double> highValueThreshold(Parameter parameter, bool freshwater);
+
+/// Compares in single precision, as targets are held, so that a value that is written like the threshold is not above.
+[[nodiscard]] bool isHighValue(Parameter parameter, bool freshwater, double value);
+
+} // namespace brinemark

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/Parameters.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace brinemark
+{
+
+class Tank;
+struct TankData;
+
+/// A tank's target under the name that a person sees.
+struct NamedTarget {
+    Parameter parameter;
+    std::shared_ptr<TankData> target; ///< never null
+    QString name;                     ///< as stored with the target; the parameter's own where the file had none
+
+    friend bool operator==(const NamedTarget &, const NamedTarget &) = default;
+};
+
+/// The seventeen targets, sorted by name without regard to case; equal names keep the order of the parameters.
+[[nodiscard]] std::vector<NamedTarget> targetsByName(const Tank &tank);
+
+} // namespace brinemark

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QDialog>
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace brinemark
+{
+
+class HighValueBox;
+class Tank;
+class TargetNumberEdit;
+
+/// What the sheet of TankDataEntryController looks like: the controls of a tank's name, size and type, and of one
+/// target at a time. Every control's object name is the name of its member here; the numbers' parts are
+/// "preferredField", "preferredStepper", "deviationField" and "deviationStepper".
+class TankSheet : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit TankSheet(QWidget *parent = nullptr);
+
+    QLineEdit *const nameField;
+    QLineEdit *const sizeField;
+    QRadioButton *const freshwaterButton;
+    QRadioButton *const marineButton;
+    QComboBox *const warningPopup;
+    TargetNumberEdit *const preferred;
+    QCheckBox *const warningCheckbox;
+    QCheckBox *const deviationCheckbox;
+    TargetNumberEdit *const deviation;
+    HighValueBox *const warningBox;
+    QPushButton *const helpButton;
+    QPushButton *const cancelButton;
+    QPushButton *const okButton;
+
+    /// What an item of the chooser carries.
+    enum ItemRole { TargetTagRole = Qt::UserRole, TargetKeyRole };
+
+    void fillChooser(const Tank &tank); ///< selects no item for anybody to hear
+    void setWarningTitle(QString parameterName);
+
+    /// Escape and the window's close button: neither OK nor cancel.
+    void reject() override { Q_EMIT dismissed(); }
+
+Q_SIGNALS:
+    void dismissed();
+
+private:
+    void nameControls();
+    QLayout *makeForm();
+};
+
+} // namespace brinemark

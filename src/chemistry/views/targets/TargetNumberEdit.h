@@ -1,0 +1,56 @@
+#pragma once
+
+#include "chemistry/TargetInput.h"
+
+#include <QWidget>
+
+namespace brinemark
+{
+
+class CheckedLineEdit;
+class Stepper;
+
+/// One of a target's two numbers: a field, and a stepper beside it. The field can be typed in, and stepped with the up
+/// and down keys.
+class TargetNumberEdit : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The parts are named `name` + "Field" and `name` + "Stepper".
+    explicit TargetNumberEdit(const QString &name, QWidget *parent = nullptr);
+
+    [[nodiscard]] CheckedLineEdit *field() const { return m_field; }
+    [[nodiscard]] Stepper *stepper() const { return m_stepper; }
+
+    /// Sets the stepper's step and maximum and the field's decimals.
+    void setInput(const StepRange &range, int decimals);
+    /// Makes the field's maximum the stepper's, and moves the stepper to the field's value.
+    void setupStepper();
+
+    /// Shows a stored number. It stays the field's value, with all its digits and whatever its size, until somebody
+    /// types or steps.
+    void setValue(float value);
+    [[nodiscard]] double value() const;
+    [[nodiscard]] bool isTouched() const; ///< somebody has typed or stepped since setValue()
+
+    void takeStepperValue(); ///< into the field, which rounds it to its decimals
+    void moveStepper();      ///< to the field's value
+    void clear();
+
+Q_SIGNALS:
+    void stepped();
+    void typing();          ///< the text changed under a person's hands
+    void editingFinished(); ///< Return was pressed or the field left, changed or not
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    CheckedLineEdit *m_field;
+    Stepper *m_stepper;
+    double m_shown = 0;     ///< the value of the field until somebody types
+    bool m_stepped = false; ///< since setValue()
+};
+
+} // namespace brinemark
