@@ -18,6 +18,7 @@
 #include "livestock/views/FishDataEntryController.h"
 #include "model/TankFile.h"
 #include "online/views/EListSignupController.h"
+#include "ui/FinishTyping.h"
 #include "ui/MainViewController.h"
 
 #include <QApplication>
@@ -144,6 +145,7 @@ void ShoalwatchController::performCommand(Command command)
         m_documents->revertFile();
         break;
     case Command::Print:
+        finishTyping(m_window.get());
         printWindow(true);
         break;
     case Command::Quit:

@@ -28,6 +28,7 @@
 #include "online/views/EListSignupController.h"
 #include "online/views/QZUpdateController.h"
 #include "ui/Desktop.h"
+#include "ui/FinishTyping.h"
 #include "ui/HelpWindow.h"
 #include "ui/WindowPlacement.h"
 #include "ui/calendar/CalendarController.h"
@@ -187,6 +188,7 @@ void ShoalwatchDelegate::terminate()
 
 ShoalwatchDelegate::TerminateReply ShoalwatchDelegate::applicationShouldTerminate()
 {
+    finishTyping(m_shoalwatchController->mainWindow());
     if (!m_shoalwatchController->document().isEdited())
         return TerminateReply::Now;
     return m_shoalwatchController->documents().displayDocumentSaveBeforeQuit() ? TerminateReply::Now

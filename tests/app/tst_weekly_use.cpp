@@ -100,6 +100,29 @@ private Q_SLOTS:
         QVERIFY(!shownAlert()); // taking back and making again warns of nothing
     }
 
+    void whatIsBeingTypedIsSaved_data()
+    {
+        QTest::addColumn<int>("command");
+        QTest::newRow("save") << int(Command::Save);
+        QTest::newRow("quit") << int(Command::Quit); // saves by itself
+    }
+    void whatIsBeingTypedIsSaved()
+    {
+        QFETCH(int, command);
+        Preferences::shared().set(preference::autoSaveOnQuit, true);
+        table()->setCurrentIndex(table()->model()->index(3, sectionOf(u"salt")));
+        QTest::keyClick(table(), Qt::Key_1);
+        QVERIFY(editor());
+        QTest::keyClicks(editor(), typed(".027"));
+        if (Command(command) == Command::Quit)
+            QVERIFY(Program::endsAfter([this] { m_program->controller().performCommand(Command::Quit); }));
+        else
+            m_program->controller().performCommand(Command(command));
+        TankList saved;
+        QVERIFY(readTanks(readTankDictionary(m_file).root, m_file, saved).ok);
+        QCOMPARE(saved.at(1)->conditionListArray().at(3)->salt, 1.027F);
+    }
+
     void aHeaderSorts()
     {
         QHeaderView &header = *table()->horizontalHeader();

@@ -6,6 +6,7 @@
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
 #include "ui/Alerts.h"
+#include "ui/FinishTyping.h"
 
 #include <QFileInfo>
 #include <QWidget>
@@ -35,6 +36,7 @@ DocumentCommands::DocumentCommands(TankDocument &document, QWidget *window, std:
 
 void DocumentCommands::newDataFile()
 {
+    finishTyping(m_window);
     m_handedOver.clear();
     if (m_document.isEdited())
         askBeforeLosingChanges(Context::NewFile);
@@ -44,6 +46,7 @@ void DocumentCommands::newDataFile()
 
 void DocumentCommands::openDataFile()
 {
+    finishTyping(m_window);
     m_handedOver.clear(); // by somebody who called it off on the way
     goOnOpening();
 }
@@ -63,6 +66,7 @@ void DocumentCommands::goOnOpening()
 
 bool DocumentCommands::openFile(const QString &path)
 {
+    finishTyping(m_window);
     if (!m_document.isEdited() || path == m_document.representedFilename())
         return m_document.readTankFileWithPath(path);
     m_handedOver = path;
@@ -142,6 +146,7 @@ bool DocumentCommands::writeToCurrentPath(Context context)
 
 void DocumentCommands::saveCurrentFile()
 {
+    finishTyping(m_window);
     if (m_document.representedFilename().isEmpty())
         saveTankFileWithContext(Context::None);
     else
@@ -150,6 +155,7 @@ void DocumentCommands::saveCurrentFile()
 
 void DocumentCommands::saveAsCurrentFile()
 {
+    finishTyping(m_window);
     saveTankFileWithContext(Context::None);
 }
 
@@ -189,6 +195,7 @@ void DocumentCommands::savePanelDidEnd(const FilePanelAnswer &answer, Context co
 
 void DocumentCommands::revertFile()
 {
+    finishTyping(m_window);
     const QString path = m_document.representedFilename();
     const QString message = fillPlaceholders(text("RevertMessage"), {QFileInfo(path).fileName()});
     const Alert alert{AlertStyle::Critical, text("RevertTitle"), message, text("RevertLabel"), text("CancelLabel"), {}};

@@ -1,0 +1,22 @@
+#include "ui/FinishTyping.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+
+namespace brinemark
+{
+
+void finishTyping(const QWidget *window)
+{
+    QWidget *focused = QApplication::focusWidget();
+    if (!focused || !window || focused->window() != window)
+        return;
+    for (QWidget *parent = focused->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto *view = qobject_cast<QAbstractItemView *>(parent)) {
+            view->setFocus(); // its delegate stores what an editor that loses the focus holds
+            return;
+        }
+    }
+}
+
+} // namespace brinemark
