@@ -1,7 +1,5 @@
 #include "chemistry/ConditionColumns.h"
 #include "chemistry/views/ConditionListController.h"
-#include "chemistry/views/TankDataController.h"
-#include "chemistry/views/TankDataEntryController.h"
 #include "support/ListDriver.h"
 #include "support/RunTest.h"
 
@@ -10,9 +8,6 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QHeaderView>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTableView>
 #include <QTest>
 
@@ -36,8 +31,6 @@ private Q_SLOTS:
     void cleanup()
     {
         ConditionListController::destroyShared();
-        TankDataController::destroyShared();
-        TankDataEntryController::destroyShared();
         m_shell.reset();
     }
 
@@ -158,78 +151,6 @@ private Q_SLOTS:
         QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
     }
 
-    void tankView()
-    {
-        auto &controller = TankDataController::sharedInstance();
-        controller.view()->setParent(&m_shell->window);
-        controller.setKeyViewWithTankList(&m_shell->window, &m_shell->window);
-        auto *table = controller.view()->findChild<QTableView *>(QStringLiteral("conditionTableView"));
-        const QAbstractItemModelTester tester(table->model());
-        QCOMPARE(table->model()->rowCount(), 17);
-        QStringList names;
-        for (int row = 0; row < 17; ++row)
-            names.append(table->model()->index(row, 0).data().toString());
-        QStringList sorted = names;
-        std::sort(sorted.begin(), sorted.end(),
-                  [](const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
-        QCOMPARE(names, sorted);
-
-        TankData &ph = *m_shell->current->phData();
-        ph.preferredValue = 8.25F;
-        ph.warningOn = ph.deviationOn = true;
-        ph.deviationValue = 0.5F;
-        const int row = int(names.indexOf(ph.name));
-        const auto cell = [&](int column, int role = Qt::DisplayRole) {
-            return table->model()->index(row, column).data(role);
-        };
-        const QString point = QLocale().decimalPoint();
-        QCOMPARE(cell(1).toString(), QStringLiteral("8") + point + QStringLiteral("25"));
-        QCOMPARE(cell(2).toString(), text("OnLabel"));
-        QCOMPARE(cell(3).toString(), QStringLiteral("± 0") + point + QStringLiteral("5"));
-        QVERIFY(!cell(3, Qt::ForegroundRole).isValid());
-        ph.deviationOn = false;
-        QVERIFY(cell(3, Qt::ForegroundRole).isValid());
-
-        controller.view()->findChild<QPushButton *>(QStringLiteral("editButton"))->click();
-        QVERIFY(sheet() && sheet()->isVisible());
-        QVERIFY(!sheet()->findChild<QPushButton *>(QStringLiteral("cancelButton"))->isVisible());
-    }
-
-    void tankSheet_data()
-    {
-        QTest::addColumn<bool>("isNew");
-        QTest::addColumn<bool>("confirmed");
-        QTest::newRow("new, OK") << true << true;
-        QTest::newRow("new, cancel") << true << false;
-        QTest::newRow("there, OK") << false << true;
-    }
-    void tankSheet()
-    {
-        QFETCH(bool, isNew);
-        QFETCH(bool, confirmed);
-        const int before = m_shell->tanks.count();
-        Tank *current = m_shell->current;
-        auto &controller = TankDataEntryController::sharedInstance();
-        controller.displayTank(isNew ? nullptr : current->shared_from_this(), isNew, {});
-        QTRY_VERIFY(sheet()->isVisible());
-        auto *name = sheet()->findChild<QLineEdit *>(QStringLiteral("nameField"));
-        QCOMPARE(name->text(), isNew ? text("NewTankName") : current->name);
-        name->setText(QStringLiteral("Cube"));
-        sheet()->findChild<QLineEdit *>(QStringLiteral("sizeField"))->setText(QStringLiteral("60 l"));
-        sheet()->findChild<QRadioButton *>(QStringLiteral("marineButton"))->click();
-        const char *button = confirmed ? "okButton" : "cancelButton";
-        QTest::mouseClick(sheet()->findChild<QPushButton *>(QLatin1String(button)), Qt::LeftButton);
-        QVERIFY(!sheet()->isVisible());
-        QCOMPARE(m_shell->tanks.count(), before + (isNew && confirmed ? 1 : 0));
-        QCOMPARE(m_shell->changes, confirmed ? 1 : 0);
-        QCOMPARE(m_shell->ordersFront, 1);
-        if (confirmed) {
-            QCOMPARE(m_shell->current->name, QStringLiteral("Cube"));
-            QCOMPARE(m_shell->current->size, QStringLiteral("60 l"));
-            QVERIFY(!m_shell->current->freshwater);
-        }
-    }
-
 private:
     ConditionListController &show()
     {
@@ -245,7 +166,6 @@ private:
             identifiers.append(column.identifier);
         return identifiers;
     }
-    QDialog *sheet() const { return m_shell->window.findChild<QDialog *>(QStringLiteral("tankSheet")); }
 
     std::unique_ptr<test::RecordingShell> m_shell;
 };

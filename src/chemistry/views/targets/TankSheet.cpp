@@ -34,6 +34,7 @@ void addLine(QGridLayout &form, const QString &caption, QWidget *control, QWidge
     const int row = form.rowCount();
     QLabel *label = makeCaption(caption);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setContentsMargins(2, 0, 0, 0); // bold letters reach out of their box a little
     label->setBuddy(buddy);
     form.addWidget(label, row, 0);
     form.addWidget(control, row, 1);
