@@ -84,6 +84,17 @@ private Q_SLOTS:
         }
     }
 
+    void thresholdsInSinglePrecision()
+    {
+        QVERIFY(0.1F > 0.1); // what a target of 0.1 holds
+        QVERIFY(!isHighValue(Parameter::Ammonia, false, 0.1F));
+        QVERIFY(isHighValue(Parameter::Ammonia, false, 0.100001));
+        int count = 0;
+        for (const ParameterTraits &traits : parameterTable)
+            count += highValueThreshold(traits.parameter, true).has_value();
+        QCOMPARE(count, 3);
+    }
+
     void adviceFollowsTheControls()
     {
         TankData &ammonia = *m_driver->tank().ammoniaData(); // 0 ± the threshold of fresh water
