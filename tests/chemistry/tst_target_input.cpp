@@ -150,6 +150,39 @@ private Q_SLOTS:
         QCOMPARE(m_driver->tank().phData()->preferredValue, 5.45F);
     }
 
+    void arrowsBeginWhereTypingEnded_data()
+    {
+        QTest::addColumn<bool>("pasted");
+        QTest::addColumn<QString>("entered");
+        QTest::addColumn<QString>("arrow");
+        QTest::addColumn<float>("stored");
+        row("typed", false, "3,25", "upButton", 3.35F);
+        row("pasted", true, "3,25", "downButton", 3.15F);
+        row("pasted beyond the maximum", true, "150", "downButton", 4.9F);
+        row("cleared", false, "", "upButton", 0.1F);
+    }
+    /// An arrow does not take the focus, so that nothing has ended the typing when it is pressed.
+    void arrowsBeginWhereTypingEnded()
+    {
+        QFETCH(bool, pasted);
+        QFETCH(QString, entered);
+        QFETCH(QString, arrow);
+        TankData &ammonia = *m_driver->tank().ammoniaData();
+        m_driver->open(ammonia.name);
+        auto *field = m_driver->control<QLineEdit>("deviationField");
+        m_driver->focus(field);
+        field->selectAll();
+        m_driver->press(Qt::Key_Backspace);
+        QApplication::clipboard()->setText(local(entered));
+        if (pasted)
+            QTest::keySequence(field, QKeySequence::Paste);
+        else
+            QTest::keyClicks(field, local(entered));
+        QTest::mouseClick(m_driver->control<>("deviationStepper")->findChild<QWidget *>(arrow), Qt::LeftButton);
+        QTEST(ammonia.deviationValue, "stored");
+        QVERIFY(field->hasFocus());
+    }
+
     /// What a file holds beyond the field's decimals and maximum is not the sheet's to cut.
     void untouchedNumbersStay()
     {

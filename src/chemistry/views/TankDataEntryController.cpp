@@ -14,6 +14,7 @@
 #include "ui/Sheets.h"
 #include "ui/Shell.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
@@ -243,7 +244,13 @@ void TankDataEntryController::highValueCheck()
 
 void TankDataEntryController::showHighValueWarningWithBool(bool show)
 {
-    m_infoPanel->warningBox->setVisible(show);
+    HighValueBox &box = *m_infoPanel->warningBox;
+    const bool isNew = show && box.isHidden();
+    box.setVisible(show);
+    if (isNew) {
+        QAccessibleEvent appeared(&box, QAccessible::Alert); // a screen reader says it aloud
+        QAccessible::updateAccessibility(&appeared);
+    }
 }
 
 // ---- closing

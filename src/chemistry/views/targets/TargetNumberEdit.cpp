@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 namespace brinemark
 {
@@ -56,7 +57,13 @@ TargetNumberEdit::TargetNumberEdit(const QString &name, QWidget *parent)
     setFocusProxy(m_field);
 
     connect(m_stepper, &Stepper::valueChanged, this, &TargetNumberEdit::stepped);
-    connect(m_field, &QLineEdit::textEdited, this, &TargetNumberEdit::typing);
+    // An arrow takes no focus, so that the stepper has to follow what is being typed.
+    connect(m_field, &QLineEdit::textChanged, this, [this] {
+        if (m_showing)
+            return;
+        moveStepper();
+        Q_EMIT typing();
+    });
     connect(m_field, &QLineEdit::editingFinished, this, &TargetNumberEdit::editingFinished);
 }
 
@@ -80,8 +87,9 @@ void TargetNumberEdit::setupStepper()
 void TargetNumberEdit::setValue(float value)
 {
     m_shown = leadingNumber(floatText(value)); // 0.1, where the stored float is 0.1000000015
-    m_field->setValue(m_shown);
     m_stepped = false;
+    const QScopedValueRollback showing(m_showing, true);
+    m_field->setValue(m_shown);
 }
 
 bool TargetNumberEdit::isTouched() const
@@ -96,7 +104,10 @@ double TargetNumberEdit::value() const
 
 void TargetNumberEdit::takeStepperValue()
 {
-    m_field->setValue(m_stepper->value());
+    {
+        const QScopedValueRollback showing(m_showing, true);
+        m_field->setValue(m_stepper->value());
+    }
     m_shown = m_field->value();
     m_stepped = true;
     moveStepper();
@@ -109,9 +120,10 @@ void TargetNumberEdit::moveStepper()
 
 void TargetNumberEdit::clear()
 {
-    m_field->setText({});
     m_shown = 0;
     m_stepped = false;
+    const QScopedValueRollback showing(m_showing, true);
+    m_field->setText({});
     moveStepper();
 }
 
@@ -119,7 +131,6 @@ bool TargetNumberEdit::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_field && event->type() == QEvent::KeyPress) {
         if (const int steps = stepsOfKey(static_cast<const QKeyEvent &>(*event))) {
-            moveStepper(); // what is still being typed counts
             m_stepper->stepBy(steps);
             return true;
         }

@@ -51,6 +51,7 @@ private:
     Stepper *m_stepper;
     double m_shown = 0;     ///< the value of the field until somebody types
     bool m_stepped = false; ///< since setValue()
+    bool m_showing = false; ///< the text changes by the program
 };
 
 } // namespace brinemark
