@@ -1,0 +1,420 @@
+#include "chemistry/views/CheckedCellDelegate.h"
+#include "chemistry/views/CheckedLineEdit.h"
+#include "support/DataRow.h"
+#include "support/RunTest.h"
+#include "ui/Alerts.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QTableView>
+
+#include <functional>
+#include <memory>
+
+using namespace brinemark;
+using test::row;
+
+namespace
+{
+
+using Act = std::function<void(CheckedLineEdit &)>;
+using Acts = QList<Act>;
+
+enum Mode { Tested, MayBeUntested, Signed, Whole };
+
+SFCheckedFormatter formatter(Mode mode)
+{
+    SFCheckedFormatter result(mode == Signed ? -9 : mode == MayBeUntested ? -1 : 0, 99, mode == Whole ? 0 : 2, 1);
+    result.setUseNotTested(mode == MayBeUntested);
+    return result;
+}
+
+/// A text written with full stops, as the person of this run types it.
+QString local(QString text)
+{
+    return text.replace(u'.', NumberSeparators::ofLocale().decimal);
+}
+
+void send(CheckedLineEdit &field, QEvent &&event)
+{
+    QCoreApplication::sendEvent(&field, &event);
+}
+
+Act type(const QString &keys)
+{
+    return [=](CheckedLineEdit &field) {
+        for (const char32_t c : keys.toUcs4()) // as a keyboard sends them, letters beyond Latin as well
+            send(field, QKeyEvent(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUcs4(&c, 1)));
+    };
+}
+
+Act typed(const char *keys)
+{
+    return [=](CheckedLineEdit &field) { QTest::keyClicks(&field, local(QString::fromLatin1(keys))); };
+}
+
+Act press(QKeySequence::StandardKey key)
+{
+    return [=](CheckedLineEdit &field) { QTest::keySequence(&field, key); };
+}
+
+Act press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    return [=](CheckedLineEdit &field) { QTest::keyClick(&field, key, modifiers); };
+}
+
+Act paste(const QString &text)
+{
+    return [=](CheckedLineEdit &field) {
+        QApplication::clipboard()->setText(text);
+        QTest::keySequence(&field, QKeySequence::Paste);
+    };
+}
+
+/// At the beginning of the text.
+Act drop(const QString &text)
+{
+    return [=](CheckedLineEdit &field) {
+        QMimeData data;
+        data.setText(text);
+        send(field, QDragEnterEvent(QPoint(1, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier));
+        send(field, QDropEvent(QPointF(1, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier));
+    };
+}
+
+/// From the input method, after it was shown as being composed.
+Act compose(const QString &text)
+{
+    return [=](CheckedLineEdit &field) {
+        send(field, QInputMethodEvent(text, {}));
+        QInputMethodEvent commit;
+        commit.setCommitString(text);
+        QCoreApplication::sendEvent(&field, &commit);
+    };
+}
+
+/// An entry of the field's own context menu.
+Act choose(const char *entry)
+{
+    return [=](CheckedLineEdit &field) {
+        const std::unique_ptr<QMenu> menu(field.createStandardContextMenu());
+        const QList<QAction *> actions = menu->actions();
+        const auto action = std::find_if(actions.begin(), actions.end(), [entry](const QAction *candidate) {
+            return candidate->text().remove(u'&').startsWith(QLatin1String(entry));
+        });
+        QVERIFY2(action != actions.end() && (*action)->isEnabled(), entry);
+        (*action)->trigger();
+    };
+}
+
+Act select(int start, int length)
+{
+    return [=](CheckedLineEdit &field) { field.setSelection(start, length); };
+}
+
+Act caret(int position)
+{
+    return [=](CheckedLineEdit &field) { field.setCursorPosition(position); };
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Acts)
+
+class TestCheckedEditing : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_beeps = 0;
+        setBeepHandler([this] { ++m_beeps; });
+    }
+    void cleanup() { setBeepHandler({}); }
+
+    /// What stands in the field after each way to edit, "|" where the caret is, and the value in the end.
+    void edits_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<Acts>("acts");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<int>("beeps");
+        QTest::addColumn<double>("value");
+        const auto add = [](const char *name, Mode mode, const Acts &acts, const char *shown, int beeps, double value) {
+            QString localShown = QString::fromUtf8(shown);
+            row(name, int(mode), acts, localShown.contains(u'?') ? localShown : local(localShown), beeps, value);
+        };
+        const QString emoji = QString::fromUtf16(u"\U0001F4A7");
+        const QString hebrew = QString::fromUtf16(u"\u05d0\u05d1");
+        const auto all = press(QKeySequence::SelectAll);
+        const auto undo = press(QKeySequence::Undo);
+        const auto back = press(Qt::Key_Backspace);
+
+        add("digits", Tested, {typed("7.25")}, "7.25|", 0, 7.25);
+        add("letters", Tested, {typed("a7bc.2x5")}, "7.25|", 4, 7.25);
+        add("letter over a selection", Tested, {typed("7.2"), all, typed("x")}, "[7.2]", 1, 7.2);
+        add("above the range", Tested, {typed("100")}, "10|", 1, 10);
+        add("second separator", Tested, {typed("1.25"), caret(1), typed(".")}, "1.|25", 0, 1.25);
+        add("separator moved back", Tested, {typed("1.25"), typed(".")}, "125.|", 0, 99);
+        add("separators only", Tested, {typed("...")}, ".|", 0, 0);
+        add("separator, whole", Whole, {typed("1.2")}, "12|", 1, 12);
+        add("minus", Signed, {typed("-3.5")}, "-3.5|", 0, -3.5);
+        add("minus alone", Signed, {typed("-")}, "-|", 0, 0);
+        add("minus twice", Signed, {typed("--2-")}, "-2|", 2, -2);
+        add("minus, from 0", Tested, {typed("-5")}, "5|", 1, 5);
+        add("minus, not tested", MayBeUntested, {typed("-5")}, "5|", 1, 5);
+        add("minus pasted, not tested", MayBeUntested, {paste("-5")}, "?|", 0, -1);
+        add("emoji by key", Tested, {typed("1"), type(emoji), typed("2")}, "1.002|", 0, 1);
+        add("emoji composed", Tested, {typed("1"), compose(emoji), typed("2")}, "1.002|", 0, 1);
+        add("emoji pasted", Tested, {typed("1"), paste(emoji + "2" + emoji)}, "12.00|", 0, 12);
+        add("composed", Tested, {typed("1"), compose("2")}, "12|", 0, 12);
+        add("composed letter", Tested, {typed("1"), compose("x"), typed("3")}, "13|", 1, 13);
+        add("right to left", Tested, {typed("1"), type(hebrew), typed("2")}, "12|", 2, 12);
+        add("right to left pasted", Tested, {paste(QChar(0x202e) + hebrew + "34")}, "34.00|", 0, 34);
+        add("400 digits pasted", Tested, {paste(QString(400, u'9'))}, "99.00|", 0, 99);
+        add("400 digits typed", Tested, {type(QString(400, u'9'))}, "99|", 398, 99);
+        add("400 zeros typed", Tested, {type("0." + QString(398, u'0'))}, nullptr, 0, 0);
+        add("lines pasted", Tested, {paste("1\n2\t3")}, "99.00|", 0, 99);
+        add("one letter pasted", Tested, {typed("1"), paste("x")}, "1|", 1, 1);
+        add("one digit pasted", Tested, {typed("1"), paste("2")}, "12|", 0, 12);
+        add("dropped", Tested, {drop(local("x4.5"))}, "4.50|", 0, 4.5);
+        add("digit dropped", Tested, {typed("5"), drop("4")}, "4|5", 0, 45);
+        add("letter dropped", Tested, {typed("5"), drop("x")}, "|5", 1, 5);
+        add("backspace", Tested, {typed("12.5"), back}, "12.00|", 0, 12);
+        add("backspace to nothing", Tested, {typed("1"), back}, "|", 0, 0);
+        add("backspace on a selection", Tested, {typed("12.5"), select(1, 1), back}, "1|.5", 0, 1.5);
+        add("word deleted", Tested, {typed("12.5"), press(Qt::Key_Backspace, Qt::ControlModifier)}, "12.00|", 0, 12);
+        add("delete forward", Tested, {typed("12.5"), caret(1), press(Qt::Key_Delete)}, "1|.5", 0, 1.5);
+        add("delete, beyond the range", Tested, {typed("12.5"), caret(2), press(Qt::Key_Delete)}, "12|.5", 1, 12.5);
+        add("all deleted", Tested, {typed("12.5"), all, press(Qt::Key_Delete)}, "|", 0, 0);
+        add("all deleted, not tested", MayBeUntested, {typed("12.5"), all, back}, "|", 0, -1);
+        add("cut", Tested, {typed("12.5"), select(2, 2), press(QKeySequence::Cut)}, "12|", 0, 12);
+        add("nothing, not tested", MayBeUntested, {}, "|", 0, -1);
+        add("undo", Tested, {typed("12"), undo}, "|", 0, 0);
+        add("undo after a refusal", Tested, {typed("1x"), undo}, "|", 1, 0);
+        add("undo a correction", Tested, {typed("12.5"), back, undo}, "[12.5]", 0, 12.5);
+        add("undo a paste", Tested, {typed("12.5"), all, paste("77x"), undo}, "[12.5]", 0, 12.5);
+        add("redo", Tested, {typed("12"), undo, press(QKeySequence::Redo)}, "12.00|", 0, 12);
+        add("redo after a refusal", Tested, {typed("1x"), press(QKeySequence::Redo)}, "1|", 1, 1);
+        add("menu: paste several", Tested, {paste("12"), all, choose("Cut"), choose("Paste")}, "12.00|", 0, 12);
+        add("menu: delete", Tested, {typed("12.5"), select(1, 1), choose("Delete")}, "1|.5", 0, 1.5);
+        add("menu: undo", Tested, {typed("1x2"), choose("Undo")}, "|", 1, 0);
+    }
+    void edits()
+    {
+        QFETCH(int, mode);
+        QFETCH(Acts, acts);
+        QFETCH(QString, shown);
+        QFETCH(int, beeps);
+        QFETCH(double, value);
+        shown.replace("?", text("NotTested"_key));
+
+        CheckedLineEdit field(formatter(Mode(mode)));
+        field.show();
+        field.setFocus();
+        QStringList announced;
+        connect(&field, &QLineEdit::textChanged, &field, [&](const QString &now) { announced << now; });
+        for (const Act &act : acts) {
+            act(field);
+            // Whatever was undone, dropped or composed: what was announced last is what stands there.
+            QVERIFY(announced.isEmpty() || announced.last() == field.text());
+        }
+        QString seen = field.text();
+        if (field.hasSelectedText())
+            seen.insert(field.selectionEnd(), u']').insert(field.selectionStart(), u'[');
+        else
+            seen.insert(field.cursorPosition(), u'|');
+        if (!shown.isNull())
+            QCOMPARE(seen, shown);
+        QCOMPARE(m_beeps, beeps);
+        QCOMPARE(field.value(), value);
+
+        QTest::keyClick(&field, Qt::Key_Return);
+        if (field.hasEdit())
+            QCOMPARE(field.text(), value < 0 && mode == MayBeUntested
+                                       ? text("NotTested"_key)
+                                       : local(QString::number(value, 'f', mode == Whole ? 0 : 2)));
+        QCOMPARE(field.value(), value);
+    }
+
+    /// Undoing all the way shows only what was once accepted.
+    void undoShowsNothingRefused()
+    {
+        CheckedLineEdit field(formatter(Tested));
+        field.show();
+        field.setFocus();
+        const Acts acts{typed("12"), typed("x"), paste("3x4"), typed("."), press(Qt::Key_Backspace), paste("y")};
+        for (const Act &act : acts)
+            act(field);
+        QSignalSpy changed(&field, &QLineEdit::textChanged);
+        for (int i = 0; i < 20; ++i)
+            field.undo();
+        for (int i = 0; i < 20; ++i)
+            field.redo();
+        for (const auto &arguments : changed) {
+            for (const QChar c : arguments[0].toString())
+                QVERIFY2(c.isDigit() || c == NumberSeparators::ofLocale().decimal, qPrintable(arguments[0].toString()));
+        }
+        QVERIFY(!changed.isEmpty());
+    }
+
+    void setsWithoutVetting()
+    {
+        CheckedLineEdit field(formatter(Tested));
+        QSignalSpy edited(&field, &QLineEdit::textEdited);
+        for (int round = 0; round < 2; ++round) {
+            QLineEdit &base = field;
+            base.setText("abc 1234");
+            QCOMPARE(field.text(), QString("abc 1234"));
+            QVERIFY(field.hasEdit());
+            field.setText("xyz");
+            QCOMPARE(field.text(), QString("xyz"));
+            QVERIFY(!field.hasEdit());
+            field.setValue(700); // a stored number beyond the range stays as it is until someone edits it
+            QTest::keyClick(&field, Qt::Key_Return);
+            QCOMPARE(field.text(), local("700.00"));
+            QVERIFY(!field.hasEdit() && field.value() == 99);
+            field.selectAll();
+            QTest::keyClicks(&field, "5");
+            QVERIFY(field.hasEdit());
+        }
+        QCOMPARE(edited.size(), 2);
+        QCOMPARE(m_beeps, 0);
+    }
+
+    void knowsItsEdits()
+    {
+        CheckedLineEdit field(formatter(Tested));
+        field.setValue(7);
+        QTest::keyClicks(&field, "x");
+        QVERIFY(!field.hasEdit());
+        field.selectAll();
+        QTest::keyClicks(&field, "8");
+        field.undo();
+        QVERIFY(!field.hasEdit());
+        field.selectAll();
+        QTest::keyClicks(&field, local("7.00"));
+        QVERIFY(field.hasEdit());
+        int finished = 0;
+        connect(&field, &QLineEdit::editingFinished, &field, [&] { finished += field.text() == local("7.00"); });
+        field.setText("7");
+        QTest::keyClick(&field, Qt::Key_Home);
+        QTest::keyClick(&field, Qt::Key_Delete);
+        QTest::keyClicks(&field, "7");
+        QTest::keyClick(&field, Qt::Key_Return);
+        QVERIFY(finished == 1 && field.hasEdit());
+    }
+
+    /// A table of a text column and a number column that may be untested. What each key leaves in the cell, and how
+    /// often it was stored.
+    void cells_data()
+    {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<int>("end");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("stored");
+        using S = QString;
+        row("typed, Return", S("8.25"), int(Qt::Key_Return), 8.25, 1);
+        row("typed, Tab", S("8.25"), int(Qt::Key_Tab), 8.25, 1);
+        row("typed, Escape", S("8.25"), int(Qt::Key_Escape), 7.5, 0);
+        row("typed, focus out", S("8.25"), 0, 8.25, 1);
+        row("same again", S("7.5"), int(Qt::Key_Return), 7.5, 1);
+        row("untouched", S(), int(Qt::Key_Return), 7.5, 0);
+        row("untouched, Tab", S(), int(Qt::Key_Tab), 7.5, 0);
+        row("refused", S("x-"), int(Qt::Key_Return), 7.5, 0);
+        row("emptied", S("\b"), int(Qt::Key_Return), -1.0, 1);
+        row("separator", S("."), int(Qt::Key_Return), 0.0, 1);
+        row("rounded", S("1.005001"), int(Qt::Key_Tab), 1.01, 1);
+    }
+    void cells()
+    {
+        QFETCH(QString, keys);
+        QFETCH(int, end);
+        QFETCH(double, value);
+        QFETCH(int, stored);
+        struct CountingModel : QStandardItemModel {
+            using QStandardItemModel::QStandardItemModel;
+            bool setData(const QModelIndex &index, const QVariant &value, int role) override
+            {
+                ++stored;
+                return QStandardItemModel::setData(index, value, role);
+            }
+            int stored = 0;
+        } model(2, 2);
+        model.setHorizontalHeaderLabels({"Name", "pH"});
+        model.setItem(0, 0, new QStandardItem("first"));
+        const QModelIndex cell = model.index(0, 1);
+        model.setData(cell, 7.5, Qt::EditRole);
+        const SFCheckedFormatter checked = formatter(MayBeUntested);
+        QTableView view;
+        view.setModel(&model);
+        view.setItemDelegate(new CheckedCellDelegate(
+            [&](const QModelIndex &index) { return index.column() == 1 ? &checked : nullptr; }, &view));
+        view.show();
+        view.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+
+        view.setCurrentIndex(cell);
+        view.edit(cell);
+        auto *editor = view.findChild<CheckedLineEdit *>("cellEditor");
+        QVERIFY(editor);
+        QCOMPARE(editor->text(), local("7.50"));
+        QCOMPARE(editor->selectedText(), editor->text());
+        QCOMPARE(editor->accessibleName(), QString("pH"));
+        QVERIFY(!editor->hasFrame());
+
+        model.stored = 0;
+        for (const QChar c : local(keys)) {
+            if (c == u'\b')
+                QTest::keyClick(editor, Qt::Key_Backspace);
+            else
+                QTest::keyClicks(editor, QString(c));
+        }
+        if (end != 0)
+            QTest::keyClick(editor, Qt::Key(end));
+        else
+            view.setFocus();
+        QTRY_VERIFY(!view.findChild<CheckedLineEdit *>("cellEditor") || end == Qt::Key_Tab);
+        QCOMPARE(model.stored, stored);
+        QCOMPARE(model.data(cell).toDouble(), value);
+        QCOMPARE(view.currentIndex().row(), end == Qt::Key_Tab ? 1 : 0);
+    }
+
+    void leavesOtherColumnsAlone()
+    {
+        QStandardItemModel model(1, 1);
+        model.setHorizontalHeaderLabels({"Name"});
+        model.setData(model.index(0, 0), "abc");
+        QTableView view;
+        view.setModel(&model);
+        view.setItemDelegate(new CheckedCellDelegate([](const QModelIndex &) { return nullptr; }, &view));
+        view.show();
+        view.edit(model.index(0, 0));
+        auto *editor = view.findChild<QLineEdit *>("cellEditor");
+        QVERIFY(editor && !qobject_cast<CheckedLineEdit *>(editor));
+        QCOMPARE(editor->accessibleName(), QString("Name"));
+        editor->selectAll();
+        QTest::keyClicks(editor, "x-y");
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(model.data(model.index(0, 0)).toString(), QString("x-y"));
+    }
+
+private:
+    int m_beeps = 0;
+};
+
+int main(int argc, char **argv)
+{
+    return test::run<QApplication, TestCheckedEditing>(argc, argv);
+}
+
+#include "tst_checked_editing.moc"
