@@ -964,6 +964,10 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>Ersten Test wählen oder ein Datum eingeben</translation>
     </message>
     <message>
+        <source>GraphSwapToolTip</source>
+        <translation>Beginn und Ende vertauschen</translation>
+    </message>
+    <message>
         <source>GraphTitle</source>
         <extracomment>%@ is the tank&apos;s name; the title of the graph&apos;s window.</extracomment>
         <translation>Diagramm: %@</translation>

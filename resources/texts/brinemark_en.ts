@@ -964,6 +964,10 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>Choose the test to begin with, or type a date</translation>
     </message>
     <message>
+        <source>GraphSwapToolTip</source>
+        <translation>Exchange start and end</translation>
+    </message>
+    <message>
         <source>GraphTitle</source>
         <extracomment>%@ is the tank&apos;s name; the title of the graph&apos;s window.</extracomment>
         <translation>Graph of %@</translation>

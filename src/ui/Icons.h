@@ -18,7 +18,7 @@ inline constexpr std::array iconNames{
     // Pictures, drawn for 96 to 160 px.
     "FishBig", "Plant", "Invertebrates", "Coral", "Profileplaceholder3",
     // Lists and their buttons.
-    "Ellipse", "New", "Remove", "Action", "Edit", "Help", "Graph", "WholeGraph", "Export", "Search",
+    "Ellipse", "New", "Remove", "Action", "Edit", "Help", "Graph", "WholeGraph", "Swap", "Export", "Search",
     // The calendar's buttons; where text runs from right to left, each pair changes places.
     "PreviousYear", "PreviousMonth", "NextMonth", "NextYear",
     // States and alerts; each differs from the others in shape as well as in colour.

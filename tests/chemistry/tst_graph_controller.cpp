@@ -154,6 +154,17 @@ private Q_SLOTS:
         QVERIFY(view().isVisible());
     }
 
+    void newestFirst()
+    {
+        addTests(4);
+        m_tank->condition()->sortWithIdentifier(QStringLiteral("date"), false);
+        open();
+        expectRangeAlert([this] { press("drawButton"); });
+        QTest::mouseClick(find<QToolButton>("swapButton"), Qt::LeftButton);
+        press("drawButton");
+        QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(4)); // to the second at both ends
+    }
+
     void unusableRanges_data()
     {
         QTest::addColumn<QString>("start");

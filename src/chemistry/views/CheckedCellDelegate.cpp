@@ -2,6 +2,9 @@
 
 #include "chemistry/views/CheckedLineEdit.h"
 
+#include <QStyle>
+
+#include <algorithm>
 #include <utility>
 
 namespace brinemark
@@ -21,6 +24,10 @@ QWidget *CheckedCellDelegate::createEditor(QWidget *parent, const QStyleOptionVi
         auto *field = new CheckedLineEdit(*formatter, parent);
         field->setFrame(false);
         field->setAlignment(option.displayAlignment);
+        // What is typed stands where the cell's own text does; a line edit has two pixels of its own.
+        const QStyle *style = option.widget ? option.widget->style() : field->style();
+        const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) + 1 - 2;
+        field->setTextMargins(std::max(0, margin), 0, std::max(0, margin), 0);
         editor = field;
     } else {
         editor = TruncatingDelegate::createEditor(parent, option, index);

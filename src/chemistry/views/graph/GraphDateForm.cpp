@@ -3,11 +3,13 @@
 #include "base/text/Texts.h"
 #include "chemistry/views/graph/TestDateCombo.h"
 #include "ui/CaptionForm.h"
+#include "ui/IconButton.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolButton>
 
 namespace brinemark
 {
@@ -34,6 +36,8 @@ GraphDateForm::GraphDateForm(TestDatesModel &dates)
     form->setVerticalSpacing(8);
     addCaptioned(*form, 0, 0, text("GraphStartLabel"), m_startDateCombo);
     addCaptioned(*form, 1, 0, text("GraphEndLabel"), m_endDateCombo);
+    QToolButton *swap = makeIconButton("Swap", text("GraphSwapToolTip"), QStringLiteral("swapButton"));
+    form->addWidget(swap, 0, 2, 2, 1, Qt::AlignVCenter);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(16);
@@ -41,8 +45,17 @@ GraphDateForm::GraphDateForm(TestDatesModel &dates)
     column->addLayout(form);
     column->addWidget(buttons);
 
+    setTabOrder(m_startDateCombo, m_endDateCombo);
+    setTabOrder(m_endDateCombo, swap);
+    setTabOrder(swap, draw);
+    connect(swap, &QToolButton::clicked, this, &GraphDateForm::swapDates);
     connect(draw, &QPushButton::clicked, this, &GraphDateForm::drawRequested);
     connect(cancel, &QPushButton::clicked, this, &GraphDateForm::cancelled);
+}
+
+void GraphDateForm::swapDates()
+{
+    m_startDateCombo->exchangeWith(*m_endDateCombo);
 }
 
 } // namespace brinemark

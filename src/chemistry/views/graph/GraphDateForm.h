@@ -9,7 +9,7 @@ class TestDateCombo;
 class TestDatesModel;
 
 /// The small form that asks for a range of dates. Object names: itself "dateContentView", "startDateCombo",
-/// "endDateCombo", "drawButton" (the default button), "cancelButton".
+/// "endDateCombo", "swapButton", "drawButton" (the default button), "cancelButton".
 class GraphDateForm : public QWidget
 {
     Q_OBJECT
@@ -19,6 +19,8 @@ public:
 
     [[nodiscard]] TestDateCombo &startDateCombo() const { return *m_startDateCombo; }
     [[nodiscard]] TestDateCombo &endDateCombo() const { return *m_endDateCombo; }
+
+    void swapDates(); ///< a log with its newest test first begins with the later date
 
 Q_SIGNALS:
     void drawRequested();

@@ -43,9 +43,21 @@ void TestDateCombo::showDates(int selectedRow)
 
 void TestDateCombo::copyFrom(const TestDateCombo &other)
 {
-    setCurrentIndex(other.currentIndex());
-    setEditText(other.currentText());
-    m_date = other.m_date;
+    showState({other.currentIndex(), other.currentText(), other.m_date});
+}
+
+void TestDateCombo::exchangeWith(TestDateCombo &other)
+{
+    const State own{currentIndex(), currentText(), m_date};
+    copyFrom(other);
+    other.showState(own);
+}
+
+void TestDateCombo::showState(const State &state)
+{
+    setCurrentIndex(state.row);
+    setEditText(state.text);
+    m_date = state.date;
 }
 
 void TestDateCombo::chosen(int row)

@@ -25,8 +25,16 @@ public:
     [[nodiscard]] QDateTime date() const { return m_date; }
 
     void copyFrom(const TestDateCombo &other);
+    void exchangeWith(TestDateCombo &other); ///< both of the same dates
 
 private:
+    struct State {
+        int row; ///< -1 for a text of its own
+        QString text;
+        QDateTime date;
+    };
+
+    void showState(const State &state);
     void chosen(int row);
 
     QDateTime m_date;
