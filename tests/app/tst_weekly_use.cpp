@@ -110,17 +110,17 @@ private Q_SLOTS:
     {
         QFETCH(int, command);
         Preferences::shared().set(preference::autoSaveOnQuit, true);
-        table()->setCurrentIndex(table()->model()->index(3, sectionOf(u"salt")));
-        QTest::keyClick(table(), Qt::Key_1);
+        table()->setCurrentIndex(table()->model()->index(3, sectionOf(u"temp")));
+        QTest::keyClick(table(), Qt::Key_2);
         QVERIFY(editor());
-        QTest::keyClicks(editor(), typed(".027"));
+        QTest::keyClicks(editor(), typed("6.1"));
         if (Command(command) == Command::Quit)
             QVERIFY(Program::endsAfter([this] { m_program->controller().performCommand(Command::Quit); }));
         else
             m_program->controller().performCommand(Command(command));
         TankList saved;
         QVERIFY(readTanks(readTankDictionary(m_file).root, m_file, saved).ok);
-        QCOMPARE(saved.at(1)->conditionListArray().at(3)->salt, 1.027F);
+        QCOMPARE(saved.at(1)->conditionListArray().at(3)->temp, 26.1F);
     }
 
     void aHeaderSorts()

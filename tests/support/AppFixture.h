@@ -144,7 +144,7 @@ public:
         QObject::connect(&giveUp, &QTimer::timeout, [] { QCoreApplication::exit(stillRunning); });
         QTimer::singleShot(0, qApp, [&] {
             act();
-            giveUp.start(30);
+            giveUp.start(150);
         });
         return QCoreApplication::exec() != stillRunning;
     }

@@ -94,6 +94,13 @@ TankSheet::TankSheet(QWidget *parent)
     }
 }
 
+TankSheet::~TankSheet()
+{
+    // A field that loses the focus to the end of the sheet would call on what is half gone.
+    for (QWidget *widget : findChildren<QWidget *>())
+        widget->disconnect();
+}
+
 void TankSheet::nameControls()
 {
     setObjectName(QStringLiteral("tankSheet"));

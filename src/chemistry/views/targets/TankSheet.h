@@ -24,6 +24,7 @@ class TankSheet : public QDialog
 
 public:
     explicit TankSheet(QWidget *parent = nullptr);
+    ~TankSheet() override;
 
     QLineEdit *const nameField;
     QLineEdit *const sizeField;
