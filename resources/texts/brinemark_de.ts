@@ -454,10 +454,6 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>Vorschau wird erstellt …</translation>
     </message>
     <message>
-        <source>CsvFileFilter</source>
-        <translation>Kommagetrennte Werte (*.csv)</translation>
-    </message>
-    <message>
         <source>CustomDays</source>
         <translation>Tage:</translation>
     </message>

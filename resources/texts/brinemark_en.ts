@@ -454,10 +454,6 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>Creating preview…</translation>
     </message>
     <message>
-        <source>CsvFileFilter</source>
-        <translation>Comma-separated values (*.csv)</translation>
-    </message>
-    <message>
         <source>CustomDays</source>
         <translation>Days:</translation>
     </message>

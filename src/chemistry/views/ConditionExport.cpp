@@ -14,7 +14,7 @@ void beginConditionExport(QWidget *window, const std::shared_ptr<Tank> &tank, st
     options.message = text("ExportMessage");
     options.folder = documentsFolder();
     options.proposedName = formatText(text("ExportName"), {tank->name});
-    options.kinds = {{QStringLiteral("csv"), text("CsvFileFilter")}};
+    options.kinds = {{QStringLiteral("csv"), text("ExportFileFilter")}};
     beginSavePanel(window, options,
                    [exported = std::weak_ptr<Tank>(tank), columns = std::move(columns)](const QString &path) {
                        const std::shared_ptr<Tank> tank = exported.lock();
