@@ -11,9 +11,10 @@ namespace brinemark
 
 /// A field for a number that an SFCheckedFormatter reads, shows and vets. Every edit that a person makes (keys, paste,
 /// cut, drop, input method, undo, context menu) is vetted when it is made: what is refused never shows, is not
-/// announced by textEdited() and cannot be brought back by undo; it only beeps. When editing ends (Return, focus out),
-/// an edited field shows its value as the formatter writes it, before other listeners hear editingFinished(). Do not
-/// give it another validator, an input mask or a display mode other than Normal.
+/// announced by textEdited() (but for an undo that has to be put right) and cannot be brought back by undo; it only
+/// beeps. When editing ends (Return, focus out), an edited field shows its value as the formatter writes it, before
+/// other listeners hear editingFinished(). Do not give it another validator, an input mask or a display mode other than
+/// Normal.
 class CheckedLineEdit : public QLineEdit
 {
     Q_OBJECT
