@@ -121,19 +121,6 @@ private Q_SLOTS:
         QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.second));
     }
 
-    void closingOverTheSelection()
-    {
-        TwoTanks w;
-        w.tree.select(TreeItem(w.record(ContainerKind::Plant)));
-        QVERIFY(w.save());
-        for (const TreeItem &closing : {TreeItem(*w.first->plant()), TreeItem(*w.first)}) {
-            const quint32 before = w.changes();
-            w.outline->collapse(w.indexOf(closing));
-            QCOMPARE(w.tree.currentSelectedItem(), closing);
-            QCOMPARE(w.changes(), before + 2); // closed, and selected
-        }
-    }
-
     void openRowsComeBackFromTheFile()
     {
         const QString path = QDir::home().filePath("tanks.xml");
@@ -209,19 +196,6 @@ private Q_SLOTS:
         QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.second)); // moved up into its place
         QCOMPARE(w.currentTank(), w.second.get());
         QVERIFY(w.window.isWindowModified());
-    }
-
-    void deleteTheLowestTank()
-    {
-        TwoTanks w;
-        w.tree.select(TreeItem(*w.second));
-        w.outline->collapseAll();
-        w.tree.deleteTankEntry();
-        QVERIFY(answer("defaultButton"));
-        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.first));
-        w.second.reset(); // nothing may point there any more
-        w.outline->expandAll();
-        w.tree.updateDisplay();
     }
 
     void deleteTheLastTank()

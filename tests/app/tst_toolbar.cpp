@@ -96,12 +96,6 @@ void selectRow(QListView *list, int row)
     list->setCurrentIndex(list->model()->index(row, 0));
 }
 
-void pressOn(QListView *list, int row, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    selectRow(list, row);
-    QTest::keyClick(list, key, modifiers);
-}
-
 /// Drops row `from` of one list before row `before` of the same or the other list, as a view does it.
 bool dropRow(QAbstractItemModel &source, int from, QAbstractItemModel &target, int before)
 {
@@ -251,37 +245,6 @@ private Q_SLOTS:
         menu->findChild<QAction *>("customise")->trigger();
         QVERIFY(w.window.findChild<ToolbarCustomiseDialog *>());
         menu->close();
-    }
-
-    void customiseByKeys()
-    {
-        Window w;
-        QVERIFY(w.customise());
-        QVERIFY(w.dialog->isModal());
-
-        QCOMPARE(w.available->model()->rowCount(), 5); // three fillers, customise, print
-        selectRow(w.shown, 0);
-        pressOn(w.available, 0, Qt::Key_Return);
-        pressOn(w.available, 0, Qt::Key_Return);
-        QCOMPARE(visibleItems(*w.bar).mid(0, 4), QStringList({"newTank", "separator", "separator", "newFish"}));
-        QCOMPARE(storedIdentifiers(), visibleItems(*w.bar));
-
-        pressOn(w.shown, 0, Qt::Key_Delete);
-        pressOn(w.shown, 0, Qt::Key_Backspace);
-        QCOMPARE(visibleItems(*w.bar).mid(0, 2), QStringList({"separator", "newFish"}));
-        QCOMPARE(w.available->model()->rowCount(), 6); // the tank can be added again, the separator always could
-
-        const int count = w.shown->model()->rowCount();
-        pressOn(w.shown, 0, Qt::Key_Down, Qt::AltModifier);
-        pressOn(w.shown, count - 1, Qt::Key_Up, Qt::AltModifier);
-        QCOMPARE(visibleItems(*w.bar), QStringList({"newFish", "separator", "newPlant", "newInvert", "newCoral",
-                                                    "separator", "convert", "delete", "note"}));
-        QCOMPARE(w.shown->currentIndex().row(), count - 2); // the selection goes with the item
-
-        pressOn(w.available, 0, Qt::Key_Return);
-        QCOMPARE(visibleItems(*w.bar).mid(8, 2), QStringList({"newTank", "note"}));
-        QTest::keyClick(w.shown, Qt::Key_Escape);
-        QCOMPARE(storedIdentifiers(), visibleItems(*w.bar));
     }
 
     void customiseByButtons()

@@ -389,25 +389,6 @@ private Q_SLOTS:
         QCOMPARE(view.currentIndex().row(), end == Qt::Key_Tab ? 1 : 0);
     }
 
-    void leavesOtherColumnsAlone()
-    {
-        QStandardItemModel model(1, 1);
-        model.setHorizontalHeaderLabels({"Name"});
-        model.setData(model.index(0, 0), "abc");
-        QTableView view;
-        view.setModel(&model);
-        view.setItemDelegate(new CheckedCellDelegate([](const QModelIndex &) { return nullptr; }, &view));
-        view.show();
-        view.edit(model.index(0, 0));
-        auto *editor = view.findChild<QLineEdit *>("cellEditor");
-        QVERIFY(editor && !qobject_cast<CheckedLineEdit *>(editor));
-        QCOMPARE(editor->accessibleName(), QString("Name"));
-        editor->selectAll();
-        QTest::keyClicks(editor, "x-y");
-        QTest::keyClick(editor, Qt::Key_Return);
-        QTRY_COMPARE(model.data(model.index(0, 0)).toString(), QString("x-y"));
-    }
-
 private:
     int m_beeps = 0;
 };

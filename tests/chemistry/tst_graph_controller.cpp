@@ -79,23 +79,6 @@ private Q_SLOTS:
         QVERIFY(!m_window->isVisible());
         QCOMPARE(GraphController::sharedInstance().graphTank(), nullptr);
     }
-
-    void visibleItems_data()
-    {
-        QTest::addColumn<int>("tests");
-        QTest::addColumn<int>("visible");
-        QTest::newRow("seven") << 7 << 7;
-        QTest::newRow("eight") << 8 << 8;
-        QTest::newRow("two") << 2 << 2;
-    }
-    void visibleItems()
-    {
-        QFETCH(int, tests);
-        addTests(tests);
-        open();
-        QTEST(combo("startDateCombo").maxVisibleItems(), "visible");
-    }
-
     void nothingToChoose_data()
     {
         QTest::addColumn<bool>("hasTank");
@@ -228,20 +211,6 @@ private Q_SLOTS:
         QCOMPARE(start.date(), firstMoment.date().addDays(1).startOfDay());
         Q_EMIT start.activated(1);
         QCOMPARE(start.date(), firstMoment.addDays(1));
-    }
-
-    void returnDraws()
-    {
-        addTests(5);
-        test(0).kH = 8;
-        open();
-        QTest::keyClick(combo("endDateCombo").lineEdit(), Qt::Key_Return);
-        QVERIFY(view().isVisible());
-        combo("startDateComboSmall").setCurrentIndex(2);
-        QTest::keyClick(combo("startDateComboSmall").lineEdit(), Qt::Key_Return);
-        QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(3));
-        QTest::keyClick(m_window, Qt::Key_Escape);
-        QVERIFY(!m_window->isVisible());
     }
 
     void legend()
@@ -431,21 +400,6 @@ private Q_SLOTS:
         QVERIFY(m_window->isVisible());
     }
 
-    void remembersItsSize()
-    {
-        addTests(3);
-        open();
-        press("drawButton");
-        m_window->resize(720, 500);
-        press("closeButton");
-        QVERIFY(!m_window->isVisible());
-        open();
-        QVERIFY(find<QWidget>("drawButton")->isVisible());
-        QVERIFY(m_window->width() < 600);
-        press("drawButton");
-        QCOMPARE(m_window->size(), QSize(720, 500));
-    }
-
     // A file that is closed while the sheet is up takes nothing away that is still looked at.
     void tankThatGoes()
     {
@@ -461,17 +415,6 @@ private Q_SLOTS:
         QCOMPARE(GraphController::sharedInstance().dataForLineIndex(view(), 0).size(), 3);
         press("closeButton");
         QVERIFY(tank.expired());
-    }
-
-    void tenThousandTests()
-    {
-        addTests(10'000);
-        QElapsedTimer timer;
-        timer.start();
-        open();
-        combo("startDateCombo").showPopup();
-        combo("startDateCombo").hidePopup();
-        QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
     }
 
 private:

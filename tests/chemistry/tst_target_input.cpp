@@ -121,35 +121,6 @@ private Q_SLOTS:
                  double(qRound(localNumber(shown) * 1000)) / 1000);
     }
 
-    void pastedBeyondTheMaximum()
-    {
-        m_driver->open();
-        m_driver->choose("ammoniaData");
-        auto *field = m_driver->control<CheckedLineEdit>("deviationField");
-        m_driver->focus(field);
-        QApplication::clipboard()->setText(QStringLiteral("150"));
-        field->selectAll();
-        field->paste();
-        m_driver->press(Qt::Key_Tab);
-        QCOMPARE(field->text(), local("5,00"));
-        QCOMPARE(m_driver->tank().ammoniaData()->deviationValue, 5.0F);
-    }
-
-    void steppingBeginsWhereTypingEnded()
-    {
-        m_driver->open();
-        m_driver->choose("phData");
-        auto *field = m_driver->control<CheckedLineEdit>("preferredField");
-        m_driver->focus(field);
-        field->selectAll();
-        QTest::keyClicks(field, local("7,25"));
-        m_driver->press(Qt::Key_Up);
-        QCOMPARE(field->text(), local("7,45"));
-        m_driver->press(Qt::Key_PageDown);
-        QCOMPARE(field->text(), local("5,45"));
-        QCOMPARE(m_driver->tank().phData()->preferredValue, 5.45F);
-    }
-
     void arrowsBeginWhereTypingEnded_data()
     {
         QTest::addColumn<bool>("pasted");

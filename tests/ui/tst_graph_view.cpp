@@ -257,35 +257,6 @@ private Q_SLOTS:
         QCOMPARE(m_graph.labelsAsked(GraphAxis::Y), QStringList());
     }
 
-    /// The whole width of the last label and the height of the uppermost have room.
-    void labelsAreNotCutOff()
-    {
-        m_graph.x = {0, 1e6};
-        m_graph.y = {0, 123456};
-        m_view->reloadData();
-        const QImage image = shot();
-        const QColor base = image.pixelColor(0, 0);
-        for (int x = 0; x < image.width(); ++x) {
-            QCOMPARE(image.pixelColor(x, 0), base);
-            QCOMPARE(image.pixelColor(x, image.height() - 1), base);
-        }
-        for (int y = 0; y < image.height(); ++y) {
-            QCOMPARE(image.pixelColor(0, y), base);
-            QCOMPARE(image.pixelColor(image.width() - 1, y), base);
-        }
-    }
-
-    void rangesWithoutExtentAreDrawn()
-    {
-        m_graph.lines = {{m_red, {{3, 7}}}};
-        m_graph.x = {3, 3};
-        m_graph.y = {7, 7};
-        m_view->reloadData();
-        QVERIFY(m_view->visibleRange(GraphAxis::X) == (GraphRange{3, 4}));
-        QVERIFY(m_view->visibleRange(GraphAxis::Y) == (GraphRange{7, 8}));
-        QVERIFY(shows(shot(), m_view->positionOf({3, 7}), m_red)); // a single point is a symbol at least
-    }
-
     void pointsThatAreNotFiniteAreLeftOut()
     {
         m_graph.lines[0].points = {{0, 2},        {2, notANumber}, {notANumber, 7}, {4, 8},
@@ -386,17 +357,6 @@ private Q_SLOTS:
         QVERIFY(!m_view->isZoomed());
     }
 
-    /// New data under the same axes leaves the eye where it was; another range of an axis shows that axis whole.
-    void zoomOutlastsReloading()
-    {
-        turnWheel(middle(), 3);
-        const GraphRange x = m_view->visibleRange(GraphAxis::X);
-        m_graph.y.max = 5;
-        m_view->reloadData();
-        QVERIFY(m_view->visibleRange(GraphAxis::X) == x);
-        QVERIFY(m_view->visibleRange(GraphAxis::Y) == (GraphRange{0, 5}));
-    }
-
     void toolTipNamesThePointBesideThePointer()
     {
         const auto hover = [this](QPointF position) {
@@ -462,21 +422,6 @@ private Q_SLOTS:
         QCOMPARE(pixelsOf(paper, Qt::magenta), 0);
         QVERIFY(shows(paper, m_view->positionOf({5, 15}), m_blue));
         QCOMPARE(colourAt(shot(), empty), QColor("#2a2a2a"));
-    }
-
-    void drawsToFillItsTarget()
-    {
-        QImage paper(900, 600, QImage::Format_RGB32);
-        paper.fill(Qt::magenta);
-        QPainter painter(&paper);
-        painter.scale(2, 2);
-        m_view->render(&painter, QRectF(50, 25, 350, 225));
-        painter.end();
-        for (const QPoint outside : {QPoint(98, 60), QPoint(802, 60), QPoint(300, 48), QPoint(300, 502)})
-            QCOMPARE(paper.pixelColor(outside), QColor(Qt::magenta));
-        for (const QPoint inside : {QPoint(102, 52), QPoint(797, 52), QPoint(102, 497), QPoint(797, 497)})
-            QCOMPARE(paper.pixelColor(inside), QColor(Qt::white));
-        QVERIFY(pixelsOf(paper.copy(700, 50, 100, 450), m_blue) > 100); // the line reaches the right side
     }
 
     void writesPicturesAndPages()
@@ -545,14 +490,6 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write")));
         QVERIFY(!m_view->savePdf(folder.path()));
         QVERIFY(QDir(folder.path()).isEmpty());
-    }
-
-    void isKnownToAssistiveTechnology()
-    {
-        QCOMPARE(m_view->objectName(), QStringLiteral("graphView"));
-        QCOMPARE(m_view->accessibleName(), QStringLiteral("Graph"));
-        QVERIFY(!m_view->accessibleDescription().isEmpty());
-        QVERIFY(m_view->focusPolicy() & Qt::TabFocus);
     }
 };
 
