@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Drawing a graph of 16 lines x 10,000 points at 1000 x 600. QT_QPA_PLATFORM=offscreen will do.
 //
 // The aim is 50 ms for all that a change of the view takes at one device pixel a pixel: decimation, labels, axes and

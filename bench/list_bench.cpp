@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The water-test table with many rows: showing the view, sorting by a column, adding a row with its re-sort. Each aims
 // at 50 ms with 10,000 tests, a frame of scrolling at 16 ms. Painting is included; run it with
 // QT_QPA_PLATFORM=offscreen.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Reading, writing and sorting large tank files. BRINEMARK_BENCH_DATA names the folder that bench/make-bench-data
 // filled.
 //

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The compiler settings that every target of this project shares.
 add_library(brinemark_options INTERFACE)
 target_compile_definitions(brinemark_options INTERFACE

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Two years of water tests, played day by day with a fixed seed."""
 import math
 import random

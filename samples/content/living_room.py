@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The planted freshwater tank of about 180 litres."""
 from datetime import datetime
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The reef tank of about 350 litres."""
 from datetime import datetime
 

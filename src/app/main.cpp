@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/ShoalwatchDelegate.h"
 #include "app/startup/Appearance.h"
 #include "app/startup/BrinemarkApp.h"

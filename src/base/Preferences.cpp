@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "base/Preferences.h"
 
 #include "base/PropertyListSettings.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the plain record types do beyond holding fields: the values of a new record, and copying by the field tables.
 
 #include "base/Clock.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "model/ModelContext.h"
 
 #include "base/PreferenceKeys.h"

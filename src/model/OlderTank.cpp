@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A tank from the older file form: an array of an attribute array and five record arrays, from the time when a tank had
 // fish, water tests, a schedule, an inventory and notes only.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A tank to and from the current file form: its properties, its lists' attributes and its lists.
 
 #include "model/PlistField.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The insert and remove operations under each list's own name.
 
 #include "model/Tank.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "model/TankProperties.h"
 
 #include "model/PlistField.h"

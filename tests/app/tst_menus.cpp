@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/menus/MainMenuBar.h"
 #include "app/tree/TankOutlineView.h"
 #include "base/text/Texts.h"

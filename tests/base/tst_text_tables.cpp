@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Every key that the sources look up has a text in every language, in the compiled program.
 
 #include <QDirIterator>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "base/PreferenceKeys.h"
 #include "calc/UnitConversion.h"
 #include "calc/views/ConverterController.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "chemistry/SFCheckedFormatter.h"
 #include "support/DataRow.h"
 #include "support/RunTest.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "chemistry/ConditionLog.h"
 #include "model/KeyAccess.h"
 #include "support/AlertDriver.h"

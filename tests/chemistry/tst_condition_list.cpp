@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "chemistry/ConditionColumns.h"
 #include "chemistry/views/ConditionListController.h"
 #include "support/ListDriver.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "chemistry/ConditionSeries.h"
 #include "model/Tank.h"
 #include "support/DataRow.h"

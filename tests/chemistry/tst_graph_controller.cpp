@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "base/text/DateText.h"
 #include "chemistry/views/GraphController.h"
 #include "chemistry/views/graph/ColourSwatch.h"

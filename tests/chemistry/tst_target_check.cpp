@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "chemistry/TargetCheck.h"
 
 #include "base/text/NumberText.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "base/text/NumberText.h"
 #include "chemistry/HighValue.h"
 #include "chemistry/TankSheetDriver.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "chemistry/TankSheetDriver.h"
 #include "chemistry/views/CheckedLineEdit.h"
 #include "support/DataRow.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A canvas with anti-aliased polygons, and its PNG form. Pure Python, so pictures need no imaging library."""
 import math
 import struct

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The current form of a tank file, as plain dictionaries that plistlib can write.
 
 Numbers and flags of records are stored as strings, those of targets as numbers; every function here answers exactly

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/menus/MenuRules.h"
 
 #include "app/toolbar/ToolbarItems.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/startup/BrinemarkApp.h"
 
 #include "base/Product.h"

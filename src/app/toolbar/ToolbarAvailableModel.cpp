@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/toolbar/ToolbarAvailableModel.h"
 
 #include "app/toolbar/ToolbarDrag.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "chemistry/views/GraphController.h"
 
 #include "base/text/DateText.h"

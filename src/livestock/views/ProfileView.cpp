@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "livestock/views/ProfileView.h"
 
 #include "livestock/views/PictureView.h"

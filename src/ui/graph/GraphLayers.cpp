@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "ui/graph/GraphLayers.h"
 
 #include "ui/graph/Decimate.h"

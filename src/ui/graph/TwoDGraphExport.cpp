@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What a graph view puts on paper and into files.
 
 #include "base/Log.h"

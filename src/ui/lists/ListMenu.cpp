@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "ui/lists/ListMenu.h"
 
 #include "ui/lists/RecordListController.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes the fixture file beside it with Python's own property-list writer, an independent witness for ours."""
 
 import datetime

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Files with something wrong, each with what reading it must come to.
 
 Outcomes: "refused" - the file is no property-list dictionary: no message, the tanks of before stay ("old");

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Files that can be read. Where a value matters to a test, it is unlike every other value of its file."""
 from datetime import datetime
 
