@@ -312,3 +312,5 @@ void ShoalwatchController::rebuildDockMenu()
 }
 
 } // namespace brinemark
+
+#include "moc_ShoalwatchController.cpp"

@@ -275,3 +275,5 @@ bool ShoalwatchDelegate::performOpenURL(const QString &url)
 }
 
 } // namespace brinemark
+
+#include "moc_ShoalwatchDelegate.cpp"

@@ -59,8 +59,8 @@ struct ParameterTraits {
     TextKey targetNameKey;     ///< key of the target's display name
     DefaultNumber preferred;   ///< of a default target, like the rest
     DefaultNumber deviation;
-    bool warningOn;       ///< a default target that warns has its band on as well
-    TextKey treatmentKey; ///< what to do when a test lies outside the target
+    bool warningOn;                            ///< a default target that warns has its band on as well
+    TextKey treatmentKey;                      ///< what to do when a test lies outside the target
     std::optional<LineColour> lineColour = {}; ///< of its line in a graph; none for the one that is never drawn
 };
 

@@ -172,3 +172,5 @@ void AlertDialog::addButton(AlertAnswer answer, const QString &text)
 }
 
 } // namespace brinemark
+
+#include "moc_AlertDialog.cpp"

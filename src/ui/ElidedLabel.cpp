@@ -48,3 +48,5 @@ void ElidedLabel::paintEvent(QPaintEvent *)
 }
 
 } // namespace brinemark
+
+#include "moc_ElidedLabel.cpp"

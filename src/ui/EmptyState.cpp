@@ -95,3 +95,5 @@ void EmptyState::applyLook()
 }
 
 } // namespace brinemark
+
+#include "moc_EmptyState.cpp"

@@ -258,3 +258,5 @@ void HelpWindow::changeEvent(QEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_HelpWindow.cpp"

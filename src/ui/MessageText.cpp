@@ -55,3 +55,5 @@ void MessageText::keyPressEvent(QKeyEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_MessageText.cpp"

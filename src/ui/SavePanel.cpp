@@ -114,3 +114,5 @@ QString documentsFolder()
 }
 
 } // namespace brinemark
+
+#include "moc_SavePanel.cpp"

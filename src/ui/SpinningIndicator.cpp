@@ -59,3 +59,5 @@ void SpinningIndicator::paintEvent(QPaintEvent *)
 }
 
 } // namespace brinemark
+
+#include "moc_SpinningIndicator.cpp"

@@ -159,3 +159,5 @@ void Stepper::focusOutEvent(QFocusEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_Stepper.cpp"

@@ -74,3 +74,5 @@ void TitleLine::applyLook()
 }
 
 } // namespace brinemark
+
+#include "moc_TitleLine.cpp"

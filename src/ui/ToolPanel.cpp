@@ -24,3 +24,5 @@ void ToolPanel::reject()
 }
 
 } // namespace brinemark
+
+#include "moc_ToolPanel.cpp"

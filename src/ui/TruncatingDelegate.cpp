@@ -69,3 +69,5 @@ QString wholeTextToolTip(const QString &text)
 }
 
 } // namespace brinemark
+
+#include "moc_TruncatingDelegate.cpp"

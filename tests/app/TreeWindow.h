@@ -9,7 +9,7 @@
 #include "model/LivestockData.h"
 #include "support/AlertDriver.h"
 #include "support/RecordingShell.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QApplication>
 #include <QTest>

@@ -230,8 +230,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return runWithApp<TestDocumentFiles>(argc, argv);
-}
+BRINEMARK_APP_TEST(TestDocumentFiles)
 #include "tst_document_files.moc"

@@ -417,8 +417,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return runWithApp<TestDocuments>(argc, argv);
-}
+BRINEMARK_APP_TEST(TestDocuments)
 #include "tst_documents.moc"

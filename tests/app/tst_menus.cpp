@@ -323,8 +323,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return runWithApp<TestMenus>(argc, argv);
-}
+BRINEMARK_APP_TEST(TestMenus)
 #include "tst_menus.moc"

@@ -32,7 +32,7 @@ QByteArray propertyList(const QByteArray &content)
     return "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>" + content + "</dict></plist>";
 }
 
-QByteArray text(const char *key, const char *value)
+QByteArray plistText(const char *key, const char *value)
 {
     return QByteArray("<key>") + key + "</key><string>" + value + "</string>";
 }
@@ -134,7 +134,7 @@ private Q_SLOTS:
             QCOMPARE(program.tankNames().size(), 3);
         } else {
             // An empty tree gets its first tank, selected and open, and the sheet that names it.
-            QCOMPARE(program.tankNames(), QStringList{brinemark::text("NewTankName")});
+            QCOMPARE(program.tankNames(), QStringList{text("NewTankName")});
             QVERIFY(program.tree().currentSelectedItem().isTank());
             QVERIFY(program.tree().isExpanded(program.tree().currentSelectedItem()));
             auto *sheet = awaitWindow("tankSheet");
@@ -167,7 +167,7 @@ private Q_SLOTS:
         QFETCH(QString, kind);
         QFETCH(bool, stays);
         Program program;
-        const QString leftover = startup::applicationSupportFolder() + '/' + brinemark::text("FolderName");
+        const QString leftover = startup::applicationSupportFolder() + '/' + text("FolderName");
         QVERIFY(leftover.startsWith(QDir::homePath()));
         const QString target = program.filePath("target");
         QVERIFY(writeFile(target + "/inside/file", "kept"));
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QVERIFY(!delegate.applicationDockMenu());
         QMenu &menu = delegate.dockMenu();
         QCOMPARE(menu.actions().size(), 1);
-        QCOMPARE(menu.actions().first()->text(), brinemark::text("DockMenuTitle"));
+        QCOMPARE(menu.actions().first()->text(), text("DockMenuTitle"));
         QVERIFY(!menu.actions().first()->isEnabled());
         QVERIFY(!delegate.applicationDockMenu());
         menu.addAction("First");
@@ -262,7 +262,7 @@ private Q_SLOTS:
         auto *path = window->findChild<QLineEdit *>("defaultFilePath");
         QVERIFY(control("overdueCheck")->isChecked());
         QVERIFY(control("autoSaveAsk")->isChecked());
-        QCOMPARE(path->text(), brinemark::text("NoneSelected"));
+        QCOMPARE(path->text(), text("NoneSelected"));
         QVERIFY(path->isReadOnly());
 
         control("overdueCheck")->click();
@@ -338,15 +338,16 @@ private Q_SLOTS:
         using Names = std::optional<QStringList>;
         const char writable[] = "com.apple.ical.sources.naivereadwrite";
         QCOMPARE(calendars::readCalendarsPostTiger(path("none")), Names(QStringList{}));
-        QVERIFY(writeFile(path("Sources/a/Info.plist"), propertyList(text("Title", "Home") + text("Type", writable))));
-        QVERIFY(
-            writeFile(path("Sources/b/deep/Info.plist"), propertyList(text("Title", "Work") + text("Type", writable))));
-        QVERIFY(
-            writeFile(path("Sources/c/Info.plist"), propertyList(text("Title", "Web") + text("Type", "subscribed"))));
-        QVERIFY(writeFile(path("Sources/d/Info.plist"), propertyList(text("Type", writable))));
+        QVERIFY(writeFile(path("Sources/a/Info.plist"),
+                          propertyList(plistText("Title", "Home") + plistText("Type", writable))));
+        QVERIFY(writeFile(path("Sources/b/deep/Info.plist"),
+                          propertyList(plistText("Title", "Work") + plistText("Type", writable))));
+        QVERIFY(writeFile(path("Sources/c/Info.plist"),
+                          propertyList(plistText("Title", "Web") + plistText("Type", "subscribed"))));
+        QVERIFY(writeFile(path("Sources/d/Info.plist"), propertyList(plistText("Type", writable))));
         QVERIFY(writeFile(path("Sources/e/Info.plist"), "garbage"));
-        QVERIFY(
-            writeFile(path("Sources/f/Other.plist"), propertyList(text("Title", "Other") + text("Type", writable))));
+        QVERIFY(writeFile(path("Sources/f/Other.plist"),
+                          propertyList(plistText("Title", "Other") + plistText("Type", writable))));
         Names found = calendars::readCalendarsPostTiger(path("Sources"));
         QVERIFY(found);
         found->sort();
@@ -357,11 +358,11 @@ private Q_SLOTS:
             return QByteArray("<key>") + key + "</key><dict>" + content + "</dict>";
         };
         const auto type = [](const char *element) { return QByteArray("<key>Type</key>") + element; };
-        const QByteArray view = entry("1", type("<integer>1</integer>") + text("Description", "Home")) +
-                                entry("2", type("<integer>4</integer>") + text("Description", "Web")) +
-                                entry("3", type("<string>1</string>") + text("Description", "Text")) +
+        const QByteArray view = entry("1", type("<integer>1</integer>") + plistText("Description", "Home")) +
+                                entry("2", type("<integer>4</integer>") + plistText("Description", "Web")) +
+                                entry("3", type("<string>1</string>") + plistText("Description", "Text")) +
                                 entry("4", type("<integer>1</integer>")) +
-                                entry("5", type("<real>2.5</real>") + text("Description", "Work"));
+                                entry("5", type("<real>2.5</real>") + plistText("Description", "Work"));
         QVERIFY(writeFile(path("sources.plist"), propertyList(entry("SourcesView", view))));
         QVERIFY(writeFile(path("empty.plist"), propertyList(entry("SourcesView", {}))));
         QVERIFY(writeFile(path("other.plist"), propertyList(entry("Sources", view))));
@@ -428,8 +429,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return runWithApp<TestStartup>(argc, argv);
-}
+BRINEMARK_APP_TEST(TestStartup)
 #include "tst_startup.moc"

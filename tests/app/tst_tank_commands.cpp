@@ -6,6 +6,7 @@
 #include "base/plist/XmlWriter.h"
 #include "model/RecordDict.h"
 #include "support/DataRow.h"
+#include "support/TestProgram.h"
 
 #include <QClipboard>
 #include <QMimeData>
@@ -458,9 +459,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestTankCommands>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestTankCommands)
 #include "tst_tank_commands.moc"

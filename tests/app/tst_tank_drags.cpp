@@ -3,6 +3,7 @@
 #include "app/TwoTanks.h"
 #include "base/plist/XmlReader.h"
 #include "support/DataRow.h"
+#include "support/TestProgram.h"
 
 #include <QDragMoveEvent>
 
@@ -210,9 +211,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestTankDrags>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestTankDrags)
 #include "tst_tank_drags.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/TreeWindow.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -239,9 +240,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestTankTree>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestTankTree)
 #include "tst_tank_tree.moc"

@@ -6,7 +6,7 @@
 #include "app/toolbar/ToolbarItems.h"
 #include "app/toolbar/ToolbarShownModel.h"
 #include "base/PreferenceKeys.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -339,9 +339,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestToolbar>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestToolbar)
 #include "tst_toolbar.moc"

@@ -4,7 +4,7 @@
 #include "model/LivestockData.h"
 #include "model/TankList.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QGuiApplication>
 #include <QTest>
@@ -217,9 +217,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QGuiApplication, TestTreeDropRules>(argc, argv);
-}
-
+BRINEMARK_TEST(QGuiApplication, TestTreeDropRules)
 #include "tst_tree_drop_rules.moc"

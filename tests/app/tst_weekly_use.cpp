@@ -270,9 +270,5 @@ private:
     QString m_file;
 };
 
-int main(int argc, char **argv)
-{
-    return runWithApp<TestWeeklyUse>(argc, argv);
-}
-
+BRINEMARK_APP_TEST(TestWeeklyUse)
 #include "tst_weekly_use.moc"

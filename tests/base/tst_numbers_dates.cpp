@@ -4,6 +4,7 @@
 #include "base/text/DateText.h"
 #include "base/text/NumberText.h"
 #include "support/DataRow.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -346,5 +347,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestNumbersDates)
+BRINEMARK_TEST(QCoreApplication, TestNumbersDates)
 #include "tst_numbers_dates.moc"

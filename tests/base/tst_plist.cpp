@@ -5,6 +5,7 @@
 #include "base/plist/XmlWriter.h"
 #include "support/DataRow.h"
 #include "support/Python.h"
+#include "support/TestProgram.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -493,5 +494,5 @@ class PlistTest : public QObject
     }
 };
 
-QTEST_GUILESS_MAIN(PlistTest)
+BRINEMARK_TEST(QCoreApplication, PlistTest)
 #include "tst_plist.moc"

@@ -5,6 +5,7 @@
 #include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/TestHome.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,22 +20,19 @@ using brinemark::test::writeFile;
 namespace
 {
 
-// Before main(), so that nothing has asked for a folder yet.
-const test::TestHome home;
-
 /// A file of its own for every case: within a process the toolkit keeps what it knows of a file that it has read
 /// before.
-QString freshPath(const QString &name = QStringLiteral("Brinemark.plist"))
+QString freshPreferencesPath(const QString &name = QStringLiteral("Brinemark.plist"))
 {
     static int count = 0;
-    const QString folder = home.filePath(QStringLiteral("store%1").arg(++count));
+    const QString folder = test::TestHome::current().filePath(QStringLiteral("store%1").arg(++count));
     QDir().mkpath(folder);
     return folder + u'/' + name;
 }
 
 QString copyElsewhere(const QString &path)
 {
-    const QString copy = freshPath();
+    const QString copy = freshPreferencesPath();
     return QFile::copy(path, copy) ? copy : QString();
 }
 
@@ -55,7 +53,7 @@ private Q_SLOTS:
     {
         Preferences &shared = Preferences::shared();
         QCOMPARE(&shared, &Preferences::shared());
-        QVERIFY(shared.path().startsWith(home.path()));
+        QVERIFY(shared.path().startsWith(test::TestHome::current().path()));
         QVERIFY(shared.path().endsWith(QStringLiteral("/Brinemark/Brinemark.plist")));
         // Not even the folder is there yet.
         shared.set(preference::convertVisible, true);
@@ -65,7 +63,7 @@ private Q_SLOTS:
 
     void absentUntilSet()
     {
-        Preferences store(freshPath());
+        Preferences store(freshPreferencesPath());
         QCOMPARE(store.value(preference::autoSaveOnQuit), std::nullopt);
         store.set(preference::autoSaveOnQuit, false);
         QCOMPARE(store.value(preference::autoSaveOnQuit, true), false);
@@ -104,7 +102,7 @@ private Q_SLOTS:
     {
         const QDateTime checked(QDate(2026, 3, 14), QTime(8, 30), Qt::OffsetFromUTC, 3600);
         const QVariantMap window{{"ConvertState", true}, {"ConvertWindowPoint", QStringLiteral("{1.5, 2}")}};
-        const QString path = freshPath();
+        const QString path = freshPreferencesPath();
         {
             Preferences store(path);
             store.set(preference::autoSaveOnQuit, true);
@@ -162,7 +160,7 @@ private Q_SLOTS:
         QFETCH(QVariant, flag);
         QFETCH(QVariant, number);
         QFETCH(QVariant, text);
-        Preferences store(freshPath());
+        Preferences store(freshPreferencesPath());
         store.setVariant(QStringLiteral("key"), stored);
         QCOMPARE(store.value(PreferenceKey<bool>{"key"}), flag.isValid() ? std::optional(flag.toBool()) : std::nullopt);
         QCOMPARE(store.value(PreferenceKey<int>{"key"}),
@@ -188,7 +186,7 @@ private Q_SLOTS:
     void damagedFileIsSetAside()
     {
         QFETCH(QByteArray, bytes);
-        const QString path = freshPath();
+        const QString path = freshPreferencesPath();
         QVERIFY(writeFile(path, bytes));
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(QStringLiteral("^The preferences could not be read: .+")));
@@ -203,7 +201,7 @@ private Q_SLOTS:
 
     void everyDamagedFileIsKept()
     {
-        const QString path = freshPath();
+        const QString path = freshPreferencesPath();
         for (const char *bytes : {"first", "second"}) {
             QVERIFY(writeFile(path, bytes));
             QTest::ignoreMessage(QtWarningMsg,
@@ -218,7 +216,7 @@ private Q_SLOTS:
     void failedFlushIsToldAndCanBeMendedLater()
     {
         // A file where the folder should be: not even the superuser can write below it.
-        const QString blocker = freshPath(QStringLiteral("folder"));
+        const QString blocker = freshPreferencesPath(QStringLiteral("folder"));
         QVERIFY(writeFile(blocker, "in the way"));
         const QString path = blocker + QStringLiteral("/Brinemark.plist");
         Preferences store(path);
@@ -232,5 +230,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreferences)
+BRINEMARK_TEST(QCoreApplication, TestPreferences)
 #include "tst_preferences.moc"

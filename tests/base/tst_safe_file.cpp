@@ -4,6 +4,7 @@
 #include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/FullDisk.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -233,5 +234,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-QTEST_GUILESS_MAIN(TestSafeFile)
+BRINEMARK_TEST(QCoreApplication, TestSafeFile)
 #include "tst_safe_file.moc"

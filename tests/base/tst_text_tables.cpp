@@ -2,6 +2,8 @@
 
 // Every key that the sources look up has a text in every language, in the compiled program.
 
+#include "support/TestProgram.h"
+
 #include <QDirIterator>
 #include <QFile>
 #include <QMap>
@@ -151,6 +153,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTextTables)
+BRINEMARK_TEST(QCoreApplication, TestTextTables)
 
 #include "tst_text_tables.moc"

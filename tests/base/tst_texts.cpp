@@ -2,6 +2,7 @@
 
 #include "base/text/Texts.h"
 #include "support/DataRow.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -22,6 +23,9 @@ constexpr TextKey unwritten{"NoTableHoldsThisKey"};
 class TestTexts : public QObject
 {
     Q_OBJECT
+
+public:
+    static constexpr bool usesSystemLanguage = true;
 
 private Q_SLOTS:
     // First of all tests, before any of them chooses languages.
@@ -138,5 +142,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTexts)
+BRINEMARK_TEST(QCoreApplication, TestTexts)
 #include "tst_texts.moc"

@@ -4,7 +4,7 @@
 #include "calc/UnitConversion.h"
 #include "calc/views/ConverterController.h"
 #include "support/RecordingShell.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -92,9 +92,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestUnitConversion>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestUnitConversion)
 #include "tst_unit_conversion.moc"

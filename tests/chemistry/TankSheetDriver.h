@@ -4,6 +4,7 @@
 
 #include "chemistry/views/TankDataController.h"
 #include "chemistry/views/TankDataEntryController.h"
+#include "support/LocalNumber.h"
 #include "support/RecordingShell.h"
 #include "ui/Alerts.h"
 #include "ui/HelpWindow.h"
@@ -88,12 +89,5 @@ public:
 private:
     std::function<void()> m_beepBefore;
 };
-
-/// A number written with a comma or a full stop, as a person of this locale types it.
-inline QString local(QString number)
-{
-    const QString point = QLocale().decimalPoint();
-    return number.replace(QLatin1Char('.'), QLatin1Char(',')).replace(QLatin1Char(','), point);
-}
 
 } // namespace brinemark::test

@@ -3,7 +3,8 @@
 #include "chemistry/views/CheckedCellDelegate.h"
 #include "chemistry/views/CheckedLineEdit.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/LocalNumber.h"
+#include "support/TestProgram.h"
 #include "ui/Alerts.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@
 #include <memory>
 
 using namespace brinemark;
+using test::local;
 using test::row;
 
 namespace
@@ -39,18 +41,12 @@ SFCheckedFormatter formatter(Mode mode)
     return result;
 }
 
-/// A text written with full stops, as the person of this run types it.
-QString local(QString text)
-{
-    return text.replace(u'.', NumberSeparators::ofLocale().decimal);
-}
-
 void send(CheckedLineEdit &field, QEvent &&event)
 {
     QCoreApplication::sendEvent(&field, &event);
 }
 
-Act type(const QString &keys)
+Act typing(const QString &keys)
 {
     return [=](CheckedLineEdit &field) {
         for (const char32_t c : keys.toUcs4()) // as a keyboard sends them, letters beyond Latin as well
@@ -63,12 +59,12 @@ Act typed(const char *keys)
     return [=](CheckedLineEdit &field) { QTest::keyClicks(&field, local(QString::fromLatin1(keys))); };
 }
 
-Act press(QKeySequence::StandardKey key)
+Act pressing(QKeySequence::StandardKey key)
 {
     return [=](CheckedLineEdit &field) { QTest::keySequence(&field, key); };
 }
 
-Act press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+Act pressing(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     return [=](CheckedLineEdit &field) { QTest::keyClick(&field, key, modifiers); };
 }
@@ -157,9 +153,9 @@ private Q_SLOTS:
         };
         const QString emoji = QString::fromUtf16(u"\U0001F4A7");
         const QString hebrew = QString::fromUtf16(u"\u05d0\u05d1");
-        const auto all = press(QKeySequence::SelectAll);
-        const auto undo = press(QKeySequence::Undo);
-        const auto back = press(Qt::Key_Backspace);
+        const auto all = pressing(QKeySequence::SelectAll);
+        const auto undo = pressing(QKeySequence::Undo);
+        const auto back = pressing(Qt::Key_Backspace);
 
         add("digits", Tested, {typed("7.25")}, "7.25|", 0, 7.25);
         add("letters", Tested, {typed("a7bc.2x5")}, "7.25|", 4, 7.25);
@@ -175,16 +171,16 @@ private Q_SLOTS:
         add("minus, from 0", Tested, {typed("-5")}, "5|", 1, 5);
         add("minus, not tested", MayBeUntested, {typed("-5")}, "5|", 1, 5);
         add("minus pasted, not tested", MayBeUntested, {paste("-5")}, "?|", 0, -1);
-        add("emoji by key", Tested, {typed("1"), type(emoji), typed("2")}, "1.002|", 0, 1);
+        add("emoji by key", Tested, {typed("1"), typing(emoji), typed("2")}, "1.002|", 0, 1);
         add("emoji composed", Tested, {typed("1"), compose(emoji), typed("2")}, "1.002|", 0, 1);
         add("emoji pasted", Tested, {typed("1"), paste(emoji + "2" + emoji)}, "12.00|", 0, 12);
         add("composed", Tested, {typed("1"), compose("2")}, "12|", 0, 12);
         add("composed letter", Tested, {typed("1"), compose("x"), typed("3")}, "13|", 1, 13);
-        add("right to left", Tested, {typed("1"), type(hebrew), typed("2")}, "12|", 2, 12);
+        add("right to left", Tested, {typed("1"), typing(hebrew), typed("2")}, "12|", 2, 12);
         add("right to left pasted", Tested, {paste(QChar(0x202e) + hebrew + "34")}, "34.00|", 0, 34);
         add("400 digits pasted", Tested, {paste(QString(400, u'9'))}, "99.00|", 0, 99);
-        add("400 digits typed", Tested, {type(QString(400, u'9'))}, "99|", 398, 99);
-        add("400 zeros typed", Tested, {type("0." + QString(398, u'0'))}, nullptr, 0, 0);
+        add("400 digits typed", Tested, {typing(QString(400, u'9'))}, "99|", 398, 99);
+        add("400 zeros typed", Tested, {typing("0." + QString(398, u'0'))}, nullptr, 0, 0);
         add("lines pasted", Tested, {paste("1\n2\t3")}, "99.00|", 0, 99);
         add("one letter pasted", Tested, {typed("1"), paste("x")}, "1|", 1, 1);
         add("one digit pasted", Tested, {typed("1"), paste("2")}, "12|", 0, 12);
@@ -194,19 +190,19 @@ private Q_SLOTS:
         add("backspace", Tested, {typed("12.5"), back}, "12.00|", 0, 12);
         add("backspace to nothing", Tested, {typed("1"), back}, "|", 0, 0);
         add("backspace on a selection", Tested, {typed("12.5"), select(1, 1), back}, "1|.5", 0, 1.5);
-        add("word deleted", Tested, {typed("12.5"), press(Qt::Key_Backspace, Qt::ControlModifier)}, "12.00|", 0, 12);
-        add("delete forward", Tested, {typed("12.5"), caret(1), press(Qt::Key_Delete)}, "1|.5", 0, 1.5);
-        add("delete, beyond the range", Tested, {typed("12.5"), caret(2), press(Qt::Key_Delete)}, "12|.5", 1, 12.5);
-        add("all deleted", Tested, {typed("12.5"), all, press(Qt::Key_Delete)}, "|", 0, 0);
+        add("word deleted", Tested, {typed("12.5"), pressing(Qt::Key_Backspace, Qt::ControlModifier)}, "12.00|", 0, 12);
+        add("delete forward", Tested, {typed("12.5"), caret(1), pressing(Qt::Key_Delete)}, "1|.5", 0, 1.5);
+        add("delete, beyond the range", Tested, {typed("12.5"), caret(2), pressing(Qt::Key_Delete)}, "12|.5", 1, 12.5);
+        add("all deleted", Tested, {typed("12.5"), all, pressing(Qt::Key_Delete)}, "|", 0, 0);
         add("all deleted, not tested", MayBeUntested, {typed("12.5"), all, back}, "|", 0, -1);
-        add("cut", Tested, {typed("12.5"), select(2, 2), press(QKeySequence::Cut)}, "12|", 0, 12);
+        add("cut", Tested, {typed("12.5"), select(2, 2), pressing(QKeySequence::Cut)}, "12|", 0, 12);
         add("nothing, not tested", MayBeUntested, {}, "|", 0, -1);
         add("undo", Tested, {typed("12"), undo}, "|", 0, 0);
         add("undo after a refusal", Tested, {typed("1x"), undo}, "|", 1, 0);
         add("undo a correction", Tested, {typed("12.5"), back, undo}, "[12.5]", 0, 12.5);
         add("undo a paste", Tested, {typed("12.5"), all, paste("77x"), undo}, "[12.5]", 0, 12.5);
-        add("redo", Tested, {typed("12"), undo, press(QKeySequence::Redo)}, "12.00|", 0, 12);
-        add("redo after a refusal", Tested, {typed("1x"), press(QKeySequence::Redo)}, "1|", 1, 1);
+        add("redo", Tested, {typed("12"), undo, pressing(QKeySequence::Redo)}, "12.00|", 0, 12);
+        add("redo after a refusal", Tested, {typed("1x"), pressing(QKeySequence::Redo)}, "1|", 1, 1);
         add("menu: paste several", Tested, {paste("12"), all, choose("Cut"), choose("Paste")}, "12.00|", 0, 12);
         add("menu: delete", Tested, {typed("12.5"), select(1, 1), choose("Delete")}, "1|.5", 0, 1.5);
         add("menu: undo", Tested, {typed("1x2"), choose("Undo")}, "|", 1, 0);
@@ -254,7 +250,7 @@ private Q_SLOTS:
         CheckedLineEdit field(formatter(Tested));
         field.show();
         field.setFocus();
-        const Acts acts{typed("12"), typed("x"), paste("3x4"), typed("."), press(Qt::Key_Backspace), paste("y")};
+        const Acts acts{typed("12"), typed("x"), paste("3x4"), typed("."), pressing(Qt::Key_Backspace), paste("y")};
         for (const Act &act : acts)
             act(field);
         QSignalSpy changed(&field, &QLineEdit::textChanged);
@@ -395,9 +391,5 @@ private:
     int m_beeps = 0;
 };
 
-int main(int argc, char **argv)
-{
-    return test::run<QApplication, TestCheckedEditing>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestCheckedEditing)
 #include "tst_checked_editing.moc"

@@ -2,7 +2,7 @@
 
 #include "chemistry/SFCheckedFormatter.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
@@ -228,9 +228,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return test::run<QCoreApplication, TestCheckedFormatter>(argc, argv);
-}
-
+BRINEMARK_TEST(QCoreApplication, TestCheckedFormatter)
 #include "tst_checked_formatter.moc"

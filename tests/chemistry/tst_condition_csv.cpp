@@ -8,7 +8,7 @@
 #include "model/Tank.h"
 #include "support/DataRow.h"
 #include "support/Python.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -173,9 +173,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return test::run<QCoreApplication, TestConditionCsv>(argc, argv);
-}
-
+BRINEMARK_TEST(QCoreApplication, TestConditionCsv)
 #include "tst_condition_csv.moc"

@@ -4,7 +4,7 @@
 #include "model/KeyAccess.h"
 #include "support/AlertDriver.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QPushButton>
 
@@ -257,9 +257,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestConditionEditing>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestConditionEditing)
 #include "tst_condition_editing.moc"

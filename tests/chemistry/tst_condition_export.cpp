@@ -9,7 +9,7 @@
 #include "support/Files.h"
 #include "support/FullDisk.h"
 #include "support/PanelDriver.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/SavePanel.h"
 
 #include <QScopeGuard>
@@ -162,9 +162,5 @@ private:
     std::shared_ptr<Tank> m_tank;
 };
 
-int main(int argc, char **argv)
-{
-    return test::run<QApplication, TestConditionExport>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestConditionExport)
 #include "tst_condition_export.moc"

@@ -3,7 +3,7 @@
 #include "chemistry/ConditionColumns.h"
 #include "chemistry/views/ConditionListController.h"
 #include "support/ListDriver.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
@@ -172,9 +172,5 @@ private:
     std::unique_ptr<test::RecordingShell> m_shell;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestConditionList>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestConditionList)
 #include "tst_condition_list.moc"

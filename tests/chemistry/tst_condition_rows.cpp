@@ -3,7 +3,7 @@
 #include "chemistry/ConditionLog.h"
 #include "support/AlertDriver.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QMenu>
 #include <QToolButton>
@@ -180,9 +180,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestConditionRows>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestConditionRows)
 #include "tst_condition_rows.moc"

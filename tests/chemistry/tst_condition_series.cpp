@@ -3,7 +3,7 @@
 #include "chemistry/ConditionSeries.h"
 #include "model/Tank.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -252,9 +252,5 @@ private:
     std::shared_ptr<Tank> m_tank;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QCoreApplication, TestConditionSeries>(argc, argv);
-}
-
+BRINEMARK_TEST(QCoreApplication, TestConditionSeries)
 #include "tst_condition_series.moc"

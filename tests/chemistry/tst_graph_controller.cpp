@@ -8,7 +8,7 @@
 #include "support/AlertDriver.h"
 #include "support/Files.h"
 #include "support/RecordingShell.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/Alerts.h"
 #include "ui/graph/TwoDGraphView.h"
 
@@ -31,7 +31,7 @@ using namespace brinemark;
 namespace
 {
 
-const QDateTime firstMoment(QDate(2026, 3, 1), QTime(18, 30, 15));
+const QDateTime firstTest(QDate(2026, 3, 1), QTime(18, 30, 15));
 
 } // namespace
 
@@ -74,7 +74,7 @@ private Q_SLOTS:
         }
         QCOMPARE(combo("startDateCombo").currentIndex(), 0);
         QCOMPARE(combo("endDateCombo").currentIndex(), 9);
-        QCOMPARE(combo("startDateCombo").date(), firstMoment);
+        QCOMPARE(combo("startDateCombo").date(), firstTest);
         QVERIFY(find<QPushButton>("drawButton")->isDefault());
 
         press("cancelButton");
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(controller.stringForToolTip(view(), {5, 9}).startsWith(u"x: "));
 
         // The range follows into the small combos, to the second.
-        QCOMPARE(combo("startDateComboSmall").date(), firstMoment);
+        QCOMPARE(combo("startDateComboSmall").date(), firstTest);
         QCOMPARE(combo("endDateComboSmall").currentIndex(), 10);
         combo("startDateComboSmall").setCurrentIndex(5);
         press("drawButtonSmall");
@@ -206,13 +206,13 @@ private Q_SLOTS:
         open();
         TestDateCombo &start = combo("startDateCombo");
         start.setCurrentIndex(1);
-        QCOMPARE(start.date(), firstMoment.addDays(1));
+        QCOMPARE(start.date(), firstTest.addDays(1));
         const QString shown = start.currentText();
         type("startDateCombo", shown);
         QTest::keyClick(start.lineEdit(), Qt::Key_Tab);
-        QCOMPARE(start.date(), firstMoment.date().addDays(1).startOfDay());
+        QCOMPARE(start.date(), firstTest.date().addDays(1).startOfDay());
         Q_EMIT start.activated(1);
-        QCOMPARE(start.date(), firstMoment.addDays(1));
+        QCOMPARE(start.date(), firstTest.addDays(1));
     }
 
     void legend()
@@ -334,8 +334,8 @@ private Q_SLOTS:
         test(1).temp = 25;
         open();
         if (!inRange) {
-            type("startDateCombo", localeDateText(firstMoment.addDays(20)));
-            type("endDateCombo", localeDateText(firstMoment.addDays(30)));
+            type("startDateCombo", localeDateText(firstTest.addDays(20)));
+            type("endDateCombo", localeDateText(firstTest.addDays(30)));
         }
         press("drawButton");
         QVERIFY(!view().isVisible());
@@ -424,7 +424,7 @@ private:
     {
         for (int i = 0; i < count; ++i) {
             auto record = std::make_shared<ConditionData>(Blank{});
-            record->date = firstMoment.addDays(i);
+            record->date = firstTest.addDays(i);
             m_tank->conditionListArray().push_back(record);
         }
     }
@@ -487,9 +487,5 @@ private:
     int m_beeps = 0;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestGraphController>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestGraphController)
 #include "tst_graph_controller.moc"

@@ -2,7 +2,7 @@
 
 #include "chemistry/TankSheetDriver.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QLabel>
@@ -148,9 +148,5 @@ private:
     std::unique_ptr<test::TankSheetDriver> m_driver;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestTankView>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestTankView)
 #include "tst_tank_view.moc"

@@ -7,7 +7,7 @@
 #include "model/Parameters.h"
 #include "model/Tank.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QCoreApplication>
 
@@ -137,9 +137,5 @@ private:
     static QString textOf(const QString &key) { return text(operator""_key(key.toLatin1().constData(), 0)); }
 };
 
-int main(int argc, char **argv)
-{
-    return test::run<QCoreApplication, TestTargetCheck>(argc, argv);
-}
-
+BRINEMARK_TEST(QCoreApplication, TestTargetCheck)
 #include "tst_target_check.moc"

@@ -4,7 +4,7 @@
 #include "chemistry/HighValue.h"
 #include "chemistry/TankSheetDriver.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QLabel>
 #include <QTextBrowser>
@@ -209,9 +209,5 @@ private:
     std::unique_ptr<test::TankSheetDriver> m_driver;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestTargetEditor>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestTargetEditor)
 #include "tst_target_editor.moc"

@@ -3,7 +3,7 @@
 #include "chemistry/TankSheetDriver.h"
 #include "chemistry/views/CheckedLineEdit.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/Stepper.h"
 
 #include <QCheckBox>
@@ -273,9 +273,5 @@ private:
     std::unique_ptr<test::TankSheetDriver> m_driver;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestTargetInput>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestTargetInput)
 #include "tst_target_input.moc"

@@ -6,7 +6,7 @@
 #include "journals/views/ScheduleListController.h"
 #include "support/AlertDriver.h"
 #include "support/ListDriver.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -249,9 +249,5 @@ private:
     std::shared_ptr<Tank> m_tank;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestJournalTables>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestJournalTables)
 #include "tst_journal_tables.moc"

@@ -6,7 +6,7 @@
 #include "journals/views/NotificationController.h"
 #include "journals/views/ScheduleListController.h"
 #include "support/RecordingShell.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/Alerts.h"
 
 #include <QApplication>
@@ -168,9 +168,5 @@ private:
     int m_beeps = 0;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestOverdueNotice>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestOverdueNotice)
 #include "tst_overdue_notice.moc"

@@ -6,8 +6,8 @@
 #include "livestock/views/ItemSheet.h"
 #include "livestock/views/LivestockGroupController.h"
 #include "support/RecordingShell.h"
-#include "support/RunTest.h"
 #include "support/TestHome.h"
+#include "support/TestProgram.h"
 #include "ui/Alerts.h"
 
 #include <QApplication>
@@ -196,9 +196,5 @@ private:
     std::shared_ptr<Tank> m_tank;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestLivestockViews>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestLivestockViews)
 #include "tst_livestock_views.moc"

@@ -7,7 +7,7 @@
 #include "model/ModelContext.h"
 #include "model/Tank.h"
 #include "model/TankList.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QGuiApplication>
 #include <QTest>

@@ -87,8 +87,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QGuiApplication, OverdueTest>(argc, argv);
-}
+BRINEMARK_TEST(QGuiApplication, OverdueTest)
 #include "tst_overdue.moc"

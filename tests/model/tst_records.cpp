@@ -444,8 +444,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QGuiApplication, RecordsTest>(argc, argv);
-}
+BRINEMARK_TEST(QGuiApplication, RecordsTest)
 #include "tst_records.moc"

@@ -141,8 +141,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QGuiApplication, SortingTest>(argc, argv);
-}
+BRINEMARK_TEST(QGuiApplication, SortingTest)
 #include "tst_sorting.moc"

@@ -227,8 +227,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QGuiApplication, TankTest>(argc, argv);
-}
+BRINEMARK_TEST(QGuiApplication, TankTest)
 #include "tst_tank.moc"

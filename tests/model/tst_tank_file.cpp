@@ -412,10 +412,7 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QGuiApplication, TankFileTest>(argc, argv);
-}
+BRINEMARK_TEST(QGuiApplication, TankFileTest)
 #include "support/Files.h"
 #include "support/Python.h"
 #include "tst_tank_file.moc"

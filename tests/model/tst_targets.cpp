@@ -124,8 +124,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QGuiApplication, TargetsTest>(argc, argv);
-}
+BRINEMARK_TEST(QGuiApplication, TargetsTest)
 #include "tst_targets.moc"

@@ -5,7 +5,7 @@
 #include "online/UpdateSchedule.h"
 #include "online/views/QZUpdateController.h"
 #include "support/RecordingShell.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -97,9 +97,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestUpdateSchedule>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestUpdateSchedule)
 #include "tst_update_schedule.moc"

@@ -16,7 +16,7 @@
 #include "support/AlertDriver.h"
 #include "support/Files.h"
 #include "support/PanelDriver.h"
-#include "support/TestHome.h"
+#include "support/TestProgram.h"
 #include "ui/Desktop.h"
 
 #include <QDir>
@@ -192,16 +192,17 @@ private:
     std::function<void()> m_beepBefore;
 };
 
-/// Runs a test object under the application object, a home of its own and a fixed clock.
+/// As run(), under the program's application object and a fixed clock.
 template <class Test>
 int runWithApp(int argc, char **argv)
 {
-    TestHome home;
-    BrinemarkApp application(argc, argv);
     const clock::FixedClock clock(QDateTime(QDate(2026, 3, 14), QTime(12, 0)));
-    setTextLanguages({QStringLiteral("en")});
-    Test test;
-    return QTest::qExec(&test, argc, argv);
+    return run<BrinemarkApp, Test>(argc, argv);
 }
 
 } // namespace brinemark::test
+
+/// As BRINEMARK_TEST, under the program's application object and a fixed clock.
+#define BRINEMARK_APP_TEST(Test)                                                                                       \
+    [[maybe_unused]] static const bool Test##Added =                                                                   \
+        brinemark::test::addTest(__FILE__, &brinemark::test::runWithApp<Test>);

@@ -8,22 +8,30 @@
 namespace brinemark::test
 {
 
-/// A home of its own for one test program: preferences, caches and application data go to a folder that is removed at the
-/// end. Made before the application object, so that nothing has looked up a folder yet.
+/// A home of its own for one test program: preferences, caches and application data go to a folder that is removed at
+/// the end. Made before the application object, so that nothing has looked up a folder yet.
 class TestHome
 {
 public:
     TestHome()
     {
+        s_current = this;
         qputenv("HOME", m_folder.path().toLocal8Bit());
         for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
             qputenv(variable, m_folder.filePath(QLatin1String(variable)).toLocal8Bit());
     }
 
+    ~TestHome() { s_current = nullptr; }
+    TestHome(const TestHome &) = delete;
+    TestHome &operator=(const TestHome &) = delete;
+
+    [[nodiscard]] static const TestHome &current() { return *s_current; } ///< of the test that runs
+
     [[nodiscard]] QString path() const { return m_folder.path(); }
     [[nodiscard]] QString filePath(const QString &name) const { return m_folder.filePath(name); }
 
 private:
+    static inline const TestHome *s_current = nullptr;
     QTemporaryDir m_folder;
 };
 

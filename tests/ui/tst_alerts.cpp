@@ -2,7 +2,7 @@
 
 #include "support/AlertDriver.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/AlertDialog.h"
 #include "ui/Alerts.h"
 #include "ui/Sheets.h"
@@ -236,9 +236,5 @@ private:
     std::unique_ptr<QWidget> m_window;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, AlertsTest>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, AlertsTest)
 #include "tst_alerts.moc"

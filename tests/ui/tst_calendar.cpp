@@ -2,7 +2,7 @@
 
 #include "base/Clock.h"
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/calendar/CalendarController.h"
 #include "ui/calendar/CalendarDays.h"
 #include "ui/calendar/CalendarMonth.h"
@@ -397,9 +397,5 @@ private:
     QList<QDateTime> m_chosen;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, CalendarTest>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, CalendarTest)
 #include "tst_calendar.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "support/TestProgram.h"
 #include "ui/Colours.h"
 
 #include <QPalette>
@@ -64,5 +65,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ColoursTest)
+BRINEMARK_TEST(QApplication, ColoursTest)
 #include "tst_colours.moc"

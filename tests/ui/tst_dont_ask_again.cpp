@@ -2,7 +2,7 @@
 
 #include "base/PreferenceKeys.h"
 #include "support/AlertDriver.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/AlertPanelDontAskAgain.h"
 
 #include <QCheckBox>
@@ -198,9 +198,5 @@ private:
     std::unique_ptr<QWidget> m_window;
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, DontAskAgainTest>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, DontAskAgainTest)
 #include "tst_dont_ask_again.moc"

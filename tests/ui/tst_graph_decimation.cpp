@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "support/DataRow.h"
+#include "support/TestProgram.h"
 #include "ui/graph/Decimate.h"
 #include "ui/graph/GraphRange.h"
 #include "ui/graph/Polyline.h"
@@ -267,5 +268,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(GraphDecimationTest)
+BRINEMARK_TEST(QCoreApplication, GraphDecimationTest)
 #include "tst_graph_decimation.moc"

@@ -2,7 +2,7 @@
 
 #include "support/DataRow.h"
 #include "support/Files.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/graph/TwoDGraphView.h"
 
 #include <QApplication>
@@ -495,9 +495,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return test::run<QApplication, GraphViewTest>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, GraphViewTest)
 #include "tst_graph_view.moc"

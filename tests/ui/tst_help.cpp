@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/DataRow.h"
-#include "ui/HelpWindow.h"
-
 #include "base/text/Texts.h"
+#include "support/DataRow.h"
+#include "support/TestProgram.h"
 #include "ui/Desktop.h"
+#include "ui/HelpWindow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -243,5 +243,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestHelp)
+BRINEMARK_TEST(QApplication, TestHelp)
 #include "tst_help.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "support/TestProgram.h"
 #include "ui/Icons.h"
 
 #include <QDir>
@@ -134,5 +135,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestIcons)
+BRINEMARK_TEST(QApplication, TestIcons)
 #include "tst_icons.moc"

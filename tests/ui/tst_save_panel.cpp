@@ -5,7 +5,7 @@
 #include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/PanelDriver.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 
@@ -125,9 +125,5 @@ private:
     QStringList m_chosen;
 };
 
-int main(int argc, char **argv)
-{
-    return test::run<QApplication, TestSavePanel>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestSavePanel)
 #include "tst_save_panel.moc"

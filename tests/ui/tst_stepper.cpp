@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "support/DataRow.h"
-#include "support/RunTest.h"
+#include "support/TestProgram.h"
 #include "ui/Stepper.h"
 
 #include <QApplication>
@@ -95,9 +95,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return brinemark::test::run<QApplication, TestStepper>(argc, argv);
-}
-
+BRINEMARK_TEST(QApplication, TestStepper)
 #include "tst_stepper.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "support/DataRow.h"
+#include "support/TestProgram.h"
 #include "ui/ElidedLabel.h"
 #include "ui/TruncatingDelegate.h"
 
@@ -80,5 +81,5 @@ private:
     }
 };
 
-QTEST_MAIN(TruncatingTest)
+BRINEMARK_TEST(QApplication, TruncatingTest)
 #include "tst_truncating.moc"

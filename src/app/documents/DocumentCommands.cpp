@@ -241,3 +241,5 @@ void DocumentCommands::closeSaveBeforeQuitSheet(int returnCode)
 }
 
 } // namespace brinemark
+
+#include "moc_DocumentCommands.cpp"

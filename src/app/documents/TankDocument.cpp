@@ -164,3 +164,5 @@ TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &pa
 }
 
 } // namespace brinemark
+
+#include "moc_TankDocument.cpp"

@@ -95,3 +95,5 @@ QWidget *MainMenuBar::commandTarget() const
 }
 
 } // namespace brinemark
+
+#include "moc_MainMenuBar.cpp"

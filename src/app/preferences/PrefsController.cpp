@@ -172,3 +172,5 @@ void PrefsController::openFileDidEnd(bool ok, const QString &path)
 }
 
 } // namespace brinemark
+
+#include "moc_PrefsController.cpp"

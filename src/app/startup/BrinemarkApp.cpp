@@ -57,3 +57,5 @@ bool BrinemarkApp::event(QEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_BrinemarkApp.cpp"

@@ -76,3 +76,5 @@ void DockMenu::updateTray()
 }
 
 } // namespace brinemark
+
+#include "moc_DockMenu.cpp"

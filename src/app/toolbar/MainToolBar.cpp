@@ -190,3 +190,5 @@ void MainToolBar::contextMenuEvent(QContextMenuEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_MainToolBar.cpp"

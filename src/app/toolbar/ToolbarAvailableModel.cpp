@@ -88,3 +88,5 @@ bool ToolbarAvailableModel::dropMimeData(const QMimeData *data, Qt::DropAction a
 }
 
 } // namespace brinemark
+
+#include "moc_ToolbarAvailableModel.cpp"

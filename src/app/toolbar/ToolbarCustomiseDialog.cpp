@@ -235,3 +235,5 @@ void ToolbarCustomiseDialog::applyNow()
 }
 
 } // namespace brinemark
+
+#include "moc_ToolbarCustomiseDialog.cpp"

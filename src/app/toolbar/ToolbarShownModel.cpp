@@ -120,3 +120,5 @@ bool ToolbarShownModel::dropMimeData(const QMimeData *data, Qt::DropAction actio
 }
 
 } // namespace brinemark
+
+#include "moc_ToolbarShownModel.cpp"

@@ -359,3 +359,5 @@ void TankListController::showContextMenu(const QPoint &globalPosition)
 }
 
 } // namespace brinemark
+
+#include "moc_TankListController.cpp"

@@ -253,3 +253,5 @@ void TankOutlineView::paintEvent(QPaintEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_TankOutlineView.cpp"

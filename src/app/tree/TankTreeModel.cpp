@@ -154,3 +154,5 @@ Qt::ItemFlags TankTreeModel::flags(const QModelIndex &index) const
 }
 
 } // namespace brinemark
+
+#include "moc_TankTreeModel.cpp"

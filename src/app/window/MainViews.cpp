@@ -103,3 +103,5 @@ void MainViews::updateColumnInfo()
 }
 
 } // namespace brinemark
+
+#include "moc_MainViews.cpp"

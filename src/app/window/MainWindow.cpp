@@ -143,3 +143,5 @@ void MainWindow::dropEvent(QDropEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_MainWindow.cpp"

@@ -59,3 +59,5 @@ void ConverterController::windowWillClose()
 }
 
 } // namespace brinemark
+
+#include "moc_ConverterController.cpp"

@@ -71,3 +71,5 @@ void ConverterPanel::convertTypesAction()
 }
 
 } // namespace brinemark
+
+#include "moc_ConverterPanel.cpp"

@@ -69,3 +69,5 @@ void CheckedCellDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
 }
 
 } // namespace brinemark
+
+#include "moc_CheckedCellDelegate.cpp"

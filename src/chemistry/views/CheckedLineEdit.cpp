@@ -191,3 +191,5 @@ void CheckedLineEdit::select(const TextSelection &selection)
 }
 
 } // namespace brinemark
+
+#include "moc_CheckedLineEdit.cpp"

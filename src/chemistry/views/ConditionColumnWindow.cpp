@@ -61,3 +61,5 @@ void ConditionColumnWindow::showColumns(const QString &tankName, const std::func
 }
 
 } // namespace brinemark
+
+#include "moc_ConditionColumnWindow.cpp"

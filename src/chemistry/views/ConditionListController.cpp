@@ -257,3 +257,5 @@ void ConditionListController::showColumnChecks()
 }
 
 } // namespace brinemark
+
+#include "moc_ConditionListController.cpp"

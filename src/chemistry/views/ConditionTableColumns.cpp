@@ -165,3 +165,5 @@ void ConditionTableColumns::updateColumnInfo()
 }
 
 } // namespace brinemark
+
+#include "moc_ConditionTableColumns.cpp"

@@ -261,3 +261,5 @@ QString GraphController::stringForToolTip(const TwoDGraphView &, QPointF point) 
 }
 
 } // namespace brinemark
+
+#include "moc_GraphController.cpp"

@@ -172,3 +172,5 @@ void TankDataController::edit(const QModelIndex &row)
 }
 
 } // namespace brinemark
+
+#include "moc_TankDataController.cpp"

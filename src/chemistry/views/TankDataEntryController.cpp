@@ -319,3 +319,5 @@ void TankDataEntryController::confirm(const std::shared_ptr<Tank> &tank)
 }
 
 } // namespace brinemark
+
+#include "moc_TankDataEntryController.cpp"

@@ -93,3 +93,5 @@ QVariant TargetTableModel::headerData(int section, Qt::Orientation orientation, 
 }
 
 } // namespace brinemark
+
+#include "moc_TargetTableModel.cpp"

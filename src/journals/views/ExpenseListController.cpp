@@ -18,22 +18,24 @@ QString shownCategory(const Record &record)
     return tank && tank->expenseCategoryArray.contains(expense.type) ? expense.type : text("ExpenseNoneItem");
 }
 
-constexpr std::array<RecordColumn, 4> columns{{
+constexpr std::array<RecordColumn, 4> expenseColumns{{
     {u"date", "Date"_key, ColumnKind::Date},
     {u"expense", "ColumnExpense"_key, ColumnKind::Text, 0, Qt::AlignLeft, 280},
     {u"amount", "ColumnAmount"_key, ColumnKind::Amount, 2, Qt::AlignRight, 110},
     {u"type", "ColumnCategory"_key, ColumnKind::Text, 0, Qt::AlignLeft, 0, &shownCategory},
 }};
 
-constexpr RecordListTraits traits{
-    ContainerKind::Expense, "ExpenseItem"_key, "EmptyExpense"_key, &makeNewRecord<ExpenseData>, true, columns,
+constexpr RecordListTraits expenseTraits{
+    ContainerKind::Expense, "ExpenseItem"_key, "EmptyExpense"_key, &makeNewRecord<ExpenseData>, true, expenseColumns,
 };
 
 } // namespace
 
 ExpenseListController::ExpenseListController()
-    : RecordListController(traits)
+    : RecordListController(expenseTraits)
 {
 }
 
 } // namespace brinemark
+
+#include "moc_ExpenseListController.cpp"

@@ -10,20 +10,23 @@ namespace brinemark
 namespace
 {
 
-constexpr std::array<RecordColumn, 2> columns{{
+constexpr std::array<RecordColumn, 2> inventoryColumns{{
     {u"item", "ColumnItem"_key, ColumnKind::Text, 0, Qt::AlignLeft, 360},
     {u"count", "ColumnCount"_key, ColumnKind::Number},
 }};
 
-constexpr RecordListTraits traits{
-    ContainerKind::Inventory, "InventoryItem"_key, "EmptyInventory"_key, &makeNewRecord<InventoryData>, false, columns,
+constexpr RecordListTraits inventoryTraits{
+    ContainerKind::Inventory, "InventoryItem"_key, "EmptyInventory"_key, &makeNewRecord<InventoryData>, false,
+    inventoryColumns,
 };
 
 } // namespace
 
 InventoryListController::InventoryListController()
-    : RecordListController(traits)
+    : RecordListController(inventoryTraits)
 {
 }
 
 } // namespace brinemark
+
+#include "moc_InventoryListController.cpp"

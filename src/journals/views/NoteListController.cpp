@@ -10,20 +10,22 @@ namespace brinemark
 namespace
 {
 
-constexpr std::array<RecordColumn, 2> columns{{
+constexpr std::array<RecordColumn, 2> noteColumns{{
     {u"date", "Date"_key, ColumnKind::Date},
     {u"note", "ColumnNote"_key, ColumnKind::Text},
 }};
 
-constexpr RecordListTraits traits{
-    ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, &makeNewRecord<NoteData>, false, columns,
+constexpr RecordListTraits noteTraits{
+    ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, &makeNewRecord<NoteData>, false, noteColumns,
 };
 
 } // namespace
 
 NoteListController::NoteListController()
-    : RecordListController(traits)
+    : RecordListController(noteTraits)
 {
 }
 
 } // namespace brinemark
+
+#include "moc_NoteListController.cpp"

@@ -124,3 +124,5 @@ void NotificationContentController::gotoDataAction()
 }
 
 } // namespace brinemark
+
+#include "moc_NotificationContentController.cpp"

@@ -140,3 +140,5 @@ void NotificationController::showOverdue()
 }
 
 } // namespace brinemark
+
+#include "moc_NotificationController.cpp"

@@ -55,3 +55,5 @@ void NotificationPanel::fitHeight(int wanted)
 }
 
 } // namespace brinemark
+
+#include "moc_NotificationPanel.cpp"

@@ -19,7 +19,7 @@ QString nextDueDate(const Record &record)
     return localeDateText(activity.date.addSecs(qint64(activity.nextDate)));
 }
 
-constexpr std::array<RecordColumn, 5> columns{{
+constexpr std::array<RecordColumn, 5> scheduleColumns{{
     {u"complete", "DoneColumnTooltip"_key, ColumnKind::Flag},
     {u"date", "ColumnDue"_key, ColumnKind::Date},
     {u"activity", "ColumnActivity"_key, ColumnKind::Text, 0, Qt::AlignLeft, 280},
@@ -27,14 +27,15 @@ constexpr std::array<RecordColumn, 5> columns{{
     {u"next", "ColumnNext"_key, ColumnKind::Date, 0, Qt::AlignLeft, 0, &nextDueDate},
 }};
 
-constexpr RecordListTraits traits{
-    ContainerKind::Schedule, "ScheduleItem"_key, "EmptySchedule"_key, &makeNewRecord<ScheduleData>, true, columns,
+constexpr RecordListTraits scheduleTraits{
+    ContainerKind::Schedule, "ScheduleItem"_key, "EmptySchedule"_key, &makeNewRecord<ScheduleData>, true,
+    scheduleColumns,
 };
 
 } // namespace
 
 ScheduleListController::ScheduleListController()
-    : RecordListController(traits)
+    : RecordListController(scheduleTraits)
 {
 }
 
@@ -49,3 +50,5 @@ void ScheduleListController::doneChecked(ScheduleData &)
 }
 
 } // namespace brinemark
+
+#include "moc_ScheduleListController.cpp"

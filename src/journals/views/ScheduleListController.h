@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "ui/lists/RecordListController.h"
 #include "ui/Shared.h"
+#include "ui/lists/RecordListController.h"
 
 namespace brinemark
 {

@@ -56,3 +56,5 @@ void FishDataController::editInfo()
 }
 
 } // namespace brinemark
+
+#include "moc_FishDataController.cpp"

@@ -66,3 +66,5 @@ void FishDataEntryController::closeEditSheet(int returnCode)
 }
 
 } // namespace brinemark
+
+#include "moc_FishDataEntryController.cpp"

@@ -28,7 +28,7 @@ namespace brinemark
 namespace
 {
 
-constexpr QSize pictureSize(200, 150);
+constexpr QSize sheetPictureSize(200, 150);
 constexpr int smallestFieldWidth = 150; ///< pixels
 
 struct NameField {
@@ -128,7 +128,7 @@ QWidget *ItemSheet::makeFields()
 
 QWidget *ItemSheet::makePictureColumn()
 {
-    m_picture = new PictureView(pictureSize);
+    m_picture = new PictureView(sheetPictureSize);
     auto *chooseButton = new QPushButton(text("PictureChoose"));
     chooseButton->setObjectName(QStringLiteral("chooseImageButton"));
     m_deleteImageButton = new QPushButton(text("PictureRemove"));
@@ -243,3 +243,5 @@ void ItemSheet::showImage(const QImage &image)
 }
 
 } // namespace brinemark
+
+#include "moc_ItemSheet.cpp"

@@ -96,3 +96,5 @@ void LivestockGroupController::livestockChanged(Tank &tank, ContainerKind kind)
 }
 
 } // namespace brinemark
+
+#include "moc_LivestockGroupController.cpp"

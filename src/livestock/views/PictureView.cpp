@@ -39,3 +39,5 @@ void PictureView::paintEvent(QPaintEvent *)
 }
 
 } // namespace brinemark
+
+#include "moc_PictureView.cpp"

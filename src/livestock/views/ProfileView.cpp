@@ -20,7 +20,7 @@ namespace brinemark
 namespace
 {
 
-constexpr QSize pictureSize(160, 120);
+constexpr QSize profilePictureSize(160, 120);
 
 } // namespace
 
@@ -28,7 +28,7 @@ ProfileView::ProfileView(QWidget *parent)
     : QWidget(parent)
     , m_titleLine(new TitleLine)
     , m_scrollArea(new QScrollArea)
-    , m_picture(new PictureView(pictureSize))
+    , m_picture(new PictureView(profilePictureSize))
     , m_name(makeValue(QStringLiteral("name")))
     , m_sciName(makeValue(QStringLiteral("sciName")))
     , m_family(makeValue(QStringLiteral("family")))
@@ -121,3 +121,5 @@ void ProfileView::showItem(const ItemData *item)
 }
 
 } // namespace brinemark
+
+#include "moc_ProfileView.cpp"

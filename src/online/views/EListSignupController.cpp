@@ -24,7 +24,7 @@ namespace
 {
 
 constexpr char16_t mailSubject[] = u"Brinemark eList Signup";
-constexpr int textWidth = 380;
+constexpr int signupTextWidth = 380;
 
 } // namespace
 
@@ -43,7 +43,7 @@ EListSignupController::EListSignupController()
     title->setFont(bold);
     auto *message = new QLabel(text("SignUpMessage"));
     message->setWordWrap(true);
-    message->setFixedWidth(textWidth);
+    message->setFixedWidth(signupTextWidth);
     m_addressField = new QLineEdit;
     m_addressField->setObjectName(QStringLiteral("addressField"));
     m_addressField->setAccessibleName(text("SignUpAddress"));
@@ -111,3 +111,5 @@ void EListSignupController::join()
 }
 
 } // namespace brinemark
+
+#include "moc_EListSignupController.cpp"

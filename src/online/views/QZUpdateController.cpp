@@ -25,7 +25,7 @@ namespace brinemark
 namespace
 {
 
-constexpr int textWidth = 320; ///< pixels
+constexpr int scheduleTextWidth = 320; ///< pixels
 
 QString lastCheckText()
 {
@@ -52,7 +52,7 @@ void QZUpdateController::makeWindow()
     m_scheduleWindow->setWindowTitle(formatText(text("UpdateWindowTitle", TextTable::Update), {product}));
     auto *label = new QLabel(formatText(text("UpdateWindowLabel", TextTable::Update), {product}));
     label->setWordWrap(true);
-    label->setFixedWidth(textWidth);
+    label->setFixedWidth(scheduleTextWidth);
     m_autoUpdateCheck = new QCheckBox(text("UpdateAutoLabel", TextTable::Update));
     m_autoUpdateCheck->setObjectName(QStringLiteral("autoUpdateCheck"));
     m_checkPopupButton = new QComboBox;
@@ -128,3 +128,5 @@ void QZUpdateController::showScheduleWindow()
 }
 
 } // namespace brinemark
+
+#include "moc_QZUpdateController.cpp"

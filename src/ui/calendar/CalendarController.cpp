@@ -156,3 +156,5 @@ bool CalendarController::eventFilter(QObject *watched, QEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_CalendarController.cpp"

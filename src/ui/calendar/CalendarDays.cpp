@@ -235,3 +235,5 @@ void CalendarDays::setHovered(QDate day)
 }
 
 } // namespace brinemark
+
+#include "moc_CalendarDays.cpp"

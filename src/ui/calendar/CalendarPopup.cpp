@@ -236,3 +236,5 @@ void CalendarPopup::paintEvent(QPaintEvent *)
 }
 
 } // namespace brinemark
+
+#include "moc_CalendarPopup.cpp"

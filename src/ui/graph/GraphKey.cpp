@@ -12,8 +12,8 @@ namespace brinemark
 namespace
 {
 
-constexpr double air = 8;   ///< around the whole and between the rows
-constexpr double side = 10; ///< of a colour tile
+constexpr double keyMargin = 8; ///< around the whole and between the rows
+constexpr double side = 10;     ///< of a colour tile
 constexpr double betweenNames = 20;
 
 } // namespace
@@ -23,21 +23,21 @@ GraphKey::GraphKey(const GraphScene &scene, const GraphLook &look, const QString
     , m_title(title)
 {
     if (!title.isEmpty())
-        m_titleHeight = QFontMetricsF(titleFont()).height() + 2 * air;
+        m_titleHeight = QFontMetricsF(titleFont()).height() + 2 * keyMargin;
 
     const QFontMetricsF metrics(look.font);
-    QPointF place(air, air / 2);
+    QPointF place(keyMargin, keyMargin / 2);
     for (const GraphLine &line : scene.lines) {
         if (!line.visible || line.points.isEmpty() || line.attributes.name.isEmpty())
             continue;
-        const double length = side + air + metrics.horizontalAdvance(line.attributes.name);
-        if (place.x() > air && place.x() + length > width - air)
-            place = {air, place.y() + metrics.height() + air / 2};
+        const double length = side + keyMargin + metrics.horizontalAdvance(line.attributes.name);
+        if (place.x() > keyMargin && place.x() + length > width - keyMargin)
+            place = {keyMargin, place.y() + metrics.height() + keyMargin / 2};
         m_entries.append({line.attributes.name, line.attributes.colour, place});
         place.rx() += length + betweenNames;
     }
     if (!m_entries.isEmpty())
-        m_legendHeight = place.y() + metrics.height() + air;
+        m_legendHeight = place.y() + metrics.height() + keyMargin;
 }
 
 void GraphKey::drawTo(QPainter &painter, const QRectF &target) const
@@ -47,8 +47,9 @@ void GraphKey::drawTo(QPainter &painter, const QRectF &target) const
     painter.fillRect(target, m_look.background);
     painter.setPen(m_look.text);
     painter.setFont(titleFont());
-    painter.drawText(QRectF(target.topLeft(), QSizeF(target.width(), m_titleHeight)).adjusted(air, 0, -air, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, m_title);
+    painter.drawText(
+        QRectF(target.topLeft(), QSizeF(target.width(), m_titleHeight)).adjusted(keyMargin, 0, -keyMargin, 0),
+        Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, m_title);
 
     painter.setFont(m_look.font);
     const double height = QFontMetricsF(m_look.font).height();
@@ -60,7 +61,8 @@ void GraphKey::drawTo(QPainter &painter, const QRectF &target) const
         painter.setBrush(entry.colour);
         painter.drawRoundedRect(QRectF(place.x(), place.y() + (height - side) / 2, side, side), 2, 2);
         painter.setPen(m_look.text);
-        const QRectF words(place.x() + side + air, place.y(), target.right() - place.x() - side - air, height);
+        const QRectF words(place.x() + side + keyMargin, place.y(), target.right() - place.x() - side - keyMargin,
+                           height);
         painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, entry.name);
     }
     painter.restore();

@@ -16,7 +16,7 @@ namespace
 
 constexpr int tickLength = 4;
 constexpr int tickPadding = 4;
-constexpr int air = 8; ///< around the whole, in pixels
+constexpr int plotMargin = 8; ///< around the whole, in pixels
 
 double widest(const QStringList &labels, const QFontMetricsF &metrics)
 {
@@ -110,12 +110,13 @@ void GraphPlot::placeAxes(QSize size)
     const double beside = tickLength + tickPadding;
     const double left = std::max(beside + widest(y.labels, metrics), x.labels.isEmpty() ? 0 : halfWidth(x.labels[0]));
     const double right = x.labels.isEmpty() ? 0 : halfWidth(x.labels.last());
-    const QMargins margins(int(std::ceil(left)) + air, int(std::ceil(metrics.height() / 2)) + air / 2,
-                           int(std::ceil(right)) + air, int(std::ceil(beside + metrics.height())) + air / 2);
+    const QMargins margins(int(std::ceil(left)) + plotMargin, int(std::ceil(metrics.height() / 2)) + plotMargin / 2,
+                           int(std::ceil(right)) + plotMargin,
+                           int(std::ceil(beside + metrics.height())) + plotMargin / 2);
     axisRect()->setMargins(margins);
     const QSize plot = size.shrunkBy(margins);
     fillTicker(*m_tickers[std::size_t(GraphAxis::X)], x,
-               labelStep(plot.width(), x.positions.size(), widest(x.labels, metrics) + air));
+               labelStep(plot.width(), x.positions.size(), widest(x.labels, metrics) + plotMargin));
     fillTicker(*m_tickers[std::size_t(GraphAxis::Y)], y,
                labelStep(plot.height(), y.positions.size(), metrics.height()));
 }
@@ -209,3 +210,5 @@ void GraphPlot::resizeEvent(QResizeEvent *)
 }
 
 } // namespace brinemark
+
+#include "moc_GraphPlot.cpp"

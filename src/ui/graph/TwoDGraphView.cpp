@@ -395,3 +395,5 @@ void TwoDGraphView::keyPressEvent(QKeyEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_TwoDGraphView.cpp"

@@ -60,3 +60,5 @@ void HeaderCornerButton::paintEvent(QPaintEvent *)
 }
 
 } // namespace brinemark
+
+#include "moc_HeaderCornerButton.cpp"

@@ -441,3 +441,5 @@ void RecordListController::journalRecordRemoved(Tank &tank, ContainerKind kind)
 }
 
 } // namespace brinemark
+
+#include "moc_RecordListController.cpp"

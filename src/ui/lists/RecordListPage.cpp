@@ -88,3 +88,5 @@ void RecordListPage::linkKeyViews(QWidget *tankTree, QWidget *helpButton)
 }
 
 } // namespace brinemark
+
+#include "moc_RecordListPage.cpp"

@@ -104,3 +104,5 @@ void RecordSelectionModel::setCurrentIndex(const QModelIndex &index, SelectionFl
 }
 
 } // namespace brinemark
+
+#include "moc_RecordSelectionModel.cpp"

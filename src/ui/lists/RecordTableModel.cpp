@@ -241,3 +241,5 @@ QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, 
 }
 
 } // namespace brinemark
+
+#include "moc_RecordTableModel.cpp"

@@ -280,3 +280,5 @@ void RecordTableView::fitRowHeight()
 }
 
 } // namespace brinemark
+
+#include "moc_RecordTableView.cpp"

@@ -42,3 +42,5 @@ void ColourSwatch::paintEvent(QPaintEvent *)
 }
 
 } // namespace brinemark
+
+#include "moc_ColourSwatch.cpp"

@@ -144,3 +144,5 @@ void GraphContentView::enableButtons()
 }
 
 } // namespace brinemark
+
+#include "moc_GraphContentView.cpp"

@@ -61,3 +61,5 @@ void GraphDateForm::swapDates()
 }
 
 } // namespace brinemark
+
+#include "moc_GraphDateForm.cpp"

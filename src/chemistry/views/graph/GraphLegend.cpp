@@ -87,3 +87,5 @@ void GraphLegend::tellPointedAt()
 }
 
 } // namespace brinemark
+
+#include "moc_GraphLegend.cpp"

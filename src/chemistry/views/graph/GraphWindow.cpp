@@ -55,3 +55,5 @@ void GraphWindow::showContent(QWidget *content, QWidget *other)
 }
 
 } // namespace brinemark
+
+#include "moc_GraphWindow.cpp"

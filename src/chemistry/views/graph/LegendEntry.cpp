@@ -87,3 +87,5 @@ QColor lineColour(Parameter parameter)
 }
 
 } // namespace brinemark
+
+#include "moc_LegendEntry.cpp"

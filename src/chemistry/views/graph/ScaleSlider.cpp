@@ -35,3 +35,5 @@ float ScaleSlider::floatValue() const
 }
 
 } // namespace brinemark
+
+#include "moc_ScaleSlider.cpp"

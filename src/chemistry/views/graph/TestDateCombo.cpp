@@ -68,3 +68,5 @@ void TestDateCombo::chosen(int row)
 }
 
 } // namespace brinemark
+
+#include "moc_TestDateCombo.cpp"

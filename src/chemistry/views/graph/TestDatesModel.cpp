@@ -38,3 +38,5 @@ QModelIndexList TestDatesModel::match(const QModelIndex &start, int role, const 
 }
 
 } // namespace brinemark
+
+#include "moc_TestDatesModel.cpp"

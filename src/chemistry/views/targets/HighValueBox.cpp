@@ -126,3 +126,5 @@ void HighValueBox::reserveRoom()
 }
 
 } // namespace brinemark
+
+#include "moc_HighValueBox.cpp"

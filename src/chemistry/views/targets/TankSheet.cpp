@@ -29,7 +29,7 @@ namespace brinemark
 namespace
 {
 
-constexpr int fieldWidth = 280; ///< pixels
+constexpr int nameFieldWidth = 280; ///< pixels
 
 void addLine(QGridLayout &form, const QString &caption, QWidget *control, QWidget *buddy)
 {
@@ -139,7 +139,7 @@ QLayout *TankSheet::makeForm()
     typeLine->addWidget(freshwaterButton);
     typeLine->addWidget(marineButton);
     typeLine->addStretch();
-    nameField->setMinimumWidth(fieldWidth);
+    nameField->setMinimumWidth(nameFieldWidth);
 
     auto *form = new QGridLayout;
     form->setHorizontalSpacing(8);
@@ -182,3 +182,5 @@ void TankSheet::setWarningTitle(QString parameterName)
 }
 
 } // namespace brinemark
+
+#include "moc_TankSheet.cpp"

@@ -16,7 +16,7 @@ namespace brinemark
 namespace
 {
 
-constexpr int fieldWidth = 96; ///< pixels
+constexpr int numberFieldWidth = 96; ///< pixels
 constexpr int roundToNearest = 1;
 
 /// Steps of a key in the field; 0 for keys that do not step.
@@ -47,7 +47,7 @@ TargetNumberEdit::TargetNumberEdit(const QString &name, QWidget *parent)
 {
     m_field->setObjectName(name + QStringLiteral("Field"));
     m_stepper->setObjectName(name + QStringLiteral("Stepper"));
-    m_field->setFixedWidth(fieldWidth);
+    m_field->setFixedWidth(numberFieldWidth);
     m_field->setFormatter(SFCheckedFormatter(0, m_stepper->maximum(), 2, roundToNearest));
     m_field->installEventFilter(this);
     auto *line = new QHBoxLayout(this);
@@ -141,3 +141,5 @@ bool TargetNumberEdit::eventFilter(QObject *watched, QEvent *event)
 }
 
 } // namespace brinemark
+
+#include "moc_TargetNumberEdit.cpp"
