@@ -23,6 +23,14 @@ inline constexpr PreferenceKey<QString> tankListViewWidth{"tankListViewWidth"}; 
 inline constexpr PreferenceKey<QVariantMap> convertWindowState{"ConvertWindowState"};
 inline constexpr PreferenceKey<QVariantMap> toolbarConfiguration{"ToolbarConfiguration fishWindowToolbar2"};
 
+/// The column layout of a list: this and the list's name name an array of columns, each with "identifier" and "width".
+inline constexpr const char *tableColumnsPrefix = "TableColumns ";
+
+[[nodiscard]] inline QString tableColumnsName(const QString &listName)
+{
+    return QLatin1String(tableColumnsPrefix) + listName;
+}
+
 /// The stored answers of alerts that are not to ask again: this and the alert's identifier name an integer.
 inline constexpr const char *dontAskAgainPrefix = "dont.ask.again.result.";
 

@@ -44,7 +44,7 @@ SFCheckedFormatter conditionFormatter(const ConditionColumnTraits &column)
     return formatter;
 }
 
-std::vector<ShownConditionColumn> shownConditionColumns(const Condition::ColumnInfoArray &saved)
+std::vector<ShownConditionColumn> shownConditionColumns(const ColumnInfoArray &saved)
 {
     std::vector<ShownConditionColumn> shown;
     for (const ColumnInfo &info : saved) {

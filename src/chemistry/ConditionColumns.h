@@ -66,6 +66,6 @@ struct ShownConditionColumn {
 /// What a saved layout shows. Every entry toggles its column: a column that is named twice is hidden again. Unknown
 /// identifiers are passed over. A column with its own width sends the one before it back to its own, since that one
 /// need not fill the table any longer; so does a width that cannot be.
-[[nodiscard]] std::vector<ShownConditionColumn> shownConditionColumns(const Condition::ColumnInfoArray &saved);
+[[nodiscard]] std::vector<ShownConditionColumn> shownConditionColumns(const ColumnInfoArray &saved);
 
 } // namespace brinemark

@@ -71,7 +71,7 @@ Condition::Records recordsInRange(const Condition::Records &log, const QDateTime
     return records;
 }
 
-std::vector<Parameter> linesOf(const Condition::ColumnInfoArray &columns)
+std::vector<Parameter> linesOf(const ColumnInfoArray &columns)
 {
     std::vector<Parameter> lines;
     for (const ShownConditionColumn &shown : shownConditionColumns(columns)) {

@@ -2,26 +2,17 @@
 
 #pragma once
 
+#include "model/ColumnInfo.h"
 #include "model/ConditionData.h"
 #include "model/RecordContainer.h"
 
 namespace brinemark
 {
 
-/// A column of the water-test table.
-struct ColumnInfo {
-    QString identifier; ///< a field key: "date" or a parameter's identifier
-    double width = 0;   ///< 0: the column keeps its own width
-
-    friend bool operator==(const ColumnInfo &, const ColumnInfo &) = default;
-};
-
 /// A tank's water tests, and the columns that their table shows.
 class Condition final : public RecordContainer<ConditionData>
 {
 public:
-    using ColumnInfoArray = std::vector<ColumnInfo>;
-
     explicit Condition(Tank *parent);
 
     [[nodiscard]] Records &conditionArray() { return records(); }

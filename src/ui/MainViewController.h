@@ -25,9 +25,10 @@ public:
 
     /// Whether the view's list has a selected row, which the delete command would act on.
     [[nodiscard]] virtual bool hasSelectedRow() const { return false; }
-    virtual void deleteSelected() {} ///< asks, then deletes the selected rows
-    virtual void newEntry() {}       ///< appends a new record and starts editing it
-    virtual void updateDisplay() {}  ///< shows the records afresh
+    virtual void deleteSelected() {}   ///< asks, then deletes the selected rows
+    virtual void newEntry() {}         ///< appends a new record and starts editing it
+    virtual void updateDisplay() {}    ///< shows the records afresh
+    virtual void updateColumnInfo() {} ///< stores what the user has changed in the layout of the list's columns
 
 Q_SIGNALS:
     void selectionChanged(); ///< what the delete and menu commands may do has changed

@@ -210,7 +210,7 @@ private:
                m_program->controller().currentView() == MainView::Conditions;
     }
     static Container &reefLog() { return *TankListController::sharedInstance().currentTank()->condition(); }
-    static const Condition::ColumnInfoArray &reefColumns()
+    static const ColumnInfoArray &reefColumns()
     {
         return TankListController::sharedInstance().currentTank()->condition()->columnInfoArray();
     }

@@ -49,7 +49,7 @@ private Q_SLOTS:
     void layoutRules()
     {
         QFETCH(QStringList, saved);
-        Condition::ColumnInfoArray columns;
+        ColumnInfoArray columns;
         for (const QString &identifier : saved)
             columns.push_back({identifier, 0});
         m_shell->current->condition()->setColumnInfoArray(columns);
@@ -114,7 +114,7 @@ private Q_SLOTS:
         header->moveSection(0, 2);
         header->resizeSection(0, 131);
         const auto &stored = first->condition()->columnInfoArray();
-        QCOMPARE(stored[2].identifier, before[0]);
+        QTRY_COMPARE(stored[2].identifier, before[0]);
         QCOMPARE(stored[2].width, 131);
         QCOMPARE(m_shell->changes, 0);
 

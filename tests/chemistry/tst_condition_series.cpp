@@ -240,7 +240,7 @@ private Q_SLOTS:
 private:
     ConditionSeries seriesOf(const QStringList &columns)
     {
-        Condition::ColumnInfoArray layout;
+        ColumnInfoArray layout;
         for (const QString &identifier : columns)
             layout.push_back({identifier, 0});
         m_tank->condition()->setColumnInfoArray(layout);

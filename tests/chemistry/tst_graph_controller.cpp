@@ -326,7 +326,7 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, columns);
         QFETCH(bool, inRange);
-        Condition::ColumnInfoArray layout;
+        ColumnInfoArray layout;
         for (const QString &identifier : columns)
             layout.push_back({identifier, 0});
         m_tank->condition()->setColumnInfoArray(layout);

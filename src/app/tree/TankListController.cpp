@@ -8,8 +8,8 @@
 #include "model/ModelContext.h"
 #include "ui/Alerts.h"
 #include "ui/ContainerRooms.h"
-#include "ui/FieldEdit.h"
 #include "ui/Shell.h"
+#include "ui/UndoStep.h"
 
 #include <QMenu>
 #include <QMimeData>

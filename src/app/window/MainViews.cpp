@@ -98,8 +98,8 @@ bool MainViews::hasSelectedRow(MainView view) const
 
 void MainViews::updateColumnInfo()
 {
-    if (m_currentViewConstant == MainView::Conditions && controller(MainView::Conditions))
-        ConditionListController::sharedInstance().updateColumnInfo();
+    if (MainViewController *controller = this->controller(m_currentViewConstant))
+        controller->updateColumnInfo();
 }
 
 } // namespace brinemark

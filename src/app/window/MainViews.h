@@ -36,7 +36,7 @@ public:
     [[nodiscard]] MainViewController *controller(MainView view) const;
     [[nodiscard]] bool hasSelectedRow(MainView view) const;
 
-    /// Has the water-test log store its columns if it is on screen.
+    /// Stores the column layout of the list on screen.
     void updateColumnInfo();
 
 Q_SIGNALS:

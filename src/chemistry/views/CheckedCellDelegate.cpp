@@ -13,59 +13,52 @@ namespace brinemark
 {
 
 CheckedCellDelegate::CheckedCellDelegate(FormatterOf formatterOf, QObject *parent)
-    : TruncatingDelegate(parent)
+    : RecordCellDelegate(parent)
     , m_formatterOf(std::move(formatterOf))
 {
 }
 
-QWidget *CheckedCellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
-                                           const QModelIndex &index) const
+QWidget *CheckedCellDelegate::makeEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                         const QModelIndex &index) const
 {
-    QWidget *editor = nullptr;
-    if (const SFCheckedFormatter *formatter = m_formatterOf ? m_formatterOf(index) : nullptr) {
-        auto *field = new CheckedLineEdit(*formatter, parent);
-        field->setFrame(false);
-        field->setAlignment(option.displayAlignment);
-        // What is typed stands where the cell's own text does; a line edit has two pixels of its own.
-        const QStyle *style = option.widget ? option.widget->style() : field->style();
-        const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) + 1 - 2;
-        field->setTextMargins(std::max(0, margin), 0, std::max(0, margin), 0);
-        editor = field;
-    } else {
-        editor = TruncatingDelegate::createEditor(parent, option, index);
-    }
-    if (editor) {
-        editor->setObjectName(QStringLiteral("cellEditor"));
-        editor->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
-    }
-    return editor;
+    const SFCheckedFormatter *formatter = m_formatterOf ? m_formatterOf(index) : nullptr;
+    if (!formatter)
+        return RecordCellDelegate::makeEditor(parent, option, index);
+    auto *field = new CheckedLineEdit(*formatter, parent);
+    field->setFrame(false);
+    field->setAlignment(option.displayAlignment);
+    // The typed text starts where the cell's own text does: a line edit has two pixels of its own.
+    const QStyle *style = option.widget ? option.widget->style() : field->style();
+    const int margin = std::max(0, style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) + 1 - 2);
+    field->setTextMargins(margin, 0, margin, 0);
+    return field;
 }
 
-void CheckedCellDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+void CheckedCellDelegate::showValue(QWidget &editor, const QModelIndex &index) const
 {
-    auto *field = qobject_cast<CheckedLineEdit *>(editor);
+    auto *field = qobject_cast<CheckedLineEdit *>(&editor);
     if (!field) {
-        TruncatingDelegate::setEditorData(editor, index);
+        RecordCellDelegate::showValue(editor, index);
         return;
     }
-    if (field->hasEdit())
-        return; // the model changed meanwhile; what is being typed is not lost over it
     field->setText(field->formatter().stringForObjectValue(index.data(Qt::EditRole)));
     field->selectAll();
 }
 
-void CheckedCellDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+bool CheckedCellDelegate::isEdited(const QWidget &editor) const
 {
-    auto *field = qobject_cast<CheckedLineEdit *>(editor);
-    if (!field) {
-        TruncatingDelegate::setModelData(editor, model, index);
-        return;
-    }
-    if (!field->hasEdit())
-        return;
+    const auto *field = qobject_cast<const CheckedLineEdit *>(&editor);
+    return field ? field->hasEdit() : RecordCellDelegate::isEdited(editor);
+}
+
+QVariant CheckedCellDelegate::takeValue(QWidget &editor) const
+{
+    auto *field = qobject_cast<CheckedLineEdit *>(&editor);
+    if (!field)
+        return RecordCellDelegate::takeValue(editor);
     const double value = field->value();
-    field->setValue(value); // a second request finds an editor that nobody has edited since
-    model->setData(index, value, Qt::EditRole);
+    field->setValue(value);
+    return value;
 }
 
 } // namespace brinemark

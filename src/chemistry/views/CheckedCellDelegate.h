@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "ui/TruncatingDelegate.h"
+#include "ui/lists/RecordCellDelegate.h"
 
 #include <functional>
 
@@ -11,24 +11,24 @@ namespace brinemark
 
 class SFCheckedFormatter;
 
-/// Edits the cells of a table of numbers in a CheckedLineEdit. The editor, of whatever kind, is called "cellEditor" and
-/// is accessible under its column's header.
-class CheckedCellDelegate : public TruncatingDelegate
+/// Edits the cells of a table of numbers in a CheckedLineEdit. An empty number is stored as not tested.
+class CheckedCellDelegate : public RecordCellDelegate
 {
     Q_OBJECT
 
 public:
-    /// The formatter of a cell; null for cells that are edited as the base class does. It is copied.
+    /// Returns the formatter of a cell, null for a cell that holds no number. The editor copies it.
     using FormatterOf = std::function<const SFCheckedFormatter *(const QModelIndex &)>;
 
     explicit CheckedCellDelegate(FormatterOf formatterOf, QObject *parent = nullptr);
 
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    /// Shows the number of Qt::EditRole, all of it selected.
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
-    /// Stores the editor's number, a double within the formatter's range, under Qt::EditRole; nothing when nobody has
-    /// edited it.
-    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
+protected:
+    [[nodiscard]] QWidget *makeEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                      const QModelIndex &index) const override;
+    void showValue(QWidget &editor, const QModelIndex &index) const override;
+    [[nodiscard]] bool isEdited(const QWidget &editor) const override;
+    /// A double within the formatter's range.
+    [[nodiscard]] QVariant takeValue(QWidget &editor) const override;
 
 private:
     FormatterOf m_formatterOf;

@@ -16,20 +16,23 @@
 #include "ui/WindowPlacement.h"
 #include "ui/lists/HeaderCornerButton.h"
 
+#include <algorithm>
+#include <array>
+
 namespace brinemark
 {
 
 namespace
 {
 
-constexpr int needsTwoRows = 100; ///< tag of what makes no sense with less
+constexpr int needsTwoRows = 100; ///< tag of the items that need two tests
 
 ConditionListController &conditions(RecordListController &list)
 {
     return static_cast<ConditionListController &>(list);
 }
 
-constexpr std::array menu{
+constexpr std::array conditionMenu{
     ListMenuItem{"Graph"_key, needsTwoRows, [](RecordListController &list) { conditions(list).graphButtonAction(); }},
     ListMenuItem{"Export"_key, needsTwoRows, [](RecordListController &list) { conditions(list).exportAction(); }},
     ListMenuItem{},
@@ -40,22 +43,61 @@ constexpr std::array menu{
                  [](RecordListController &list) { conditions(list).showCustomizeConditionColumns(); }},
 };
 
-constexpr RecordListTraits traits{
+constexpr RecordColumn recordColumn(const ConditionColumnTraits &column)
+{
+    const bool isDate = column.maximum == 0;
+    return {.identifier = column.identifier,
+            .header = column.headerKey,
+            .kind = isDate ? ColumnKind::Date : ColumnKind::Number,
+            .decimals = column.decimals,
+            .leastWidth = column.width,
+            .editable = true};
+}
+
+constexpr auto conditionColumns = [] {
+    std::array<RecordColumn, conditionColumnTable.size()> columns;
+    std::transform(conditionColumnTable.begin(), conditionColumnTable.end(), columns.begin(), &recordColumn);
+    return columns;
+}();
+
+constexpr RecordListTraits conditionTraits{
     .kind = ContainerKind::Condition,
     .itemKey = "ConditionItem"_key,
     .emptySentenceKey = "EmptyCondition"_key,
     .makeRecord = &makeNewRecord<ConditionData>,
+    .columns = conditionColumns,
     .undoActionName = "ConditionUndo",
     .menuName = "conditionCM",
-    .menu = menu,
+    .menu = conditionMenu,
+};
+
+/// The column layout is the tank's own and goes into its file.
+class ConditionColumnLayout : public ColumnLayoutStore
+{
+public:
+    [[nodiscard]] ColumnInfoArray read(const Tank &tank) const override
+    {
+        ColumnInfoArray layout;
+        for (const ShownConditionColumn &shown : shownConditionColumns(tank.condition()->columnInfoArray()))
+            layout.push_back({shown.column->identifier.toString(), shown.width});
+        return layout;
+    }
+
+    void write(Tank *tank, const ColumnInfoArray &layout) override
+    {
+        if (tank)
+            tank->condition()->setColumnInfoArray(layout);
+    }
 };
 
 } // namespace
 
 ConditionListController::ConditionListController()
-    : RecordListController(traits)
-    , m_columns(model())
+    : RecordListController(conditionTraits, std::make_unique<ConditionColumnLayout>())
 {
+    m_all.reserve(conditionColumnTable.size());
+    for (const ConditionColumnTraits &column : conditionColumnTable)
+        m_all.push_back({&column, parameterFromIdentifier(column.identifier), conditionFormatter(column)});
 }
 
 ConditionListController::~ConditionListController()
@@ -65,10 +107,9 @@ ConditionListController::~ConditionListController()
 
 void ConditionListController::viewMade()
 {
-    m_columns.setTable(*table());
     table()->setItemDelegate(new CheckedCellDelegate(
         [this](const QModelIndex &cell) -> const SFCheckedFormatter * {
-            const ConditionTableColumns::Column &column = m_columns.at(cell.column());
+            const Column &column = columnAt(cell.column());
             return column.parameter ? &column.formatter : nullptr;
         },
         table()));
@@ -78,16 +119,23 @@ void ConditionListController::viewMade()
     connect(corner, &QToolButton::clicked, this, &ConditionListController::showCustomizeConditionColumns);
 }
 
-// ---- what stands in the cells
+// ---- the cells
+
+const ConditionListController::Column &ConditionListController::columnAt(int place) const
+{
+    const QStringView identifier = model().columns()[std::size_t(place)].identifier;
+    return *std::find_if(m_all.begin(), m_all.end(),
+                         [&](const Column &column) { return column.traits->identifier == identifier; });
+}
 
 QString ConditionListController::cellText(const Record &record, int place) const
 {
-    const ConditionTableColumns::Column &column = m_columns.at(place);
+    const Column &column = columnAt(place);
     return column.parameter ? column.formatter.stringForObjectValue(valueForKey(record, column.traits->identifier))
                             : RecordListController::cellText(record, place);
 }
 
-const TankData *ConditionListController::targetOf(const Record &record, const ConditionTableColumns::Column &column)
+const TankData *ConditionListController::targetOf(const Record &record, const Column &column)
 {
     const Tank *tank = record.tank;
     return tank && column.parameter ? tank->target(*column.parameter) : nullptr;
@@ -95,7 +143,7 @@ const TankData *ConditionListController::targetOf(const Record &record, const Co
 
 CellMark ConditionListController::cellMark(const Record &record, int place) const
 {
-    const ConditionTableColumns::Column &column = m_columns.at(place);
+    const Column &column = columnAt(place);
     if (!column.parameter)
         return RecordListController::cellMark(record, place);
     const double value = valueForKey(record, column.traits->identifier).toDouble();
@@ -115,7 +163,7 @@ CellMark ConditionListController::cellMark(const Record &record, int place) cons
 
 QString ConditionListController::cellToolTip(const Record &record, int place) const
 {
-    const ConditionTableColumns::Column &column = m_columns.at(place);
+    const Column &column = columnAt(place);
     const TankData *target = targetOf(record, column);
     if (!target)
         return RecordListController::cellToolTip(record, place);
@@ -160,7 +208,7 @@ void ConditionListController::closeWarningSheet()
 
 void ConditionListController::startNewRecord(const QModelIndex &cell)
 {
-    // What an empty cell means is said first, the first time; the cell is edited when that is read.
+    // The first time, a sheet explains what an empty cell means. The cell's editor opens when the sheet has closed.
     table()->holdEditing();
     table()->editCell(cell);
     AlertPanelDontAskAgain::beginSheetForWindow(Shell::shared().mainWindow(),
@@ -178,7 +226,7 @@ void ConditionListController::graphButtonAction()
     if (!table())
         return;
     table()->finishEditing();
-    updateColumnInfo(); // whose lines the graph draws
+    updateColumnInfo(); // the graph draws a line for each column of the stored layout
     GraphController::sharedInstance().display();
 }
 
@@ -188,12 +236,12 @@ void ConditionListController::exportAction()
     if (!tank || !table())
         return;
     table()->finishEditing();
-    std::vector<CsvColumn> columns;
-    for (const int column : m_columns.inDisplayOrder()) {
-        const ConditionColumnTraits &traits = *m_columns.at(column).traits;
-        columns.push_back({traits.identifier.toString(), text(traits.headerKey)});
+    std::vector<CsvColumn> exported;
+    for (const int column : columns().inDisplayOrder()) {
+        const ConditionColumnTraits &traits = *columnAt(column).traits;
+        exported.push_back({traits.identifier.toString(), text(traits.headerKey)});
     }
-    beginConditionExport(table()->window(), tank->shared_from_this(), std::move(columns));
+    beginConditionExport(table()->window(), tank->shared_from_this(), std::move(exported));
 }
 
 bool ConditionListController::validateMenuItem(int tag) const
@@ -203,20 +251,15 @@ bool ConditionListController::validateMenuItem(int tag) const
 
 // ---- the columns
 
-std::span<const RecordColumn> ConditionListController::columnsFor(Tank *tank)
-{
-    return m_columns.columnsFor(tank);
-}
-
-void ConditionListController::tankShown(Tank *tank)
-{
-    m_columns.arrangeFor(tank);
-    showColumnChecks();
-}
-
 void ConditionListController::updateColumnInfo()
 {
-    m_columns.updateColumnInfo();
+    columns().storeLayout();
+}
+
+int ConditionListController::columnFromTag(int tag) const
+{
+    const ConditionColumnTraits *column = conditionColumnFromTag(tag);
+    return column ? model().columnOf(column->identifier) : -1;
 }
 
 bool ConditionListController::isColumnVisible(int tag) const
@@ -226,12 +269,14 @@ bool ConditionListController::isColumnVisible(int tag) const
 
 void ConditionListController::toogleConditionColumn(int tag)
 {
-    if (!table() || !model().container())
+    const ConditionColumnTraits *column = conditionColumnFromTag(tag);
+    if (!column || !table() || !model().container())
         return;
     table()->finishEditing();
-    m_columns.toggleColumnWithTag(tag, true);
+    columns().toggleColumn(column->identifier);
+    // A column that appears belongs to the selected rows as well.
     QItemSelectionModel &selection = *table()->selectionModel();
-    selection.select(selection.selection(), QItemSelectionModel::Select | QItemSelectionModel::Rows); // as wide as now
+    selection.select(selection.selection(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     updateColumnInfo();
     updateDisplay();
 }

@@ -2,7 +2,8 @@
 
 #pragma once
 
-#include "chemistry/views/ConditionTableColumns.h"
+#include "chemistry/SFCheckedFormatter.h"
+#include "model/Parameters.h"
 #include "ui/Shared.h"
 #include "ui/lists/RecordListController.h"
 
@@ -10,6 +11,7 @@ namespace brinemark
 {
 
 class ConditionColumnWindow;
+struct ConditionColumnTraits;
 struct TankData;
 
 /// The water tests of the current tank. Which columns it shows, in which order and how wide, belongs to the tank.
@@ -21,18 +23,18 @@ public:
     ~ConditionListController() override;
 
     /// Stores the columns as they are on screen into the tank that is on screen. Counts no change.
-    void updateColumnInfo();
+    void updateColumnInfo() override;
 
-    /// Opens the small window ("customColumnWindow") with a check box for every column ("column.ph" ...), which are
-    /// applied at once.
+    /// Opens the small window ("customColumnWindow") with a check box for every column ("column.ph" ...), which show
+    /// and hide their columns at once.
     void showCustomizeConditionColumns();
 
-    /// Shows a column that is hidden at the right, hides one that is shown, and stores the layout. A tag that is no
-    /// column does nothing.
+    /// Shows a hidden column at the right, or hides a shown one, and stores the layout. A tag that names no column does
+    /// nothing.
     void toogleConditionColumn(int tag);
     [[nodiscard]] bool isColumnVisible(int tag) const;
     /// The table's column of a tag, -1 when it is not shown.
-    [[nodiscard]] int columnFromTag(int tag) const { return m_columns.columnFromTag(tag); }
+    [[nodiscard]] int columnFromTag(int tag) const;
 
     /// Shows a sheet when the value of the parameter lies outside its target in the current tank.
     void warningCheckIdentifier(QStringView identifier, double value);
@@ -44,9 +46,8 @@ public:
     [[nodiscard]] bool validateMenuItem(int tag) const override;
 
 protected:
-    [[nodiscard]] std::span<const RecordColumn> columnsFor(Tank *tank) override;
     void viewMade() override;
-    void tankShown(Tank *tank) override;
+    void tankShown() override { showColumnChecks(); }
     void cellEdited(Record &record, const RecordColumn &column, bool changed) override;
     void startNewRecord(const QModelIndex &cell) override;
     [[nodiscard]] QString cellText(const Record &record, int column) const override;
@@ -57,11 +58,18 @@ private:
     friend class Shared<ConditionListController>;
     ConditionListController();
 
-    [[nodiscard]] static const TankData *targetOf(const Record &record, const ConditionTableColumns::Column &column);
+    /// What the cells need of a column, worked out once.
+    struct Column {
+        const ConditionColumnTraits *traits;
+        std::optional<Parameter> parameter; ///< none for the date
+        SFCheckedFormatter formatter;
+    };
+    [[nodiscard]] const Column &columnAt(int place) const; ///< as the model counts them
+    [[nodiscard]] static const TankData *targetOf(const Record &record, const Column &column);
     void closeWarningSheet();
     void showColumnChecks();
 
-    ConditionTableColumns m_columns;
+    std::vector<Column> m_all; ///< in the order of the table of columns
     QPointer<ConditionColumnWindow> m_columnWindow;
 };
 

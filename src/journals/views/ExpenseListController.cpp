@@ -19,14 +19,24 @@ QString shownCategory(const Record &record)
 }
 
 constexpr std::array<RecordColumn, 4> expenseColumns{{
-    {u"date", "Date"_key, ColumnKind::Date},
-    {u"expense", "ColumnExpense"_key, ColumnKind::Text, 0, Qt::AlignLeft, 280},
-    {u"amount", "ColumnAmount"_key, ColumnKind::Amount, 2, Qt::AlignRight, 110},
-    {u"type", "ColumnCategory"_key, ColumnKind::Text, 0, Qt::AlignLeft, 0, &shownCategory},
+    {.identifier = u"date", .header = "Date"_key, .kind = ColumnKind::Date},
+    {.identifier = u"expense", .header = "ColumnExpense"_key, .width = 280},
+    {.identifier = u"amount",
+     .header = "ColumnAmount"_key,
+     .kind = ColumnKind::Amount,
+     .decimals = 2,
+     .alignment = Qt::AlignRight,
+     .width = 110},
+    {.identifier = u"type", .header = "ColumnCategory"_key, .shownText = &shownCategory},
 }};
 
 constexpr RecordListTraits expenseTraits{
-    ContainerKind::Expense, "ExpenseItem"_key, "EmptyExpense"_key, &makeNewRecord<ExpenseData>, true, expenseColumns,
+    .kind = ContainerKind::Expense,
+    .itemKey = "ExpenseItem"_key,
+    .emptySentenceKey = "EmptyExpense"_key,
+    .makeRecord = &makeNewRecord<ExpenseData>,
+    .columns = expenseColumns,
+    .layoutName = "ExpenseList",
 };
 
 } // namespace

@@ -11,13 +11,18 @@ namespace
 {
 
 constexpr std::array<RecordColumn, 2> inventoryColumns{{
-    {u"item", "ColumnItem"_key, ColumnKind::Text, 0, Qt::AlignLeft, 360},
-    {u"count", "ColumnCount"_key, ColumnKind::Number},
+    {.identifier = u"item", .header = "ColumnItem"_key, .width = 360},
+    {.identifier = u"count", .header = "ColumnCount"_key, .kind = ColumnKind::Number},
 }};
 
 constexpr RecordListTraits inventoryTraits{
-    ContainerKind::Inventory, "InventoryItem"_key, "EmptyInventory"_key, &makeNewRecord<InventoryData>, false,
-    inventoryColumns,
+    .kind = ContainerKind::Inventory,
+    .itemKey = "InventoryItem"_key,
+    .emptySentenceKey = "EmptyInventory"_key,
+    .makeRecord = &makeNewRecord<InventoryData>,
+    .deletingCountsAChange = false,
+    .columns = inventoryColumns,
+    .layoutName = "InventoryList",
 };
 
 } // namespace

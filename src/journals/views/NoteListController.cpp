@@ -11,12 +11,18 @@ namespace
 {
 
 constexpr std::array<RecordColumn, 2> noteColumns{{
-    {u"date", "Date"_key, ColumnKind::Date},
-    {u"note", "ColumnNote"_key, ColumnKind::Text},
+    {.identifier = u"date", .header = "Date"_key, .kind = ColumnKind::Date},
+    {.identifier = u"note", .header = "ColumnNote"_key},
 }};
 
 constexpr RecordListTraits noteTraits{
-    ContainerKind::Note, "NoteItem"_key, "EmptyNote"_key, &makeNewRecord<NoteData>, false, noteColumns,
+    .kind = ContainerKind::Note,
+    .itemKey = "NoteItem"_key,
+    .emptySentenceKey = "EmptyNote"_key,
+    .makeRecord = &makeNewRecord<NoteData>,
+    .deletingCountsAChange = false,
+    .columns = noteColumns,
+    .layoutName = "NoteList",
 };
 
 } // namespace

@@ -20,16 +20,20 @@ QString nextDueDate(const Record &record)
 }
 
 constexpr std::array<RecordColumn, 5> scheduleColumns{{
-    {u"complete", "DoneColumnTooltip"_key, ColumnKind::Flag},
-    {u"date", "ColumnDue"_key, ColumnKind::Date},
-    {u"activity", "ColumnActivity"_key, ColumnKind::Text, 0, Qt::AlignLeft, 280},
-    {u"autoReschedule", "ColumnRepeats"_key, ColumnKind::Flag},
-    {u"next", "ColumnNext"_key, ColumnKind::Date, 0, Qt::AlignLeft, 0, &nextDueDate},
+    {.identifier = u"complete", .header = "DoneColumnTooltip"_key, .kind = ColumnKind::Flag},
+    {.identifier = u"date", .header = "ColumnDue"_key, .kind = ColumnKind::Date},
+    {.identifier = u"activity", .header = "ColumnActivity"_key, .width = 280},
+    {.identifier = u"autoReschedule", .header = "ColumnRepeats"_key, .kind = ColumnKind::Flag},
+    {.identifier = u"next", .header = "ColumnNext"_key, .kind = ColumnKind::Date, .shownText = &nextDueDate},
 }};
 
 constexpr RecordListTraits scheduleTraits{
-    ContainerKind::Schedule, "ScheduleItem"_key, "EmptySchedule"_key, &makeNewRecord<ScheduleData>, true,
-    scheduleColumns,
+    .kind = ContainerKind::Schedule,
+    .itemKey = "ScheduleItem"_key,
+    .emptySentenceKey = "EmptySchedule"_key,
+    .makeRecord = &makeNewRecord<ScheduleData>,
+    .columns = scheduleColumns,
+    .layoutName = "ScheduleList2",
 };
 
 } // namespace

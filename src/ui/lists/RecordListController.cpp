@@ -9,6 +9,7 @@
 #include "model/TankList.h"
 #include "ui/Alerts.h"
 #include "ui/Shell.h"
+#include "ui/UndoStep.h"
 #include "ui/calendar/CalendarController.h"
 #include "ui/lists/RecordSelectionModel.h"
 
@@ -21,14 +22,18 @@
 namespace brinemark
 {
 
-RecordListController::RecordListController(const RecordListTraits &traits)
+RecordListController::RecordListController(const RecordListTraits &traits, std::unique_ptr<ColumnLayoutStore> layout)
     : m_traits(traits)
     , m_model(new RecordTableModel(traits.kind, *this, this))
 {
+    if (!layout)
+        layout = std::make_unique<PreferenceColumnLayout>(traits.layoutName, traits.columns);
+    m_columns = std::make_unique<RecordTableColumns>(traits.columns, std::move(layout), *m_model);
 }
 
 RecordListController::~RecordListController()
 {
+    m_columns.reset(); // stores a layout that waits to be stored, while there is a table
     delete m_page;
 }
 
@@ -56,6 +61,7 @@ void RecordListController::makeView()
         m_model, [this] { return sortPendingRow(); }, m_table);
     m_table->setSelectionModel(m_selection);
     delete unasked;
+    m_columns->setTable(*m_table);
 
     connect(m_page, &RecordListPage::newRequested, this, &RecordListController::newEntry);
     connect(m_page, &RecordListPage::deleteRequested, this, &RecordListController::deleteSelected);
@@ -74,10 +80,11 @@ void RecordListController::makeView()
 
 void RecordListController::watchModel()
 {
-    // Whatever moves or removes rows leaves nothing to be sorted later, or another row.
+    // Any row move or removal cancels the pending re-sort: its row number means another record now.
     const auto forget = [this] { setRowNeedsSort(-1); };
     connect(m_model, &QAbstractItemModel::layoutChanged, m_page, forget);
-    // A reset takes the selection away without saying so; rows that come and go may empty the table.
+    // A model reset clears the selection without a signal. Rows that are inserted or removed may fill or empty the
+    // table.
     for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
         connect(m_model, signal, m_page, forget);
         connect(m_model, signal, m_page, [this] { showEmptyState(); });
@@ -102,19 +109,6 @@ void RecordListController::makeMenus()
     m_page->addActionMenu(makeListMenu(m_traits.menu, *this, m_page));
 }
 
-int RecordListController::ownWidth(const RecordColumn &column) const
-{
-    constexpr int roomBesideHeader = 32; // margins and the sort indicator
-    constexpr int roomBesideText = 20;
-    const QFontMetrics header = m_table->horizontalHeader()->fontMetrics();
-    int width = std::max(column.width, header.horizontalAdvance(text(column.header)) + roomBesideHeader);
-    if (column.kind == ColumnKind::Date) {
-        const QDateTime longDate(QDate(2000, 12, 28), QTime(0, 0));
-        width = std::max(width, m_table->fontMetrics().horizontalAdvance(localeDateText(longDate)) + roomBesideText);
-    }
-    return width;
-}
-
 void RecordListController::setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton)
 {
     view();
@@ -128,17 +122,13 @@ void RecordListController::showTank(Tank *tank)
     const bool another = !tank || !list || list->tank() != tank;
     if (another)
         m_table->finishEditing();
-    if (another && m_rowNeedsSort >= 0) // the tank that goes is left in order
+    if (another && m_rowNeedsSort >= 0) // leaves the previous tank's list in order
         m_model->sortContainer();
-    const std::span<const RecordColumn> columns = columnsFor(tank);
-    if (another) {
-        m_model->setTank(tank, columns);
-        for (int i = 0; i < int(columns.size()); ++i)
-            m_table->setColumnWidth(i, ownWidth(columns[std::size_t(i)]));
-    } else {
+    if (another)
+        m_columns->showTank(tank);
+    else
         m_model->refresh();
-    }
-    tankShown(tank);
+    tankShown();
     showTitle(tank);
     showSortIndicator();
     showEmptyState();
@@ -162,7 +152,12 @@ void RecordListController::updateDisplay()
         showTank(currentTank());
 }
 
-// ---- what stands in the cells
+void RecordListController::updateColumnInfo()
+{
+    m_columns->storePendingLayout();
+}
+
+// ---- the cells
 
 QString RecordListController::cellText(const Record &record, int place) const
 {
@@ -232,7 +227,7 @@ void RecordListController::sortAndSelect(const std::shared_ptr<Record> &record)
     showSortIndicator();
     if (record)
         selectRecord(*record);
-    if (m_table->isVisible()) // an edit may be taken back from another view
+    if (m_table->isVisible()) // an edit can be undone while another view is on screen
         m_table->setFocus();
 }
 
@@ -246,7 +241,7 @@ bool RecordListController::sortPendingRow()
 {
     const std::shared_ptr<Record> record = m_model->recordAt(m_rowNeedsSort);
     setRowNeedsSort(-1);
-    // Where nothing moves, the selection may go where it was sent.
+    // When no row moves, the new selection hits the record that it was aimed at.
     if (!record || !currentTank() || !m_model->sortContainer())
         return false;
     selectRecord(*record);
@@ -274,7 +269,7 @@ bool RecordListController::editCell(int row, int place, const QVariant &value)
         return false;
     const RecordColumn column = m_model->columns()[std::size_t(place)];
     const QString key = column.identifier.toString();
-    UndoDictionary undo = createUndoDictionaryWithData(record, key);
+    const UndoDictionary undo = createUndoDictionaryWithData(record, key);
     const bool isDate = column.kind == ColumnKind::Date;
     if (!value.isValid() || (isDate && !value.toDateTime().isValid()) || !storeValue(*record, key, value))
         return false;
@@ -283,8 +278,13 @@ bool RecordListController::editCell(int row, int place, const QVariant &value)
         setRowNeedsSort(row);
     m_model->showRow(row);
     Shell::shared().documentModifiedWithChange(true);
-    const QString actionName = QLatin1String(m_traits.undoActionName);
-    Shell::shared().undoManager().push(new CellEditCommand(*this, std::move(undo), actionName));
+    Shell::shared().undoManager().push(
+        new UndoStep(QLatin1String(m_traits.undoActionName), [list = QPointer(this), step = undo](bool) mutable {
+            std::optional<UndoDictionary> opposite = list ? list->undoWithDictionary(step) : std::nullopt;
+            if (opposite)
+                step = *std::move(opposite);
+            return opposite.has_value();
+        }));
     cellEdited(*record, column, changed);
     return true;
 }
@@ -422,7 +422,7 @@ void RecordListController::deleteRecords(const std::vector<std::shared_ptr<Recor
         Shell::shared().documentModifiedWithChange(true);
 }
 
-// ---- what the model tells
+// ---- changes of the model
 
 void RecordListController::journalRecordInserted(Tank &tank, ContainerKind kind)
 {

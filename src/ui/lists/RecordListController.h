@@ -4,12 +4,13 @@
 
 #include "model/ModelObserver.h"
 #include "ui/MainViewController.h"
-#include "ui/lists/CellEdit.h"
 #include "ui/lists/ListMenu.h"
 #include "ui/lists/RecordCells.h"
 #include "ui/lists/RecordListPage.h"
+#include "ui/lists/RecordTableColumns.h"
 #include "ui/lists/RecordTableModel.h"
 #include "ui/lists/RecordTableView.h"
+#include "ui/lists/UndoDictionary.h"
 
 #include <QPointer>
 
@@ -27,22 +28,23 @@ template <class R>
     return std::make_shared<R>(&tank);
 }
 
-/// What the journal tables differ in.
+/// What the record lists differ in.
 struct RecordListTraits {
     ContainerKind kind;
     TextKey itemKey;                                   ///< what the delete question calls the list
     TextKey emptySentenceKey;                          ///< what an empty list says
     std::shared_ptr<Record> (*makeRecord)(Tank &tank); ///< a new record with its default values
     bool deletingCountsAChange = true;
-    std::span<const RecordColumn> columns = {}; ///< empty where they depend on the tank (see `columnsFor`)
-    const char *undoActionName = "";            ///< of an edited cell; stands as it is, not looked up
-    bool undoCountsUp = false;                  ///< what taking an edit back, or making it again, does to the count
-    const char *menuName = "";                  ///< object name of the context menu
-    std::span<const ListMenuItem> menu = {};    ///< of the context menu and of the action button; empty for neither
+    std::span<const RecordColumn> columns;   ///< all that the list can show, in their default order
+    const char *layoutName = "";             ///< of the column layout in the preferences, where no other store is given
+    const char *undoActionName = "";         ///< of an edited cell; stands as it is, not looked up
+    bool undoCountsUp = false;               ///< undo and redo: whether they add a change to the count or take one off
+    const char *menuName = "";               ///< object name of the context menu
+    std::span<const ListMenuItem> menu = {}; ///< of the context menu and of the action button; empty for neither
 };
 
 /// The view of one journal of the current tank: title, table, buttons. Shows, sorts, edits, adds and deletes records.
-/// The names of its widgets are told in RecordListPage.h.
+/// RecordListPage.h documents the object names of its widgets.
 ///
 /// An edit in the sort column, and a new record, leave the row where it is until the selection starts to change: then
 /// the list is sorted, and the record moves and stays selected.
@@ -59,14 +61,15 @@ public:
     void deleteSelected() override;
     void newEntry() override;
     void updateDisplay() override;
+    void updateColumnInfo() override;
 
-    [[nodiscard]] RecordTableView *table() const { return m_table; }            ///< null before the view was asked for
+    [[nodiscard]] RecordTableView *table() const { return m_table; }            ///< null before view() was called
     [[nodiscard]] std::vector<std::shared_ptr<Record>> selectedRecords() const; ///< in the order of their rows
 
     /// Re-sorts the list and selects the record, or keeps selected what is.
     void sortAndSelect(const std::shared_ptr<Record> &record = nullptr);
 
-    /// Selects exactly this record and brings it into sight; false when the table does not show it.
+    /// Selects only this record and scrolls to it; false when the table does not show it.
     bool selectRecord(const Record &record);
 
     /// The row whose re-sort is pending, -1 for none.
@@ -78,28 +81,27 @@ public:
     /// Opens the calendar at an editable date cell; the chosen date is an edit like any other. False for other cells.
     bool displayCalendar(const QModelIndex &cell);
 
-    /// What takes an edit of the field back, as the record is now.
+    /// What undoes an edit that is about to be made: the field's present value.
     [[nodiscard]] static UndoDictionary createUndoDictionaryWithData(const std::shared_ptr<Record> &record,
                                                                      const QString &key);
-    /// Puts the value back, whichever tank is on screen, counts the change and answers the opposite dictionary. A
-    /// record that is no longer in its tank's list only beeps: none.
+    /// Puts the value back, whichever tank is on screen, counts the change and returns the opposite dictionary. Beeps
+    /// and returns nothing when the record is no longer in its tank's list.
     std::optional<UndoDictionary> undoWithDictionary(const UndoDictionary &dictionary);
 
 protected:
-    explicit RecordListController(const RecordListTraits &traits);
+    /// Without a store the column layout is kept in the preferences, under the traits' layout name.
+    explicit RecordListController(const RecordListTraits &traits, std::unique_ptr<ColumnLayoutStore> layout = nullptr);
 
-    /// The columns for a tank (null for none), in their order: those of the traits.
-    [[nodiscard]] virtual std::span<const RecordColumn> columnsFor(Tank *) { return m_traits.columns; }
-    virtual void viewMade() {}                 ///< the table and the row of buttons can be added to
-    virtual void tankShown(Tank *) {}          ///< columns and rows are those of the tank
-    virtual void willDeleteRecord(Record &) {} ///< the deletion is decided; the record is still in its list
+    virtual void viewMade() {}                 ///< the table and the row of buttons exist
+    virtual void tankShown() {}                ///< the table shows the columns and rows of the current tank
+    virtual void willDeleteRecord(Record &) {} ///< the user has confirmed; the record is still in its list
 
     /// Stores a value of a cell, or of an undo step; false refuses it, and nothing is registered.
     virtual bool storeValue(Record &record, const QString &key, const QVariant &value);
-    /// A cell was edited, the change counted and its undo registered. `changed`: its text is another one now. Never for
-    /// a date.
+    /// A cell was edited, the change counted and its undo registered. `changed`: its text differs from the old one;
+    /// false for dates.
     virtual void cellEdited(Record &, const RecordColumn &, bool /*changed*/) {}
-    /// Starts the editing of a new record in its first cell that takes typing.
+    /// Starts editing a new record at its first cell that takes typing.
     virtual void startNewRecord(const QModelIndex &cell);
 
     [[nodiscard]] QString cellText(const Record &record, int column) const override;
@@ -108,8 +110,8 @@ protected:
 
     [[nodiscard]] RecordTableModel &model() const { return *m_model; }
     [[nodiscard]] RecordListPage &page() const { return *m_page; }
+    [[nodiscard]] RecordTableColumns &columns() const { return *m_columns; }
     [[nodiscard]] static Tank *currentTank();
-    [[nodiscard]] int ownWidth(const RecordColumn &column) const; ///< pixels that the header and a date need
 
     void journalRecordInserted(Tank &tank, ContainerKind kind) override;
     void journalRecordRemoved(Tank &tank, ContainerKind kind) override;
@@ -131,6 +133,7 @@ private:
 
     RecordListTraits m_traits;
     RecordTableModel *m_model;
+    std::unique_ptr<RecordTableColumns> m_columns;
     QPointer<RecordListPage> m_page;
     RecordTableView *m_table = nullptr;
     RecordSelectionModel *m_selection = nullptr;

@@ -8,7 +8,7 @@
 #include "ui/IconButton.h"
 #include "ui/Icons.h"
 #include "ui/TitleLine.h"
-#include "ui/TruncatingDelegate.h"
+#include "ui/lists/RecordCellDelegate.h"
 #include "ui/lists/RecordTableView.h"
 
 #include <QHBoxLayout>
@@ -33,7 +33,7 @@ RecordListPage::RecordListPage(ContainerKind kind, TextKey emptySentence)
     setObjectName(listName + QStringLiteral("View"));
     m_table->setObjectName(listName + QStringLiteral("List"));
     m_table->setAccessibleName(text(traitsOf(kind).nameKey));
-    m_table->setItemDelegate(new TruncatingDelegate(m_table));
+    m_table->setItemDelegate(new RecordCellDelegate(m_table));
     m_table->returnPressed = [this] { Q_EMIT newRequested(); };
     m_deleteButton->setEnabled(false);
     m_pages->addWidget(m_table);

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "support/AlertDriver.h"
+#include "support/DataRow.h"
+#include "support/TestProgram.h"
+#include "ui/lists/SmallList.h"
+
+using namespace brinemark;
+using namespace brinemark::test;
+
+using PressedKeys = QList<int>;
+
+/// How every list's cells are edited: by typing, by a tick, from the calendar; what is an edit and what is none; undo.
+class TestRecordEditing : public QObject, protected SmallListOnScreen
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QVERIFY(open()); }
+    void cleanup() { close(); }
+
+    void typing_data()
+    {
+        QTest::addColumn<SmallListColumn>("column");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<PressedKeys>("keys"); ///< pressed after the typing
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("edited"); ///< empty: no edit, no undo step
+        const PressedKeys enter{Qt::Key_Return};
+        const PressedKeys next{Qt::Key_Tab};
+        const PressedKeys cleared{Qt::Key_Delete, Qt::Key_Return};
+        row("a text", Activity, QString("feed"), enter, QString("feed"), QString("activity*"));
+        row("a text, Tab", Activity, QString("feed"), next, QString("feed"), QString("activity*"));
+        row("a text, Shift+Tab", Activity, QString("feed"), PressedKeys{Qt::Key_Backtab}, QString("feed"),
+            QString("activity*"));
+        row("the same text", Activity, QString("a"), enter, QString("a"), QString("activity"));
+        row("nothing typed", Activity, QString(), enter, QString("a"), QString());
+        row("nothing typed, Tab", Activity, QString(), next, QString("a"), QString());
+        row("cleared", Activity, QString(), cleared, QString("a"), QString());
+        row("only blanks", Activity, QString("  "), enter, QString("a"), QString());
+        row("Escape", Activity, QString("feed"), PressedKeys{Qt::Key_Escape}, QString("a"), QString());
+        row("a number", Interval, QString("86400"), enter, QString("86400"), QString("nextDate*"));
+        row("a number untouched", Interval, QString(), enter, QString("0"), QString());
+        row("a number cleared", Interval, QString(), cleared, QString("0"), QString());
+    }
+    void typing()
+    {
+        QFETCH(SmallListColumn, column);
+        QFETCH(QString, typed);
+        QFETCH(PressedKeys, keys);
+        QFETCH(QString, edited);
+        record(0).setAutoReschedule(true);
+        m_tank->schedule()->setSortIdentifier(QStringLiteral("date"));
+        clickCell(table(), 0, Activity);
+        table()->setCurrentIndex(cell(0, column));
+        press(Qt::Key_F2);
+        const auto *field = table()->findChild<QWidget *>(QStringLiteral("cellEditor"));
+        QVERIFY(field && field->isAncestorOf(QApplication::focusWidget()) | (field == QApplication::focusWidget()));
+        QCOMPARE(field->accessibleName(), table()->model()->headerData(column, Qt::Horizontal).toString());
+        type(typed);
+        for (const int key : keys)
+            press(Qt::Key(key));
+        table()->finishEditing();
+        QTEST(column == Activity ? record(0).activity : QString::number(record(0).nextDate, 'f', 0), "stored");
+        QCOMPARE(m_list->edited, edited.isEmpty() ? QStringList() : QStringList{edited});
+        QCOMPARE(m_shell->undo.count(), edited.isEmpty() ? 0 : 1);
+        QCOMPARE(m_shell->changes, edited.isEmpty() ? 0 : 1);
+    }
+
+    void keepsWhatIsTypedWhileTheModelChanges()
+    {
+        ScheduleData &edited = record(1);
+        clickCell(table(), 1, Activity);
+        press(Qt::Key_F2);
+        type("half a wor");
+        edited.activity = QStringLiteral("elsewhere");
+        m_list->updateDisplay();
+        QCOMPARE(editor()->text(), "half a wor");
+        showAnotherTank(1); // commits first
+        QCOMPARE(edited.activity, "half a wor");
+    }
+
+    void ticking()
+    {
+        QVERIFY(cell(2, Done).flags().testFlag(Qt::ItemIsUserCheckable));
+        QVERIFY(!cell(2, Done).flags().testFlag(Qt::ItemIsEditable));
+        QVERIFY(table()->model()->setData(cell(2, Done), Qt::Checked, Qt::CheckStateRole));
+        QVERIFY(record(2).complete());
+        QCOMPARE(m_list->edited, QStringList{"complete*"});
+        m_shell->undo.undo();
+        QVERIFY(!record(2).complete());
+        record(2).setComplete(true); // elsewhere
+        QCOMPARE(cell(2, Done).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
+    }
+
+    void undo()
+    {
+        rename(0, "z");
+        rename(1, "y");
+        QCOMPARE(m_list->rowNeedsSort(), 0);
+        QCOMPARE(activities(), "zycde"); // until the selection changes
+        QCOMPARE(m_shell->undo.undoText(), "SmallUndo");
+        m_shell->undo.undo();
+        QCOMPARE(activities(), "bcdez");
+        QCOMPARE(selectedRows(table()), QList<int>{0});
+        m_shell->undo.undo();
+        QCOMPARE(activities(), "abcde");
+        m_shell->undo.redo();
+        QCOMPARE(activities(), "bcdez");
+        QCOMPARE(selectedRows(table()), QList<int>{4});
+        QCOMPARE(m_shell->changes, -1); // two edits, and three steps that each take one off
+
+        // The other tank's rows do not move.
+        showAnotherTank(3);
+        table()->selectRow(1);
+        m_shell->undo.undo();
+        QCOMPARE(record(0).activity, "a");
+        QCOMPARE(selectedRows(table()), QList<int>{1});
+        m_tank->schedule()->clear();
+        m_shell->undo.redo();
+        QCOMPARE(m_beeps, 1); // the record is no longer in its list
+        QCOMPARE(m_shell->undo.count(), 1); // the step is dropped
+    }
+
+    /// The calendar stores into the column that it was opened for, whichever comes first in the table.
+    void theCalendar()
+    {
+        table()->horizontalHeader()->moveSection(Due, 3);
+        m_tank->schedule()->setSortIdentifier(QStringLiteral("date"));
+        clickCell(table(), 1, Due);
+        CalendarController &calendar = CalendarController::sharedInstance();
+        QVERIFY(calendar.isOpen());
+        QCOMPARE(calendar.columnIdentifier(), "date");
+        press(Qt::Key_PageDown);
+        press(Qt::Key_Return);
+        QTRY_VERIFY(!calendar.isOpen());
+        QCOMPARE(record(1).date, QDateTime(QDate(2026, 2, 2), QTime(9, 0)));
+        QVERIFY(!record(1).complete());
+        QCOMPARE(m_list->edited, QStringList{"date"});
+        QCOMPARE(m_list->rowNeedsSort(), 1);
+
+        // A click that only ends the pending re-sort hits another record than was aimed at: it opens nothing.
+        clickCell(table(), 3, Due);
+        QVERIFY(!calendar.isOpen());
+        QCOMPARE(selectedRows(table()), QList<int>{4});
+        for (const int column : {Done, Activity})
+            QVERIFY(!m_list->displayCalendar(cell(0, column)));
+    }
+
+    void aHeaderClosesTheCalendar()
+    {
+        clickCell(table(), 1, Due);
+        QVERIFY(CalendarController::sharedInstance().isOpen());
+        QTest::mousePress(table()->horizontalHeader()->viewport(), Qt::LeftButton, {}, {10, 5});
+        QVERIFY(!CalendarController::sharedInstance().isOpen());
+        QCOMPARE(m_shell->changes, 0);
+    }
+};
+
+BRINEMARK_TEST(QApplication, TestRecordEditing)
+#include "tst_record_editing.moc"
