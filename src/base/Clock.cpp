@@ -12,7 +12,7 @@ namespace brinemark::clock
 namespace
 {
 
-/// Guarded, because background work may ask for the time too.
+/// Guarded by a mutex, because background threads may ask for the time too.
 struct Held {
     QMutex mutex;
     std::optional<QDateTime> moment;

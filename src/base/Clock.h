@@ -7,14 +7,15 @@
 #include <chrono>
 #include <optional>
 
-/// The program's one clock. Nothing else asks the system for the time.
+/// The program's only clock: no other code asks the system for the time, so that tests can set it.
 namespace brinemark::clock
 {
 
 /// The present moment in local time.
 [[nodiscard]] QDateTime now();
 
-/// Holds the clock at a moment for as long as it lives; the one before (or the system's) then goes on.
+/// Makes now() return a fixed moment while this object lives. The destructor restores the previous FixedClock's moment
+/// or the system time.
 class FixedClock
 {
 public:

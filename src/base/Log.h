@@ -4,7 +4,7 @@
 
 #include <QLoggingCategory>
 
-/// The log's areas; QT_LOGGING_RULES="brinemark.file.debug=true" turns one up.
+/// Logging categories. QT_LOGGING_RULES="brinemark.file.debug=true" in the environment shows the debug messages of one.
 namespace brinemark
 {
 

@@ -8,14 +8,14 @@
 namespace brinemark::preference
 {
 
-inline constexpr PreferenceKey<bool> autoSaveOnQuit{"autoSaveOnQuit"}; ///< never stored = the program's first run
+inline constexpr PreferenceKey<bool> autoSaveOnQuit{"autoSaveOnQuit"}; ///< absent on the program's first run
 inline constexpr PreferenceKey<bool> activityOverdue{"activityOverdue"};
 inline constexpr PreferenceKey<bool> convertVisible{"convertVisible"};
 inline constexpr PreferenceKey<QString> defaultFile{"defaultFile"}; ///< absolute path
 inline constexpr PreferenceKey<QString> calName{"CalName"};
-inline constexpr PreferenceKey<qint64> bundleVersion{"bundleVersion"}; ///< packed version number
+inline constexpr PreferenceKey<qint64> bundleVersion{"bundleVersion"}; ///< as packedVersion() returns it
 inline constexpr PreferenceKey<bool> updateAuto{"UpdateAuto"};
-inline constexpr PreferenceKey<int> updateFrequency{"UpdateFrequency"}; ///< seconds; -1 at every start-up
+inline constexpr PreferenceKey<int> updateFrequency{"UpdateFrequency"}; ///< seconds; -1: check at every start-up
 inline constexpr PreferenceKey<QDateTime> updateLastChecked{"UpdateLastChecked"};
 inline constexpr PreferenceKey<float> notificationWindowHeight{"NotificationWindowHeight"}; ///< points
 inline constexpr PreferenceKey<QString> mainViewWidth{"mainViewWidth"};         ///< a whole number of points as text
@@ -31,7 +31,7 @@ inline constexpr const char *tableColumnsPrefix = "TableColumns ";
     return QLatin1String(tableColumnsPrefix) + listName;
 }
 
-/// The stored answers of alerts that are not to ask again: this and the alert's identifier name an integer.
+/// The stored answer of an alert with "don't ask again" is an integer under this prefix and the alert's identifier.
 inline constexpr const char *dontAskAgainPrefix = "dont.ask.again.result.";
 
 [[nodiscard]] inline QString dontAskAgainName(const QString &identifier)

@@ -22,7 +22,7 @@ bool isText(const QVariant &stored)
     return stored.typeId() == QMetaType::QString;
 }
 
-/// A stored number, flag or text that says a finite number.
+/// The finite number in a stored number, flag (0 or 1) or text; none for any other value.
 std::optional<double> numberOf(const QVariant &stored)
 {
     switch (stored.typeId()) {
@@ -49,7 +49,8 @@ std::optional<Whole> wholeNumberOf(const QVariant &stored)
     if (stored.typeId() == QMetaType::LongLong || stored.typeId() == QMetaType::Int)
         return std::in_range<Whole>(stored.toLongLong()) ? std::optional(Whole(stored.toLongLong())) : std::nullopt;
     const auto number = numberOf(stored);
-    // 2^63 itself is a double, the largest 64-bit number is not.
+    // For 64 bits the limit is 2^63, which a double holds exactly. The largest number, 2^63 - 1, would be rounded up to
+    // it.
     const double beyond = std::ldexp(1.0, std::numeric_limits<Whole>::digits);
     if (!number || *number < -beyond || *number >= beyond)
         return std::nullopt;
@@ -98,14 +99,15 @@ bool Preferences::contains(const QString &name) const
 
 void Preferences::remove(const QString &name)
 {
-    // The toolkit takes an empty name for everything there is.
+    // QSettings::remove() with an empty name removes every value.
     if (!name.isEmpty())
         m_settings->remove(name);
 }
 
 bool Preferences::flush()
 {
-    // An error sticks to its object. Another object of the same file shares the values still to be written.
+    // A QSettings object keeps its error status, so a retry needs a new one. Objects of the same file share the values
+    // that are not yet written.
     if (m_settings->status() != QSettings::NoError)
         m_settings = std::make_unique<QSettings>(m_path, propertyListSettingsFormat());
     m_settings->sync();

@@ -24,20 +24,21 @@ struct PreferenceKey {
 /// The moment that stands for "never": 0001-01-01T00:00:00Z.
 [[nodiscard]] QDateTime distantPast();
 
-/// The user's preferences: named values that keep their types in an XML property list, written back on flush() and now
-/// and then by the event loop. No defaults are registered: what was never stored is absent. Main thread only.
+/// The user's preferences: named values that keep their types, stored in an XML property list. flush() writes changes
+/// to disk, and so does the event loop from time to time. There are no registered defaults: a value that was never
+/// stored is absent. Main thread only.
 class Preferences
 {
 public:
     /// The user's own store: Brinemark/Brinemark.plist in the configuration folder.
     static Preferences &shared();
 
-    /// A store of another file. A damaged file is set aside under another name and the store starts empty.
+    /// A store in another file. A damaged file is renamed, and the store starts empty.
     explicit Preferences(const QString &path);
-    ~Preferences(); ///< writes what is still to be written
+    ~Preferences(); ///< writes pending changes
 
-    /// The stored value; nothing when it is absent or cannot be understood as a T. A number, flag or text of another
-    /// type is read for what it says ("YES", 1 and true are the same flag).
+    /// The stored value; none when it is absent or cannot be converted to T. Numbers, flags and texts convert to one
+    /// another by their meaning ("YES", 1 and true are the same flag).
     template <class T>
     [[nodiscard]] std::optional<T> value(PreferenceKey<T> key) const
     {
@@ -64,14 +65,14 @@ public:
         remove(nameOf(key));
     }
 
-    /// Values by names that are only known while running; nothing stored gives an invalid variant, and setting one
-    /// removes.
+    /// Access by names that are known only at run time. An absent value is an invalid variant; setting an invalid
+    /// variant removes the value.
     [[nodiscard]] QVariant variant(const QString &name) const;
     void setVariant(const QString &name, const QVariant &value);
     [[nodiscard]] bool contains(const QString &name) const;
     void remove(const QString &name);
 
-    /// Writes what was changed to disk; false when that failed.
+    /// Writes pending changes to disk; false when writing failed.
     bool flush();
 
     [[nodiscard]] QString path() const { return m_path; }

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// What the product is called, where it lives and which version this is: the one place to change any of it.
+/// The product's name, addresses and version. All other source files take them from here.
 namespace brinemark::product
 {
 
@@ -16,7 +16,7 @@ inline constexpr char productPage[] = "https://www.brinemark.example/";
 /// The short version, for example "1.0.0"; a fourth number is a beta number.
 [[nodiscard]] QString shortVersion();
 
-/// The build version that feedback mail names.
+/// The build version, which feedback mail quotes.
 [[nodiscard]] QString buildVersion();
 
 /// A version packed into 32 bits: major (8 bits, decimal digits as nibbles), minor and point (4 bits each), stage (0x80

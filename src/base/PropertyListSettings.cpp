@@ -27,7 +27,7 @@ QString freeNameBeside(const QString &path)
     }
 }
 
-/// Moves a file that cannot be read out of the way; where an open file cannot be moved, a copy does.
+/// Renames a file that cannot be read. Copies it instead on systems that cannot rename an open file.
 void setAside(const QString &path, const QString &reason)
 {
     const QString aside = freeNameBeside(path);

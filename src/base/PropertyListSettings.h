@@ -11,11 +11,11 @@ namespace brinemark
 {
 
 /// A format for QSettings whose file is an XML property list, so that every value keeps its type. A file that cannot be
-/// read is set aside under another name ("Brinemark-damaged-1.plist") and counts as empty.
+/// read is renamed ("Brinemark-damaged-1.plist") and counts as empty.
 [[nodiscard]] QSettings::Format propertyListSettingsFormat();
 
-/// Text, whole numbers, reals, flags, dates, bytes, lists and string maps, as property lists know them. An invalid
-/// variant, and what a property list cannot hold, has no value.
+/// Converts text, whole numbers, reals, flags, dates, bytes, lists and string maps to and from property-list values. An
+/// invalid variant and a type that a property list cannot hold give no value.
 [[nodiscard]] plist::Value propertyListValue(const QVariant &variant);
 [[nodiscard]] QVariant variantOf(const plist::Value &value);
 

@@ -15,11 +15,11 @@ namespace brinemark
 namespace
 {
 
-/// Not cryptographic: the question is whether an editor or a synchronising service was here, and opening a file
-/// of 100 MB is not to wait for the answer to a question that is hardly ever asked.
+/// Not a cryptographic hash: it only has to reveal that an editor or a synchronising service changed the file, and must
+/// not delay the opening of a file of 100 MB.
 QByteArray fastHash(const QByteArray &content)
 {
-    constexpr size_t seed = 0x6272696e; // any that is not 0: the toolkit then takes its faster way
+    constexpr size_t seed = 0x6272696e; // not 0: qHashBits is slower with a seed of 0
     const size_t hash = qHashBits(content.constData(), size_t(content.size()), seed);
     return QByteArray(reinterpret_cast<const char *>(&hash), sizeof hash);
 }
@@ -29,11 +29,11 @@ FileStamp stampOf(const QFileInfo &info)
     return info.isFile() ? FileStamp{info.size(), info.lastModified().toUTC(), {}} : FileStamp{};
 }
 
-/// Follows links by hand, because a link whose target does not exist yet has no canonical path.
+/// Follows links one by one, because a link whose target does not exist yet has no canonical path.
 QString linkTarget(const QString &path)
 {
     QString target = path;
-    constexpr int mostLinks = 40; // what Linux follows
+    constexpr int mostLinks = 40; // as Linux allows
     for (int i = 0; i < mostLinks && QFileInfo(target).isSymLink(); ++i)
         target = QFileInfo(target).symLinkTarget();
     return target;
@@ -51,7 +51,7 @@ FileStamp FileStamp::of(const QString &path, const QByteArray &content)
     FileStamp stamp = stampOf(QFileInfo(path));
     if (!stamp.isKnown())
         return stamp;
-    // The content's size, not the file's: somebody may have been quicker than our look at it.
+    // The content's size, not the file's: another program may already have changed the file.
     stamp.size = content.size();
     stamp.hash = fastHash(content);
     return stamp;
@@ -72,7 +72,7 @@ bool changedOnDisk(const QString &path, const FileStamp &lastKnown)
 FileContent readFile(const QString &path)
 {
     FileContent content;
-    // Neither a folder nor something that never ends, such as a pipe.
+    // Regular files only: reading a pipe might never end.
     if (!QFileInfo(path).isFile()) {
         content.error = QStringLiteral("No such file");
         return content;
@@ -82,7 +82,7 @@ FileContent readFile(const QString &path)
         content.error = file.errorString();
         return content;
     }
-    // The time is taken first: a change while we read then shows as one.
+    // Take the time before reading, so that a later comparison detects a change made during the read.
     const QDateTime modified = file.fileTime(QFileDevice::FileModificationTime).toUTC();
     content.bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {

@@ -11,25 +11,26 @@ class QSaveFile;
 namespace brinemark
 {
 
-/// What a file looked like when it was last read or written, to tell whether somebody else has changed it since. Lives
-/// as long as the process: the hash is a fast one that is not the same in another version of the toolkit.
+/// Size, time and hash of a file when it was last read or written, to detect changes by other programs. Not to be
+/// stored: the hash function may differ in another version of the toolkit.
 struct FileStamp {
-    qint64 size = -1;   ///< bytes; -1 when nothing is known
+    qint64 size = -1;   ///< bytes; -1 in an unknown stamp
     QDateTime modified; ///< to the millisecond, UTC
     QByteArray hash;    ///< of the content; empty when not known
 
     [[nodiscard]] bool isKnown() const { return size >= 0; }
 
-    /// Looks at the file and reads it for its hash. An unknown stamp when there is no such file.
+    /// Reads the file to make its stamp. An unknown stamp when there is no such file.
     static FileStamp of(const QString &path);
 
-    /// The stamp of content just read or written, which is not read again.
+    /// The stamp of a file whose content was just read or written; the file is not read again.
     static FileStamp of(const QString &path, const QByteArray &content);
 };
 
-/// Whether a file holds something else than what the stamp was made of. Another size says yes, the same size and time
-/// stamp say no; only when the time alone differs the content is read and its hash decides. A file that is gone has not
-/// changed in this sense: nothing can be lost by writing it. A file of which nothing is known has changed.
+/// Whether the file's content differs from the content that the stamp describes. A different size means yes, equal size
+/// and time mean no; when only the time differs, the file is read and the hashes are compared. A file that no longer
+/// exists counts as unchanged, since writing it loses nothing. An existing file with an unknown stamp counts as
+/// changed.
 [[nodiscard]] bool changedOnDisk(const QString &path, const FileStamp &lastKnown);
 
 /// A whole file in memory.
@@ -40,22 +41,22 @@ struct FileContent {
     FileStamp stamp;
 };
 
-/// Reads a whole file with the stamp that belongs to exactly these bytes.
+/// Reads a whole file and makes the stamp from the bytes that were read.
 [[nodiscard]] FileContent readFile(const QString &path);
 
-/// What became of writing a file.
+/// The outcome of writing a file.
 struct WriteResult {
     bool ok = false;
     QString error;   ///< the system's reason when not ok
-    FileStamp stamp; ///< of what was written, when ok
+    FileStamp stamp; ///< of the written file, when ok
 };
 
-/// Replaces a file so that at no moment there is no good one: a temporary file in the same folder, every write checked,
-/// synced to disk, then renamed. Existing permissions stay; of a symbolic link the target is replaced. On failure the
-/// old file stands untouched.
+/// Replaces a file such that a complete one exists at every moment: writes a temporary file in the same folder, checks
+/// every write, syncs it to disk, then renames it. Permissions are kept; a symbolic link stays, and its target is
+/// replaced. On failure the old file is unchanged.
 [[nodiscard]] WriteResult writeFileSafely(const QString &path, const QByteArray &bytes);
 
-/// The same through a file object of the caller's, which is opened and committed (or cancelled) here.
+/// The same through the caller's file object, which this function opens and then commits or cancels.
 [[nodiscard]] WriteResult writeFileSafely(QSaveFile &file, const QByteArray &bytes);
 
 } // namespace brinemark

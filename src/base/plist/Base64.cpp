@@ -15,8 +15,9 @@ namespace
 
 constexpr std::uint32_t invalid = 0x80000000;
 
-/// For each place in a group of four characters, the bits that a character adds to the three bytes, first byte lowest;
-/// so a group is four look-ups, and one test of the topmost bit tells whether all four are digits.
+/// For each position in a group of four characters: the bits that a character contributes to the group's three bytes,
+/// first byte lowest. Decoding a group takes four look-ups, and one test of the topmost bit shows whether all four
+/// characters are base64 digits.
 using PlaceTables = std::array<std::array<std::uint32_t, 256>, 4>;
 
 constexpr PlaceTables makePlaceTables()
@@ -42,8 +43,8 @@ constexpr bool isSpace(std::uint8_t c)
 
 } // namespace
 
-// Our own because QByteArray::fromBase64 either refuses white space along with errors or skips errors along with white
-// space, and taking the line breaks out first would cost another copy of every picture.
+// Replaces QByteArray::fromBase64, which either rejects white space as an error or skips errors like white space.
+// Removing the line breaks first would copy every picture once more.
 std::optional<QByteArray> decodeBase64(std::string_view text)
 {
     QByteArray result(qsizetype(text.size() / 4 * 3 + 4), Qt::Uninitialized);
@@ -59,7 +60,7 @@ std::optional<QByteArray> decodeBase64(std::string_view text)
                 const std::uint32_t bytes = places[0][in[0]] | places[1][in[1]] | places[2][in[2]] | places[3][in[3]];
                 if (bytes & invalid)
                     break;
-                qToLittleEndian(bytes, out); // one byte more than the group holds, overwritten by the next one
+                qToLittleEndian(bytes, out); // writes four bytes; the next group overwrites the fourth
             }
             if (in == end)
                 break;

@@ -10,8 +10,9 @@
 namespace brinemark::plist
 {
 
-/// Decodes base64 with any white space between the characters. Nothing for a character that is neither, for text after
-/// the padding, and for a last group of a single character. Padding may be missing, but what stands there must fit.
+/// Decodes base64 with any white space between the characters. Returns nothing for any other character, for digits
+/// after the padding, for a last group of a single character, and for padding of the wrong length. Padding may be
+/// missing.
 std::optional<QByteArray> decodeBase64(std::string_view text);
 
 } // namespace brinemark::plist

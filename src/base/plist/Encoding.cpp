@@ -10,7 +10,7 @@ namespace brinemark::plist
 namespace
 {
 
-/// The encoding a byte order mark stands for; no guessing from content.
+/// The encoding that a byte order mark announces; none for UTF-8 and without a mark. Does not guess from the content.
 std::optional<QStringConverter::Encoding> markedEncoding(const QByteArray &bytes)
 {
     const auto encoding = QStringConverter::encodingForData(bytes);
@@ -26,7 +26,7 @@ bool isIso88591(QByteArrayView name)
 
 bool isUtf8Compatible(QByteArrayView name)
 {
-    // A file that is plainly bytes but says UTF-16 was converted by something that did not read the declaration.
+    // "UTF-16" without a byte order mark counts as UTF-8: some program converted the file but left the declaration.
     return name.isEmpty() || name.compare("us-ascii", Qt::CaseInsensitive) == 0 ||
            name.compare("ascii", Qt::CaseInsensitive) == 0 || name.toByteArray().toLower().startsWith("utf");
 }
@@ -49,7 +49,7 @@ QString convertToUtf8(QByteArray &bytes, QByteArrayView declared)
         return QStringLiteral("the text is not valid %1")
             .arg(QLatin1StringView(QStringConverter::nameForEncoding(*encoding)));
     bytes = text.toUtf8();
-    // An odd byte or half a pair at the end is held back by the decoder without being called an error.
+    // The decoder reports no error for an incomplete character at the end.
     return bytes.isValidUtf8() ? QString() : QStringLiteral("the text ends inside a character");
 }
 

@@ -9,7 +9,7 @@
 namespace brinemark::plist
 {
 
-/// What a reader made of some bytes: the root value, or the reason (English, for the log) why there is none.
+/// The outcome of parsing a property list: the root value, or the reason (English, for the log) why there is none.
 struct ReadResult {
     Value value;
     QString error;
@@ -17,7 +17,7 @@ struct ReadResult {
     explicit operator bool() const { return error.isEmpty(); }
 };
 
-/// Arrays and dictionaries nested deeper than this cannot be read; real files nest six deep.
+/// The readers refuse arrays and dictionaries nested deeper than this; real files nest six deep.
 inline constexpr int maximumDepth = 256;
 
 } // namespace brinemark::plist

@@ -24,7 +24,7 @@ string_view trimmed(string_view text)
     return first == string_view::npos ? string_view() : text.substr(first, text.find_last_not_of(space) - first + 1);
 }
 
-/// Takes the sign off; answers whether it was a minus.
+/// Removes a leading sign; returns whether it was a minus.
 bool takeSign(string_view &text)
 {
     const bool negative = text.starts_with('-');
@@ -33,7 +33,7 @@ bool takeSign(string_view &text)
     return negative;
 }
 
-/// A run of decimal digits as a number, -1 for anything else.
+/// The value of a text of decimal digits; -1 when it contains another character.
 int digits(string_view text)
 {
     int number = 0;
@@ -78,7 +78,7 @@ Value parseReal(string_view text)
         return Value(std::numeric_limits<double>::quiet_NaN());
     if (word == "inf" || word == "infinity")
         return Value(std::copysign(std::numeric_limits<double>::infinity(), negative ? -1.0 : 1.0));
-    // from_chars would take "1e" or a second sign apart from the rest; every character has to be part of the number.
+    // toDouble() also skips white space such as a form feed, so only the characters of a number are let through.
     constexpr string_view numberCharacters = "0123456789.eE+-";
     if (unsignedText.find_first_not_of(numberCharacters) != string_view::npos)
         return {};
@@ -99,7 +99,7 @@ Value parseDate(string_view text)
     };
     const QDate day(part(0, 4), part(5, 2), part(8, 2));
     const QTime time(part(11, 2), part(14, 2), part(17, 2));
-    // A date-time with an invalid time of day would quietly mean midnight.
+    // QDateTime would silently replace an invalid time of day by midnight.
     return day.isValid() && time.isValid() ? Value(QDateTime(day, time, Qt::UTC)) : Value();
 }
 

@@ -9,8 +9,8 @@
 namespace brinemark::plist
 {
 
-// The texts of numbers and dates in XML property lists, locale-free. White space around them is ignored; no value for a
-// text that does not fit.
+// Numbers and dates as texts of XML property lists, independent of the locale. The parse functions ignore surrounding
+// white space and return no value for a malformed text.
 
 Value parseInteger(std::string_view text); ///< decimal or 0x, optional sign, within signed 64 bits
 Value parseReal(std::string_view text);    ///< also nan, inf, infinity in any case, with optional sign

@@ -12,23 +12,22 @@
 namespace brinemark::plist
 {
 
-/// Gives equal short texts one shared QString: keys and values such as "-1" repeat by the million in a tank file.
-/// Bounded in size and in search length, so that no input makes it slow or large: what finds no room simply gets a
-/// string of its own.
+/// Returns one shared QString for equal short texts: keys and values such as "-1" repeat by the million in a tank file.
+/// Its size and the length of a search are limited, so that no input makes it slow or large; a text that finds no free
+/// slot gets an unshared string.
 class StringPool
 {
 public:
     StringPool();
 
-    /// The string of a UTF-8 text that is known to be valid; the reference holds until the next call.
+    /// The string of a text, which must be valid UTF-8. The reference is valid until the next call.
     const QString &string(std::string_view utf8);
 
 private:
-    /// Longer texts are notes and seldom repeat.
+    /// Bytes. Longer texts are notes, which seldom repeat.
     static constexpr std::size_t longestShared = 32;
 
-    /// The text stands in the slot itself, so that a look-up touches one cache line and not the place where it was
-    /// first seen.
+    /// Holds the UTF-8 text itself, so that a look-up touches one cache line and not the memory of the QString.
     struct alignas(64) Slot {
         QString string;
         std::uint32_t hash = 0;

@@ -33,7 +33,7 @@ bool isOctalDigit(QChar c)
     return c >= u'0' && c <= u'7';
 }
 
-/// One pass over the text. The functions that read something answer nothing once `m_error` is set.
+/// Parses the text in one pass. The read functions return nothing once `m_error` is set.
 class TextParser
 {
 public:
@@ -61,7 +61,7 @@ private:
     }
 
     bool atEnd() const { return m_at >= m_text.size(); }
-    /// The character that many places ahead, a zero beyond the end.
+    /// The character `ahead` positions further on; a null character beyond the end.
     QChar peek(qsizetype ahead = 0) const { return m_at + ahead < m_text.size() ? m_text[m_at + ahead] : QChar(); }
 
     bool take(QChar c)
@@ -72,7 +72,7 @@ private:
         return true;
     }
 
-    /// Skips white space and comments; false for a comment without its end.
+    /// Skips white space and comments; false for a comment that is not closed.
     bool skipSpace()
     {
         while (!atEnd()) {
@@ -208,7 +208,7 @@ private:
         return std::nullopt;
     }
 
-    /// What stands for the characters after a backslash.
+    /// Reads an escape sequence, without its backslash, and returns the character that it means.
     std::optional<QChar> readEscape()
     {
         constexpr QStringView letters = u"ntrabfv";

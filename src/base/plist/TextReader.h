@@ -10,14 +10,14 @@ namespace brinemark::plist
 {
 
 /// Reads the older text form of a property list: `{ key = value; }`, `( a, b )`, `<hex data>`, and strings, quoted or
-/// made of letters, digits and `_./-:$+`. Comments are `//` to the end of the line and `/*` to `*/`. Every leaf is a
-/// string or data; numbers and flags are strings here.
+/// made of letters, digits and `_./-:$+`. Comments are `//` to the end of the line and `/*` to `*/`. Every scalar is a
+/// string or data; this form stores numbers and flags as strings.
 ///
 /// ASCII, UTF-8, or UTF-16 with a byte order mark. Inside quotes `\n \t \r \a \b \f \v`, `\Uxxxx` (four hexadecimal
 /// digits, a UTF-16 unit) and one to three octal digits (a Latin-1 character) are escapes; any other character after a
-/// backslash stands for itself. A comma may follow the last element of an array; every entry of a dictionary ends with
-/// a semicolon. Of a key that stands twice the last one holds. Anything malformed, or nested deeper than
-/// `maximumDepth`, gives an error that names the line and no value.
+/// backslash means itself. A comma may follow the last element of an array; every entry of a dictionary ends with a
+/// semicolon. The last value of a repeated key counts. Anything malformed, or nested deeper than `maximumDepth`, gives
+/// an error that names the line and no value.
 ReadResult readText(const QByteArray &bytes);
 
 } // namespace brinemark::plist

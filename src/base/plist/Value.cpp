@@ -90,8 +90,7 @@ Dict::Dict(std::vector<Entry> entries)
                                               [&](const Entry &a, const Entry &b) { return !strictlyLess(a, b); });
     if (unordered == m_entries.end())
         return;
-    // Stable, so that the last of equal keys stands last in its run; the walk from the back then keeps exactly that
-    // one.
+    // A stable sort leaves equal keys in the given order; unique() from the back then keeps the last entry of each key.
     std::stable_sort(m_entries.begin(), m_entries.end(), keyLess);
     const auto firstKept = std::unique(m_entries.rbegin(), m_entries.rend(),
                                        [](const Entry &a, const Entry &b) { return a.first == b.first; });

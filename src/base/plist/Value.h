@@ -21,11 +21,11 @@ class Dict;
 using Array = std::vector<Value>;
 
 /// One node of a property list. Cheap to copy: strings, data, arrays and dictionaries are shared and never change once
-/// they are inside a Value. The typed accessors answer nothing for a value of another type and never convert.
+/// they are inside a Value. The typed accessors return null for a value of another type and never convert.
 class Value
 {
 public:
-    Value() = default; ///< no value; not part of any file
+    Value() = default; ///< no value; never written to a file
     Value(const QString &string);
     Value(const char *) = delete;
     Value(int integer);
@@ -66,12 +66,13 @@ public:
     Dict() = default;
     /// A later entry of the same key replaces an earlier one.
     Dict(std::initializer_list<Entry> entries);
-    /// Takes entries in any order; of a key that stands twice the last one holds.
+    /// Takes entries in any order; the last entry of a repeated key counts.
     explicit Dict(std::vector<Entry> entries);
 
     [[nodiscard]] const Value *find(QStringView key) const; ///< null when the key is missing
     [[nodiscard]] bool contains(QStringView key) const { return find(key) != nullptr; }
-    void insert(const QString &key, Value value); ///< replaces; keys inserted in order cost no search
+    /// Replaces an existing entry. Inserting in key order needs no search.
+    void insert(const QString &key, Value value);
     void remove(QStringView key);
     void reserve(std::size_t count) { m_entries.reserve(count); }
 

@@ -21,8 +21,8 @@ constexpr bool isSpecial(char c)
     return c == '\0' || c == '&' || c == '!' || c == '?';
 }
 
-/// The place of the next special character. Whole blocks are tested without a branch inside, which the compiler turns
-/// into vector instructions: one pass at memory speed.
+/// The position of the next special character. Whole blocks are tested without a branch, so that the compiler can use
+/// vector instructions.
 std::size_t nextSpecial(string_view text, std::size_t from)
 {
     constexpr std::size_t block = 64;
@@ -39,7 +39,7 @@ std::size_t nextSpecial(string_view text, std::size_t from)
     return from;
 }
 
-/// The character a numeric reference stands for, given without its `&#` and `;`, is one that XML can hold.
+/// Whether a numeric reference, given without its `&#` and `;`, names a character that XML allows.
 bool isCharacter(string_view digits)
 {
     const bool hex = digits.starts_with('x');
@@ -54,7 +54,7 @@ bool isCharacter(string_view digits)
     return code < 0xd800 || (code >= 0xe000 && code < 0xfffe) || (code >= 0x10000 && code < 0x110000);
 }
 
-/// The text begins, after an ampersand, with a reference that XML knows without a document type.
+/// Whether the text after an ampersand begins with a valid numeric reference or an entity that XML predefines.
 bool beginsKnownReference(string_view text)
 {
     constexpr std::array<string_view, 5> entities = {"amp", "lt", "gt", "quot", "apos"};
@@ -75,7 +75,8 @@ struct Markup {
 
 constexpr std::array<Markup, 3> markups = {{{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}}};
 
-/// The comment, section or instruction that begins here; null for anything else, such as the document type.
+/// The comment, CDATA section or processing instruction that begins at `at`; null for anything else, such as a document
+/// type.
 const Markup *markupAt(string_view text, std::size_t at)
 {
     const auto *found = std::find_if(markups.begin(), markups.end(), [rest = text.substr(at)](const Markup &markup) {

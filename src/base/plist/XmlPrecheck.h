@@ -9,16 +9,17 @@
 namespace brinemark::plist
 {
 
-/// What has to be known of an XML text before pugixml parses it, and what pugixml lets pass although it is not XML.
+/// The result of checking an XML text before pugixml parses it: facts that decide how to parse, and errors that pugixml
+/// does not report.
 struct XmlPrecheck {
-    /// Comments, character data sections or processing instructions stand in the text, so that white space between
-    /// pieces of a string matters.
+    /// The text contains comments, CDATA sections or processing instructions, so that white space between pieces of a
+    /// string matters.
     bool hasInnerMarkup = false;
     /// Why the text is not well formed: a zero byte, a stray ampersand, an unknown entity, a reference to no character.
     QString error;
 };
 
-/// Looks through valid UTF-8; costs a small part of the parse.
+/// Checks a text, which must be valid UTF-8, in a small part of the time that parsing takes.
 XmlPrecheck precheckXml(std::string_view text);
 
 /// The encoding that the XML declaration names; empty when it names none.

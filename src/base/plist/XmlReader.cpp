@@ -34,7 +34,7 @@ bool isNamed(pugi::xml_node node, const char *name)
     return std::strcmp(node.name(), name) == 0;
 }
 
-/// Walks the parsed tree. The functions that build a value answer no value once `m_error` is set.
+/// Builds the value from the parsed tree. The functions that build a value return no value once `m_error` is set.
 class TreeWalk
 {
 public:
@@ -58,7 +58,7 @@ private:
         return Value();
     }
 
-    /// The next element at or after `node`; text other than white space on the way is an error.
+    /// The first element at or after `node`; text other than white space before it is an error.
     pugi::xml_node elementFrom(pugi::xml_node node)
     {
         while (node && node.type() != pugi::node_element) {
@@ -115,7 +115,7 @@ private:
         return *scalar;
     }
 
-    /// Nothing for an unknown element, no value for a text that does not fit its element.
+    /// Returns nullopt for an unknown element, and a Value without content for a text that does not fit its element.
     static std::optional<Value> readScalar(string_view name, string_view text)
     {
         if (name == "true" || name == "false")
@@ -165,9 +165,9 @@ private:
         return m_error.isEmpty() ? Value(Dict(std::move(entries))) : Value();
     }
 
-    /// The node after `child`. A child with children of its own has been read and goes: by the time the last record is
-    /// read the tree is small, and the values have taken its place in memory instead of standing beside it. What was
-    /// refused stays: pugixml removes recursively, and it may be nested deeper than the stack holds.
+    /// Returns the node after `child`. Removes a child that has children, since its value has been built: the tree
+    /// shrinks while the values grow, and the two are never whole in memory together. After an error nothing is
+    /// removed: pugixml removes recursively, and a refused node may be nested deeper than the stack allows.
     pugi::xml_node leave(pugi::xml_node parent, pugi::xml_node child) const
     {
         const pugi::xml_node next = child.next_sibling();
@@ -176,15 +176,14 @@ private:
         return next;
     }
 
-    /// The text of an element as a string, null for none; it holds until the next call.
+    /// The text of an element; null when it contains an element. Valid until the next call.
     const QString *readString(pugi::xml_node node)
     {
         const auto text = textOf(node);
         return text ? &m_strings.string(*text) : nullptr;
     }
 
-    /// The text of an element. Only what comments or character data sections interrupt has children beside its own
-    /// text.
+    /// The text of an element. It has child nodes only where a comment or CDATA section interrupts the text.
     std::optional<string_view> textOf(pugi::xml_node node)
     {
         if (!node.first_child())
@@ -203,8 +202,8 @@ private:
     StringPool m_strings;
     std::string m_joined;
     QString m_error;
-    /// The entries of the dictionary read last: the records of a list have the same keys, and counting the nodes of
-    /// each beforehand costs more.
+    /// Size of the dictionary read last, reserved for the next one: the records of a list have the same keys, and
+    /// counting the nodes of each first takes longer.
     std::size_t m_previousSize = 0;
     static constexpr std::size_t largestGuess = 64;
 };
@@ -222,11 +221,11 @@ ReadResult readXml(QByteArray bytes)
     if (!precheck.error.isEmpty())
         return {Value(), precheck.error};
 
-    // Parsing in place sacrifices the last byte for a terminator; a stray character there would go unnoticed.
+    // Parsing in place overwrites the last byte with a terminator, so a wrong character there would not be noticed.
     if (!bytes.endsWith('\n'))
         bytes.append('\n');
-    // A fragment, because otherwise text outside the outermost element goes unnoticed. White space between elements is
-    // kept only where pieces of a string may be apart: in a large file it would double the tree.
+    // parse_fragment, because pugixml otherwise ignores text outside the root element. White space between elements is
+    // kept only when strings may consist of several pieces: in a large file it would double the tree.
     const unsigned flags = pugi::parse_embed_pcdata | pugi::parse_escapes | pugi::parse_cdata | pugi::parse_eol |
                            pugi::parse_fragment |
                            (precheck.hasInnerMarkup ? pugi::parse_ws_pcdata : pugi::parse_ws_pcdata_single);

@@ -23,7 +23,7 @@ constexpr string_view head = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                              "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
                              "<plist version=\"1.0\">\n";
 
-/// ASCII that stands for itself in XML text.
+/// ASCII characters that need no escape in XML text.
 constexpr std::array<bool, 128> makePlain()
 {
     std::array<bool, 128> plain{};
@@ -39,7 +39,7 @@ bool isWritable(const Value &value)
     return !value.isNone() && (!value.date() || value.date()->isValid());
 }
 
-/// Emits text straight into one growing buffer: a tree built only to be printed would double both time and memory.
+/// Writes text straight into one growing buffer: building a DOM only to print it would double time and memory.
 class Emitter
 {
 public:
@@ -132,7 +132,7 @@ private:
         put("</data>\n");
     }
 
-    /// The text stands for itself: a number or a date.
+    /// For a text that needs no escapes: a number or a date.
     void element(string_view opening, string_view text, string_view closing)
     {
         put(opening);
@@ -152,7 +152,7 @@ private:
         put(closing);
     }
 
-    /// Room for `count` more bytes; the caller writes there and then moves `m_used`.
+    /// Makes room for `count` more bytes and returns its address; the caller writes there and then advances `m_used`.
     char *room(qsizetype count)
     {
         if (m_buffer.size() - m_used < count)
@@ -168,7 +168,7 @@ private:
 
     void putEscaped(const QString &text)
     {
-        constexpr qsizetype longest = 5; // "&amp;" and its like; UTF-8 needs three bytes a unit at most
+        constexpr qsizetype longest = 5; // the length of "&amp;"; UTF-8 needs at most three bytes for a UTF-16 unit
         char *out = room(text.size() * longest);
         const char *const start = out;
         const auto *in = reinterpret_cast<const char16_t *>(text.constData());
@@ -183,7 +183,7 @@ private:
         m_used += out - start;
     }
 
-    /// A unit that does not stand for itself; takes the second half of a pair along.
+    /// Writes a unit that is not `plain`; also consumes the second unit of a surrogate pair.
     static void putOther(char *&out, char16_t unit, const char16_t *&in, const char16_t *end)
     {
         const auto append = [&out](string_view text) {

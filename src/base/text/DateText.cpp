@@ -22,7 +22,7 @@ char16_t *putDigits(char16_t *out, int number, int count)
     return out + count;
 }
 
-/// "+0100" for an offset in seconds; whole minutes.
+/// Writes an offset, given in seconds, in whole minutes: "+0100".
 char16_t *putOffset(char16_t *out, int seconds)
 {
     *out++ = seconds < 0 ? u'-' : u'+';
@@ -30,7 +30,7 @@ char16_t *putOffset(char16_t *out, int seconds)
     return putDigits(putDigits(out, minutes / 60, 2), minutes % 60, 2);
 }
 
-/// The number of `count` digits at a place; -1 when something else stands there.
+/// The number made of the `count` characters at `at`; -1 when one of them is not a digit.
 int digitsAt(QStringView text, qsizetype at, int count)
 {
     int number = 0;
@@ -117,7 +117,8 @@ QString escaped(QChar c)
     return c == u'%' ? QStringLiteral("%%") : QString(c);
 }
 
-/// The calendar notation of a run of equal letters of the toolkit's notation; empty for a letter that is no field.
+/// Translates a run of equal letters of the toolkit's notation to calendar-format notation; empty for a letter that is
+/// not a field.
 QString calendarField(QChar letter, qsizetype count, bool twelveHours)
 {
     const auto byLength = [count](const char *numeric, const char *shortName, const char *longName) {
@@ -147,7 +148,7 @@ QString calendarField(QChar letter, qsizetype count, bool twelveHours)
     }
 }
 
-/// Cuts the toolkit's notation into runs of letters and literal characters, quotes taken off.
+/// A piece of the toolkit's notation: a run of equal letters, or a literal character without its quotes.
 struct QtFormatPiece {
     QChar character;
     qsizetype count = 1;
@@ -190,7 +191,7 @@ QString fileDateText(const QDateTime &date)
 {
     if (!date.isValid())
         return {};
-    // Local mean times before about 1900 have odd seconds in their offset; the file knows whole minutes.
+    // Offsets of local mean time, in use until about 1900, include seconds; the file form has whole minutes only.
     const int offset = date.offsetFromUtc() / 60 * 60;
     const QDateTime value = offset == date.offsetFromUtc() ? date : date.toOffsetFromUtc(offset);
     const QDate day = value.date();
@@ -224,7 +225,7 @@ QDateTime dateFromFileText(QStringView text)
     const QTime time(digitsAt(text, 11, 2), digitsAt(text, 14, 2), digitsAt(text, 17, 2));
     const int offsetHours = digitsAt(text, 21, 2);
     const int offsetMinutes = digitsAt(text, 23, 2);
-    // Fourteen hours is as far as any zone goes, and as far as QDateTime does.
+    // No time zone is more than fourteen hours from UTC, and QDateTime supports no more.
     if (!day.isValid() || !time.isValid() || offsetHours < 0 || offsetMinutes < 0 || offsetMinutes > 59 ||
         offsetHours * 60 + offsetMinutes > 14 * 60)
         return {};

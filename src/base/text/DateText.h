@@ -17,7 +17,7 @@ namespace brinemark
 [[nodiscard]] QString fileDateText(const QDateTime &date);
 
 /// Reads the form of fileDateText and nothing else; a null date when the text does not match or names a day that does
-/// not exist. The offset of the text stays with the value (Qt::OffsetFromUTC).
+/// not exist. The value keeps the offset of the text (Qt::OffsetFromUTC).
 [[nodiscard]] QDateTime dateFromFileText(QStringView text);
 
 /// A date and time in calendar-format notation: %a %A weekday, %b %B month name, %d %m two digits, %e day padded with a
@@ -28,12 +28,11 @@ namespace brinemark
 [[nodiscard]] QString calendarText(const QDateTime &date, const QString &calendarFormat,
                                    const QLocale &locale = QLocale());
 
-/// Reads a date that a person typed in calendar-format notation: midnight of that day, in local time. Days, months and
-/// years (%d %e %m %b %B %y %Y) are read, the weekday's name (%a %A) is passed over; leading zeros, blanks and a mark
-/// at the end may be missing, and the full stop, the slash and the hyphen stand for one another. A year has two or four
-/// digits, whatever the format says; of two digits 69 to 99 are 1969 to 1999 and 00 to 68 are 2000 to 2068, as POSIX
-/// reads %y. Null when the text is anything else, when the format has other fields or lacks one of the three, and for a
-/// day that does not exist.
+/// Reads a date that a person typed by a calendar format: midnight of that day, in local time. Reads day, month and
+/// year (%d %e %m %b %B %y %Y) and skips the weekday's name (%a %A). Leading zeros, blanks and a mark at the end may be
+/// missing; full stop, slash and hyphen are interchangeable. A year has two or four digits, whatever the format says;
+/// 69 to 99 mean 1969 to 1999 and 00 to 68 mean 2000 to 2068, as POSIX reads %y. Null for any other text, for a day
+/// that does not exist, and when the format has other fields or lacks day, month or year.
 [[nodiscard]] QDateTime dateFromCalendarText(QStringView text, const QString &calendarFormat,
                                              const QLocale &locale = QLocale());
 

@@ -14,8 +14,8 @@
 namespace brinemark
 {
 
-/// std::from_chars for a real number in general notation, also where the standard library has it for whole numbers
-/// only. The text from `first` to `last` has to be nothing but the number.
+/// std::from_chars for a real number in general notation, with a replacement for standard libraries that have it for
+/// whole numbers only. The text from `first` to `last` must be the number and nothing else.
 template <class Number>
 std::from_chars_result fromChars(const char *first, const char *last, Number &number)
 {

@@ -27,7 +27,7 @@ constexpr bool isBlank(QChar c)
     return c == u' ' || (c >= u'\t' && c <= u'\r') || c == u'\u00a0';
 }
 
-/// Skips blanks and a sign; answers whether it was a minus.
+/// Skips blanks and a sign; returns whether it was a minus.
 bool skipToDigits(QStringView text, qsizetype &at)
 {
     while (at < text.size() && isBlank(text[at]))
@@ -37,10 +37,10 @@ bool skipToDigits(QStringView text, qsizetype &at)
     return text[at++] == u'-';
 }
 
-/// The number's characters without sign, cut out as far as they form one, and how large it is.
+/// The longest run of characters that forms a number without a sign, and the number's order of magnitude.
 struct Digits {
     QVarLengthArray<char, 64> characters;
-    qint64 magnitude = 0; ///< decimal places of the number before the full stop, exponent included
+    qint64 magnitude = 0; ///< digits before the full stop after applying the exponent
 };
 
 Digits cutDigits(QStringView text, qsizetype at)
@@ -137,7 +137,7 @@ qint32 leadingInteger(QStringView text)
 
 QString floatText(float value)
 {
-    // Not-tested marks and small whole numbers are nearly all that a file holds: those texts are shared.
+    // Nearly all numbers in a file are -1 (not tested) or small whole numbers, so their texts are shared.
     constexpr int firstShared = -1;
     constexpr int lastShared = 255;
     static const auto shared = [] {

@@ -5,13 +5,14 @@
 #include <QString>
 #include <QStringView>
 
-/// Numbers as text. Reading and writing for files never depend on a locale; localizeAndTrimZeros is for showing.
+/// Numbers as text. The `leading` functions and floatText are for files and never depend on the locale; the other
+/// functions use the user's locale.
 namespace brinemark
 {
 
-/// The decimal number at the start of a text: blanks, sign, digits with a full stop, exponent. Whatever follows is not
-/// looked at; without a number 0. A number beyond the type's range reads as the largest finite one, one too small to
-/// hold as 0.
+/// The decimal number at the start of a text: blanks, sign, digits with a full stop, exponent. The rest of the text is
+/// ignored; 0 when there is no number. A number beyond the type's range gives the largest finite value, one that is too
+/// small for the type gives 0.
 [[nodiscard]] double leadingNumber(QStringView text);
 [[nodiscard]] float leadingFloat(QStringView text);
 
@@ -23,15 +24,15 @@ namespace brinemark
 /// gives "0".
 [[nodiscard]] QString floatText(float value);
 
-/// What a person typed: a whole text in the user's notation, or else the number at its start with a full stop.
+/// The number that a person typed: the whole text in the user's notation or, if that fails, the number at its start
+/// with a full stop as decimal separator.
 [[nodiscard]] double typedNumber(const QString &typed);
 [[nodiscard]] float typedFloat(const QString &typed);
 
-/// A number as shown in a field that can be typed over: the user's decimal separator, no grouping, up to so many
-/// significant digits.
+/// A number for an editable field: the user's decimal separator, no grouping, at most `digits` significant digits.
 [[nodiscard]] QString shownNumber(double value, int digits);
 
-/// A number as shown: three decimals, the user's decimal separator, trailing zeros removed down to one decimal.
+/// A number for display: three decimals, the user's decimal separator, trailing zeros removed down to one decimal.
 [[nodiscard]] QString localizeAndTrimZeros(float value);
 
 } // namespace brinemark

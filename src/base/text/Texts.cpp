@@ -42,7 +42,7 @@ QStringList languageChain(const QStringList &languages)
     };
     for (QString language : languages) {
         QStringList parts = language.replace(QLatin1Char('-'), QLatin1Char('_')).split(QLatin1Char('_'));
-        // A script ("en_Latn_US") says nothing that our tables distinguish.
+        // Drop the script ("en_Latn_US"): no string table is specific to one.
         if (parts.size() > 1 && parts.at(1).size() == 4)
             parts.removeAt(1);
         for (; !parts.isEmpty(); parts.removeLast())
@@ -52,8 +52,8 @@ QStringList languageChain(const QStringList &languages)
     return chain;
 }
 
-/// The tables of the chosen languages. None of them is installed in the application object: the toolkit's own texts and
-/// ours have nothing to do with each other.
+/// The tables of the chosen languages. They are not installed in the application object, so that they do not affect the
+/// toolkit's own texts.
 class Tables
 {
 public:
@@ -112,7 +112,7 @@ private:
     std::vector<std::unique_ptr<QTranslator>> m_tables;
 };
 
-/// What "%i" shows: fractions cut off, 0 for what is not a number.
+/// The number that "%i" shows: truncated, 0 for a value that is not a number.
 qint64 wholeNumber(const QVariant &value)
 {
     if (value.typeId() != QMetaType::Double && value.typeId() != QMetaType::Float)

@@ -8,7 +8,7 @@
 
 #include <cstddef>
 
-/// Texts that a person reads, looked up by key in the user's language.
+/// Texts shown to the user, looked up by key in the user's language.
 namespace brinemark
 {
 
@@ -41,7 +41,7 @@ enum class TextTable {
     Transfer, ///< "QZCURLTaskStrings": the transfer task
 };
 
-/// The text of a key in the first language of the user's chain that holds it; the key itself when none does.
+/// The text of a key in the first language of the user's chain that has it; the key itself when none has.
 [[nodiscard]] QString text(TextKey key, TextTable table = TextTable::Default);
 [[nodiscard]] bool hasText(TextKey key, TextTable table = TextTable::Default);
 
@@ -49,19 +49,19 @@ enum class TextTable {
 /// number.
 [[nodiscard]] double numberOfText(TextKey key, TextTable table = TextTable::Default);
 
-/// Chooses the languages, best first ("de-AT" or "de_AT"); each also brings its general form ("de"), and English ends
-/// the chain. Without a call the system's languages are used.
+/// Chooses the languages, best first ("de-AT" or "de_AT"); each is followed by its general form ("de"), and English is
+/// the last. Without a call the system's languages are used.
 void setTextLanguages(const QStringList &languages);
 
 /// The chain in use, such as {"de_AT", "de", "en"}.
 [[nodiscard]] QStringList textLanguages();
 
-/// Replaces the first occurrence of each of "^0", "^1", "^2" ... by the value of that place. A placeholder inside a
-/// value stays as it is; one without a value too.
+/// Replaces the first occurrence of each of "^0", "^1", "^2" ... by the value with that index. Placeholders inside a
+/// value and placeholders without a value stay unchanged.
 [[nodiscard]] QString fillPlaceholders(const QString &text, const QStringList &values);
 
 /// Fills "%@" (text) and "%i" (whole number) in order of appearance; "%%" is a per-cent sign. A missing value gives an
-/// empty text; surplus values are not used, other notations stand as they are.
+/// empty text; surplus values are ignored; other sequences with a per-cent sign are copied unchanged.
 [[nodiscard]] QString formatText(const QString &format, const QVariantList &values);
 
 } // namespace brinemark

@@ -52,7 +52,7 @@ bool TypedDate::readMark(QChar mark)
         return true;
     skipBlanks();
     if (m_rest.isEmpty())
-        return true; // a mark at the end; a field that is missing will say so itself
+        return true; // marks at the end may be missing; readField() reports a missing field
     if (m_rest.front() != mark && !(isSeparator(m_rest.front()) && isSeparator(mark)))
         return false;
     m_rest = m_rest.sliced(1);
@@ -90,7 +90,7 @@ bool TypedDate::readYear()
     return m_hasYear;
 }
 
-/// Takes the longest name that the text begins with, in full or short.
+/// Consumes the longest name, full or abbreviated, that the text begins with.
 bool TypedDate::readName(int &number, int count, QString (QLocale::*nameOf)(int, QLocale::FormatType) const)
 {
     qsizetype longest = 0;

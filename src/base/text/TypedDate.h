@@ -9,23 +9,24 @@
 namespace brinemark
 {
 
-/// A date that a person typed, read from the left as dateFromCalendarText (base/text/DateText.h) says: field by field,
-/// with the marks between them. Each step answers whether the text has what was asked for.
+/// Reads a date that a person typed, by the rules of dateFromCalendarText (base/text/DateText.h). The caller reads the
+/// fields and the marks between them from left to right; readField() and readMark() return whether the text continues
+/// with them.
 class TypedDate
 {
 public:
-    /// Both must live as long as this does.
+    /// Text and locale must outlive this object.
     TypedDate(QStringView text, const QLocale &locale);
 
     bool readField(char16_t field);
     bool readMark(QChar mark);
 
-    /// Invalid when something is missing or left over.
+    /// The date; invalid when a field is missing or text is left over.
     [[nodiscard]] QDate day() const;
 
 private:
     void skipBlanks();
-    int readNumber(int &number, int mostDigits); ///< answers how many digits there were
+    int readNumber(int &number, int mostDigits); ///< returns the number of digits read
     bool readYear();
     bool readName(int &number, int count, QString (QLocale::*nameOf)(int, QLocale::FormatType) const);
 
