@@ -9,7 +9,7 @@
 namespace brinemark
 {
 
-/// An amount of money exactly as it was given: nothing, a whole number or a real one.
+/// An amount of money in the type in which it was given: none, a whole number or a real number.
 class Amount
 {
 public:
@@ -30,10 +30,10 @@ public:
     [[nodiscard]] bool isNone() const { return std::holds_alternative<std::monostate>(m_value); }
     [[nodiscard]] const qint64 *integer() const { return std::get_if<qint64>(&m_value); }
     [[nodiscard]] const double *real() const { return std::get_if<double>(&m_value); }
-    [[nodiscard]] double toDouble() const; ///< 0 when there is none and when it is not a number
+    [[nodiscard]] double toDouble() const; ///< 0 for none and for NaN
 
     [[nodiscard]] QVariant toVariant() const; ///< invalid, qlonglong or double
-    /// Takes whole numbers as whole, other numbers as real, text by its leading number; anything else is none.
+    /// Whole numbers stay whole, other numbers become real, a text gives its leading number; any other type gives none.
     [[nodiscard]] static Amount fromVariant(const QVariant &value);
 
     friend bool operator==(const Amount &, const Amount &) = default;

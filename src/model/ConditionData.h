@@ -12,7 +12,7 @@ namespace brinemark
 /// The value of a parameter that was not measured. Any negative value counts as not tested.
 inline constexpr qint32 notTested = -1;
 
-/// One water test. Calcium, carbon dioxide and magnesium are whole numbers on purpose.
+/// One water test. Calcium, carbon dioxide and magnesium are whole numbers because the tank file stores them as such.
 struct ConditionData final : Record {
     QDateTime date;
     float ph = notTested;
@@ -37,7 +37,8 @@ struct ConditionData final : Record {
     explicit ConditionData(Blank) {}
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Condition; }
-    [[nodiscard]] std::shared_ptr<Record> copy() const override; ///< all but magnesium, which is not tested in a copy
+    /// Copies all but magnesium, which is not tested in the copy.
+    [[nodiscard]] std::shared_ptr<Record> copy() const override;
 };
 
 } // namespace brinemark

@@ -62,7 +62,7 @@ void Container::readArray(const plist::Value *records, const plist::Value *attri
         for (const plist::Value &record : array)
             appendFromDict(plistfield::dictOf(record, traits().fileKey));
     }
-    // Livestock attributes are written, but a group always shows in the order in which it was left.
+    // The sort attributes of livestock lists are written but not read: their records keep the order of the file.
     if (traits().sortedOnLoad) {
         static const plist::Dict none;
         readAttributes(attributes ? plistfield::dictOf(*attributes, traits().fileKey) : none);

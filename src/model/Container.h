@@ -15,8 +15,8 @@ namespace brinemark
 
 class Tank;
 
-/// One of a tank's nine collections, whatever its records are: an ordered list with a name and a sort order. The list
-/// shows in the order in which it stands; sorting reorders it in place.
+/// Base of a tank's nine record lists, independent of the record type: an ordered list with a name and a sort order.
+/// Views show the records in list order; sorting reorders the list itself.
 class Container
 {
 public:
@@ -38,21 +38,21 @@ public:
     [[nodiscard]] virtual int count() const = 0;
     [[nodiscard]] bool isEmpty() const { return count() == 0; }
     [[nodiscard]] virtual std::shared_ptr<Record> recordAt(int index) const = 0;
-    [[nodiscard]] virtual int
-    indexOf(const Record *record) const = 0; ///< the first place by identity, -1 when it is not here
+    /// The index of the first occurrence of this very object; -1 when it is not in the list.
+    [[nodiscard]] virtual int indexOf(const Record *record) const = 0;
     [[nodiscard]] bool contains(const Record *record) const { return indexOf(record) >= 0; }
 
-    /// Puts the record, which must be of this container's kind, before the one at `index`; past the end it is appended.
-    /// Leaves the record's tank alone: see `Tank::insertItemData` for the whole operation.
+    /// Inserts the record, which must be of this container's kind, before `index`; past the end it is appended. Does
+    /// not set the record's tank; `Tank::insertItemData` does both.
     virtual void insertRecord(std::shared_ptr<Record> record, int index) = 0;
     void appendRecord(std::shared_ptr<Record> record) { insertRecord(std::move(record), count()); }
-    /// Takes the record out and answers it. An index out of range is a programming error.
+    /// Removes the record and returns it. An index out of range is a programming error.
     virtual std::shared_ptr<Record> removeRecordAt(int index) = 0;
     virtual void removeEveryOccurrence(const Record *record) = 0;
     virtual void clear() = 0;
 
-    /// Stores direction and identifier, then sorts in place; descending is the exact negation of ascending. What the
-    /// identifiers mean is said in ContainerSort.cpp. Equal records keep their order.
+    /// Stores direction and identifier, then sorts in place; descending is the exact negation of ascending.
+    /// ContainerSort.cpp defines what each identifier sorts by. Equal records keep their order.
     void sortWithIdentifier(const QString &identifier, bool ascending);
     void sort(); ///< with the stored identifier and direction
 
@@ -60,7 +60,7 @@ public:
     [[nodiscard]] plist::Array dictArray() const;
     [[nodiscard]] virtual plist::Dict listAttributesDict() const;
 
-    /// Appends the records of a file's array, then takes its attributes. Either may be missing (null).
+    /// Appends the records of a file's array, then applies the file's list attributes. Either may be missing (null).
     /// \throws TankReadError when a record cannot be read
     void readArray(const plist::Value *records, const plist::Value *attributes);
 

@@ -18,15 +18,15 @@ struct Record;
 /// The nine containers of a tank in the fixed order of its `tankItemsArray`.
 enum class ContainerKind { Fish, Plant, Invert, Coral, Condition, Schedule, Inventory, Expense, Note };
 
-/// What the nine containers differ in.
+/// The properties in which the nine containers differ.
 struct ContainerTraits {
     ContainerKind kind;
     TextKey nameKey;             ///< key of the display name's text
     QStringView listKey;         ///< names the record list in insert, remove and scripting operations
     QStringView fileKey;         ///< names the container in the tank file
-    QStringView attributePrefix; ///< stands before "SortAscending" and "SortIdentifier" in the tank file
+    QStringView attributePrefix; ///< prefix of "SortAscending" and "SortIdentifier" in the tank file
     QStringView sortIdentifier;  ///< of a new container
-    bool sortedOnLoad;           ///< whether the file's sort attributes are taken and applied
+    bool sortedOnLoad;           ///< whether the file's sort attributes are read and applied
     ItemContext itemContext;     ///< `None` for the journals
 
     [[nodiscard]] constexpr bool isLivestock() const { return itemContext != ItemContext::None; }
@@ -57,7 +57,7 @@ inline constexpr std::size_t containerCount = containerTraitsTable.size();
 [[nodiscard]] std::optional<ContainerKind> containerKindFromFileKey(QStringView fileKey);
 [[nodiscard]] std::optional<ContainerKind> containerKindOf(ItemContext context);
 
-/// The container that a record belongs in; none for targets and for item data of no kind.
+/// The container for a record; none for targets and for item data whose context is `None`.
 [[nodiscard]] std::optional<ContainerKind> containerKindOf(const Record &record);
 
 } // namespace brinemark

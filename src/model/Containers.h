@@ -2,7 +2,7 @@
 
 #pragma once
 
-// All nine containers of a tank and, through them, all record types.
+// Includes all nine containers of a tank and, through them, all record types.
 #include "model/Condition.h"
 #include "model/Coral.h"
 #include "model/Expense.h"

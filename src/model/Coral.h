@@ -21,7 +21,7 @@ public:
     [[nodiscard]] Records &coralArray() { return records(); }
     [[nodiscard]] const Records &coralArray() const { return records(); }
 
-    /// Each record's name and scientific name, then, when there is any record, the container's name.
+    /// Each record's name and scientific name, then the container's name; empty without records.
     [[nodiscard]] QStringList coralMetaArray() const { return livestockMetaArray(*this); }
 };
 

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] Records &expenseArray() { return records(); }
     [[nodiscard]] const Records &expenseArray() const { return records(); }
 
-    /// The first five texts, each followed by a comma and a blank.
+    /// The texts of the first five records, each followed by a comma and a blank.
     [[nodiscard]] QString metaExpenseString() const { return journalMetaString(*this, u"expense"); }
 };
 

@@ -9,7 +9,7 @@
 namespace brinemark
 {
 
-/// A thing that the keeper owns, and how many.
+/// An item that the keeper owns, and its number.
 struct InventoryData final : Record {
     QString item;
     qint32 count = 1;

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] Records &invertArray() { return records(); }
     [[nodiscard]] const Records &invertArray() const { return records(); }
 
-    /// Each record's name and scientific name, then, when there is any record, the container's name.
+    /// Each record's name and scientific name, then the container's name; empty without records.
     [[nodiscard]] QStringList invertMetaArray() const { return livestockMetaArray(*this); }
 };
 

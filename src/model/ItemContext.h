@@ -7,8 +7,7 @@
 namespace brinemark
 {
 
-/// The number that names a livestock kind everywhere (records, item editor, search). `None` is what plain item data
-/// answers.
+/// Identifies a livestock kind in records, item editor and search. Plain item data has `None`.
 enum class ItemContext : qint32 { None = -1, Fish = 1, Plant = 2, Coral = 3, Invert = 4 };
 
 } // namespace brinemark

@@ -42,13 +42,15 @@ struct ItemData : Record {
 
     [[nodiscard]] virtual ItemContext itemContext() const { return ItemContext::None; }
 
-    void setItemImageWithData(const QByteArray &imageData); ///< no data gives no image
+    void setItemImageWithData(const QByteArray &imageData); ///< empty data gives no image
 
-    /// The word for a code: an element of the text of "ReefSafeMenu" (yes, no, unknown); any other code is unknown.
+    /// The display text of a code: an element of the text "ReefSafeMenu" (yes, no, unknown); any other code gives
+    /// unknown.
     [[nodiscard]] static QString reefSafeStringFromCode(qint32 code);
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Item; }
-    [[nodiscard]] std::shared_ptr<Record> copy() const override; ///< all but `reefSafe`, which is unknown in a copy
+    /// Copies all but `reefSafe`, which is unknown in the copy.
+    [[nodiscard]] std::shared_ptr<Record> copy() const override;
 };
 
 } // namespace brinemark

@@ -46,7 +46,7 @@ QByteArray ItemImage::fileData() const
 {
     if (m_encoded.isEmpty() || m_encoded.startsWith("\x89PNG\r\n\x1a\n"))
         return m_encoded;
-    // Once only, and without keeping the decoded picture: a file may hold thousands that nobody looks at.
+    // Convert only once, and do not keep the decoded picture: a file may hold thousands that are never shown.
     const QByteArray png = m_converted ? QByteArray() : pngOf(m_looked ? m_decoded : QImage::fromData(m_encoded));
     m_converted = true;
     if (!png.isEmpty())

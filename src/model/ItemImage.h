@@ -8,12 +8,12 @@
 namespace brinemark
 {
 
-/// The picture of a livestock record: encoded bytes, decoded only when somebody looks.
+/// The picture of a livestock record: encoded bytes, decoded when first needed.
 class ItemImage
 {
 public:
     ItemImage() = default;
-    /// Encoded bytes of any image format; not looked at before `image()` or `fileData()`.
+    /// Encoded bytes of any image format; not examined before `image()` or `fileData()` is called.
     explicit ItemImage(const QByteArray &encoded)
         : m_encoded(encoded)
     {
@@ -24,17 +24,17 @@ public:
     [[nodiscard]] bool isNone() const { return m_encoded.isEmpty(); }
     [[nodiscard]] const QByteArray &encoded() const { return m_encoded; }
 
-    /// The decoded picture, null when there is none or when the bytes are no picture. Kept after the first call.
+    /// The decoded picture; null when there is none or the bytes cannot be decoded. Cached by the first call.
     [[nodiscard]] QImage image() const;
 
-    /// The bytes for the tank file. PNG bytes go as they are, other pictures as PNG; bytes that are no picture stay as
-    /// they came, so that saving never loses what was in the file.
+    /// The bytes for the tank file. PNG bytes are returned unchanged, other formats are converted to PNG. Bytes that
+    /// cannot be decoded are returned unchanged too, so that saving never loses them.
     [[nodiscard]] QByteArray fileData() const;
 
     friend bool operator==(const ItemImage &a, const ItemImage &b) { return a.m_encoded == b.m_encoded; }
 
 private:
-    mutable QByteArray m_encoded; ///< becomes PNG when it is first saved
+    mutable QByteArray m_encoded; ///< converted to PNG by `fileData()`
     mutable bool m_converted = false;
     mutable QImage m_decoded;
     mutable bool m_looked = false;

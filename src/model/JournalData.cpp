@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the plain record types do beyond holding fields: the values of a new record, and copying by the field tables.
+// Constructors and copying of the record types that otherwise only hold fields.
 
 #include "base/Clock.h"
 #include "base/text/Texts.h"

@@ -31,7 +31,7 @@ struct InvertData final : ItemData {
     [[nodiscard]] ItemContext itemContext() const override { return ItemContext::Invert; }
 };
 
-/// A new record of the kind; for `None` plain item data.
+/// A new record of the kind; plain item data for `None`.
 [[nodiscard]] std::shared_ptr<ItemData> makeItemData(ItemContext context, Tank *parent);
 
 } // namespace brinemark

@@ -11,7 +11,7 @@ namespace brinemark
 
 ModelContext &ModelContext::sharedInstance()
 {
-    // Never destroyed: observers of static lifetime may outlive any order of destruction.
+    // Never destroyed, because observers of static lifetime deregister at exit in an unknown order.
     static auto *context = new ModelContext;
     return *context;
 }
@@ -69,7 +69,7 @@ void ModelContext::shouldShowWindow(bool show) const
 
 void ModelContext::notify(const std::function<void(ModelObserver &)> &tell) const
 {
-    // Of the observers at this moment, those that a notice does not take away.
+    // A notice may add or destroy observers: iterate over a copy, and skip observers that no longer exist.
     const std::vector<ModelObserver *> observers = m_observers;
     for (ModelObserver *observer : observers) {
         if (std::find(m_observers.begin(), m_observers.end(), observer) != m_observers.end())

@@ -12,18 +12,18 @@ namespace brinemark
 
 class TankList;
 
-/// What the model shares process-wide: the application's tank list, the rescheduling rule and the observers.
+/// The model's process-wide state: the application's tank list, the rescheduling rule and the observers.
 class ModelContext
 {
 public:
     static ModelContext &sharedInstance();
 
-    /// The list that its owner, the tank tree, handed in; null before that.
+    /// The application's tank list, set by its owner, the tank tree; null before that.
     [[nodiscard]] TankList *appTankList() const { return m_appTankList; }
     void setAppTankList(TankList *list) { m_appTankList = list; }
 
-    /// The completion rule, which belongs to the schedule: run by `ScheduleData::setComplete` on what reschedules
-    /// itself.
+    /// The rule that `ScheduleData::setComplete` runs on an activity with `autoReschedule`. Set from outside, because
+    /// the rule belongs to the journals, which the model does not link.
     using ReScheduleRule = std::function<void(ScheduleData &)>;
     void setReScheduleRule(ReScheduleRule rule) { m_reScheduleRule = std::move(rule); }
     void reScheduleIfNeeded(ScheduleData &record) const;
@@ -31,7 +31,7 @@ public:
     /// Whether reading a schedule looks for overdue activities: the preference "activityOverdue".
     [[nodiscard]] bool checksOverdue() const;
 
-    // Notices to every observer.
+    // Each of these notifies every observer.
     void listGainedRecord(Tank &tank, ContainerKind kind) const;
     void listLostRecord(Tank &tank, ContainerKind kind) const;
     void postDoneChecked(ScheduleData &record) const;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A tank from the older file form: an array of an attribute array and five record arrays, from the time when a tank had
-// fish, water tests, a schedule, an inventory and notes only.
+// Reads a tank of the older file form: an array that contains an attribute array and five record arrays. A tank then
+// had fish, water tests, a schedule, an inventory and notes only.
 
 #include "model/PlistField.h"
 #include "model/Tank.h"
@@ -14,7 +14,7 @@ namespace brinemark
 namespace
 {
 
-/// The lists of the older form, in its order; the first stands at index 1 of both arrays.
+/// The lists of the older form, in file order; the first is at index 1 of both arrays.
 constexpr std::array<ContainerKind, 5> olderLists{ContainerKind::Fish, ContainerKind::Condition,
                                                   ContainerKind::Schedule, ContainerKind::Inventory,
                                                   ContainerKind::Note};
@@ -42,7 +42,7 @@ void readTargets(Tank &tank, const plist::Dict &properties)
         readRange(Parameter::Salt, Parameter::Iron);
         return;
     }
-    // The defaults begin at salt, yet a salt target that the file holds is the keeper's own and stays.
+    // The marine defaults include salt; a salt target in the file takes precedence.
     tank.createDefaultMarineWarningValues();
     if (has(Parameter::Salt))
         readRange(Parameter::Salt, Parameter::Salt);
@@ -59,7 +59,7 @@ std::shared_ptr<Tank> Tank::fromArray(const plist::Array &olderTank)
     readTankProperties(*tank, properties);
     readTargets(*tank, properties);
 
-    // Attributes of more lists than the form knows: such a tank has its properties and targets only.
+    // If there are attributes for more lists than the older form has, read only the tank's properties and targets.
     tank->m_listsShown = attributes.size() <= olderLists.size() + 1;
     if (!tank->m_listsShown)
         return tank;

@@ -25,7 +25,8 @@ namespace
     throw TankReadError(QStringLiteral("the value of \"%1\" is of the wrong kind").arg(key));
 }
 
-/// The value under whichever of its simple types it has; `otherwise` answers for the rest.
+/// Converts a text with `ofText`, a number or flag (as 1 or 0) with `ofDouble`.
+/// \throws TankReadError for any other type
 template <class Result, class OfText>
 Result numberOf(const plist::Value &value, QStringView key, OfText ofText, Result (*ofDouble)(double))
 {
@@ -115,7 +116,7 @@ QString flagText(bool flag)
 
 QString integerText(qint32 number)
 {
-    // floatText shares the texts of the small numbers that nearly every field holds.
+    // floatText() shares the texts of small numbers, which most fields hold.
     return number >= -1 && number <= 255 ? floatText(float(number)) : QString::number(number);
 }
 

@@ -5,8 +5,9 @@
 #include "base/plist/Value.h"
 #include "model/Amount.h"
 
-/// Property-list values as the fields of the model. Files keep many numbers and flags as texts; a number or flag that
-/// stands as such reads the same. A value of a kind that cannot say what is wanted throws TankReadError, naming `key`.
+/// Conversion between property-list values and the model's fields. Files hold many numbers and flags as texts; values
+/// stored as numbers or flags read the same. For a value of a type that cannot be converted, the functions throw
+/// TankReadError, which names `key`.
 namespace brinemark::plistfield
 {
 
@@ -18,18 +19,19 @@ namespace brinemark::plistfield
 [[nodiscard]] double doubleOf(const plist::Value &value, QStringView key);
 [[nodiscard]] qint32 integerOf(const plist::Value &value, QStringView key);
 [[nodiscard]] bool flagOf(const plist::Value &value, QStringView key);
-[[nodiscard]] QDateTime dateOf(const plist::Value &value, QStringView key); ///< null when the text is no date
+[[nodiscard]] QDateTime dateOf(const plist::Value &value, QStringView key); ///< null when the text is not a date
 [[nodiscard]] Amount amountOf(const plist::Value &value, QStringView key);
 [[nodiscard]] QByteArray dataOf(const plist::Value &value, QStringView key);
 
 [[nodiscard]] QString flagText(bool flag);
 [[nodiscard]] QString integerText(qint32 number);
-/// The double of fewest digits that reads back to this float (7.2f gives 7.2, not 7.199999809...); 0 for no number.
+/// The double of fewest digits that converts back to this float (7.2f gives 7.2, not 7.199999809...); 0 when the float
+/// is not finite.
 [[nodiscard]] double neatDouble(float number);
 
-/// A double as a whole number of 32 bits: cut toward zero, clamped; 0 for no number.
+/// A double as a whole number of 32 bits: truncated toward zero, clamped; 0 for NaN.
 [[nodiscard]] qint32 wholeNumber(double number);
-/// A double in single precision, clamped to finite values; 0 for no number.
+/// A double in single precision, clamped to finite values; 0 for NaN.
 [[nodiscard]] float singlePrecision(double number);
 
 } // namespace brinemark::plistfield

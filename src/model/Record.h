@@ -9,25 +9,24 @@
 namespace brinemark
 {
 
-/// The seven shapes of record. The four livestock kinds share one shape (see `ItemData::itemContext`).
+/// The seven record types. The four livestock kinds share one (see `ItemData::itemContext`).
 enum class RecordType { Item, Condition, Schedule, Inventory, Expense, Note, Target };
 
-/// Asks a record's constructor for plain values (zero, not tested, no date, no text) instead of the values of a new
-/// record: for records whose fields are about to be filled from a file.
+/// Constructor tag for records whose fields will be read from a file: gives plain values (zero, not tested, no date, no
+/// text) instead of those of a new record.
 struct Blank {
 };
 
-/// What all records of a tank have in common. Records are held by `std::shared_ptr`, so that an undo step keeps a
-/// deleted one alive.
+/// Base of all records of a tank. Records are held by `std::shared_ptr`, so that an undo step keeps a deleted one
+/// alive.
 struct Record : std::enable_shared_from_this<Record> {
-    TankRef tank; ///< the tank that it belongs to or, after its removal, belonged to
+    TankRef tank; ///< the record's tank; after the record's removal, its former tank
 
     virtual ~Record();
 
     [[nodiscard]] virtual RecordType recordType() const = 0;
 
-    /// A new record of the same class without a tank, filled by the class's own rules: some fields are left out on
-    /// purpose.
+    /// A copy without a tank. Each class decides which fields it copies: some are left out on purpose.
     [[nodiscard]] virtual std::shared_ptr<Record> copy() const = 0;
 
 protected:
@@ -40,7 +39,7 @@ protected:
     Record &operator=(const Record &) = delete;
 };
 
-/// `record.copy()` under the record's own type.
+/// `record.copy()` as the record's own type.
 template <class R>
 [[nodiscard]] std::shared_ptr<R> copyOf(const R &record)
 {

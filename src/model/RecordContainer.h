@@ -12,7 +12,7 @@
 namespace brinemark
 {
 
-/// The list of a container under its records' own type.
+/// A container whose records have the type R.
 template <class R>
 class RecordContainer : public Container
 {

@@ -7,7 +7,7 @@
 namespace brinemark
 {
 
-/// Copies the fields that the table marks as copied, in its order and through setters where there are any.
+/// Copies the fields that the field table marks as copied, in the table's order, through setters where fields have one.
 template <class R>
 void copyFields(const R &from, R &to)
 {

@@ -26,8 +26,8 @@ constexpr std::u16string_view characters(QStringView text)
     return {text.utf16(), std::size_t(text.size())};
 }
 
-/// A table's places ordered by file key. Dictionaries are ordered by key as well, so that reading and writing a record
-/// walk both side by side instead of searching for each key.
+/// The indices of a field table, ordered by file key. Dictionaries are ordered by key too, so reading and writing a
+/// record walk both in parallel instead of searching for each key.
 template <class R>
 constexpr auto fileOrder = [] {
     constexpr auto &fields = FieldTable<R>::fields;
@@ -41,7 +41,8 @@ constexpr auto fileOrder = [] {
     return order;
 }();
 
-/// The file key as a string over the literal's own characters: copies cost neither memory nor counting.
+/// The file key as a string that refers to the literal's characters, so that copies need neither memory nor reference
+/// counting.
 template <class R>
 const QString &fileKeyString(std::size_t field)
 {
@@ -56,7 +57,8 @@ const QString &fileKeyString(std::size_t field)
     return keys[field];
 }
 
-// Reading, by the member's type. Encodings matter for writing only: a number reads the same however it stands.
+// take(): reads a value into a member, by the member's type. The encoding matters for writing only: a number reads the
+// same in every encoding.
 void take(float &member, const plist::Value &value, QStringView key)
 {
     member = plistfield::floatOf(value, key);
@@ -114,7 +116,7 @@ void readFields(R &record, const plist::Dict &dict)
     }
 }
 
-// Writing, by member type and encoding.
+// give(): the file value of a member, by its type and encoding.
 plist::Value give(float member, Encoding encoding)
 {
     if (encoding == Encoding::Real)
@@ -152,7 +154,8 @@ plist::Value give(const ItemImage &member, Encoding)
 template <class R>
 plist::Value valueOf(const R &record, const Field<R> &field)
 {
-    // A target without a name had none in its file; every other text is needed again on reading, even when it is empty.
+    // A target name is null when the file had none, and is not written. Other texts are written even when empty,
+    // because reading requires them.
     if constexpr (std::is_same_v<R, TankData>) {
         if (const auto *member = std::get_if<QString R::*>(&field.member); member && (record.**member).isNull())
             return {};

@@ -11,8 +11,8 @@ namespace brinemark
 class Tank;
 enum class ContainerKind;
 
-/// Fills a blank record from its file form; the table of its fields says what a missing key means.
-/// \throws TankReadError when a needed text is missing or a value is of a kind that the field cannot take
+/// Fills a blank record from its file form; the record's field table defines what a missing key means.
+/// \throws TankReadError when a required text is missing or a value cannot be converted to its field's type
 void readRecord(ItemData &record, const plist::Dict &dict);
 void readRecord(ConditionData &record, const plist::Dict &dict);
 void readRecord(ExpenseData &record, const plist::Dict &dict);
@@ -21,11 +21,12 @@ void readRecord(NoteData &record, const plist::Dict &dict);
 void readRecord(ScheduleData &record, const plist::Dict &dict);
 void readRecord(TankData &record, const plist::Dict &dict);
 
-/// A record of the container's kind, built from its file form and belonging to the tank (but in none of its lists).
+/// A record of the container's kind, built from its file form. Its tank is `parent`, but it is in none of the tank's
+/// lists.
 /// \throws TankReadError as readRecord does
 [[nodiscard]] std::shared_ptr<Record> recordFromDict(ContainerKind kind, const plist::Dict &dict, Tank *parent);
 
-/// The file form of a record. Dates, amounts, pictures and target names that are not there have no key.
+/// The file form of a record. Missing dates, amounts, pictures and target names have no key.
 [[nodiscard]] plist::Dict recordDict(const Record &record);
 
 /// One value of the file form; none when there is no such key.

@@ -13,7 +13,7 @@ namespace brinemark
 namespace
 {
 
-/// 00:00:00 (or the day's first moment, where clocks skip it) of the date's day in the date's own zone.
+/// The first moment of the date's day in the date's own zone: 00:00:00, or later when a clock change skips it.
 QDateTime dayStart(const QDateTime &date)
 {
     switch (date.timeSpec()) {

@@ -21,16 +21,16 @@ public:
     [[nodiscard]] Records &scheduleArray() { return records(); }
     [[nodiscard]] const Records &scheduleArray() const { return records(); }
 
-    /// Whether the activity's due day, in the time zone of its own date, has begun; if so it is announced to the
-    /// overdue notice (`ModelObserver::setNotificationData`). An activity without a date is never due.
+    /// Whether the activity's due day, in the time zone of its own date, has begun. If so, sends the notice
+    /// `ModelObserver::setNotificationData`. An activity without a date is never due.
     bool warningDateCheck(const std::shared_ptr<ScheduleData> &record, Tank *parent);
 
     /// The first five activities, each followed by a comma and a blank.
     [[nodiscard]] QString metaScheduleString() const { return journalMetaString(*this, u"activity"); }
 
 protected:
-    void appendFromDict(const plist::Dict &dict) override; ///< also runs the overdue check on what is not done
-    void finishedReading() override;                       ///< asks for the overdue notice when anything was due
+    void appendFromDict(const plist::Dict &dict) override; ///< also checks whether an unfinished activity is overdue
+    void finishedReading() override;                       ///< sends `shouldShowWindow` when an activity was due
 
 private:
     bool m_foundOverdue = false;

@@ -13,7 +13,7 @@ namespace brinemark
 template <class R>
 struct FieldTable;
 
-/// A maintenance activity. While `autoReschedule` is off, setting it keeps `nextDate` at 0.
+/// A maintenance activity.
 struct ScheduleData final : Record {
     QDateTime date; ///< when it is due
     QString activity;
@@ -23,17 +23,17 @@ struct ScheduleData final : Record {
     explicit ScheduleData(Blank) {}
 
     [[nodiscard]] bool complete() const { return m_complete; }
-    /// Stores the mark, reschedules when `autoReschedule` is on and announces "DoneChecked".
+    /// Stores the done mark, reschedules when `autoReschedule` is on, then sends "DoneChecked".
     void setComplete(bool complete);
 
     [[nodiscard]] bool autoReschedule() const { return m_autoReschedule; }
     void setAutoReschedule(bool autoReschedule); ///< off sets `nextDate` to 0
 
-    /// Runs the rescheduling rule that the schedule has registered with the model context.
+    /// Runs the rescheduling rule that ModelContext holds.
     void reScheduleIfNeeded();
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Schedule; }
-    [[nodiscard]] std::shared_ptr<Record> copy() const override; ///< announces "DoneChecked" for the copy
+    [[nodiscard]] std::shared_ptr<Record> copy() const override; ///< also sends "DoneChecked" for the copy
 
 private:
     friend struct FieldTable<ScheduleData>;

@@ -9,10 +9,10 @@ namespace brinemark
 
 class Container;
 
-/// Each record's name and scientific name in order, then, when there is any record, the container's name.
+/// Each record's name and scientific name in order, then the container's name; empty without records.
 [[nodiscard]] QStringList livestockMetaArray(const Container &livestock);
 
-/// The texts that a journal's first five records hold under the key, each followed by a comma and a blank.
+/// The texts of the field `key` in a journal's first five records, each followed by a comma and a blank.
 [[nodiscard]] QString journalMetaString(const Container &journal, QStringView key);
 
 } // namespace brinemark

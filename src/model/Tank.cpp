@@ -123,9 +123,9 @@ void Tank::insertItemData(const std::shared_ptr<Record> &record, QStringView arr
     Q_ASSERT(kind);
     Container &destination = *container(*kind);
     const TankList *tanks = ModelContext::sharedInstance().appTankList();
-    // The walk asks whether the destination holds the record, not whether the tank at hand does: a record that is in
-    // the destination is taken out of the first tank's list only, and one that is not is taken out of none. Whoever
-    // moves a record takes it out of its old tank himself and relies on this.
+    // The test asks whether the destination holds the record, not whether the first tank does. So a record that is
+    // already in the destination is removed from the first tank's list, and any other record from no list. Callers that
+    // move a record remove it from its old tank themselves and rely on this.
     if (record->tank && tanks && !tanks->isEmpty() && destination.contains(record.get()))
         tanks->at(0)->container(*kind)->removeEveryOccurrence(record.get());
     record->tank = this;

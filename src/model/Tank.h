@@ -18,7 +18,8 @@ namespace brinemark
 {
 
 /// One aquarium: its properties, nine containers and seventeen targets. Held by `std::shared_ptr`; owns its containers
-/// and targets. Inserting and removing registers no undo and counts no document change: controllers do both.
+/// and targets. Inserting and removing records neither registers an undo step nor counts a document change; controllers
+/// do both.
 class Tank : public std::enable_shared_from_this<Tank>
 {
 public:
@@ -43,15 +44,16 @@ public:
     bool coralExpanded = false;
     bool invertExpanded = false;
     QStringList expenseCategoryArray;
-    std::optional<qint64> bundleVersion; ///< of the file that the tank was read from; none for a tank created since
+    std::optional<qint64> bundleVersion; ///< of the file that the tank was read from; none for a new tank
 
-    [[nodiscard]] Tank *tank() { return this; } ///< a tank answers like a record's `tank`
+    [[nodiscard]] Tank *tank() { return this; } ///< for code that treats tanks and records alike
 
-    /// The row flag of a livestock group ("fishExpanded" ...); null for the journals, whose rows do not open.
+    /// The flag that a livestock group's tree row is expanded ("fishExpanded" ...); null for the journals, whose rows
+    /// have no children.
     [[nodiscard]] bool *expandedFlag(ContainerKind kind);
 
-    /// The nine containers in the order of ContainerKind. Empty for a tank whose older file held attributes for more
-    /// lists than that form knows: such a tank shows no lists, though the containers themselves exist, empty.
+    /// The nine containers in the order of ContainerKind. Empty for a tank of the older file form with attributes for
+    /// more lists than that form has: such a tank shows no lists, although its containers exist and are empty.
     [[nodiscard]] std::vector<Container *> tankItemsArray() const;
     [[nodiscard]] Container *container(ContainerKind kind) const { return m_containers[std::size_t(kind)].get(); }
     [[nodiscard]] Container *containerForListKey(QStringView listKey) const; ///< null for an unknown key
@@ -66,7 +68,7 @@ public:
     [[nodiscard]] Expense *expense() const { return as<Expense>(ContainerKind::Expense); }
     [[nodiscard]] Note *note() const { return as<Note>(ContainerKind::Note); }
 
-    // The record lists themselves, not copies.
+    // References to the record lists, not copies.
     [[nodiscard]] Fish::Records &fishListArray() const { return fish()->fishArray(); }
     [[nodiscard]] Plant::Records &plantListArray() const { return plant()->plantArray(); }
     [[nodiscard]] Invert::Records &invertListArray() const { return invert()->invertArray(); }
@@ -101,15 +103,15 @@ public:
     [[nodiscard]] TankData *magnesiumData() const { return target(Parameter::Magnesium); }
 
     void createDefaultWarningValues();       ///< replaces all targets by the defaults of the parameter table
-    void createDefaultMarineWarningValues(); ///< replaces the last ten, salt to magnesium, only
+    void createDefaultMarineWarningValues(); ///< replaces only the last ten, salt to magnesium
 
-    /// Puts a record into the list of the key: takes it out of a list first by a rule with an odd test (see Tank.cpp),
-    /// makes this its tank, then inserts before `index` or, past the end, appends.
+    /// Makes this the record's tank and inserts the record into the list of the key before `index`; past the end it is
+    /// appended. Before that it may remove the record from the first tank's list, by an unusual rule (see Tank.cpp).
     void insertItemData(const std::shared_ptr<Record> &record, QStringView arrayKey, int index);
-    /// Takes the record out; its `tank` stays. An index out of range is a programming error.
+    /// Removes the record; its `tank` is unchanged. An index out of range is a programming error.
     void removeWithArrayKey(QStringView arrayKey, int index);
 
-    // The same under each list's own name, followed by the notice to whoever shows the list (see ModelObserver).
+    // The same for each list by name, followed by a notice to the observers (see ModelObserver).
     void insertInFishListArray(const std::shared_ptr<FishData> &record, int index);
     void insertInPlantListArray(const std::shared_ptr<PlantData> &record, int index);
     void insertInInvertListArray(const std::shared_ptr<InvertData> &record, int index);
@@ -129,7 +131,7 @@ public:
     void removeFromInventoryListArrayAtIndex(int index);
     void removeFromExpenseListArrayAtIndex(int index);
 
-    // The same for a kind that is known only while running.
+    // The same for a kind that is known only at run time.
     void insertInList(ContainerKind kind, const std::shared_ptr<Record> &record, int index);
     void removeFromListAtIndex(ContainerKind kind, int index);
 
@@ -150,7 +152,7 @@ private:
         return static_cast<C *>(container(kind));
     }
 
-    std::shared_ptr<Tank *> m_anchor; ///< what the records' TankRefs hold; cleared when the tank goes
+    std::shared_ptr<Tank *> m_anchor; ///< shared with the records' TankRefs; set to null by ~Tank()
     bool m_listsShown = true;
     std::array<std::unique_ptr<Container>, containerCount> m_containers;
     std::array<std::shared_ptr<TankData>, parameterCount> m_targets;

@@ -11,7 +11,7 @@ namespace brinemark
 
 /// The target of one water parameter.
 struct TankData final : Record {
-    QString name; ///< the parameter's display name, fixed when the target is made; null when the file had none
+    QString name; ///< the parameter's display name when the target was created; null when the file had none
     float preferredValue = 0;
     bool warningOn = false;
     bool deviationOn = false; ///< a band around the preferred value is in use

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A tank to and from the current file form: its properties, its lists' attributes and its lists.
+// Converts a tank to and from the current file form: its properties, its lists' attributes and its lists.
 
 #include "model/PlistField.h"
 #include "model/Tank.h"
@@ -18,7 +18,8 @@ const auto listPropertiesKey = QStringLiteral("TankListProperties");
 const auto listsKey = QStringLiteral("TankLists");
 const auto bundleVersionKey = QStringLiteral("bundleVersion");
 
-/// The version as a number; 0 for one that says none, because only its presence counts and it refuses no tank.
+/// The version as a number. 0 when the value is not a number: only the presence of a version matters, so a malformed
+/// one must not make the tank unreadable.
 qint64 versionNumber(const plist::Value &version)
 {
     if (const qint64 *number = version.integer())
@@ -30,7 +31,7 @@ qint64 versionNumber(const plist::Value &version)
     }
 }
 
-/// The dictionary under a key, an empty one when it is missing.
+/// The dictionary under a key; an empty one when the key is missing.
 const plist::Dict &part(const plist::Dict &dict, const QString &key)
 {
     static const plist::Dict none;
@@ -52,7 +53,7 @@ std::shared_ptr<Tank> Tank::fromDict(const plist::Dict &tankDictionary)
     readTankProperties(*tank, properties);
     for (const ParameterTraits &traits : parameterTable)
         tank->setTarget(traits.parameter, readTarget(traits.parameter, properties));
-    // The last parameter to join: files from before it still show its name.
+    // Magnesium was added last: a tank from an older file gets a target with its name.
     if (!properties.contains(traitsOf(Parameter::Magnesium).targetFileKey))
         tank->setTarget(Parameter::Magnesium, plainTarget(Parameter::Magnesium));
     for (const auto &container : tank->m_containers) {

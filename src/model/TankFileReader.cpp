@@ -17,7 +17,7 @@ namespace brinemark
 namespace
 {
 
-/// Copies the file beside itself under another name. A copy that is already there stays: it is the older one.
+/// Copies the file to another name in the same folder. An existing copy is kept, because it holds the older state.
 void keepBackup(const QString &path)
 {
     const QFileInfo info(path);
@@ -32,7 +32,7 @@ int selectedRowOf(const plist::Dict &attributes)
     try {
         return row ? plistfield::integerOf(*row, tankfile::selectedRowKey) : 0;
     } catch (const TankReadError &) {
-        return 0; // a row is no reason to refuse a file
+        return 0; // an invalid row must not make the file unreadable
     }
 }
 
@@ -73,7 +73,7 @@ TankFileResult readTanks(const plist::Dict &root, const QString &path, TankList 
     if (callbacks.willReplaceTanks)
         callbacks.willReplaceTanks();
     tanks.clear();
-    // The attributes count as one entry, so that a file without them loses its last tank.
+    // One entry is taken to be the attributes, so a file without them loses its last tank.
     const int tankCount = int(root.size()) - 1;
     for (int position = 1; position <= tankCount; ++position) {
         if (callbacks.progress)

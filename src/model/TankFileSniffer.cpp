@@ -16,7 +16,7 @@ namespace
 /// Enough for declaration, document type, a comment or two and the first key.
 constexpr qint64 examinedBytes = 16 * 1024;
 
-/// Not every writer puts the keys in order, so that any tank may come first.
+/// Any tank may come first, because not every writer sorts the keys.
 bool isTankKey(const QString &key)
 {
     const int position = key.toInt();

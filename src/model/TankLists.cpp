@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The insert and remove operations under each list's own name.
+// The insert and remove operations of Tank that are named after each list.
 
 #include "model/Tank.h"
 

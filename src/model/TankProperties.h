@@ -18,7 +18,7 @@ struct TankData;
 /// \throws TankReadError when the name or the size is missing or a value is of the wrong kind
 void readTankProperties(Tank &tank, const plist::Dict &properties);
 
-/// The target of a parameter; one without a name, with zero values, when the properties have none.
+/// The target of a parameter; when the properties have none, one without a name and with zero values.
 [[nodiscard]] std::shared_ptr<TankData> readTarget(Parameter parameter, const plist::Dict &properties);
 
 /// A target with the parameter's display name, zero values and everything off.

@@ -9,8 +9,8 @@
 namespace brinemark
 {
 
-/// Why a tank or record could not be built from its file form. For the log; thrown while reading and caught by the tank
-/// file reader.
+/// Thrown when a tank or record cannot be built from its file form; the tank file reader catches it. The message is for
+/// the log.
 class TankReadError : public std::runtime_error
 {
 public:

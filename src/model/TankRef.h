@@ -9,8 +9,8 @@ namespace brinemark
 
 class Tank;
 
-/// A record's way back to its tank. Does not own it, and becomes null by itself when the tank is destroyed, so that a
-/// record which an undo step still holds never points to a tank that is gone. Used like a `Tank *`.
+/// A record's non-owning reference to its tank, used like a `Tank *`. Becomes null when the tank is destroyed, so that
+/// a record which an undo step still holds never refers to a destroyed tank.
 class TankRef
 {
 public:
