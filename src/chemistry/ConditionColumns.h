@@ -16,7 +16,7 @@ namespace brinemark
 
 /// A column that the water-test table can show.
 struct ConditionColumnTraits {
-    int tag; ///< names the column in menus
+    int tag; ///< identifies the column in menus
     QStringView identifier;
     TextKey headerKey;
     float maximum; ///< the largest value that can be entered; 0 for the date
@@ -47,25 +47,26 @@ inline constexpr std::array<ConditionColumnTraits, 18> conditionColumnTable{{
 }};
 // clang-format on
 
-/// The column of a tag or an identifier; null when there is none (36 and 37 are free).
+/// The column with a tag or an identifier; null when there is none (tags 36 and 37 are unused).
 [[nodiscard]] const ConditionColumnTraits *conditionColumnFromTag(int tag);
 [[nodiscard]] const ConditionColumnTraits *conditionColumnFromIdentifier(QStringView identifier);
 
-/// The tag of an identifier, 0 for none.
+/// The tag of the column with an identifier; 0 when there is none.
 [[nodiscard]] int tagFromColumnIdentifier(QStringView identifier);
 
-/// Reads, vets and shows the values of a column: not tested or up to the column's maximum, rounded to its decimals.
+/// The formatter that reads, checks and shows a column's values: not tested or up to the column's maximum, rounded to
+/// the column's decimals.
 [[nodiscard]] SFCheckedFormatter conditionFormatter(const ConditionColumnTraits &column);
 
-/// A column to show, and how wide: 0 for its own width.
+/// A visible column and its width in pixels; 0 for the column's default width.
 struct ShownConditionColumn {
     const ConditionColumnTraits *column;
     double width;
 };
 
-/// What a saved layout shows. Every entry toggles its column: a column that is named twice is hidden again. Unknown
-/// identifiers are passed over. A column with its own width sends the one before it back to its own, since that one
-/// need not fill the table any longer; so does a width that cannot be.
+/// The visible columns of a saved layout. Every entry toggles its column: a column that is named twice is hidden again.
+/// Unknown identifiers are ignored. A missing or impossible width becomes 0, and so does the width of the column
+/// before, because that column no longer has to fill the table.
 [[nodiscard]] std::vector<ShownConditionColumn> shownConditionColumns(const ColumnInfoArray &saved);
 
 } // namespace brinemark

@@ -25,7 +25,7 @@ QString csvField(const QString &text)
 
 using Member = Field<ConditionData>::Member;
 
-/// Writes fields of a log. Texts of dates and numbers are kept: a log of years repeats most of them.
+/// Writes the fields of a log. Caches the texts of dates and numbers, because a long log repeats most of them.
 class FieldWriter
 {
 public:
@@ -78,7 +78,7 @@ QByteArray conditionCsv(const Condition &log, const std::vector<CsvColumn> &colu
     constexpr qsizetype usualFieldLength = 6;
     QString out;
     out.reserve((qsizetype(log.count()) + 2) * (qsizetype(columns.size()) + 1) * usualFieldLength);
-    std::vector<const Member *> members; // null for a column that is no field
+    std::vector<const Member *> members; // null for a column that is not a field
     for (const CsvColumn &column : columns) {
         if (!members.empty())
             out += separator;

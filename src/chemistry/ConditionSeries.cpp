@@ -21,7 +21,7 @@ namespace
 constexpr qint64 secondsPerDay = 86400;
 constexpr qint64 millisecondsPerDay = secondsPerDay * 1000;
 
-/// Reads one parameter of many tests: the field is looked up once.
+/// Reads one parameter of many tests, looking up its field only once.
 class ParameterValue
 {
 public:
@@ -46,7 +46,7 @@ bool wasTested(float value)
     return value >= 0;
 }
 
-/// The tests in range by ascending date; every date is turned into a moment once.
+/// The tests in range by ascending date. Converts every date to milliseconds only once.
 Condition::Records recordsInRange(const Condition::Records &log, const QDateTime &start, const QDateTime &end)
 {
     struct Dated {
@@ -82,7 +82,7 @@ std::vector<Parameter> linesOf(const ColumnInfoArray &columns)
     return lines;
 }
 
-/// Fills what was not tested; at least one value was.
+/// Fills the values that were not tested. At least one value must have been tested.
 void fillGaps(std::vector<float> &values)
 {
     const auto nextTested = [&](std::size_t from) {

@@ -15,7 +15,7 @@ struct HighValueAdvice {
     Parameter parameter;
     TextKey freshwaterKey; ///< of the number above which a target is too high, in fresh water
     TextKey marineKey;     ///< the same in sea water
-    TextKey reasonKey;     ///< of the text that says why; "^0" stands for that number
+    TextKey reasonKey;     ///< of the text that gives the reason; "^0" is replaced by that number
 };
 
 [[nodiscard]] std::span<const HighValueAdvice> highValueAdvices();
@@ -26,7 +26,8 @@ struct HighValueAdvice {
 /// The highest value that passes without advice, in the parameter's unit; none where there is no threshold.
 [[nodiscard]] std::optional<double> highValueThreshold(Parameter parameter, bool freshwater);
 
-/// Compares in single precision, as targets are held, so that a value that is written like the threshold is not above.
+/// Compares in single precision, as targets are stored, so that a value with the same digits as the threshold is not
+/// above it.
 [[nodiscard]] bool isHighValue(Parameter parameter, bool freshwater, double value);
 
 } // namespace brinemark

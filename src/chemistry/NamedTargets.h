@@ -15,11 +15,11 @@ namespace brinemark
 class Tank;
 struct TankData;
 
-/// A tank's target under the name that a person sees.
+/// A tank's target with its display name.
 struct NamedTarget {
     Parameter parameter;
     std::shared_ptr<TankData> target; ///< never null
-    QString name;                     ///< as stored with the target; the parameter's own where the file had none
+    QString name; ///< as stored with the target; the parameter's display name when the target has none
 
     friend bool operator==(const NamedTarget &, const NamedTarget &) = default;
 };

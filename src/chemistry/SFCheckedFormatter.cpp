@@ -25,7 +25,7 @@ double asParsed(double value)
     return value;
 }
 
-/// By rounding code.
+/// Indexed by rounding code.
 constexpr std::array<double (*)(double), 5> roundings{
     asParsed,
     [](double value) { return std::round(value); },
@@ -156,7 +156,7 @@ double SFCheckedFormatter::numberForString(const QString &text) const
     const bool known = m_roundingBehaviour >= 0 && m_roundingBehaviour < static_cast<int>(roundings.size());
     const auto rounding = known ? roundings[static_cast<std::size_t>(m_roundingBehaviour)] : asParsed;
     const double rounded = rounding(value * scale) / scale;
-    // A scale beyond the type's range would leave no number. The sum makes -0 a 0, which nobody typed a sign for.
+    // A huge precision makes the scaled value infinite; the value then stays unrounded. Adding 0.0 turns -0 into 0.
     return (std::isfinite(rounded) ? rounded : value) + 0.0;
 }
 
@@ -167,7 +167,8 @@ QString SFCheckedFormatter::stringForObjectValue(const QVariant &value) const
     const double number = value.toDouble();
     if (number < 0 && m_useNotTested)
         return text("NotTested"_key);
-    // Only the separator is the locale's: digits and sign of its own could not be read back.
+    // Only the decimal separator follows the locale: getBestDoubleFromString() cannot read a locale's own digits and
+    // sign.
     return QString::number(number, 'f', std::clamp(m_precision, 0, 300)).replace(u'.', separators().decimal);
 }
 
@@ -206,7 +207,7 @@ VettedEdit SFCheckedFormatter::isPartialStringValid(const QString &proposed, con
             other = proposed.indexOf(c, i + 1);
         if (other < 0)
             return accept;
-        // The separator typed last wins.
+        // Keep the separator that was typed last and remove the other one.
         return {false, QString(proposed).remove(other, 1), {i > other ? start : start + 1, 0}, false};
     }
     return c == thousands || isDigit(c) ? accept : refuse;

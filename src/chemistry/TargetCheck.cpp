@@ -22,7 +22,8 @@ TargetState targetState(const TankData *target, double value)
         return TargetState::NotChecked;
     const TargetBand band = targetBand(*target);
     const auto measured = float(value);
-    // A negative deviation turns the band inside out; then the upper limit has the last word.
+    // A negative deviation makes `low` exceed `high`. The upper limit is tested first, so a value between the two is
+    // High.
     if (measured > band.high)
         return TargetState::High;
     return measured < band.low ? TargetState::Low : TargetState::Within;

@@ -23,29 +23,29 @@ struct TargetBand {
 
 [[nodiscard]] TargetBand targetBand(const TankData &target);
 
-/// Where a measured value lies.
+/// Where a measured value lies relative to the target.
 enum class TargetState {
     NotChecked, ///< not tested, or the target does not warn
-    Within,     ///< also of a value that is no number
+    Within,     ///< also for NaN
     Low,
     High,
 };
 
-/// Compares in single precision, so that a value that is written like a limit counts as on it. Null for no target.
+/// Compares in single precision, so that a value with the same digits as a limit is within. `target` may be null.
 [[nodiscard]] TargetState targetState(const TankData *target, double value);
 
-/// What a warning says. The message ends with the treatment.
+/// The texts of a warning. The message ends with the treatment.
 struct TargetWarning {
     QString title;
     QString message;
 };
 
-/// The warning about a measured value of the parameter of this identifier; none when there is nothing to warn of.
+/// The warning about a measured value of the parameter of this identifier; none when the value needs no warning.
 /// `columnTitle` names the parameter.
 [[nodiscard]] std::optional<TargetWarning> targetWarning(const Tank &tank, QStringView identifier, double value,
                                                          const QString &columnTitle);
 
-/// One sentence about a value that is too low or too high: which limit it crossed. Empty for the other states.
+/// One sentence that says which limit a value crossed, if it is too low or too high. Empty for the other states.
 [[nodiscard]] QString targetStateText(const TankData &target, TargetState state);
 
 } // namespace brinemark

@@ -17,7 +17,7 @@ struct StepRange {
 
 /// How the target of a parameter is entered.
 struct TargetInput {
-    int tag; ///< of its item in the chooser; from 1 on
+    int tag; ///< of its item in the chooser; counts from 1
     Parameter parameter;
     StepRange preferred;
     StepRange deviation;
@@ -26,7 +26,8 @@ struct TargetInput {
     [[nodiscard]] constexpr QStringView targetKey() const { return traitsOf(parameter).targetKey; }
 };
 
-/// Some pairs look uneven and are meant so: temperature is aimed at by the degree but tolerated by the half one.
+/// The two steps of a row may differ on purpose: a preferred temperature moves by one degree, its deviation by half a
+/// degree.
 // clang-format off
 inline constexpr std::array<TargetInput, parameterCount> targetInputTable{{
     { 1, Parameter::Alkalinity, { 0.1,    600}, { 0.1,   600}, 1},
@@ -49,7 +50,7 @@ inline constexpr std::array<TargetInput, parameterCount> targetInputTable{{
 }};
 // clang-format on
 
-/// Null for a tag that stands for no parameter, such as 0.
+/// Null for a tag without a parameter, such as 0.
 [[nodiscard]] constexpr const TargetInput *targetInputForTag(int tag)
 {
     for (const TargetInput &input : targetInputTable) {
@@ -59,7 +60,7 @@ inline constexpr std::array<TargetInput, parameterCount> targetInputTable{{
     return nullptr;
 }
 
-/// Every parameter has its row.
+/// Never fails, because every parameter has a row.
 [[nodiscard]] constexpr const TargetInput &targetInputOf(Parameter parameter)
 {
     const TargetInput *found = targetInputTable.data();

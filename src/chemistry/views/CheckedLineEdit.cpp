@@ -17,17 +17,17 @@ namespace brinemark
 namespace
 {
 
-/// Events of a line edit in which a person edits.
+/// Whether the user can edit the text through an event of this type.
 bool mayEdit(QEvent::Type type)
 {
     return type == QEvent::KeyPress || type == QEvent::InputMethod || type == QEvent::Drop ||
-           type == QEvent::MouseButtonRelease; // a paste with the middle button
+           type == QEvent::MouseButtonRelease; // the middle button pastes
 }
 
 } // namespace
 
-/// The line edit asks its validator about every text before it announces it, and takes back exactly the edit that is
-/// invalid, so that the steps of its undo stay right.
+/// Checks every edit. QLineEdit asks its validator about every text before it emits textEdited, and reverts exactly the
+/// edit that is invalid, so that its undo steps stay correct.
 class CheckedLineEdit::Vetter : public QValidator
 {
 public:
@@ -55,8 +55,8 @@ CheckedLineEdit::CheckedLineEdit(const SFCheckedFormatter &formatter, QWidget *p
     , m_formatter(formatter)
 {
     setValidator(new Vetter(this));
-    // Qt announces an edit in this order: validation, textEdited, textChanged, selectionChanged, cursorPositionChanged;
-    // but undo and input methods move the cursor first, with the new text already there.
+    // For an edit, QLineEdit validates first, then emits textEdited, textChanged, selectionChanged and
+    // cursorPositionChanged. Undo and input methods move the cursor first, when the new text is already set.
     connect(this, &QLineEdit::textEdited, this, [this] {
         remember();
         if (m_editEvents == 0)
@@ -83,7 +83,7 @@ void CheckedLineEdit::setText(const QString &text)
 
 bool CheckedLineEdit::hasEdit() const
 {
-    // Assistive technology writes the text past the keyboard.
+    // Assistive technology changes the text without the line edit marking it as modified.
     return m_editSettled || isModified() || text() != m_shown;
 }
 
@@ -94,10 +94,10 @@ bool CheckedLineEdit::event(QEvent *event)
     const QPointer<CheckedLineEdit> self(this);
     const bool outerKey = std::exchange(m_keyPressed, m_keyPressed || event->type() == QEvent::KeyPress);
     if (m_editEvents++ == 0)
-        m_refused.reset(); // a question from outside about a text that was never shown
+        m_refused.reset(); // left by a validation without an edit, of a text that was never shown
     const bool handled = QLineEdit::event(event);
     if (!self)
-        return handled; // Return may have closed the window
+        return handled; // Return may have closed the window and destroyed the field
     m_keyPressed = outerKey;
     if (--m_editEvents == 0) {
         settle();
@@ -120,16 +120,16 @@ void CheckedLineEdit::remember()
 
 void CheckedLineEdit::rememberSelection()
 {
-    // With another text an edit is under way that has not been vetted yet.
+    // A different text means that an edit is in progress which has not been checked yet.
     if (!m_keyPressed && text() == m_before.text)
         remember();
 }
 
-/// Vets a text that the field is about to take. Outside an event there is no later moment to put things right: then the
-/// text itself is replaced, which costs the undo steps.
+/// Checks a text that the field is about to accept. During an edit event, settle() later replaces a refused text;
+/// outside one, this function replaces the text itself, which loses the undo steps.
 bool CheckedLineEdit::acceptsEdit(QString &proposed, int &cursor)
 {
-    // Only a text that was set leaves nothing to undo or redo.
+    // Only after setText() there is nothing to undo or redo.
     const bool programmatic = !isUndoAvailable() && !isRedoAvailable();
     if (m_settling || programmatic || proposed == m_before.text)
         return true;
@@ -151,14 +151,14 @@ bool CheckedLineEdit::acceptsEdit(QString &proposed, int &cursor)
     return true;
 }
 
-/// Shows what stands instead of an edit that was refused.
+/// Shows the text and selection that replace a refused edit.
 void CheckedLineEdit::settle()
 {
     if (!m_refused)
         return;
     const auto [proposed, instead] = *std::exchange(m_refused, {});
     const QScopedValueRollback settling(m_settling, true);
-    if (text() == proposed) { // undo and redo are not taken back
+    if (text() == proposed) { // QLineEdit does not revert an undo or redo
         QLineEdit::setText(instead.text);
         m_editSettled = true;
     } else if (text() != instead.text) {
@@ -187,7 +187,7 @@ void CheckedLineEdit::select(const TextSelection &selection)
     if (selection.length > 0)
         setSelection(int(selection.start), int(selection.length));
     else
-        setCursorPosition(int(selection.start)); // takes a selection away
+        setCursorPosition(int(selection.start)); // also clears a selection
 }
 
 } // namespace brinemark

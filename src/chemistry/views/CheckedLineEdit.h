@@ -11,12 +11,11 @@
 namespace brinemark
 {
 
-/// A field for a number that an SFCheckedFormatter reads, shows and vets. Every edit that a person makes (keys, paste,
-/// cut, drop, input method, undo, context menu) is vetted when it is made: what is refused never shows, is not
-/// announced by textEdited() (but for an undo that has to be put right) and cannot be brought back by undo; it only
-/// beeps. When editing ends (Return, focus out), an edited field shows its value as the formatter writes it, before
-/// other listeners hear editingFinished(). Do not give it another validator, an input mask or a display mode other than
-/// Normal.
+/// A field for a number that an SFCheckedFormatter reads, shows and checks. Every edit by the user (keys, paste, cut,
+/// drop, input method, undo, context menu) is checked at once. A refused edit only beeps: it never shows, emits no
+/// textEdited() (except an undo that has to be corrected) and cannot be restored by undo. When editing ends (Return,
+/// focus out), an edited field shows its value as the formatter writes it, before other slots of editingFinished() run.
+/// Do not set another validator, an input mask or a display mode other than Normal.
 class CheckedLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -25,19 +24,19 @@ public:
     explicit CheckedLineEdit(QWidget *parent = nullptr);
     explicit CheckedLineEdit(const SFCheckedFormatter &formatter, QWidget *parent = nullptr);
 
-    /// Takes effect from the next edit on; the text that is shown stays.
+    /// Takes effect from the next edit on; the shown text is unchanged.
     void setFormatter(const SFCheckedFormatter &formatter) { m_formatter = formatter; }
     [[nodiscard]] const SFCheckedFormatter &formatter() const { return m_formatter; }
 
     /// Shows a number in the formatter's unit, neither clamped nor vetted; hasEdit() is false afterwards.
     void setValue(double value);
-    /// What the field holds now, read, clamped and rounded by the formatter; -1 for not tested.
+    /// The field's number, read, clamped and rounded by the formatter; -1 for not tested.
     [[nodiscard]] double value() const { return m_formatter.numberForString(text()); }
 
-    /// Shows a text that is not vetted, and forgets that the field was edited.
+    /// Shows a text without checking it; hasEdit() is false afterwards.
     void setText(const QString &text);
-    /// Whether a person has edited the field since setValue() or setText(), be it to the same text. Refused edits and
-    /// edits that were undone do not count.
+    /// Whether the user has edited the field since setValue() or setText(), even if the text is the same again. Refused
+    /// edits and edits that were undone do not count.
     [[nodiscard]] bool hasEdit() const;
 
     bool event(QEvent *event) override;
@@ -49,7 +48,7 @@ private:
         QString text;
         TextSelection selection;
     };
-    /// A vetted edit that must not stand, until the field has settled on what stands instead.
+    /// A refused edit, kept until settle() shows its replacement.
     struct Refused {
         QString proposed;
         VettedEdit instead;
@@ -64,13 +63,13 @@ private:
     void select(const TextSelection &selection);
 
     SFCheckedFormatter m_formatter;
-    State m_before;  ///< what an edit starts from
-    QString m_shown; ///< as last set by the program
+    State m_before;  ///< text and selection before an edit
+    QString m_shown; ///< text last set by the program
     std::optional<Refused> m_refused;
-    int m_editEvents = 0;       ///< that are being handled: keys, drops ...
-    bool m_keyPressed = false;  ///< selections made by a key on its way to an edit are not where the edit starts
-    bool m_settling = false;    ///< the field changes by its own doing
-    bool m_editSettled = false; ///< an edit that the line edit's own mark no longer tells of
+    int m_editEvents = 0;       ///< number of edit events (keys, drops ...) being handled
+    bool m_keyPressed = false;  ///< a key is being handled: ignore the selections it makes before it edits
+    bool m_settling = false;    ///< the field itself is changing its text
+    bool m_editSettled = false; ///< edited, although isModified() no longer says so
 };
 
 } // namespace brinemark

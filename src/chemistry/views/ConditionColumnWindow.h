@@ -20,7 +20,8 @@ class ConditionColumnWindow : public ToolPanel
 public:
     explicit ConditionColumnWindow(QWidget *parent);
 
-    /// `isShown` answers for a column's tag. Without a tank (no name) nothing can be chosen.
+    /// `isShown` returns whether the column with that tag is shown. A null name means no tank and disables the check
+    /// boxes.
     void showColumns(const QString &tankName, const std::function<bool(int tag)> &isShown);
 
 Q_SIGNALS:

@@ -22,7 +22,7 @@ void beginConditionExport(QWidget *window, const std::shared_ptr<Tank> &tank, st
                        const std::shared_ptr<Tank> tank = exported.lock();
                        if (!tank || path.isEmpty())
                            return;
-                       // A failure is in the log then, and nowhere else.
+                       // writeFileSafely() logs a failure; nothing else reports it.
                        static_cast<void>(writeFileSafely(path, conditionCsv(*tank->condition(), columns)));
                    });
 }

@@ -13,9 +13,9 @@ namespace brinemark
 
 class Tank;
 
-/// Asks on a sheet of `window` ("exportPanel") where to, and writes the water tests of the tank as comma-separated
-/// values. The file is replaced as a whole or not at all; a failure is only logged. Nothing is written when the tank
-/// goes meanwhile.
+/// Asks for a file on a sheet of `window` ("exportPanel") and writes the water tests of the tank to it as
+/// comma-separated values. The file is replaced as a whole or not at all; a failure is only logged. Nothing is written
+/// when the tank is destroyed while the sheet is open.
 void beginConditionExport(QWidget *window, const std::shared_ptr<Tank> &tank, std::vector<CsvColumn> columns);
 
 } // namespace brinemark

@@ -221,7 +221,7 @@ void GraphController::printGraph()
                    [&view](QPrinter &printer) { return view.print(printer); });
 }
 
-// ---- what the graph view asks
+// ---- data source and delegate of the graph view
 
 int GraphController::numberOfLinesInTwoDGraphView(const TwoDGraphView &) const
 {

@@ -33,10 +33,12 @@ class GraphController final : public QObject,
 public:
     ~GraphController() override;
 
-    /// Opens the sheet with the form. The log's column layout must have been stored: it says what is drawn.
+    /// Opens the sheet with the form. The list of water tests must have stored its column layout, which determines the
+    /// lines.
     void display();
 
-    /// Draws the range that is chosen; a missing or reversed one beeps, says so and draws nothing.
+    /// Draws the chosen range. Beeps and shows a message instead when a date is missing or the start is not before the
+    /// end.
     void graphAction();
     void cancelAction();
     void scaleSliderAction();
@@ -74,9 +76,9 @@ private:
     GraphDateForm *m_dateContentView = nullptr;
     GraphContentView *m_graphContentView = nullptr;
 
-    std::shared_ptr<Tank> m_graphTank; ///< stays while the sheet shows it, even when its file is closed
+    std::shared_ptr<Tank> m_graphTank; ///< kept alive while the sheet shows it, even when its file is closed
     ConditionSeries m_series;
-    double m_maxYValue = 0; ///< by the scale slider less than the series' own
+    double m_maxYValue = 0; ///< top of the Y axis: the series' maximum, reduced by the scale slider
 };
 
 } // namespace brinemark

@@ -32,7 +32,7 @@ namespace
 void showValue(QLabel *field, const QString &value)
 {
     field->setText(value);
-    // A field without text is no stop of the tab key.
+    // The Tab key skips a field without text.
     field->setFocusPolicy(value.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
 }
 

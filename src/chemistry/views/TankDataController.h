@@ -34,7 +34,7 @@ public:
     void updateDisplay() override { display(); }
 
     void display(); ///< fills the view from the current tank
-    /// Opens the tank editor at the selected target, if one is.
+    /// Opens the tank editor, at the selected target if there is one.
     void editAction();
 
 private:

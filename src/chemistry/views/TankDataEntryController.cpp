@@ -95,7 +95,7 @@ void TankDataEntryController::showTank(bool isNew)
     m_infoPanel->fillChooser(*m_tank);
 }
 
-/// Chooses the target of that name; the first one when there is none.
+/// Chooses the target of that name, or the first target when there is none; returns whether the name was found.
 bool TankDataEntryController::selectTitle(const QString &title)
 {
     const QSignalBlocker quiet(m_infoPanel->warningPopup);
@@ -168,7 +168,8 @@ void TankDataEntryController::storeNumbers()
     storeNumber(*m_infoPanel->deviation);
 }
 
-/// A number that nobody touched stays as it was stored, to the last digit and beyond the field's maximum.
+/// Stores a number only if the user has changed it, so that other numbers keep all their digits, even beyond the
+/// field's maximum.
 void TankDataEntryController::storeNumber(const TargetNumberEdit &number)
 {
     const bool isPreferred = &number == m_infoPanel->preferred;
@@ -193,7 +194,7 @@ void TankDataEntryController::deviationStepperAction()
 void TankDataEntryController::controlTextDidEndEditing(TargetNumberEdit *number)
 {
     if (!m_currentData)
-        return; // the sheet has ended, and the field loses the focus only now
+        return; // the sheet is closed, which takes the focus from the field
     number->moveStepper();
     storeNumber(*number);
     highValueCheck();
@@ -250,7 +251,7 @@ void TankDataEntryController::showHighValueWarningWithBool(bool show)
     const bool isNew = show && box.isHidden();
     box.setVisible(show);
     if (isNew) {
-        QAccessibleEvent appeared(&box, QAccessible::Alert); // a screen reader says it aloud
+        QAccessibleEvent appeared(&box, QAccessible::Alert); // makes a screen reader announce it
         QAccessible::updateAccessibility(&appeared);
     }
 }
@@ -283,7 +284,7 @@ void TankDataEntryController::cancelAction()
 
 void TankDataEntryController::endSheet(int returnCode)
 {
-    m_currentData = nullptr; // a field that loses the focus with the sheet stores nothing any more
+    m_currentData = nullptr; // a field that loses the focus to the closing sheet must not store its number
     m_infoPanel->done(returnCode);
 }
 
@@ -297,8 +298,8 @@ void TankDataEntryController::closeSheet(int returnCode)
     if (returnCode == Confirmed) {
         confirm(tank);
     } else if (m_targetsChanged && shell.tankList().indexOf(tank.get()) >= 0) {
-        // Escape leaves name, size and type as they were, but the targets have changed already, and a change that
-        // nothing counts would be lost at the next quit without a question.
+        // Escape discards name, size and type, but the targets have already changed. Count that change, or quitting
+        // would lose it without asking.
         TankDataController::sharedInstance().display();
         shell.documentModifiedWithChange(true);
     }

@@ -21,8 +21,8 @@ class TankSheet;
 class TargetNumberEdit;
 struct TankData;
 
-/// The sheet in which a tank is made, or its name, size, type and targets are changed. Targets change while the sheet
-/// is up; name, size and type when it is confirmed. The sheet is a TankSheet.
+/// The sheet (a TankSheet) that creates a tank or edits its name, size, type and targets. Target changes take effect at
+/// once; name, size and type when the sheet is confirmed.
 class TankDataEntryController : public QObject, public Shared<TankDataEntryController>
 {
     Q_OBJECT
@@ -30,22 +30,22 @@ class TankDataEntryController : public QObject, public Shared<TankDataEntryContr
 public:
     ~TankDataEntryController() override;
 
-    /// Opens the sheet on the main window. Without a tank a new one is made, which enters the tank list when the sheet
-    /// is confirmed. `title` is the name of the target to begin with; empty for none. Does nothing while the sheet is
-    /// up or waits for another one to go.
+    /// Opens the sheet on the main window. A null tank creates a new one, which is added to the tank list when the
+    /// sheet is confirmed. `title` is the name of the target to choose first; empty for none. Does nothing while the
+    /// sheet is open or waits for another sheet to close.
     void displayTank(std::shared_ptr<Tank> tank, bool withCancel, const QString &title);
 
     void okAction();
     void cancelAction();
     void helpButtonAction();
 
-    // Of the controls; to be called while the sheet is up.
+    // Actions of the controls; to be called while the sheet is open.
     void warningPopupAction();
     void preferredStepperAction();
     void deviationStepperAction();
     void warningCheckboxAction();
     void deviationCheckboxAction();
-    /// Takes over what was typed into one of the two numbers.
+    /// Stores the number that was typed into one of the two fields.
     void controlTextDidEndEditing(TargetNumberEdit *number);
 
     void setupInputWithTag(int tag); ///< 0 sets nothing
@@ -66,7 +66,7 @@ private:
     void showCurrentData();
     void storeNumbers();
     void storeNumber(const TargetNumberEdit &number);
-    /// Stores into the target that is being edited, and remembers when that changed it.
+    /// Sets a field of the target that is being edited, and records whether that changed it.
     template <class Value>
     void store(Value TankData::*field, Value value);
     [[nodiscard]] std::optional<Parameter> chosenParameter() const;

@@ -78,7 +78,7 @@ QVariant TargetTableModel::data(const QModelIndex &index, int role) const
     const NamedTarget &named = *targetAt(index.row());
     if (role == Qt::DisplayRole)
         return cellText(named, index.column());
-    // A selected row shows its own colour instead.
+    // An unused deviation is grey, unless its row is selected and the selection's text colour applies.
     const bool bandIsUsed = named.target->warningOn && named.target->deviationOn;
     if (role == Qt::ForegroundRole && index.column() == DeviationValue && !bandIsUsed)
         return QApplication::palette().color(QPalette::Disabled, QPalette::Text);

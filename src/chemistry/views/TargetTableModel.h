@@ -21,7 +21,7 @@ class TargetTableModel : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Takes up the targets afresh; null for none. Rows that are there already stay selected.
+    /// Shows the tank's targets, read anew; null for no tank. Rows that exist before and after stay selected.
     void setTank(const Tank *tank);
     [[nodiscard]] const NamedTarget *targetAt(int row) const; ///< null out of range
 

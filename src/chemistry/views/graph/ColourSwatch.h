@@ -7,7 +7,7 @@
 namespace brinemark
 {
 
-/// A small tile of one colour, or only its frame, crossed out.
+/// A small tile filled with one colour or, when not filled, a crossed-out frame.
 class ColourSwatch : public QWidget
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ class TestDateCombo;
 class TestDatesModel;
 class TwoDGraphView;
 
-/// The graph with what belongs around it. Object names: itself "graphContentView", "startDateComboSmall",
+/// The graph with its controls and legend. Object names: itself "graphContentView", "startDateComboSmall",
 /// "endDateComboSmall", "drawButtonSmall", "spinningIndicator", "wholeGraphButton", "saveButton", "printButton",
 /// "scaleSlider", "graphView", "graphLegend", "closeButton".
 class GraphContentView : public QWidget
@@ -39,10 +39,10 @@ public:
     [[nodiscard]] GraphLegend &legend() const { return *m_legend; }
     [[nodiscard]] QPushButton &drawButton() const { return *m_drawButton; }
 
-    /// Shows the graph, with a line below it that says what is not obvious.
+    /// Shows the graph, with a hint below it.
     void showGraph(const QString &hint);
 
-    /// Shows a sentence in the graph's place, which says why there is nothing to see.
+    /// Shows, instead of the graph, a sentence that says why there is no graph.
     void showSentence(const QString &whyEmpty);
 
 Q_SIGNALS:
@@ -69,7 +69,7 @@ private:
     ScaleSlider *m_scaleSlider;
     TwoDGraphView *m_graphView;
     EmptyState *m_emptyState;
-    QStackedWidget *m_place; ///< of the graph or the sentence
+    QStackedWidget *m_place; ///< contains the graph and the sentence, one of them visible
     GraphLegend *m_legend;
     ElidedLabel *m_hint;
 };

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] TestDateCombo &startDateCombo() const { return *m_startDateCombo; }
     [[nodiscard]] TestDateCombo &endDateCombo() const { return *m_endDateCombo; }
 
-    void swapDates(); ///< a log with its newest test first begins with the later date
+    void swapDates(); ///< for a log with its newest test first, whose start comes after its end
 
 Q_SIGNALS:
     void drawRequested();

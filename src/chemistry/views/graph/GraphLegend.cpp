@@ -39,7 +39,7 @@ GraphLegend::GraphLegend(QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus); // its entries take the focus
+    setFocusPolicy(Qt::NoFocus); // only its entries take the focus
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setAccessibleName(text("GraphLegend"));
     auto *content = new QWidget;
@@ -67,7 +67,7 @@ void GraphLegend::showLines(const ConditionSeries &series, const Tank *tank)
         m_column->insertWidget(line, entry);
         m_entries.push_back(entry);
     }
-    setVisible(!m_entries.empty()); // a sentence in the graph's place then has the whole width
+    setVisible(!m_entries.empty()); // gives the whole width to a sentence that replaces the graph
 }
 
 QSize GraphLegend::sizeHint() const
@@ -77,7 +77,7 @@ QSize GraphLegend::sizeHint() const
 
 void GraphLegend::tellPointedAt()
 {
-    // The pointer says more than the focus, which may have been left somewhere.
+    // The pointer takes precedence over the focus, which may still be on an entry that was used before.
     const auto hovered =
         std::find_if(m_entries.begin(), m_entries.end(), [](const LegendEntry *entry) { return entry->isHovered(); });
     const auto focused =

@@ -17,7 +17,7 @@ class ConditionSeries;
 class LegendEntry;
 class Tank;
 
-/// The lines of a graph in drawing order, each with a LegendEntry. Scrolls when there is no room.
+/// A LegendEntry for each line of a graph, in drawing order. Scrolls when there is no room.
 class GraphLegend : public QScrollArea
 {
     Q_OBJECT
@@ -25,14 +25,15 @@ class GraphLegend : public QScrollArea
 public:
     explicit GraphLegend(QWidget *parent = nullptr);
 
-    /// All lines visible; their targets are those of the tank. Without a tank the legend is empty.
+    /// Lists the lines of the series, all visible, with the tank's targets as tool tips. Without a tank the legend is
+    /// empty.
     void showLines(const ConditionSeries &series, const Tank *tank);
 
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
     void lineShown(int line, bool visible);
-    void linePointedAt(int line); ///< the one under the pointer or with the focus; -1 for none
+    void linePointedAt(int line); ///< the line whose entry is under the pointer or has the focus; -1 for none
 
 private:
     void tellPointedAt();

@@ -37,7 +37,7 @@ void GraphWindow::showGraph()
 {
     if (m_graphShown)
         return;
-    constexpr double shareOfScreen = 0.95; // leaves room for the frame
+    constexpr double shareOfScreen = 0.95; // leaves room for the window's frame
     m_graphShown = true;
     m_place->setSizeConstraint(QLayout::SetMinimumSize);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);

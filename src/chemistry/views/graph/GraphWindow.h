@@ -16,7 +16,7 @@ class GraphWindow : public QDialog
     Q_OBJECT
 
 public:
-    /// Takes over both.
+    /// Takes ownership of both views.
     GraphWindow(QWidget *parent, QWidget *dateContentView, QWidget *graphContentView);
 
     void showDates();

@@ -23,7 +23,7 @@ LegendEntry::LegendEntry(Parameter parameter, bool tested, const QString &toolTi
     m_box->setObjectName(name + QStringLiteral("Box"));
     m_box->setChecked(tested);
     m_box->setEnabled(tested);
-    m_box->setFocusPolicy(Qt::TabFocus); // a click shows or hides, and is over when the pointer leaves
+    m_box->setFocusPolicy(Qt::TabFocus); // a click must not leave the focus here, which would keep the line highlighted
     m_box->installEventFilter(this);
     setToolTip(toolTip);
 

@@ -15,7 +15,8 @@ namespace brinemark
 class ColourSwatch;
 
 /// A line of a graph's legend: colour swatch (object name "phView", "ghView" ...) and a check box with the parameter's
-/// name ("phBox" ...), which shows and hides the line by click or Space. A parameter that was not tested says so.
+/// name ("phBox" ...), which shows and hides the line by click or Space. An entry whose parameter was not tested says
+/// so.
 class LegendEntry : public QWidget
 {
     Q_OBJECT
@@ -28,7 +29,7 @@ public:
 
 Q_SIGNALS:
     void shown(bool visible);
-    void pointedAt(); ///< the pointer or the focus came or went
+    void pointedAt(); ///< the pointer or the focus entered or left
 
 protected:
     void enterEvent(QEnterEvent *event) override;

@@ -15,7 +15,7 @@ class ScaleSlider : public QSlider
 public:
     explicit ScaleSlider(QWidget *parent = nullptr);
 
-    /// Sets the maximum and goes back to 0, without a signal.
+    /// Sets the maximum and returns to 0, without emitting a signal.
     void restart(float maximum);
 
     [[nodiscard]] float maximumFloat() const { return m_maximum; }

@@ -18,9 +18,9 @@ TestDateCombo::TestDateCombo(TestDatesModel &dates, const QString &objectName, c
     setToolTip(toolTip);
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
-    setCompleter(nullptr); // would turn what is typed into a test's date
+    setCompleter(nullptr); // completion would turn a typed date into a test's date
     setModel(&dates);
-    // Ten thousand dates open at once when none but those in sight is looked at.
+    // Measure only the visible dates, so that a list of 10,000 opens without delay.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(dateLength);
     if (auto *list = qobject_cast<QListView *>(view()))
@@ -28,7 +28,7 @@ TestDateCombo::TestDateCombo(TestDatesModel &dates, const QString &objectName, c
 
     connect(lineEdit(), &QLineEdit::textChanged, this,
             [this](const QString &text) { m_date = dateFromCalendarText(text, dateFormatterForLocale()); });
-    // Both come after the text has changed. The second comes alone when a row is chosen again.
+    // Both signals follow textChanged. When the current row is chosen again, only activated() is emitted.
     connect(this, &QComboBox::currentIndexChanged, this, &TestDateCombo::chosen);
     connect(this, &QComboBox::activated, this, &TestDateCombo::chosen);
 }

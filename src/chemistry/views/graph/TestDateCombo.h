@@ -16,22 +16,22 @@ class TestDateCombo : public QComboBox
     Q_OBJECT
 
 public:
-    /// Looked-up texts. The dates must live as long as the combo box.
+    /// `toolTip` is the text itself, not its key. `dates` must outlive the combo box.
     TestDateCombo(TestDatesModel &dates, const QString &objectName, const QString &toolTip);
 
-    /// Takes up new dates: more than 7 show 8 at a time, fewer all. Row -1 leaves the box blank.
+    /// Call after the dates have changed. The list shows up to 8 dates at a time. Row -1 leaves the box blank.
     void showDates(int selectedRow);
 
-    /// Exactly the moment of a test that was chosen, midnight of a day that was typed; null for none and for a text
-    /// that is no date.
+    /// The exact moment of a chosen test, or midnight of a typed day; null for an empty text and for one that is not a
+    /// date.
     [[nodiscard]] QDateTime date() const { return m_date; }
 
     void copyFrom(const TestDateCombo &other);
-    void exchangeWith(TestDateCombo &other); ///< both of the same dates
+    void exchangeWith(TestDateCombo &other); ///< both must have the same dates
 
 private:
     struct State {
-        int row; ///< -1 for a text of its own
+        int row; ///< -1 for a typed text
         QString text;
         QDateTime date;
     };

@@ -21,7 +21,7 @@ namespace
 {
 
 constexpr int markSide = 32;   ///< pixels
-constexpr int lineLength = 48; ///< characters, more or less
+constexpr int lineLength = 48; ///< characters of average width
 constexpr int significant = 7; ///< digits
 
 QString titleText(const QString &value)
@@ -106,7 +106,7 @@ void HighValueBox::applyLook()
     reserveRoom();
 }
 
-/// So that the sheet stands still when the advice comes and goes.
+/// Reserves room for the longest advice, so that the sheet keeps its size when the advice appears or disappears.
 void HighValueBox::reserveRoom()
 {
     const int width = fontMetrics().averageCharWidth() * lineLength;

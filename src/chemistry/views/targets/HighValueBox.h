@@ -11,8 +11,8 @@ class QLabel;
 namespace brinemark
 {
 
-/// The advice that a target is set too high: a mark, what is high, and why it matters. Hidden, it keeps its room, which
-/// is enough for every parameter's advice. Its mark is named "warningImageView".
+/// The advice that a target is set too high: a mark, the value that is too high, and the reason. While hidden it keeps
+/// its room, which is enough for every parameter's advice. Its mark is named "warningImageView".
 class HighValueBox : public QFrame
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ class HighValueBox : public QFrame
 public:
     explicit HighValueBox(QWidget *parent = nullptr);
 
-    /// Says that `value` is above the threshold; both in the parameter's unit. A parameter without a threshold has
-    /// nothing to say.
+    /// Says that `value` is above the threshold; both in the parameter's unit. Does nothing for a parameter without a
+    /// threshold.
     void setAdvice(Parameter parameter, bool freshwater, double value);
 
     [[nodiscard]] QString title() const;

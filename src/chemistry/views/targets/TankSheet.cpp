@@ -36,7 +36,7 @@ void addLine(QGridLayout &form, const QString &caption, QWidget *control, QWidge
     const int row = form.rowCount();
     QLabel *label = makeCaption(caption);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    label->setContentsMargins(2, 0, 0, 0); // bold letters reach out of their box a little
+    label->setContentsMargins(2, 0, 0, 0); // bold letters extend slightly beyond their box
     label->setBuddy(buddy);
     form.addWidget(label, row, 0);
     form.addWidget(control, row, 1);
@@ -83,7 +83,7 @@ TankSheet::TankSheet(QWidget *parent)
     column->addLayout(makeForm());
     column->addWidget(buttons);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    okButton->setDefault(true); // takes effect inside the sheet only
+    okButton->setDefault(true); // has no effect before the button is in the sheet
     warningBox->hide();
 
     QWidget *previous = nameField;
@@ -98,7 +98,8 @@ TankSheet::TankSheet(QWidget *parent)
 
 TankSheet::~TankSheet()
 {
-    // A field that loses the focus to the end of the sheet would call on what is half gone.
+    // Ignore the signals of the controls while they are destroyed, such as editingFinished from a field that loses the
+    // focus.
     for (QWidget *widget : findChildren<QWidget *>())
         widget->disconnect();
 }
@@ -170,13 +171,13 @@ void TankSheet::fillChooser(const Tank &tank)
         setWarningTitle(named.name);
         widest = std::max(widest, warningCheckbox->sizeHint().width());
     }
-    // The sheet does not change its width with the parameter.
+    // Room for the longest title, so that the sheet keeps its width when the parameter changes.
     warningCheckbox->setMinimumWidth(widest);
 }
 
 void TankSheet::setWarningTitle(QString parameterName)
 {
-    // An ampersand of a name is not the mark of a mnemonic.
+    // Double the ampersands in the name, which would otherwise mark mnemonics.
     parameterName.replace(QLatin1Char('&'), QLatin1String("&&"));
     warningCheckbox->setText(fillPlaceholders(text("DisplayWarningCheckboxLabel"), {parameterName}));
 }

@@ -17,9 +17,9 @@ class HighValueBox;
 class Tank;
 class TargetNumberEdit;
 
-/// What the sheet of TankDataEntryController looks like: the controls of a tank's name, size and type, and of one
-/// target at a time. Every control's object name is the name of its member here; the numbers' parts are
-/// "preferredField", "preferredStepper", "deviationField" and "deviationStepper".
+/// The controls of TankDataEntryController's sheet: a tank's name, size and type, and one target at a time. Every
+/// control's object name is the name of its member here; the numbers' parts are "preferredField", "preferredStepper",
+/// "deviationField" and "deviationStepper".
 class TankSheet : public QDialog
 {
     Q_OBJECT
@@ -42,13 +42,13 @@ public:
     QPushButton *const cancelButton;
     QPushButton *const okButton;
 
-    /// What an item of the chooser carries.
+    /// Data of the chooser's items.
     enum ItemRole { TargetTagRole = Qt::UserRole, TargetKeyRole };
 
-    void fillChooser(const Tank &tank); ///< selects no item for anybody to hear
+    void fillChooser(const Tank &tank); ///< emits no signal
     void setWarningTitle(QString parameterName);
 
-    /// Escape and the window's close button: neither OK nor cancel.
+    /// Called for Escape and the window's close button, which are neither OK nor Cancel.
     void reject() override { Q_EMIT dismissed(); }
 
 Q_SIGNALS:

@@ -19,7 +19,7 @@ namespace
 constexpr int numberFieldWidth = 96; ///< pixels
 constexpr int roundToNearest = 1;
 
-/// Steps of a key in the field; 0 for keys that do not step.
+/// The number of steps that a key in the field makes; 0 for keys that do not step.
 int stepsOfKey(const QKeyEvent &key)
 {
     if (key.modifiers() & ~Qt::KeypadModifier)
@@ -59,7 +59,7 @@ TargetNumberEdit::TargetNumberEdit(const QString &name, QWidget *parent)
     setFocusProxy(m_field);
 
     connect(m_stepper, &Stepper::valueChanged, this, &TargetNumberEdit::stepped);
-    // An arrow takes no focus, so that the stepper has to follow what is being typed.
+    // A click on an arrow does not end the editing of the field, so the stepper has to follow every change of the text.
     connect(m_field, &QLineEdit::textChanged, this, [this] {
         if (m_showing)
             return;
@@ -88,7 +88,7 @@ void TargetNumberEdit::setupStepper()
 
 void TargetNumberEdit::setValue(float value)
 {
-    m_shown = leadingNumber(floatText(value)); // 0.1, where the stored float is 0.1000000015
+    m_shown = leadingNumber(floatText(value)); // 0.1 for the stored float 0.1000000015
     m_stepped = false;
     const QScopedValueRollback showing(m_showing, true);
     m_field->setValue(m_shown);

@@ -12,8 +12,8 @@ namespace brinemark
 class CheckedLineEdit;
 class Stepper;
 
-/// One of a target's two numbers: a field, and a stepper beside it. The field can be typed in, and stepped with the up
-/// and down keys.
+/// One of a target's two numbers: a field with a stepper beside it. The up, down, page-up and page-down keys step the
+/// number too.
 class TargetNumberEdit : public QWidget
 {
     Q_OBJECT
@@ -27,14 +27,14 @@ public:
 
     /// Sets the stepper's step and maximum and the field's decimals.
     void setInput(const StepRange &range, int decimals);
-    /// Makes the field's maximum the stepper's, and moves the stepper to the field's value.
+    /// Sets the field's maximum to the stepper's, and moves the stepper to the field's value.
     void setupStepper();
 
-    /// Shows a stored number. It stays the field's value, with all its digits and whatever its size, until somebody
-    /// types or steps.
+    /// Shows a stored number. Until the user types or steps, value() returns it with all its digits, even beyond the
+    /// maximum.
     void setValue(float value);
     [[nodiscard]] double value() const;
-    [[nodiscard]] bool isTouched() const; ///< somebody has typed or stepped since setValue()
+    [[nodiscard]] bool isTouched() const; ///< the user has typed or stepped since setValue()
 
     void takeStepperValue(); ///< into the field, which rounds it to its decimals
     void moveStepper();      ///< to the field's value
@@ -42,7 +42,7 @@ public:
 
 Q_SIGNALS:
     void stepped();
-    void typing();          ///< the text changed under a person's hands
+    void typing();          ///< the user changed the text
     void editingFinished(); ///< Return was pressed or the field left, changed or not
 
 protected:
@@ -51,9 +51,9 @@ protected:
 private:
     CheckedLineEdit *m_field;
     Stepper *m_stepper;
-    double m_shown = 0;     ///< the value of the field until somebody types
+    double m_shown = 0;     ///< the field's value until the user types
     bool m_stepped = false; ///< since setValue()
-    bool m_showing = false; ///< the text changes by the program
+    bool m_showing = false; ///< the program is changing the text
 };
 
 } // namespace brinemark
