@@ -5,8 +5,8 @@
 #include <QTextStream>
 #include <QTimer>
 
-// The yardstick for start-up: the smallest main window that the toolkit can show. Says so on its first paint, as the
-// program does in its log.
+// The baseline for start-up time: the smallest main window that the toolkit can show. Reports its first paint with the
+// line that the program writes to its log.
 
 namespace
 {

@@ -17,7 +17,8 @@ using namespace brinemark;
 namespace
 {
 
-/// A log that was kept every day, in steps that test kits have. In each test so many of the parameters were tested.
+/// Fills a log with one test a day, with values in the steps of test kits. `tested` is the average number of parameters
+/// with a value in each test.
 void fillLog(Tank &tank, int count, unsigned tested)
 {
     std::minstd_rand random(7);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Drawing a graph of 16 lines x 10,000 points at 1000 x 600. QT_QPA_PLATFORM=offscreen will do.
+// Drawing a graph of 16 lines x 10,000 points at 1000 x 600 pixels. Run it with QT_QPA_PLATFORM=offscreen.
 //
-// The aim is 50 ms for all that a change of the view takes at one device pixel a pixel: decimation, labels, axes and
-// lines. "noise" is the worst that can happen, every column full of points far apart; "waves" what measurements look
-// like. Both lie in front of a white and a dark background, since outlines depend on it.
+// The target is 50 ms for a change of the view at a device pixel ratio of 1, including decimation, labels, axes and
+// lines. "noise" is the worst case, with points far apart in every pixel column; "waves" resembles real measurements.
+// Both are drawn on a white and on a dark background, because the outlines of the lines depend on it.
 
 #include "ui/graph/Decimate.h"
 #include "ui/graph/TwoDGraphView.h"
@@ -70,7 +70,7 @@ private:
     QList<QList<QPointF>> m_lines;
 };
 
-/// One change of what is visible and the painting that follows it.
+/// Measures one change of the visible range and the painting that follows.
 void draw(benchmark::State &state, Shape shape, bool dark, double devicePixelRatio)
 {
     const ManyPoints points(shape);

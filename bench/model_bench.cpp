@@ -3,9 +3,9 @@
 // Reading, writing and sorting large tank files. BRINEMARK_BENCH_DATA names the folder that bench/make-bench-data
 // filled.
 //
-// Every ratio is printed beside its figure, so that a run on a slower machine still says whether the aims hold: reading
-// at most 4 times the bare XML parse, writing at most 5 times a safe copy of the same bytes, sorting 100,000 tests
-// within 60 ms, and a process that opens a file at most 6 (tests) or 3 (pictures) times the file's size.
+// Every ratio is printed beside its figure, so that a slower machine can check the targets too: reading takes at most 4
+// times the bare XML parse, writing at most 5 times a safe copy of the same bytes, sorting 100,000 tests at most 60 ms,
+// and a process that opens a file needs at most 6 (tests) or 3 (pictures) times the file's size in memory.
 
 #include "base/SafeFile.h"
 #include "base/plist/XmlReader.h"
@@ -57,8 +57,8 @@ double wallSeconds()
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-/// Runs `pass` for the benchmark and remembers its fastest pass under the name. Reading is measured in CPU time, which
-/// other work on the machine disturbs less; writing in the time on the wall, since the disk is part of it.
+/// Runs `pass` for the benchmark and records the time of its fastest pass under `name`. Reading is measured in CPU
+/// time, which other work on the machine disturbs less; writing in wall-clock time, because it includes the disk.
 template <class Pass>
 void measure(benchmark::State &state, const std::string &name, double (*seconds)(), Pass pass)
 {
@@ -137,7 +137,7 @@ void writeModel(benchmark::State &state, const std::string &file)
     reportRatio(state, "write " + file, "copy " + file);
 }
 
-/// One tank with the tests of all, sorted by a column from another order.
+/// Sorts the tests of all tanks, in one list, by a column; the list is in another order before.
 void sortTests(benchmark::State &state, const QString &identifier)
 {
     TankList tanks;
@@ -175,7 +175,8 @@ void openInFreshProcess(benchmark::State &state, const std::string &file)
     state.counters["ratio"] = kilobytes * 1024 / double(QFileInfo(dataFile(file)).size());
 }
 
-/// The peak of this program alone, in kB: what getrusage reports still counts the process that started it.
+/// The peak memory of this process in kB. getrusage() is not used, because its figure includes the process that started
+/// this one.
 QByteArray peakMemory()
 {
     QFile status(QStringLiteral("/proc/self/status"));

@@ -20,8 +20,8 @@ endif()
 
 # brinemark_library(NAME LINKS targets... [RECURSE])
 #
-# A static library of every source file in the calling folder; headers are included from src/ ("model/Tank.h").
-# The folder is the list: a new class needs no line here. RECURSE takes the folders below as well.
+# Defines a static library of every source file in the calling folder; RECURSE adds the folders below. A new source file
+# needs no entry anywhere. Headers are included relative to src/ ("model/Tank.h").
 function(brinemark_library name)
     cmake_parse_arguments(ARG "RECURSE" "" "LINKS" ${ARGN})
     set(glob GLOB)

@@ -1,2 +1,2 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the sample tank file tells: two tanks, two years."""
+"""The content of the sample tank file: two tanks over two years."""

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Two years of water tests, played day by day with a fixed seed."""
+"""Two years of water tests, simulated day by day with a fixed seed."""
 import math
 import random
 from datetime import datetime, timedelta
@@ -10,7 +10,7 @@ LAST_DAY = datetime(2026, 11, 15)
 
 
 def season(day, coldest, warmest):
-    """Room temperature's pull on the water: coldest late in January, warmest late in July."""
+    """Water temperature under the influence of the room: coldest late in January, warmest late in July."""
     share = 0.5 - 0.5 * math.cos(2 * math.pi * (day.timetuple().tm_yday - 25) / 365.25)
     return coldest + (warmest - coldest) * share ** 1.5
 
@@ -20,7 +20,7 @@ def hump(day, centre, width, height):
 
 
 def step(value, size, digits=2):
-    """As a test kit reads: whole steps of its scale, nothing below zero."""
+    """The reading of a test kit: whole steps of its scale, never below zero."""
     return round(max(0.0, round(value / size) * size), digits)
 
 
@@ -37,7 +37,7 @@ def away(day, spans):
 
 
 def freshwater():
-    """Sundays before the water change, often Mondays after it; a failed filter in February 2026."""
+    """Tests on Sundays before the water change and often on Mondays after it; the filter fails in February 2026."""
     rng = random.Random("living room water")
     start = datetime(2024, 11, 17)
     holidays = ((datetime(2024, 12, 23), datetime(2025, 1, 1)), (datetime(2025, 8, 1), datetime(2025, 8, 19)),
@@ -77,8 +77,8 @@ def freshwater():
 
 
 def reef():
-    """Saturdays; alkalinity, calcium and magnesium eaten by growing corals and put back by dosing, whose pump stands
-    still for a week in June 2026."""
+    """Tests on Saturdays. Growing corals consume alkalinity, calcium and magnesium, and a dosing pump replaces them; the pump
+    stops for a week in June 2026."""
     rng = random.Random("reef water")
     start = datetime(2024, 11, 23)
     holidays = ((datetime(2024, 12, 23), datetime(2025, 1, 1)), (datetime(2025, 8, 1), datetime(2025, 8, 19)),

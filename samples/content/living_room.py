@@ -8,7 +8,7 @@ from tankfiles import form
 NAME = "Living room"
 DAY, WEEK = 86400, 604800
 
-# common name, scientific name, family, size, social level, life span, level, diet, breeding, care, count,
+# common name, scientific name, family, size, social level, life span, tank level, diet, breeding, care, count,
 # temperature, pH, general hardness, carbonate hardness, notes, drawing and its arguments
 LIVESTOCK = {
     "Fish": [

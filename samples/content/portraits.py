@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""One small drawn picture a species."""
+"""A small drawn picture for each species."""
 import math
 import random
 
@@ -32,7 +32,7 @@ def scene(water, rng):
 
 
 def backdrop(canvas, water, rng):
-    """Something blurred to swim in front of: leaves or rock."""
+    """A blurred background: leaves or rock."""
     if water == "fresh":
         for _ in range(9):
             x, lean, tall = rng.uniform(0, WIDTH), rng.uniform(-40, 40), rng.uniform(60, 150)
@@ -326,7 +326,7 @@ DRAWERS = {drawer.__name__: drawer for drawer in (
 
 
 def portrait(seed, water, drawer, **arguments):
-    """PNG bytes; the seed (the scientific name) makes every scene its own."""
+    """PNG bytes; the seed (the scientific name) makes every scene different."""
     rng = random.Random(seed)
     canvas = scene(water, rng)
     backdrop(canvas, water, rng)

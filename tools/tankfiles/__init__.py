@@ -1,2 +1,2 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the scripts that write tank files share: the file's form, dates, and small drawn pictures."""
+"""Shared by the scripts that write tank files: the file's form, dates, and small drawn pictures."""

@@ -4,7 +4,7 @@ import math
 import struct
 import zlib
 
-SUBLINES = 4  # scan lines a pixel; coverage along a line is exact
+SUBLINES = 4  # scan lines per pixel; coverage along a line is exact
 
 
 def mix(a, b, t):
@@ -60,7 +60,7 @@ class Canvas:
         return result
 
     def fill(self, polygon, colour, alpha=1.0, clip=None):
-        """`colour` is a triple or a function of (x, y); `clip` is another polygon's coverage. Answers the coverage."""
+        """`colour` is a triple or a function of (x, y); `clip` is another polygon's coverage. Returns the coverage."""
         area = self.coverage(polygon)
         constant = None if callable(colour) else colour
         for y, (left, line) in area.items():
@@ -80,13 +80,13 @@ class Canvas:
         return area
 
     def png(self):
-        # even values only: no eye sees the difference and the file is a third smaller
+        # even values only: the difference is invisible and the file is a third smaller
         lines = [bytes(min(254, 2 * int(channel / 2 + 0.5)) for channel in row) for row in self.rows]
         return png_file(self.width, self.height, zlib.compress(filtered(lines), 9))
 
 
 def filtered(lines):
-    """The lines with the filter (none, sub, up, average) whose output is smallest in sum of magnitudes."""
+    """The lines, each with the PNG filter (none, sub, up, average) that gives the smallest sum of magnitudes."""
     data, above = bytearray(), bytes(len(lines[0]))
     for line in lines:
         before = bytes(3) + line[:-3]

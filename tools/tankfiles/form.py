@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The current form of a tank file, as plain dictionaries that plistlib can write.
 
-Numbers and flags of records are stored as strings, those of targets as numbers; every function here answers exactly
-the dictionary that stands in the file.
+Numbers and flags of records are stored as strings, those of targets as numbers; every function here returns the
+dictionary exactly as in the file.
 """
 import plistlib
 import struct
@@ -23,7 +23,7 @@ TARGETS = (
     ("dioxideValue", "CO₂"), ("magnesiumValue", "Magnesium"),
 )
 
-# field of a water test -> its key in the file; whole numbers are those of WHOLE
+# field of a water test -> its key in the file; the fields in WHOLE are whole numbers
 CONDITION_KEYS = {
     "ph": "ph", "ammonia": "Ammonia", "nitrate": "Nitrate", "nitrite": "Nitrite", "gH": "GH", "kH": "KH",
     "salt": "Salt", "temp": "Temp", "alkalinity": "alkalinity", "phosphate": "phosphate", "calcium": "calcium",
@@ -77,7 +77,7 @@ def item(parent, name, sci_name, family, size, social, life, level, diet, breedi
 
 
 def condition(moment, zone=None, **values):
-    """A water test; what is not named was not tested."""
+    """A water test; parameters that are not given count as not tested."""
     record = {"Date": date_text(moment, zone)}
     for field, key in CONDITION_KEYS.items():
         value = values.pop(field, -1)
@@ -106,19 +106,19 @@ def activity(moment, text, complete=False, interval=0, zone=None):
 
 
 def target(name, preferred=0.0, deviation=None, warning=False):
-    """No deviation means that the tolerance band is off."""
+    """Without a deviation the tolerance band is off."""
     return {"name": name, "preferred": float(preferred), "warningOn": warning,
             "deviation": float(deviation or 0), "deviationOn": deviation is not None}
 
 
 def columns(*entries):
-    """Column names, or (name, width) pairs; without a width the column keeps its own."""
+    """The entries are column names or (name, width) pairs; without a width the column has its default width."""
     pairs = (entry if isinstance(entry, tuple) else (entry, 0.0) for entry in entries)
     return [{"identifier": name, "width": float(width)} for name, width in pairs]
 
 
 def list_properties(sort=None, column_info=None):
-    """`sort` maps a container ("Note") to (identifier, ascending); the others have what a new tank has."""
+    """`sort` maps a container ("Note") to (identifier, ascending); the others have the sort order of a new tank."""
     properties = {}
     for container in CONTAINERS:
         identifier, ascending = (sort or {}).get(container, (DEFAULT_SORT.get(container, ""), True))
@@ -131,7 +131,7 @@ def list_properties(sort=None, column_info=None):
 def tank(name, size="", freshwater=True, expanded=(), categories=None, targets=None, lists=None, sort=None,
          column_info=None):
     """`expanded` names rows ("Tank", "Fish"); `targets` maps a target key to arguments of target(); `lists` maps a
-    container ("Fish") to its records in the order in which they stand."""
+    container ("Fish") to its records in list order."""
     properties = {"Freshwater": flag(freshwater), "Name": name, "Size": size}
     for row in ("Tank", "Fish", "Plant", "Invert", "Coral"):
         properties[row + "Expanded"] = flag(row in expanded)
@@ -146,7 +146,7 @@ def tank(name, size="", freshwater=True, expanded=(), categories=None, targets=N
     }
 
 
-# display names of the livestock containers, as they stand among the keywords
+# display names of the livestock containers, as in the keywords
 CONTAINER_NAMES = {"Fish": "Fish", "Coral": "Corals", "Invert": "Invertebrates", "Plant": "Plants"}
 
 

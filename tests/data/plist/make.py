@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Writes the fixture file beside it with Python's own property-list writer, an independent witness for ours."""
+"""Writes the fixture file beside this script with Python's own property-list writer, to test our reader independently."""
 
 import datetime
 import pathlib

@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Files with something wrong, each with what reading it must come to.
+"""Faulty files, each with the expected outcome of reading it.
 
-Outcomes: "refused" - the file is no property-list dictionary: no message, the tanks of before stay ("old");
-"read-error" - a tank could not be built: an alert, the tanks before it stay; "reads" - read without complaint.
-"question" marks files that are first asked about as older ones.
+Outcomes: "refused" - the file is not a property-list dictionary: no message, the open tanks are kept ("old");
+"read-error" - a tank cannot be built: an alert, the tanks before it are kept; "reads" - read without a message.
+"question" marks files for which the program first asks whether to keep a copy of an older file.
 """
 import copy
 import plistlib
@@ -19,7 +19,7 @@ MISSING = object()
 
 
 class Collection:
-    """Names, contents and expectations of the broken files."""
+    """Names, contents and expected outcomes of the broken files."""
 
     def __init__(self):
         self.files, self.expected = {}, {}
@@ -50,8 +50,8 @@ RECORDS = {
 
 
 def two_tanks(change=None, containers=tuple(RECORDS)):
-    """A good first tank and a second with one record in each of the containers, which `change` may spoil. The other
-    containers have no list attributes, which may be missing, so that the files stay small."""
+    """A root with a valid first tank and a second with one record in each of the containers, which `change` may make
+    invalid. The other containers have no list attributes, which are optional, so that the files stay small."""
     second = lean_tank("Second")
     for container in containers:
         second["TankLists"]["Tank" + container] = [RECORDS[container]()]
@@ -65,7 +65,7 @@ def two_tanks(change=None, containers=tuple(RECORDS)):
 
 
 def changed(*path_and_value, containers=("Note",)):
-    """The two tanks with one entry put in place of another, or taken out."""
+    """The two tanks with one entry replaced or removed."""
     *path, last, value = path_and_value
 
     def change(root):
@@ -309,7 +309,8 @@ def odd_values(files):
 
 
 def deep_nesting(files):
-    """Too large to keep: a test builds it from these pieces, `levels` times `open` and then `close` between them."""
+    """Files too large for the repository: a test builds each from these pieces, with `open` and then `close`
+    repeated `levels` times between `before` and `after`."""
     whole = text_of(two_tanks(containers=("Note",))).decode()
     mark = "<key>Name</key>\n\t\t\t<string>Second"
     start = whole.index(mark)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Files that can be read. Where a value matters to a test, it is unlike every other value of its file."""
+"""Files that can be read. A value that matters to a test differs from every other value in its file."""
 from datetime import datetime
 
 from tankfiles import form
@@ -39,7 +39,7 @@ def simple_tank(name, size="100 l", **arguments):
 
 
 def lean_tank(name, **arguments):
-    """Without targets and column list, which may be missing: small, for files that are about something else."""
+    """A small tank without the optional targets and column list, for files that test something else."""
     tank = simple_tank(name, **arguments)
     for key, _ in form.TARGETS:
         del tank["TankProperties"][key]
@@ -48,7 +48,7 @@ def lean_tank(name, **arguments):
 
 
 def lean_test(when, zone="+0000", **values):
-    """A water test with the keys that are given and no others."""
+    """A water test with only the given keys."""
     full = form.condition(when, zone, **values)
     return {key: full[key] for key in ("Date", *(form.CONDITION_KEYS[field] for field in values))}
 
@@ -70,14 +70,14 @@ def three_tanks():
 def three_tanks_no_attributes():
     root = three_tanks()
     del root["FileAttributes"]
-    # the older form, since a dictionary tank needs the version that the attributes hold
+    # the older form, because a dictionary tank needs the version in the attributes
     for position in ("1", "2", "3"):
         root[position] = older(root[position]["TankProperties"]["Name"])
     return root
 
 
 def minimal():
-    """Only what cannot be missing."""
+    """A file with only the required entries."""
     return {"1": {"TankProperties": {"Name": "Minimal", "Size": ""}}, "FileAttributes": {"bundleVersion": 1}}
 
 
@@ -119,7 +119,7 @@ def every_field():
 
 
 def without_keys(*keys):
-    """One tank with one full water test that lacks the keys; without magnesium its target is missing too."""
+    """One tank with one water test that has all keys but the given ones; without magnesium its target is missing too."""
     values = {field: 5 for field in form.CONDITION_KEYS}
     tank = simple_tank("Older keys", lists={"Condition": [form.condition(moment(1), "+0000", **values)]})
     for key in keys:
@@ -140,14 +140,14 @@ def schedule_auto_off():
 
 
 def interval_exponent():
-    """52 weeks in the seven digits that some writers stop at."""
+    """An interval of 52 weeks, written with the seven digits to which some writers are limited."""
     record = form.activity(moment(1, year=2031), "New light tube", interval=31449600, zone="+0000")
     record["NextDate"] = "3.14496e+07"
     return form.root([lean_tank("Interval", lists={"Schedule": [record]})])
 
 
 def sorted_lists():
-    """Records stand out of order; each list's keys differ, so that one order is right."""
+    """Lists with unsorted records; all sort keys of a list differ, so that only one order is correct."""
     lists = {
         "Condition": [lean_test(moment(day), ph=ph, magnesium=magnesium)
                       for day, ph, magnesium in ((3, 7.2, 1300), (1, -1, 1250), (4, 6.4, 900), (2, 8.1, -1), (5, 0, 1100))],
@@ -168,7 +168,7 @@ def sorted_lists():
         for ascending in (True, False):
             tanks.append(lean_tank("Keys %d %s" % (number, "up" if ascending else "down"), lists=lists,
                                      sort={container: (key, ascending) for container, key in identifiers.items()}))
-    # livestock attributes are stored but not obeyed
+    # livestock lists store their sort order, but reading does not apply it
     fish = [item("Fish stay", name) for name in ("Mu", "Alpha", "Zeta")]
     tanks.append(lean_tank("Fish stay", lists={"Fish": fish}, sort={"Fish": ("name", False)}))
     return form.root(tanks)
@@ -202,14 +202,14 @@ def foreign_zone():
     return form.root([lean_tank("Zones", lists=lists)])
 
 
-# keys whose string stands for a flag, a whole number or a float
+# keys whose string contains a flag, a whole number or a float
 FLAG_KEYS = {"Freshwater", "TankExpanded", "FishExpanded", "PlantExpanded", "InvertExpanded", "CoralExpanded", "Complete", "AutoReschedule"}
 WHOLE_KEYS = {"GHardness", "Count", "calcium", "dioxide", "magnesium"}
 FLOAT_KEYS = {"ph", "KH", "Salt", "Ammonia", "Nitrate", "Nitrite", "GH", "Temp", "NextDate", "alkalinity", "phosphate", "iodine", "oxygen", "copper", "iron"}
 
 
 def as_numbers(value, key=""):
-    """The same tree with numbers and booleans where strings stand for them."""
+    """The same tree with numbers and booleans instead of strings."""
     if isinstance(value, dict):
         return {inner: as_numbers(content, inner) for inner, content in value.items()}
     if isinstance(value, list):
