@@ -6,6 +6,7 @@
 #include "ui/Icons.h"
 #include "ui/MessageText.h"
 #include "ui/Sheets.h"
+#include "ui/Spacing.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -65,20 +66,20 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     m_message->setVisible(!alert.message.isEmpty());
 
     m_texts = new QVBoxLayout;
-    m_texts->setSpacing(8);
+    m_texts->setSpacing(spacing::group);
     m_texts->addWidget(m_title);
     m_texts->addWidget(m_message);
 
     auto *top = new QHBoxLayout;
-    top->setSpacing(16);
+    top->setSpacing(spacing::content);
     top->addWidget(picture, 0, Qt::AlignTop);
     top->addLayout(m_texts, 1);
     top->setAlignment(m_texts, Qt::AlignVCenter); // a title alone stands beside the middle of the picture
 
     m_buttons = new QDialogButtonBox(this);
     auto *all = new QVBoxLayout(this);
-    all->setContentsMargins(16, 16, 16, 16);
-    all->setSpacing(16);
+    all->setContentsMargins(spacing::aroundContent);
+    all->setSpacing(spacing::content);
     all->setSizeConstraint(QLayout::SetFixedSize);
     all->addLayout(top);
     all->addStretch();
@@ -107,7 +108,7 @@ QPushButton *AlertDialog::button(AlertAnswer answer) const
 QCheckBox *AlertDialog::addCheckBox(const QString &text)
 {
     auto *box = new QCheckBox(text, this);
-    m_texts->addSpacing(4);
+    m_texts->addSpacing(spacing::tight);
     m_texts->addWidget(box);
     setTabOrder(m_message, box);
     return box;

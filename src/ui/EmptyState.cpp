@@ -3,6 +3,7 @@
 #include "ui/EmptyState.h"
 
 #include "ui/Colours.h"
+#include "ui/Spacing.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -36,8 +37,8 @@ EmptyState::EmptyState(const QIcon &picture, const QString &sentence, const QStr
     connect(m_button, &QPushButton::clicked, this, &EmptyState::addRequested);
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(12);
+    column->setContentsMargins(spacing::aroundContent);
+    column->setSpacing(spacing::section);
     column->addStretch(2);
     column->addWidget(m_picture, 0, Qt::AlignHCenter);
     column->addWidget(m_sentence, 0, Qt::AlignHCenter);

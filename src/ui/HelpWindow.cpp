@@ -7,6 +7,7 @@
 #include "ui/Desktop.h"
 #include "ui/IconButton.h"
 #include "ui/Icons.h"
+#include "ui/Spacing.h"
 
 #include <QAction>
 #include <QDir>
@@ -109,8 +110,8 @@ HelpWindow::HelpWindow()
 void HelpWindow::buildButtons()
 {
     auto *bar = new QHBoxLayout;
-    bar->setContentsMargins(8, 8, 8, 8);
-    bar->setSpacing(4);
+    bar->setContentsMargins(spacing::aroundGroup);
+    bar->setSpacing(spacing::tight);
     const auto add = [&](const char *name, const char *iconName, const QString &title, const QKeySequence &shortcut) {
         QToolButton *button = makeIconButton(iconName, title, QLatin1String(name));
         button->setIconSize(QSize(20, 20));
@@ -131,7 +132,7 @@ void HelpWindow::buildButtons()
     connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
     bar->addStretch();
     bar->addWidget(m_findResult);
-    bar->addSpacing(4);
+    bar->addSpacing(spacing::tight);
     bar->addWidget(m_findField);
 
     const auto onKeys = [this](const QKeySequence &keys, auto act) {

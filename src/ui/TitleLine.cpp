@@ -4,6 +4,7 @@
 
 #include "ui/Colours.h"
 #include "ui/ElidedLabel.h"
+#include "ui/Spacing.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -19,8 +20,8 @@ TitleLine::TitleLine(const QString &title, const QString &secondary, QWidget *pa
     m_title->setObjectName(QStringLiteral("viewTitle"));
     m_secondary->setObjectName(QStringLiteral("viewSecondary"));
     auto *line = new QHBoxLayout(this);
-    line->setContentsMargins(16, 12, 16, 12);
-    line->setSpacing(8);
+    line->setContentsMargins(spacing::content, spacing::section, spacing::content, spacing::section);
+    line->setSpacing(spacing::group);
     line->addWidget(m_title, 0, Qt::AlignBottom);
     line->addWidget(m_secondary, 1, Qt::AlignBottom);
     m_title->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);

@@ -7,6 +7,7 @@
 #include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
+#include "ui/Spacing.h"
 #include "ui/WindowPlacement.h"
 
 #include <QButtonGroup>
@@ -43,7 +44,7 @@ PrefsController::PrefsController()
 
     m_autoSaveMatrix = new QButtonGroup(this);
     auto *choices = new QVBoxLayout;
-    choices->setSpacing(4);
+    choices->setSpacing(spacing::tight);
     const auto addChoice = [&](int tag, TextKey label, const QString &name) {
         auto *button = new QRadioButton(text(label));
         button->setObjectName(name);
@@ -62,7 +63,7 @@ PrefsController::PrefsController()
     m_defaultFileSetButton->setObjectName(QStringLiteral("defaultFileSetButton"));
     m_defaultFileSetButton->setAutoDefault(false);
     auto *file = new QHBoxLayout;
-    file->setSpacing(8);
+    file->setSpacing(spacing::group);
     file->addWidget(m_defaultFilePath, 1);
     file->addWidget(m_defaultFileSetButton);
 
@@ -80,9 +81,9 @@ PrefsController::PrefsController()
         return label;
     };
     auto *form = new QFormLayout(m_prefWindow.get());
-    form->setContentsMargins(16, 16, 16, 16);
-    form->setHorizontalSpacing(12);
-    form->setVerticalSpacing(16);
+    form->setContentsMargins(spacing::aroundContent);
+    form->setHorizontalSpacing(spacing::section);
+    form->setVerticalSpacing(spacing::content);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
     form->addRow(caption("PrefsOnQuit"_key, m_autoSaveMatrix->button(autoSaveTag)), choices);
     form->addRow(caption("PrefsDefaultFile"_key, m_defaultFileSetButton), file);

@@ -7,6 +7,7 @@
 #include "base/PreferenceKeys.h"
 #include "ui/Icons.h"
 #include "ui/Sheets.h"
+#include "ui/Spacing.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -24,7 +25,6 @@ namespace
 {
 constexpr int iconEdge = 32;
 constexpr int spaceWidth = 32;
-constexpr int gap = 4;             // between items and around them
 constexpr int captionedWidth = 64; // short captions get as much room as medium ones, so that the row looks even
 } // namespace
 
@@ -39,7 +39,7 @@ MainToolBar::MainToolBar(Trigger trigger, QWidget *parent)
     setFloatable(false);
     setAllowedAreas(Qt::TopToolBarArea);
     setIconSize(QSize(iconEdge, iconEdge));
-    setContentsMargins(gap, 0, gap, 0);
+    setContentsMargins(spacing::tight, 0, spacing::tight, 0);
     createToolbarDictionary();
 
     // The action that every main window offers for its toolbars hides this one for good as well.

@@ -4,6 +4,7 @@
 
 #include "app/toolbar/ToolbarAvailableModel.h"
 #include "app/toolbar/ToolbarShownModel.h"
+#include "ui/Spacing.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -21,8 +22,6 @@ namespace brinemark
 namespace
 {
 
-constexpr int margin = 16;
-constexpr int groupSpacing = 8;
 constexpr QSize listSize(232, 352);
 constexpr QSize listIcons(24, 24);
 
@@ -46,7 +45,7 @@ ToolbarCustomiseDialog::ToolbarCustomiseDialog(const ToolbarConfiguration &confi
     setWindowModality(Qt::WindowModal);
 
     auto *lists = new QHBoxLayout;
-    lists->setSpacing(margin);
+    lists->setSpacing(spacing::content);
     lists->addLayout(availableColumn());
     lists->addLayout(shownColumn());
 
@@ -67,7 +66,7 @@ ToolbarCustomiseDialog::ToolbarCustomiseDialog(const ToolbarConfiguration &confi
     done->setDefault(true);
 
     auto *bottom = new QHBoxLayout;
-    bottom->setSpacing(groupSpacing);
+    bottom->setSpacing(spacing::group);
     bottom->addWidget(displayLabel);
     bottom->addWidget(m_display);
     bottom->addStretch();
@@ -75,8 +74,8 @@ ToolbarCustomiseDialog::ToolbarCustomiseDialog(const ToolbarConfiguration &confi
     bottom->addWidget(done);
 
     auto *all = new QVBoxLayout(this);
-    all->setContentsMargins(margin, margin, margin, margin);
-    all->setSpacing(margin);
+    all->setContentsMargins(spacing::aroundContent);
+    all->setSpacing(spacing::content);
     all->addLayout(lists, 1);
     all->addLayout(bottom);
 
@@ -90,7 +89,7 @@ ToolbarCustomiseDialog::ToolbarCustomiseDialog(const ToolbarConfiguration &confi
 QVBoxLayout *ToolbarCustomiseDialog::availableColumn()
 {
     auto *column = new QVBoxLayout;
-    column->setSpacing(groupSpacing);
+    column->setSpacing(spacing::group);
     m_available = listView("toolbarAvailable", m_availableModel, "ToolbarCustomiseAvailable"_key);
     auto *title = new QLabel(text("ToolbarCustomiseAvailable"_key));
     title->setBuddy(m_available);
@@ -98,7 +97,7 @@ QVBoxLayout *ToolbarCustomiseDialog::availableColumn()
     column->addWidget(m_available, 1);
 
     auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(groupSpacing);
+    buttons->setSpacing(spacing::group);
     m_add = button("toolbarAdd", "ToolbarCustomiseAdd"_key, &ToolbarCustomiseDialog::add);
     buttons->addWidget(m_add);
     buttons->addStretch();
@@ -113,7 +112,7 @@ QVBoxLayout *ToolbarCustomiseDialog::availableColumn()
 QVBoxLayout *ToolbarCustomiseDialog::shownColumn()
 {
     auto *column = new QVBoxLayout;
-    column->setSpacing(groupSpacing);
+    column->setSpacing(spacing::group);
     m_shown = listView("toolbarShown", m_shownModel, "ToolbarCustomiseShown"_key);
     auto *title = new QLabel(text("ToolbarCustomiseShown"_key));
     title->setBuddy(m_shown);
@@ -121,7 +120,7 @@ QVBoxLayout *ToolbarCustomiseDialog::shownColumn()
     column->addWidget(m_shown, 1);
 
     auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(groupSpacing);
+    buttons->setSpacing(spacing::group);
     m_remove = button("toolbarRemove", "ToolbarCustomiseRemove"_key, &ToolbarCustomiseDialog::remove);
     m_up = button("toolbarUp", "ToolbarCustomiseUp"_key, &ToolbarCustomiseDialog::moveUp);
     m_down = button("toolbarDown", "ToolbarCustomiseDown"_key, &ToolbarCustomiseDialog::moveDown);

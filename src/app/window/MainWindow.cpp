@@ -10,6 +10,7 @@
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
 #include "ui/IconButton.h"
+#include "ui/Spacing.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -61,8 +62,8 @@ MainWindow::MainWindow(TankOutlineView *tankList)
     m_deleteButton = makeIconButton("Remove", text("ToolbarDeleteToolTip"), QStringLiteral("deleteButton"));
     m_helpButton = makeIconButton("Help", text("HelpButtonToolTip"), QStringLiteral("helpButton"));
     auto *foot = new QHBoxLayout;
-    foot->setContentsMargins(4, 4, 4, 4);
-    foot->setSpacing(4);
+    foot->setContentsMargins(spacing::tight, spacing::tight, spacing::tight, spacing::tight);
+    foot->setSpacing(spacing::tight);
     foot->addWidget(m_newButton);
     foot->addWidget(m_deleteButton);
     foot->addStretch();

@@ -5,6 +5,7 @@
 #include "base/text/NumberText.h"
 #include "calc/UnitConversion.h"
 #include "ui/CaptionForm.h"
+#include "ui/Spacing.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -32,15 +33,15 @@ ConverterPanel::ConverterPanel(QWidget *parent)
     m_convertResultField->setReadOnly(true);
 
     auto *form = new QGridLayout;
-    form->setHorizontalSpacing(8);
-    form->setVerticalSpacing(8);
+    form->setHorizontalSpacing(spacing::group);
+    form->setVerticalSpacing(spacing::group);
     addCaptioned(*form, 0, 0, text("ConverterKind"), m_typePopup);
     addCaptioned(*form, 1, 0, text("ConverterConversion"), m_convertPopup);
     addCaptioned(*form, 2, 0, text("ConverterValue"), m_convertValueField);
     addCaptioned(*form, 3, 0, text("ConverterResult"), m_convertResultField);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 12, 16, 16);
-    column->setSpacing(12);
+    column->setContentsMargins(spacing::content, spacing::section, spacing::content, spacing::content);
+    column->setSpacing(spacing::section);
     column->addWidget(makeCaption(text("ConverterSection")));
     column->addLayout(form);
     column->setSizeConstraint(QLayout::SetFixedSize);

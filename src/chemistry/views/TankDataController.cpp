@@ -10,6 +10,7 @@
 #include "ui/EmptyState.h"
 #include "ui/Icons.h"
 #include "ui/Shell.h"
+#include "ui/Spacing.h"
 #include "ui/TitleLine.h"
 #include "ui/TruncatingDelegate.h"
 #include "ui/lists/RecordTableView.h"
@@ -90,17 +91,17 @@ QWidget *TankDataController::makeContent()
     m_editButton->setToolTip(text("EditTankToolTip"));
 
     auto *form = new QGridLayout;
-    form->setContentsMargins(16, 0, 16, 16);
-    form->setHorizontalSpacing(8);
-    form->setVerticalSpacing(4);
+    form->setContentsMargins(spacing::content, 0, spacing::content, spacing::content);
+    form->setHorizontalSpacing(spacing::group);
+    form->setVerticalSpacing(spacing::tight);
     addCaptioned(*form, 0, 0, text("TankNameLabel"), m_nameField);
     addCaptioned(*form, 1, 0, text("TankSize"), m_sizeField);
     addCaptioned(*form, 2, 0, text("TankType"), m_typeField);
     auto *targetsTitle = makeCaption(text("TargetsTitle"));
     targetsTitle->setBuddy(m_table);
-    targetsTitle->setContentsMargins(16, 0, 16, 8);
+    targetsTitle->setContentsMargins(spacing::content, 0, spacing::content, spacing::group);
     auto *buttons = new QHBoxLayout;
-    buttons->setContentsMargins(8, 8, 8, 8);
+    buttons->setContentsMargins(spacing::aroundGroup);
     buttons->addWidget(m_editButton);
     buttons->addStretch();
     auto *content = new QWidget;

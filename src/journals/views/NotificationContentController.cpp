@@ -11,6 +11,7 @@
 #include "ui/ElidedLabel.h"
 #include "ui/IconButton.h"
 #include "ui/Shell.h"
+#include "ui/Spacing.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -59,8 +60,8 @@ QWidget *NotificationContentController::contentView()
     words->addWidget(activity);
     words->addWidget(where);
     auto *line = new QHBoxLayout(m_contentView);
-    line->setContentsMargins(12, 4, 8, 4);
-    line->setSpacing(8);
+    line->setContentsMargins(spacing::section, spacing::tight, spacing::group, spacing::tight);
+    line->setSpacing(spacing::group);
     line->addWidget(m_noteComplete);
     line->addLayout(words, 1);
     line->addWidget(m_linkButton);

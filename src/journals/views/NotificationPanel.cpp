@@ -3,6 +3,7 @@
 #include "journals/views/NotificationPanel.h"
 
 #include "base/text/Texts.h"
+#include "ui/Spacing.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -27,7 +28,7 @@ NotificationPanel::NotificationPanel(QWidget *parent)
     setWindowTitle(text("DockMenuTitle"));
     auto *content = new QWidget;
     m_rows = new QVBoxLayout(content);
-    m_rows->setContentsMargins(0, 4, 0, 4);
+    m_rows->setContentsMargins(0, spacing::tight, 0, spacing::tight);
     m_rows->setSpacing(0);
     m_rows->setAlignment(Qt::AlignTop);
     m_scrollView->setFrameShape(QFrame::NoFrame);

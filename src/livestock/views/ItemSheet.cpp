@@ -9,6 +9,7 @@
 #include "model/KeyAccess.h"
 #include "ui/Alerts.h"
 #include "ui/CaptionForm.h"
+#include "ui/Spacing.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -65,7 +66,7 @@ ItemSheet::ItemSheet(QWidget *parent)
         ->setObjectName(QStringLiteral("cancelButton"));
 
     auto *content = new QHBoxLayout;
-    content->setSpacing(16);
+    content->setSpacing(spacing::content);
     content->addWidget(makeFields(), 1);
     content->addWidget(makePictureColumn(), 0, Qt::AlignTop);
     m_notes = new QPlainTextEdit;
@@ -73,14 +74,14 @@ ItemSheet::ItemSheet(QWidget *parent)
     m_notes->setTabChangesFocus(true);
     m_notes->setMinimumHeight(72);
     auto *notes = new QVBoxLayout;
-    notes->setSpacing(4);
+    notes->setSpacing(spacing::tight);
     QLabel *notesCaption = makeCaption(text("FishDataNote"));
     notesCaption->setBuddy(m_notes);
     notes->addWidget(notesCaption);
     notes->addWidget(m_notes);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(16);
+    column->setContentsMargins(spacing::aroundContent);
+    column->setSpacing(spacing::content);
     column->addLayout(content);
     column->addLayout(notes, 1);
     column->addWidget(buttons);
@@ -103,8 +104,8 @@ QWidget *ItemSheet::makeFields()
     auto *fields = new QWidget;
     auto *grid = new QGridLayout(fields);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
+    grid->setHorizontalSpacing(spacing::group);
+    grid->setVerticalSpacing(spacing::group);
     int row = 0;
     for (const NameField &field : nameFields) {
         addField(*grid, row, 0, text(field.captionKey), field.key.toString());
@@ -136,13 +137,13 @@ QWidget *ItemSheet::makePictureColumn()
     for (QPushButton *button : {chooseButton, m_deleteImageButton})
         button->setAutoDefault(false); // Return is OK's
     auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
+    buttons->setSpacing(spacing::group);
     buttons->addWidget(chooseButton);
     buttons->addWidget(m_deleteImageButton);
     auto *pictureColumn = new QWidget;
     auto *column = new QVBoxLayout(pictureColumn);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(8);
+    column->setSpacing(spacing::group);
     column->addWidget(makeCaption(text("PictureLabel")));
     column->addWidget(m_picture);
     column->addLayout(buttons);

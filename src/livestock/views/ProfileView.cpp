@@ -7,6 +7,7 @@
 #include "ui/CaptionForm.h"
 #include "ui/Colours.h"
 #include "ui/Icons.h"
+#include "ui/Spacing.h"
 #include "ui/TitleLine.h"
 
 #include <QGridLayout>
@@ -49,7 +50,7 @@ ProfileView::ProfileView(QWidget *parent)
     m_editButton->setToolTip(text("EditItemToolTip"));
 
     auto *buttons = new QHBoxLayout;
-    buttons->setContentsMargins(8, 8, 8, 8);
+    buttons->setContentsMargins(spacing::aroundGroup);
     buttons->addWidget(m_editButton);
     buttons->addStretch();
     auto *column = new QVBoxLayout(this);
@@ -64,19 +65,19 @@ ProfileView::ProfileView(QWidget *parent)
 QWidget *ProfileView::makePage()
 {
     auto *names = new QVBoxLayout;
-    names->setSpacing(4);
+    names->setSpacing(spacing::tight);
     names->addWidget(m_name);
     names->addWidget(m_sciName);
     names->addWidget(m_family);
     auto *head = new QHBoxLayout;
-    head->setSpacing(16);
+    head->setSpacing(spacing::content);
     head->addWidget(m_picture, 0, Qt::AlignTop);
     head->addLayout(names, 1);
     head->setAlignment(names, Qt::AlignTop);
 
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
+    grid->setHorizontalSpacing(spacing::group);
+    grid->setVerticalSpacing(spacing::group);
     for (std::size_t i = 0; i < profileFields.size(); ++i) {
         const ProfileField &field = profileFields[i];
         m_values[i] = makeValue(field.key.toString());
@@ -85,12 +86,12 @@ QWidget *ProfileView::makePage()
 
     auto *page = new QWidget;
     auto *column = new QVBoxLayout(page);
-    column->setContentsMargins(16, 4, 16, 16);
-    column->setSpacing(16);
+    column->setContentsMargins(spacing::content, spacing::tight, spacing::content, spacing::content);
+    column->setSpacing(spacing::content);
     column->addLayout(head);
     column->addLayout(grid);
     auto *notes = new QVBoxLayout;
-    notes->setSpacing(4);
+    notes->setSpacing(spacing::tight);
     notes->addWidget(makeCaption(text("FishDataNote")));
     notes->addWidget(m_notes);
     column->addLayout(notes);

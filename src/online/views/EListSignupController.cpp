@@ -8,6 +8,7 @@
 #include "ui/Desktop.h"
 #include "ui/Icons.h"
 #include "ui/Shell.h"
+#include "ui/Spacing.h"
 #include "ui/WindowPlacement.h"
 
 #include <QDialog>
@@ -57,17 +58,17 @@ EListSignupController::EListSignupController()
     cancelButton->setObjectName(QStringLiteral("cancelButton"));
 
     auto *words = new QVBoxLayout;
-    words->setSpacing(8);
+    words->setSpacing(spacing::group);
     words->addWidget(title);
     words->addWidget(message);
     words->addWidget(m_addressField);
     auto *content = new QHBoxLayout;
-    content->setSpacing(16);
+    content->setSpacing(spacing::content);
     content->addWidget(picture, 0, Qt::AlignTop);
     content->addLayout(words);
     auto *layout = new QVBoxLayout(m_window.get());
-    layout->setContentsMargins(16, 16, 16, 16);
-    layout->setSpacing(16);
+    layout->setContentsMargins(spacing::aroundContent);
+    layout->setSpacing(spacing::content);
     layout->addLayout(content);
     layout->addWidget(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);

@@ -11,6 +11,7 @@
 #include "online/UpdateSchedule.h"
 #include "ui/CaptionForm.h"
 #include "ui/Shell.h"
+#include "ui/Spacing.h"
 #include "ui/WindowPlacement.h"
 
 #include <QCheckBox>
@@ -62,16 +63,16 @@ void QZUpdateController::makeWindow()
     m_lastCheckField = makeValue(QStringLiteral("lastCheckField"));
 
     auto *form = new QGridLayout;
-    form->setHorizontalSpacing(8);
-    form->setVerticalSpacing(8);
+    form->setHorizontalSpacing(spacing::group);
+    form->setVerticalSpacing(spacing::group);
     form->addWidget(m_autoUpdateCheck, 0, 0);
     form->addWidget(m_checkPopupButton, 0, 1);
     form->addWidget(makeCaption(text("LastCheck", TextTable::Update)), 1, 0);
     form->addWidget(m_lastCheckField, 1, 1);
     form->setColumnStretch(1, 1);
     auto *column = new QVBoxLayout(m_scheduleWindow);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(16);
+    column->setContentsMargins(spacing::aroundContent);
+    column->setSpacing(spacing::content);
     column->addWidget(label);
     column->addLayout(form);
     column->setSizeConstraint(QLayout::SetFixedSize);

@@ -5,6 +5,7 @@
 #include "base/Clock.h"
 #include "base/text/Texts.h"
 #include "ui/IconButton.h"
+#include "ui/Spacing.h"
 #include "ui/calendar/CalendarDays.h"
 #include "ui/calendar/CalendarMonth.h"
 
@@ -52,11 +53,11 @@ CalendarPopup::CalendarPopup(const QDateTime &date, QWidget *parent)
         setLayoutDirection(parent->layoutDirection());
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(8, 8, 8, 8);
-    column->setSpacing(4);
+    column->setContentsMargins(spacing::aroundGroup);
+    column->setSpacing(spacing::tight);
     column->addLayout(makeTitleRow());
     column->addWidget(m_days, 1);
-    column->addSpacing(12); // the line of paintEvent() runs through its middle
+    column->addSpacing(spacing::section); // the line of paintEvent() runs through its middle
     column->addLayout(makeTimeRow());
 
     connect(m_days, &CalendarDays::pageTurned, this, &CalendarPopup::showTitle);
@@ -129,7 +130,7 @@ QLayout *CalendarPopup::makeTimeRow()
     });
 
     auto *row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(spacing::group);
     row->addWidget(caption);
     row->addWidget(m_time);
     row->addStretch(1);

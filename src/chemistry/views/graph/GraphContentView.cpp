@@ -11,6 +11,7 @@
 #include "ui/EmptyState.h"
 #include "ui/IconButton.h"
 #include "ui/Icons.h"
+#include "ui/Spacing.h"
 #include "ui/SpinningIndicator.h"
 #include "ui/graph/TwoDGraphView.h"
 
@@ -40,8 +41,8 @@ GraphContentView::GraphContentView(TestDatesModel &dates)
 {
     setObjectName(QStringLiteral("graphContentView"));
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(12);
+    column->setContentsMargins(spacing::aroundContent);
+    column->setSpacing(spacing::section);
     column->addLayout(makeTopRow());
     column->addLayout(makeGraphRow(), 1);
     column->addLayout(makeBottomRow());
@@ -67,13 +68,13 @@ QHBoxLayout *GraphContentView::makeTopRow()
         return label;
     };
     auto *row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(spacing::group);
     row->addWidget(caption(text("GraphStartLabel"), m_startDateComboSmall));
     row->addWidget(m_startDateComboSmall);
-    row->addSpacing(8);
+    row->addSpacing(spacing::group);
     row->addWidget(caption(text("GraphEndLabel"), m_endDateComboSmall));
     row->addWidget(m_endDateComboSmall);
-    row->addSpacing(8);
+    row->addSpacing(spacing::group);
     row->addWidget(m_drawButton);
     row->addWidget(m_spinningIndicator);
     row->addStretch();
@@ -93,7 +94,7 @@ QHBoxLayout *GraphContentView::makeGraphRow()
     m_place->addWidget(m_graphView);
     m_place->addWidget(m_emptyState);
     auto *row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(spacing::group);
     row->addWidget(m_scaleSlider);
     row->addWidget(m_place, 1);
     row->addWidget(m_legend);
@@ -109,7 +110,7 @@ QHBoxLayout *GraphContentView::makeBottomRow()
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &GraphContentView::closeRequested);
     auto *row = new QHBoxLayout;
-    row->setSpacing(16);
+    row->setSpacing(spacing::content);
     row->addWidget(m_hint, 1);
     row->addWidget(close);
     return row;

@@ -6,6 +6,7 @@
 #include "chemistry/views/graph/TestDateCombo.h"
 #include "ui/CaptionForm.h"
 #include "ui/IconButton.h"
+#include "ui/Spacing.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -34,15 +35,15 @@ GraphDateForm::GraphDateForm(TestDatesModel &dates)
     cancel->setObjectName(QStringLiteral("cancelButton"));
 
     auto *form = new QGridLayout;
-    form->setHorizontalSpacing(8);
-    form->setVerticalSpacing(8);
+    form->setHorizontalSpacing(spacing::group);
+    form->setVerticalSpacing(spacing::group);
     addCaptioned(*form, 0, 0, text("GraphStartLabel"), m_startDateCombo);
     addCaptioned(*form, 1, 0, text("GraphEndLabel"), m_endDateCombo);
     QToolButton *swap = makeIconButton("Swap", text("GraphSwapToolTip"), QStringLiteral("swapButton"));
     form->addWidget(swap, 0, 2, 2, 1, Qt::AlignVCenter);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(16);
+    column->setContentsMargins(spacing::aroundContent);
+    column->setSpacing(spacing::content);
     column->addWidget(sentence);
     column->addLayout(form);
     column->addWidget(buttons);

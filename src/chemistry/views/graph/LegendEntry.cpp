@@ -4,6 +4,7 @@
 
 #include "chemistry/views/graph/ColourSwatch.h"
 #include "ui/Colours.h"
+#include "ui/Spacing.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -28,8 +29,8 @@ LegendEntry::LegendEntry(Parameter parameter, bool tested, const QString &toolTi
     setToolTip(toolTip);
 
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(8, 4, 8, 4);
-    grid->setHorizontalSpacing(8);
+    grid->setContentsMargins(spacing::group, spacing::tight, spacing::group, spacing::tight);
+    grid->setHorizontalSpacing(spacing::group);
     grid->setVerticalSpacing(0);
     grid->addWidget(m_swatch, 0, 0);
     grid->addWidget(m_box, 0, 1);

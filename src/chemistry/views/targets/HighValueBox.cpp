@@ -6,6 +6,7 @@
 #include "chemistry/HighValue.h"
 #include "chemistry/TargetInput.h"
 #include "ui/Icons.h"
+#include "ui/Spacing.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -56,13 +57,13 @@ HighValueBox::HighValueBox(QWidget *parent)
     setSizePolicy(policy);
 
     auto *lines = new QVBoxLayout;
-    lines->setSpacing(4);
+    lines->setSpacing(spacing::tight);
     lines->addWidget(m_title);
     lines->addWidget(m_reason);
     lines->addStretch();
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(8, 8, 8, 8);
-    row->setSpacing(8);
+    row->setContentsMargins(spacing::aroundGroup);
+    row->setSpacing(spacing::group);
     row->addWidget(m_warningImageView);
     row->addLayout(lines, 1);
     applyLook();

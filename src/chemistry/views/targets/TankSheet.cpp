@@ -9,6 +9,7 @@
 #include "chemistry/views/targets/HighValueBox.h"
 #include "chemistry/views/targets/TargetNumberEdit.h"
 #include "ui/CaptionForm.h"
+#include "ui/Spacing.h"
 #include "ui/Stepper.h"
 
 #include <QCheckBox>
@@ -78,8 +79,8 @@ TankSheet::TankSheet(QWidget *parent)
     helpButton->setAutoDefault(false);
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(16);
+    column->setContentsMargins(spacing::aroundContent);
+    column->setSpacing(spacing::content);
     column->addLayout(makeForm());
     column->addWidget(buttons);
     column->setSizeConstraint(QLayout::SetFixedSize);
@@ -136,15 +137,15 @@ QLayout *TankSheet::makeForm()
     auto *types = new QWidget;
     auto *typeLine = new QHBoxLayout(types);
     typeLine->setContentsMargins(0, 0, 0, 0);
-    typeLine->setSpacing(16);
+    typeLine->setSpacing(spacing::content);
     typeLine->addWidget(freshwaterButton);
     typeLine->addWidget(marineButton);
     typeLine->addStretch();
     nameField->setMinimumWidth(nameFieldWidth);
 
     auto *form = new QGridLayout;
-    form->setHorizontalSpacing(8);
-    form->setVerticalSpacing(8);
+    form->setHorizontalSpacing(spacing::group);
+    form->setVerticalSpacing(spacing::group);
     form->setColumnStretch(1, 1);
     addLine(*form, text("TankSheetName"), nameField, nameField);
     addLine(*form, text("TankSheetSize"), sizeField, sizeField);

@@ -4,6 +4,7 @@
 
 #include "base/text/NumberText.h"
 #include "chemistry/views/CheckedLineEdit.h"
+#include "ui/Spacing.h"
 #include "ui/Stepper.h"
 
 #include <QHBoxLayout>
@@ -52,7 +53,7 @@ TargetNumberEdit::TargetNumberEdit(const QString &name, QWidget *parent)
     m_field->installEventFilter(this);
     auto *line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(4);
+    line->setSpacing(spacing::tight);
     line->addWidget(m_field);
     line->addWidget(m_stepper);
     line->addStretch();
