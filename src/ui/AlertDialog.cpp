@@ -51,7 +51,8 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     const char *name = alert.style == AlertStyle::Critical ? "AlertCritical" : "AlertInformation";
     picture->setPixmap(icon(name).pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
 
-    // Both shares leave room for the buttons and the window's frame on the smallest screen.
+    // The text heights, as shares of the screen's height, leave room for the buttons and the window frame on a small
+    // screen.
     m_title = new MessageText(alert.title, 0.2, this);
     m_title->setObjectName(QStringLiteral("alertTitle"));
     m_title->setAccessibleName(alert.title);
@@ -74,7 +75,7 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     top->setSpacing(spacing::content);
     top->addWidget(picture, 0, Qt::AlignTop);
     top->addLayout(m_texts, 1);
-    top->setAlignment(m_texts, Qt::AlignVCenter); // a title alone stands beside the middle of the picture
+    top->setAlignment(m_texts, Qt::AlignVCenter); // a title without a message is centred beside the picture
 
     m_buttons = new QDialogButtonBox(this);
     auto *all = new QVBoxLayout(this);
@@ -125,12 +126,12 @@ void AlertDialog::showAsSheet(AlertDialog *dialog, QWidget *window, std::functio
 
 int AlertDialog::runAsPanel(AlertDialog *dialog, QWidget *parent)
 {
-    // The parent may go while the panel is up and takes the dialog with it: that counts as cancelling.
+    // When the parent is destroyed while the panel is open, the dialog is destroyed with it: that counts as cancelling.
     const QPointer<AlertDialog> panel = dialog;
     const int cancelled = panel->cancelAnswer();
     panel->setObjectName(QStringLiteral("alertPanel"));
     centreOver(parent, panel);
-    // Whoever is busy waits for the answer now: no waiting cursor over the question.
+    // The program waits for the user now, so a busy cursor is hidden while the question is shown.
     const bool busy = QGuiApplication::overrideCursor();
     if (busy)
         QGuiApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
@@ -158,7 +159,8 @@ void AlertDialog::addButton(AlertAnswer answer, const QString &text)
 {
     if (text.isEmpty())
         return;
-    // The roles let the desktop put the buttons into its own order; the one that cancels comes last of those given.
+    // The button roles let the desktop order the buttons its own way. The button that cancels is the last one added, so
+    // adding the other button turns the alternate one into an ordinary choice.
     if (answer == AlertOther) {
         if (QPushButton *alternate = button(AlertAlternate))
             m_buttons->addButton(alternate, QDialogButtonBox::DestructiveRole);

@@ -16,8 +16,8 @@ namespace brinemark
 
 class MessageText;
 
-/// The window of every alert: icon, title, message, perhaps a check box, and one to three buttons. Its result is the
-/// AlertAnswer.
+/// The dialog of every alert: icon, title, message, optional check box, and one to three buttons. Its result code is
+/// the AlertAnswer.
 class AlertDialog : public QDialog
 {
     Q_OBJECT
@@ -27,13 +27,13 @@ public:
 
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString message() const;
-    /// The answer of Escape and of closing the window.
+    /// The answer that Escape and closing the window give.
     [[nodiscard]] AlertAnswer cancelAnswer() const { return m_cancelAnswer; }
     [[nodiscard]] QPushButton *button(AlertAnswer answer) const; ///< null when the alert has no such button
 
     QCheckBox *addCheckBox(const QString &text);
 
-    /// Shows `dialog` as a sheet of `window` (see openSheet) and deletes it when it has been answered.
+    /// Shows `dialog` as a sheet of `window` (see openSheet) and deletes it once it is answered.
     static void showAsSheet(AlertDialog *dialog, QWidget *window, std::function<void(int answer)> ended);
     /// Runs `dialog` modally over `parent`, deletes it and returns the answer.
     static int runAsPanel(AlertDialog *dialog, QWidget *parent);

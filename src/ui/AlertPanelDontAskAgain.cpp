@@ -18,8 +18,8 @@ namespace
 
 using Question = AlertPanelDontAskAgain::Question;
 
-/// What to report in place of the panel; nothing when the panel is to be shown. A caller's own code replaces a
-/// different stored one.
+/// The answer to report without showing the panel, or nullopt when the panel must be shown. `ownCode`, when given, is
+/// reported instead of the stored answer and replaces it in the preferences.
 std::optional<int> silencedAnswer(const Question &question, const std::optional<int> &ownCode)
 {
     int stored = 0;
@@ -32,7 +32,7 @@ std::optional<int> silencedAnswer(const Question &question, const std::optional<
     return *ownCode;
 }
 
-/// The panel, which stores the answer by itself when it is answered with the box ticked.
+/// Makes the panel. When it is answered with the box ticked, it stores the answer.
 AlertDialog *makePanel(const Question &question, const std::optional<int> &ownCode, QWidget *parent)
 {
     auto *panel = new AlertDialog({.title = question.title,

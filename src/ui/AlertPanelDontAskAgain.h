@@ -11,18 +11,20 @@ class QWidget;
 namespace brinemark
 {
 
-/// An alert that a person can silence for good: a modal panel or a sheet with a check box. What was chosen is one
-/// integer preference for each identifier; while it is stored the alert is not shown and the integer is reported in its
-/// place.
+/// An alert that the user can silence for good: a modal panel or a sheet with a check box. The answer is stored as one
+/// integer preference per identifier; while it is stored, the alert is not shown and the stored integer is reported
+/// instead.
 ///
-/// The dialog and its buttons have the object names of every alert (see Alerts.h), the check box is "dontShowCheckbox".
+/// The dialog and its buttons have the object names of every alert (see Alerts.h); the check box is "dontShowCheckbox".
 class AlertPanelDontAskAgain
 {
 public:
-    /// Gets the answer (1 default button, 0 alternate button, or a caller's own code), the context and the identifier.
+    /// Receives the answer (1 for the default button, 0 for the alternate one, or the caller's own code), the context
+    /// and the identifier.
     using DidEnd = std::function<void(int answer, void *context, const QString &identifier)>;
 
-    /// Looked-up texts. Without a text the default button is "OK", and the alternate one is left out.
+    /// All texts are already translated. Without a text the default button says "OK" and the alternate button is left
+    /// out.
     struct Question {
         QString title = {};
         QString message = {};
@@ -44,12 +46,14 @@ public:
     /// Forgets the stored integer, so that the alert shows again.
     static void clearValueForIdentifier(const QString &identifier);
 
-    /// Runs the panel, unless it was silenced, and returns the answer. With `useDefaultReturnCode` a silenced alert
-    /// always reports `defaultReturnCode`, whichever button silenced it.
+    /// Runs the panel and returns the answer; a silenced panel returns the stored integer at once. With
+    /// `useDefaultReturnCode`, `defaultReturnCode` is what the check box stores and what a silenced panel returns,
+    /// whichever button was pressed.
     static int runModalPanelWithTitle(const Question &question, bool useDefaultReturnCode, int defaultReturnCode);
     static int runModalPanelWithTitle(const Question &question);
 
-    /// The same as a sheet of `window`. `didEnd` is called when the sheet has ended, or at once when it was silenced.
+    /// The same as a sheet of `window`. `didEnd` is called when the sheet has ended, or at once when the alert is
+    /// silenced.
     static void beginSheetForWindow(QWidget *window, const Question &question, bool useDefaultReturnCode,
                                     int defaultReturnCode, DidEnd didEnd = {}, void *context = nullptr);
     static void beginSheetForWindow(QWidget *window, const Question &question, DidEnd didEnd = {},

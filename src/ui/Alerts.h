@@ -8,18 +8,18 @@
 
 class QWidget;
 
-/// The one way in which the program tells or asks a person something that has to be read.
+/// Every message and question that the user must read is shown by these functions.
 namespace brinemark
 {
 
 enum class AlertStyle { Informational, Critical };
 
-/// What a button of an alert answers.
+/// The result of an alert: which of its buttons was pressed.
 enum AlertAnswer : int { AlertOther = -1, AlertAlternate = 0, AlertDefault = 1 };
 
-/// Looked-up texts, all plain text. A button without a text is left out, except for the default one, which is then
-/// "OK". Return presses the default button. Escape, and closing the window, press the one that changes nothing: the
-/// other button when there is one, else the alternate, else the default.
+/// The texts are already translated and shown as plain text. A button without a text is left out, except the default
+/// one, which then says "OK". Return presses the default button. Escape and closing the window press the button that
+/// changes nothing: the other button if there is one, else the alternate, else the default.
 struct Alert {
     AlertStyle style = AlertStyle::Informational;
     QString title = {};
@@ -29,12 +29,12 @@ struct Alert {
     QString otherButton = {};
 };
 
-/// The question before something is deleted for good, with a button that cancels; AlertDefault deletes.
+/// The question before something is deleted for good. AlertDefault means delete; the alternate button cancels.
 [[nodiscard]] Alert deletionAlert(const QString &question);
 
-/// Shows the alert as a sheet of the window that holds `window` and returns at once; `ended` gets the AlertAnswer. A
-/// window shows one sheet at a time: a second one waits until the first is answered. When the window goes first, so
-/// does the sheet, and `ended` is never called.
+/// Shows the alert as a sheet of the window that holds `window` and returns at once; `ended` receives the AlertAnswer.
+/// A window shows one sheet at a time: further sheets wait until the first is answered. When the window is destroyed
+/// first, the sheet is destroyed with it and `ended` is never called.
 ///
 /// The dialog's object name is "alertSheet", those of its buttons "defaultButton", "alternateButton" and "otherButton".
 void beginAlertSheet(QWidget *window, const Alert &alert, std::function<void(int answer)> ended = {});
@@ -42,11 +42,10 @@ void beginAlertSheet(QWidget *window, const Alert &alert, std::function<void(int
 /// Shows the alert as a modal panel (object name "alertPanel", the buttons as above) and returns its AlertAnswer.
 int runAlertPanel(QWidget *parent, const Alert &alert);
 
-/// The short sound for an action that cannot be done.
+/// The short sound for an action that is not possible.
 void beep();
 
-/// Calls `handler` instead of making the sound; an empty one brings the sound back. Returns the handler in place
-/// before.
+/// Calls `handler` instead of making the sound; an empty handler restores the sound. Returns the previous handler.
 std::function<void()> setBeepHandler(std::function<void()> handler);
 
 } // namespace brinemark

@@ -11,13 +11,14 @@ class QWidget;
 namespace brinemark
 {
 
-/// Captions are stored with the blank or colon that they need in running text; a form shows them without blanks.
+/// A caption in bold. The stored texts may carry the spaces or the colon that running text needs; the spaces are
+/// trimmed.
 [[nodiscard]] QLabel *makeCaption(const QString &text, QWidget *parent = nullptr);
 
 /// A read-only value beside a caption: plain text that wraps and can be selected and copied.
 [[nodiscard]] QLabel *makeValue(const QString &objectName = {}, QWidget *parent = nullptr);
 
-/// Puts a caption and what it names into a row of a grid that has a caption column left of every value column.
+/// Adds a caption and the value it names to a grid row; each value column has a caption column to its left.
 void addCaptioned(QGridLayout &grid, int row, int column, const QString &caption, QWidget *value);
 
 } // namespace brinemark

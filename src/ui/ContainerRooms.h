@@ -10,7 +10,7 @@
 namespace brinemark
 {
 
-/// How a container shows: its small picture (of ui/Icons.h) and the view that its row in the tank tree leads to.
+/// How a container is shown: its small picture (see ui/Icons.h) and the view that its row in the tank tree opens.
 struct ContainerRoom {
     ContainerKind kind;
     const char *icon;

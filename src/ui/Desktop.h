@@ -8,8 +8,8 @@
 
 class QWidget;
 
-/// The way out of the program to the user's browser, mail program and file manager. One seam: tests put a recorder
-/// here.
+/// Access to the user's browser, mail program and file manager. All calls pass through here, so that tests can replace
+/// the handler.
 namespace brinemark::desktop
 {
 
@@ -18,16 +18,16 @@ using UrlHandler = std::function<bool(const QUrl &)>;
 /// Opens a web, mail or file address with the desktop's handler; false when there is none.
 bool openUrl(const QUrl &url);
 
-/// The same for a window, which tells the user in a sheet when there is no handler, with the address to use by hand.
+/// Opens the address as openUrl() does. When no handler exists, a sheet of `window` shows the address for use by hand.
 bool openUrlFrom(QWidget *window, const QUrl &url);
 
-/// Replaces the desktop's handler; an empty function brings it back.
+/// Replaces the desktop's handler; an empty function restores it.
 void setUrlHandler(UrlHandler handler);
 
 /// A mailto address. Subject and body may hold any text.
 [[nodiscard]] QUrl mailUrl(const QString &address, const QString &subject, const QString &body = {});
 
-/// The e-mail address that the user's environment names ("EMAIL"); empty when there is none.
+/// The user's e-mail address from the environment variable EMAIL; empty when it is not set.
 [[nodiscard]] QString userMailAddress();
 
 } // namespace brinemark::desktop

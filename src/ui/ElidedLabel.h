@@ -7,7 +7,8 @@
 namespace brinemark
 {
 
-/// A line of plain text that ends in an ellipsis where the room ends; the tool tip then holds the whole text.
+/// One line of plain text that is cut off with an ellipsis when it does not fit; the tool tip then shows the whole
+/// text.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT

@@ -43,7 +43,7 @@ EmptyState::EmptyState(const QIcon &picture, const QString &sentence, const QStr
     column->addWidget(m_picture, 0, Qt::AlignHCenter);
     column->addWidget(m_sentence, 0, Qt::AlignHCenter);
     column->addWidget(m_button, 0, Qt::AlignHCenter);
-    column->addStretch(3); // a little above the middle looks like the middle
+    column->addStretch(3); // content a little above the centre looks centred
     setPicture(picture);
     setButtonText(buttonText);
     fitSentence();
@@ -82,7 +82,7 @@ void EmptyState::changeEvent(QEvent *event)
         fitSentence();
 }
 
-/// Layouts do not ask a label that they align how tall its lines make it.
+/// Sets the sentence's height: an aligned label in a layout is not asked for its height at a given width.
 void EmptyState::fitSentence()
 {
     m_sentence->setFixedHeight(std::max(0, m_sentence->heightForWidth(readableWidth)));
@@ -91,7 +91,8 @@ void EmptyState::fitSentence()
 void EmptyState::applyLook()
 {
     constexpr int side = 96;
-    m_picture->setPixmap(m_icon.pixmap(QSize(side, side), devicePixelRatioF())); // icons follow the palette
+    // Drawn again here, since icons follow the palette.
+    m_picture->setPixmap(m_icon.pixmap(QSize(side, side), devicePixelRatioF()));
     m_sentence->setPalette(quietPalette(palette()));
 }
 

@@ -11,14 +11,14 @@ class QPushButton;
 namespace brinemark
 {
 
-/// What a view shows while it has nothing to show: a picture, one sentence that says what belongs here, and, when it
-/// can be added from here, the button (object name "emptyStateButton") that does so.
+/// What a view shows while it has no content: a picture, one sentence that says what belongs here and, when the user
+/// can add it here, a button (object name "emptyStateButton") that does so.
 class EmptyState : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Looked-up texts; without a text there is no button.
+    /// The texts are already translated. Without `buttonText` there is no button.
     EmptyState(const QIcon &picture, const QString &sentence, const QString &buttonText = {},
                QWidget *parent = nullptr);
 

@@ -15,7 +15,7 @@ void finishTyping(const QWidget *window)
         return;
     for (QWidget *parent = focused->parentWidget(); parent; parent = parent->parentWidget()) {
         if (auto *view = qobject_cast<QAbstractItemView *>(parent)) {
-            view->setFocus(); // its delegate stores what an editor that loses the focus holds
+            view->setFocus(); // losing the focus makes the view's delegate store what is in the editor
             return;
         }
     }

@@ -7,8 +7,8 @@ class QWidget;
 namespace brinemark
 {
 
-/// Stores what is being typed into a cell or a row of the window, as leaving it would, so that a command that follows
-/// (save, print, quit) deals with what is seen.
+/// Closes the item editor that has the focus in `window` and stores its text, as clicking elsewhere would. Commands
+/// such as save, print and quit call it first, so that they include the text being typed.
 void finishTyping(const QWidget *window);
 
 } // namespace brinemark

@@ -48,7 +48,7 @@ QUrl urlOfPage(const QString &fileName, const QString &fragment = {})
     return url;
 }
 
-/// The name of the page on which a heading or row has this id; empty when none has.
+/// The file name of the page in which a heading or row has this id; empty when there is none.
 QString pageWithId(const QString &id)
 {
     const QRegularExpression mark(QStringLiteral("(?:id|name)=\"%1\"").arg(QRegularExpression::escape(id)));
@@ -85,7 +85,7 @@ HelpWindow::HelpWindow()
 
     m_browser->setObjectName(QStringLiteral("helpBrowser"));
     m_browser->setAccessibleName(text("HelpTitle"));
-    m_browser->setOpenLinks(false); // web and mail addresses leave through the desktop's one door
+    m_browser->setOpenLinks(false); // web and mail addresses are opened through ui/Desktop.h
     m_browser->setFrameShape(QFrame::NoFrame);
     connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
     connect(m_browser, &QTextBrowser::sourceChanged, this, [this] {
@@ -166,7 +166,7 @@ QUrl HelpWindow::urlOfAnchor(const QString &anchor)
 
 void HelpWindow::showAnchor(const QString &anchor)
 {
-    show(); // laid out first: an anchor's place is known only at the window's real width
+    show(); // shown before it scrolls: the anchor's position depends on the window's real width
     m_browser->setSource(urlOfAnchor(anchor));
     raise();
     activateWindow();
@@ -182,7 +182,7 @@ void HelpWindow::follow(const QUrl &url)
 
 void HelpWindow::findFromStart()
 {
-    // Each further letter narrows the present match rather than jumping on to the next one.
+    // Search from the start of the present match, so that typing another letter extends it where possible.
     QTextCursor cursor = m_browser->textCursor();
     cursor.setPosition(cursor.selectionStart());
     m_browser->setTextCursor(cursor);
@@ -226,7 +226,7 @@ void HelpWindow::markMatches()
 
 void HelpWindow::applyStyle()
 {
-    // The match keeps its strong colour while the search field has the focus.
+    // Show the match in the active highlight colour even while the search field has the focus.
     QPalette shown = palette();
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
         shown.setColor(QPalette::Inactive, role, shown.color(QPalette::Active, role));
@@ -249,7 +249,8 @@ void HelpWindow::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::PaletteChange)
         return;
-    // Colours go into a page when it is read, so it is read again, at the same place.
+    // A page takes its colours from the style sheet when it is loaded, so load it again and restore the scroll
+    // position.
     applyStyle();
     if (m_browser->source().isEmpty())
         return;

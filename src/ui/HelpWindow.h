@@ -14,14 +14,14 @@ class QUrl;
 namespace brinemark
 {
 
-/// Shows the help book at an anchor: a page's name ("conditions") or the id of any heading in it ("targets"). An
-/// unknown or empty anchor shows the start page.
+/// Shows the help at an anchor: a page's name ("conditions") or the id of any heading ("targets"). An unknown or empty
+/// anchor shows the start page.
 void showHelp(const QString &anchor = {});
 
 /// Destroys the help window; called at quit.
 void closeHelp();
 
-/// The help book: pages of plain HTML in the user's language, English where there are none.
+/// The help window: plain HTML pages in the user's language, or in English when that language has none.
 class HelpWindow : public QWidget, public Shared<HelpWindow>
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ class HelpWindow : public QWidget, public Shared<HelpWindow>
     HelpWindow();
 
 public:
-    /// The address of an anchor in the book of the user's language.
+    /// The address of an anchor in the help pages of the user's language.
     [[nodiscard]] static QUrl urlOfAnchor(const QString &anchor);
     void showAnchor(const QString &anchor);
 

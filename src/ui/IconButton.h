@@ -8,8 +8,8 @@ class QToolButton;
 namespace brinemark
 {
 
-/// A flat button that shows only an icon (of ui/Icons.h); its title is the tool tip and what assistive technology
-/// reads. It takes the focus by the tab key, not by a click.
+/// A flat button that shows only an icon (see ui/Icons.h). Its title becomes the tool tip and the accessible name. It
+/// takes the focus by the Tab key, not by a click.
 [[nodiscard]] QToolButton *makeIconButton(const char *iconName, const QString &title, const QString &objectName);
 
 } // namespace brinemark

@@ -19,17 +19,17 @@ namespace brinemark
 namespace
 {
 
-/// How an ink behaves where the icon is selected or disabled.
+/// How the colour of an ink depends on the icon's mode.
 enum class Kind {
-    Text,   ///< the palette's own text colour in every mode
-    Accent, ///< as Text there: a blue accent would drown in a blue highlight
-    Mark,   ///< stands on a filled shape; of the ground's colour there
-    Grey,   ///< would drown in a highlight, so it is Text where selected
-    Fixed   ///< keeps its meaning in every mode
+    Text,   ///< the palette's text colour in every mode
+    Accent, ///< changes to the text colour in selected and disabled icons: blue would be lost on a blue highlight
+    Mark,   ///< drawn on top of a filled shape; takes the background's colour in selected and disabled icons
+    Grey,   ///< changes to the text colour in selected icons: grey would be lost on the highlight
+    Fixed   ///< has the same colour in every mode
 };
 
-/// An ink as the drawings name it, and the colour it stands for. Shapes need less contrast than text (3:1), so an ink
-/// may have livelier shades of its own; 0 is the role's.
+/// A placeholder colour of the drawings and the colour that replaces it. Shapes need less contrast than text (3:1), so
+/// an ink may have more saturated light and dark shades of its own; 0 takes the role's colour.
 struct Ink {
     const char *placeholder;
     Kind kind;
@@ -52,7 +52,8 @@ constexpr std::array inks{
     Ink{"#0c3f63", Kind::Fixed, ColourRole::Count, 0xff0c3f63, 0xff8fd0f0}, // the rim of the program's icon
 };
 
-/// What an ink becomes for one mode; `ownColours` are drawings without an ink of the palette's.
+/// The colour of an ink in one mode. `ownColours` is true for drawings without an ink of kind Text; of their inks only
+/// Grey changes, and only when selected.
 QColor inkColour(const Ink &ink, const QPalette &palette, QIcon::Mode mode, bool ownColours)
 {
     const bool selected = mode == QIcon::Selected;
@@ -85,7 +86,8 @@ QByteArray IconEngine::inked(const QPalette &palette, QIcon::Mode mode) const
 {
     QByteArray svg = m_svg;
     const bool ownColours = hasOwnColours();
-    // One pass, so that a palette colour that happens to be another ink's placeholder is not exchanged again.
+    // All inks are replaced in one pass, so that a palette colour that equals another placeholder is not replaced
+    // again.
     for (qsizetype at = svg.indexOf('#'); at >= 0; at = svg.indexOf('#', at + 1)) {
         const auto named = [&](const Ink &ink) { return QByteArrayView(svg).sliced(at).startsWith(ink.placeholder); };
         const auto ink = std::find_if(inks.begin(), inks.end(), named);
@@ -121,8 +123,7 @@ QPixmap IconEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State)
     image.fill(Qt::transparent);
     QPainter painter(&image);
     QSvgRenderer(svg).render(&painter, QRectF(0, 0, side, side));
-    // Drawings whose inks carry a meaning of their own cannot take the disabled text colour; they fade as a whole
-    // instead.
+    // A drawing without an ink of kind Text cannot take the disabled text colour, so it is drawn translucent instead.
     if (mode == QIcon::Disabled && hasOwnColours()) {
         painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
         painter.fillRect(image.rect(), QColor(0, 0, 0, 100));
@@ -135,7 +136,7 @@ QPixmap IconEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State)
 
 QPixmap IconEngine::scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State state, qreal)
 {
-    return pixmap(size, mode, state); // the size is in device pixels already
+    return pixmap(size, mode, state); // `size` is already in device pixels
 }
 
 QSize IconEngine::actualSize(const QSize &size, QIcon::Mode, QIcon::State)
@@ -146,7 +147,7 @@ QSize IconEngine::actualSize(const QSize &size, QIcon::Mode, QIcon::State)
 
 QList<QSize> IconEngine::availableSizes(QIcon::Mode, QIcon::State)
 {
-    // Window managers ask for these; any other size is drawn just as sharply.
+    // These are for window managers, which ask for a list; every other size can be drawn as well.
     QList<QSize> sizes;
     for (const int side : {16, 24, 32, 48, 64, 128, 256})
         sizes.append(QSize(side, side));

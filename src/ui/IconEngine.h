@@ -9,11 +9,11 @@
 namespace brinemark
 {
 
-/// Paints one SVG drawing in the colours of the palette of the moment.
+/// Paints one SVG drawing in the colours of the current application palette.
 ///
-/// The drawings name their inks by fixed placeholder colours (the table is in IconEngine.cpp); these are exchanged just
-/// before rendering, so that a change of palette needs no notification: the next paint has the new colours. Rendering
-/// is done at the exact number of device pixels asked for and kept in QPixmapCache under name, size and colours.
+/// The drawings use fixed placeholder colours (the table is in IconEngine.cpp), which are replaced just before
+/// rendering, so that the next paint after a palette change has the new colours. Each drawing is rendered at the exact
+/// number of device pixels and kept in QPixmapCache under its name, size and colours.
 class IconEngine : public QIconEngine
 {
 public:
@@ -29,11 +29,12 @@ public:
     QString iconName() override { return m_name; }
     bool isNull() override { return m_svg.isEmpty(); }
 
-    /// The drawing with its placeholder inks exchanged for those of `palette` and `mode`.
+    /// The drawing with its placeholder colours replaced by those of `palette` for `mode`.
     [[nodiscard]] QByteArray inked(const QPalette &palette, QIcon::Mode mode) const;
 
 private:
-    /// State marks, alerts and the program's own icon mean something by their colours and take none from the palette.
+    /// Whether no part of the drawing takes the text colour: state marks, alerts and the program's icon, whose colours
+    /// carry a meaning.
     [[nodiscard]] bool hasOwnColours() const;
 
     QString m_name;

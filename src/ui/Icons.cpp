@@ -23,7 +23,7 @@ static QIcon load(const QString &name)
 
 QIcon icon(const QString &name)
 {
-    // Trees ask for a row's icon at every paint; an unknown name is remembered too and so complains once only.
+    // Item views ask for a row's icon at every paint. Unknown names are cached too, so that each is logged only once.
     static QHash<QString, QIcon> loaded;
     const auto found = loaded.constFind(name);
     return found != loaded.cend() ? *found : *loaded.insert(name, load(name));

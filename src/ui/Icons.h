@@ -9,7 +9,7 @@
 namespace brinemark
 {
 
-/// Every icon of the program, one a line of :/icons/NAME.svg. Toolbars, trees and tests read the names from here.
+/// The names of all icons; each is drawn in :/icons/NAME.svg.
 inline constexpr std::array iconNames{
     // Tree rows, drawn for 16 px.
     "TankSmall", "FishSmall", "PlantSmall", "CoralSmall", "InvertebratesSmall", "ConditionsSmall", "NotesSmall",
@@ -21,7 +21,7 @@ inline constexpr std::array iconNames{
     "FishBig", "Plant", "Invertebrates", "Coral", "Profileplaceholder3",
     // Lists and their buttons.
     "Ellipse", "New", "Remove", "Action", "Edit", "Help", "Graph", "WholeGraph", "Swap", "Export", "Search",
-    // The calendar's buttons; where text runs from right to left, each pair changes places.
+    // The calendar's buttons; the calendar swaps previous and next in right-to-left layouts.
     "PreviousYear", "PreviousMonth", "NextMonth", "NextYear",
     // States and alerts; each differs from the others in shape as well as in colour.
     "StateInRange", "StateNear", "StateOut", "StateNotTested", "StateOverdue", "StateDone", "AlertCritical",
@@ -32,8 +32,8 @@ inline constexpr std::array iconNames{
     // The program itself.
     "Brinemark"};
 
-/// The icon drawn in :/icons/NAME.svg, in the colours of the application's palette; it follows palette changes by
-/// itself. An unknown name gives a null icon and a line in the log.
+/// The icon drawn in :/icons/NAME.svg, in the colours of the application's palette; it follows palette changes. An
+/// unknown name gives a null icon and a line in the log.
 QIcon icon(const QString &name);
 QIcon icon(const char *name);
 

@@ -7,7 +7,7 @@
 namespace brinemark
 {
 
-/// What the main window's right side shows. The numbers are the view constants that the whole program uses.
+/// The views that fill the right side of the main window, with the numbers by which the whole program knows them.
 enum class MainView : qint32 {
     None = 0,
     Tank = 1,

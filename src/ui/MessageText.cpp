@@ -31,7 +31,7 @@ MessageText::MessageText(const QString &text, double shareOfScreen, QWidget *par
 
 QSize MessageText::sizeHint() const
 {
-    // Measured on a copy: the document itself follows the widget's present width.
+    // Measured on a copy, because the document itself is laid out to the widget's current width.
     const std::unique_ptr<QTextDocument> measured(document()->clone());
     measured->setDefaultFont(font());
     measured->setTextWidth(readableWidth);
@@ -46,7 +46,7 @@ QSize MessageText::minimumSizeHint() const
 
 void MessageText::keyPressEvent(QKeyEvent *event)
 {
-    // Return and Escape are the dialog's.
+    // Leave Return and Escape to the dialog.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Escape) {
         event->ignore();
         return;

@@ -7,9 +7,9 @@
 namespace brinemark
 {
 
-/// A read-only text of several lines at a readable width, as tall as its text until it reaches a share of the screen's
-/// height, from where on it scrolls. It can be selected and copied, and wraps inside words that are too long for a
-/// line, such as paths.
+/// A read-only text of several lines at a readable width. It grows with its text up to a share of the screen's height
+/// and scrolls beyond that. The text can be selected and copied, and wraps inside words that are too long for a line,
+/// such as paths.
 class MessageText : public QTextEdit
 {
     Q_OBJECT

@@ -31,7 +31,8 @@ void openPrintSheet(QWidget *window, QPageLayout::Orientation orientation, QObje
         if (!paint(*printer))
             beep();
     });
-    QObject::connect(dialog, &QObject::destroyed, [printer] {}); // the dialog works on the printer until it is gone
+    // This connection keeps the printer alive as long as the dialog, which uses it.
+    QObject::connect(dialog, &QObject::destroyed, [printer] {});
     openSheet(window, dialog);
 }
 

@@ -49,7 +49,8 @@ QString SavePanel::chosenSuffix() const
 
 void SavePanel::accept()
 {
-    // "Reef 2.5" would otherwise keep "5" for its suffix. The panel then asks about the file that is really written.
+    // Without this, "Reef 2.5" would count as having the suffix "5". The name is completed before the panel asks about
+    // overwriting, so that it asks about the file that is really written.
     if (auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit")); name && !m_kinds.isEmpty()) {
         const QFileInfo typed(directory(), name->text());
         const bool namesFile = !typed.fileName().isEmpty() && typed.fileName() != u"~" && !typed.isDir();
@@ -65,7 +66,8 @@ void SavePanel::accept()
 void arrangeFilePanel(QFileDialog &panel)
 {
     if (auto *files = panel.findChild<QTreeView *>(QStringLiteral("treeView"))) {
-        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents); // types and dates are cut off otherwise
+        // Types and dates would be cut off otherwise.
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
         panel.resize(720, 480);
     }
@@ -76,7 +78,7 @@ void openFilePanel(QWidget *window, QFileDialog *panel, std::function<void(const
     panel->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(panel, &QDialog::finished, panel, [panel, completion = std::move(completion)](int code) {
         const QString path = code == QDialog::Accepted ? panel->selectedFiles().value(0) : QString();
-        // The completion may show the next sheet: let this one go first.
+        // The completion may open another sheet, so it runs after this one has closed.
         QMetaObject::invokeMethod(
             panel->parent(), [completion, path] { completion(path); }, Qt::QueuedConnection);
     });
@@ -91,7 +93,7 @@ void beginSavePanel(QWidget *window, const SavePanelOptions &options,
 
 QString fileNameFor(const QString &text)
 {
-    constexpr qsizetype longest = 200; // bytes; file systems take 255, the suffix included
+    constexpr qsizetype longest = 200; // bytes in UTF-8; file systems allow 255, including the suffix
     QString name;
     for (const QChar c : text.simplified()) {
         if (name.isEmpty() && (c == u'.' || c == u' '))

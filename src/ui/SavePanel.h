@@ -11,24 +11,24 @@
 namespace brinemark
 {
 
-/// A kind of file that can be saved.
+/// A file type that can be saved.
 struct FileKind {
     QString suffix; ///< without the full stop
-    QString filter; ///< as a person reads it: "Pictures (*.png)"
+    QString filter; ///< as shown to the user: "Pictures (*.png)"
 };
 
-/// What a save panel begins with.
+/// The initial state of a save panel.
 struct SavePanelOptions {
     QString objectName;
-    QString message = {};       ///< the window's title; empty for the toolkit's own
-    QString folder = {};        ///< empty for the toolkit's own choice
-    QString proposedName = {};  ///< any text; what a file cannot be called by is replaced
-    QList<FileKind> kinds = {}; ///< the first is chosen
+    QString message = {};       ///< the window's title; the toolkit's own if empty
+    QString folder = {};        ///< the toolkit's own choice if empty
+    QString proposedName = {};  ///< any text; fileNameFor() makes a file name of it
+    QList<FileKind> kinds = {}; ///< the first one is preselected
 };
 
-/// The save panel, the toolkit's own in every desktop, so that it is the same for all kinds of files. A name without
-/// the suffix of one of the kinds gets that of the chosen one, whatever else it has dots in; an existing file is asked
-/// about, after that.
+/// The save panel: the toolkit's own on every desktop, so that it behaves alike for all file types. A name without the
+/// suffix of one of the kinds gets the suffix of the chosen kind, even when it contains dots. The panel then asks
+/// before it overwrites an existing file.
 class SavePanel : public QFileDialog
 {
     Q_OBJECT
@@ -45,19 +45,20 @@ private:
     QList<FileKind> m_kinds;
 };
 
-/// Gives an open or save panel of the toolkit its size and readable columns.
+/// Sets the size of a file panel and makes its columns wide enough to read.
 void arrangeFilePanel(QFileDialog &panel);
 
-/// Opens the panel as a sheet of `window` and deletes it at its end. `completion` gets the chosen path, empty when
-/// cancelled, once the sheet is gone.
+/// Opens the panel as a sheet of `window` and deletes it when it closes. After that, `completion` receives the chosen
+/// path, which is empty when the panel was cancelled.
 void openFilePanel(QWidget *window, QFileDialog *panel, std::function<void(const QString &path)> completion);
 
 /// Makes a save panel and opens it.
 void beginSavePanel(QWidget *window, const SavePanelOptions &options,
                     std::function<void(const QString &path)> completion);
 
-/// `text` as a file can be called on every desktop, without a suffix: no separators of folders, no signs that shells
-/// and other systems keep for themselves, no full stop in front, and not too long. "-" where nothing is left.
+/// `text` turned into a file name, without a suffix, that every desktop accepts: path separators, characters reserved
+/// by shells or file systems and a leading full stop are removed or replaced, and the length is limited. "-" when
+/// nothing is left.
 [[nodiscard]] QString fileNameFor(const QString &text);
 
 /// The user's documents folder; empty when there is none.

@@ -7,8 +7,8 @@
 namespace brinemark
 {
 
-/// A process-wide single instance, made on first use by `sharedInstance()`. The application ends it with
-/// `destroyShared()` before the application object goes, so that no widget outlives it.
+/// A process-wide single instance, created on first use by `sharedInstance()`. The application calls `destroyShared()`
+/// before the application object is destroyed, so that no widget outlives it.
 ///
 ///     class PrefsController : public Shared<PrefsController> { friend class Shared<PrefsController>;
 ///     PrefsController(); };

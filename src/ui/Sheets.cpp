@@ -15,7 +15,7 @@ namespace brinemark
 namespace
 {
 
-/// The sheets of one window, the one that shows first. It is a child of the window and goes with it.
+/// The sheets of one window in the order of their turn; the first one is shown. The queue is a child of the window.
 class SheetQueue : public QObject
 {
 public:
@@ -35,7 +35,8 @@ public:
 
     void add(QDialog *sheet)
     {
-        // A sheet that is deleted never finishes. It is only compared by then, never used.
+        // A sheet that is destroyed does not emit finished(), so both signals are needed. After destroyed() the pointer
+        // is only compared, never dereferenced.
         connect(sheet, &QDialog::finished, this, [this, sheet] {
             disconnect(sheet, nullptr, this, nullptr);
             remove(sheet);

@@ -9,14 +9,14 @@ namespace brinemark
 {
 
 /// Opens `sheet` window-modally, centred over the window that holds `window`, and returns at once. While that window
-/// shows another sheet it waits for its turn. The caller keeps the ownership; a sheet that is deleted gives up its
-/// turn.
+/// shows another sheet, `sheet` waits. The caller keeps the ownership; destroying a sheet removes it from the queue.
 void openSheet(QWidget *window, QDialog *sheet);
 
-/// Moves `dialog`, which is not shown yet, over the middle of the window that holds `window`, within the screen.
+/// Centres `dialog`, which must not be shown yet, over the window that holds `window`, within the screen. The dialog is
+/// first given its preferred size.
 void centreOver(QWidget *window, QDialog *dialog);
 
-/// The same for a dialog whose size is as it should be.
+/// The same, but the dialog keeps its size.
 void moveOver(QWidget *window, QDialog *dialog);
 
 } // namespace brinemark

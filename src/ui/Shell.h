@@ -20,15 +20,15 @@ class Tank;
 class TankList;
 struct Record;
 
-/// What a room of the program needs of the main window: the current tank, the change count, sheets, the shared undo
-/// stack, the delete button, the tree's selection and the switching of views. The application implements it; views
-/// never see more.
+/// What a view needs of the main window: the current tank, the change count, sheets, the shared undo stack, the delete
+/// button, the tree's selection and switching to another view. The application implements it; views know nothing else
+/// of the main window.
 class Shell
 {
 public:
     virtual ~Shell() = default;
 
-    /// The shell of this process. It exists from start-up on; asking earlier is a programming error.
+    /// The shell of this process. It exists from start-up on; calling this earlier is a programming error.
     static Shell &shared();
     static void setShared(Shell *shell);
 
@@ -39,22 +39,24 @@ public:
     [[nodiscard]] virtual QMenu &dockMenu() = 0;
     virtual void rebuildDockMenu() = 0;
 
-    /// Counts a change made (true) or taken back (false); the window is marked edited while the count is not zero.
+    /// Counts a change (true) or the undoing of one (false); the window is marked as edited while the count is not
+    /// zero.
     virtual void documentModifiedWithChange(bool made) = 0;
     virtual void setEnableDeleteButton(bool enable) = 0;
-    virtual void deleteItem() = 0; ///< the delete command: acts on the view or the tree's selection
+    virtual void deleteItem() = 0; ///< the delete command: acts on the view's or the tree's selection
     virtual void orderFrontAndCheckModified() = 0;
     virtual void showWarningSheet(const QString &title, const QString &message) = 0;
     virtual void showPreferences() = 0;
 
     virtual void changeView(MainView view) = 0;
     [[nodiscard]] virtual MainView currentView() const = 0;
-    virtual void updateTree() = 0;                                  ///< reloads the tree and lets the main view follow
-    virtual void appendTank(const std::shared_ptr<Tank> &tank) = 0; ///< adds it to the list and selects its row
+    /// Reloads the tree and updates the main view to match its selection.
+    virtual void updateTree() = 0;
+    virtual void appendTank(const std::shared_ptr<Tank> &tank) = 0; ///< adds the tank to the list and selects its row
     virtual void selectInTree(Tank &tank) = 0;
-    virtual void selectInTree(Container &container) = 0; ///< opens its tank's row first
-    virtual void selectInTree(Record &livestock) = 0;    ///< opens its tank's and its group's rows first
-    virtual void editNameInTree() = 0;                   ///< starts the in-place editor on the selected row
+    virtual void selectInTree(Container &container) = 0; ///< expands the tank's row first
+    virtual void selectInTree(Record &livestock) = 0;    ///< expands the rows of its tank and its group first
+    virtual void editNameInTree() = 0;                   ///< opens the in-place editor on the selected row
 };
 
 } // namespace brinemark

@@ -8,7 +8,7 @@
 namespace brinemark
 {
 
-/// A small turning wheel for work that takes a moment. Unseen while it stands still, but keeps its place.
+/// A small turning wheel for work that takes a moment. It is invisible while stopped but keeps its place in the layout.
 class SpinningIndicator : public QWidget
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ class SpinningIndicator : public QWidget
 public:
     explicit SpinningIndicator(QWidget *parent = nullptr);
 
-    /// Appears at once, even when the work that follows does not come back to the event loop.
+    /// Shows the wheel at once, even when the following work blocks the event loop.
     void start();
     void stop();
     [[nodiscard]] bool isSpinning() const { return m_timer.isActive(); }
@@ -26,7 +26,7 @@ protected:
 
 private:
     QTimer m_timer;
-    int m_turn = 0; ///< of the spokes
+    int m_turn = 0; ///< which spoke is the darkest
 };
 
 } // namespace brinemark

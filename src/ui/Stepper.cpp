@@ -20,10 +20,10 @@ namespace brinemark
 namespace
 {
 
-/// Without the tiny errors of binary fractions, which a row of steps would add up: 0.1 + 0.2 is 0.3.
+/// Rounds away the errors of binary fractions, which repeated steps would add up: 0.1 + 0.2 gives 0.3.
 double onDecimalGrid(double value)
 {
-    constexpr double grid = 1e6; // finer than any step, coarser than the errors
+    constexpr double grid = 1e6; // finer than any step, coarser than the rounding errors
     return std::round(value * grid) / grid;
 }
 
@@ -120,7 +120,7 @@ void Stepper::wheelEvent(QWheelEvent *event)
 
 QSize Stepper::sizeHint() const
 {
-    // As high as the field that it stands beside.
+    // As high as a line edit, which it is placed beside.
     constexpr int width = 22; // pixels
     QStyleOptionFrame field;
     field.initFrom(this);

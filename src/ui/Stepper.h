@@ -9,9 +9,9 @@ class QToolButton;
 namespace brinemark
 {
 
-/// A small pair of arrows, up and down, that steps a number between two ends. It repeats while an arrow is held, and
-/// takes the focus by the tab key: arrow keys step, Home and End go to the ends. Its parts are named "upButton" and
-/// "downButton".
+/// A small pair of arrows, up and down, that steps a number within a range. It repeats while an arrow is held down. It
+/// takes the focus by the Tab key; then the arrow keys step, and Home and End go to the ends of the range. Its parts
+/// are named "upButton" and "downButton".
 class Stepper : public QWidget
 {
     Q_OBJECT
@@ -24,19 +24,19 @@ public:
     [[nodiscard]] double maximum() const { return m_maximum; }
     [[nodiscard]] double increment() const { return m_increment; }
 
-    /// Outside the range the nearer end is taken; not a number is the minimum. Not announced.
+    /// Values outside the range become the nearer end, NaN becomes the minimum. Does not emit valueChanged().
     void setValue(double value);
-    void setRange(double minimum, double maximum); ///< takes the value along
+    void setRange(double minimum, double maximum); ///< clamps the value to the new range
     void setIncrement(double increment) { m_increment = increment; }
 
-    /// Moves by so many increments as a person does.
+    /// Moves by so many increments and emits valueChanged(), as the arrows do.
     void stepBy(int steps);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
-    void valueChanged(double value); ///< by a person
+    void valueChanged(double value); ///< emitted for the user's changes only
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -48,14 +48,14 @@ protected:
 
 private:
     QToolButton *makeArrow(Qt::ArrowType arrow, const QString &objectName, int direction);
-    void take(double value); ///< announces a value that is new
+    void take(double value); ///< sets the value and emits valueChanged() if it differs
     void enableArrows();
 
     double m_value = 0;
     double m_minimum = 0;
     double m_maximum = 100;
     double m_increment = 1;
-    int m_wheelTurn = 0; ///< eighths of a degree that are not yet a step
+    int m_wheelTurn = 0; ///< wheel movement that is not yet a whole step, in eighths of a degree
     QToolButton *m_up;
     QToolButton *m_down;
 };

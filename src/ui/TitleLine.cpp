@@ -64,11 +64,11 @@ void TitleLine::applyLook()
     titleFont.setBold(true);
     if (titleFont.pointSizeF() > 0)
         titleFont.setPointSizeF(titleFont.pointSizeF() * larger);
-    else // a font that is given in pixels
+    else // a font whose size is given in pixels
         titleFont.setPixelSize(int(titleFont.pixelSize() * larger));
     m_title->setFont(titleFont);
 
-    // Both stand on one base line although their sizes differ.
+    // Align the base lines of the two texts, whose sizes differ.
     const int lift = QFontMetrics(titleFont).descent() - fontMetrics().descent();
     m_secondary->setContentsMargins(0, 0, 0, lift);
     m_secondary->setPalette(quietPalette(palette()));

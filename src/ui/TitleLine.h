@@ -11,7 +11,7 @@ namespace brinemark
 
 class ElidedLabel;
 
-/// The line with which a view begins: what it is, in bold and larger, and beside it of which tank.
+/// The first line of a view: the view's title in bold, larger type, followed by the tank that it shows.
 class TitleLine : public QWidget
 {
     Q_OBJECT

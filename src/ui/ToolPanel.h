@@ -7,8 +7,8 @@
 namespace brinemark
 {
 
-/// A small floating panel that stays above its window. Escape closes it like the title bar's button; hiding it by the
-/// program is not closing.
+/// A small floating panel that stays above its window. Escape and the title bar's button close it; hiding it from code
+/// does not count as closing.
 class ToolPanel : public QDialog
 {
     Q_OBJECT

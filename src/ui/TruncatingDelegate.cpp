@@ -18,7 +18,7 @@ bool TruncatingDelegate::isTruncated(const QStyleOptionViewItem &option, const Q
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
-    // A text of several lines is shown in one and so never whole.
+    // A text of several lines is shown on one line, so it is never shown in full.
     return index.data(Qt::DisplayRole).toString().trimmed().contains(QLatin1Char('\n')) ||
            style->sizeFromContents(QStyle::CT_ItemViewItem, &cell, {}, cell.widget).width() > option.rect.width();
 }
@@ -32,7 +32,7 @@ QString TruncatingDelegate::displayText(const QVariant &value, const QLocale &lo
 void TruncatingDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    option->features &= ~QStyleOptionViewItem::WrapText; // whatever the view says
+    option->features &= ~QStyleOptionViewItem::WrapText; // even when the view asks for wrapping
 }
 
 void TruncatingDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

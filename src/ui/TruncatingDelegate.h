@@ -7,8 +7,8 @@
 namespace brinemark
 {
 
-/// Shows a cell in one line that is cut off with an ellipsis; the tool tip of a cell that is cut off holds the whole
-/// text. A CellMark that the model gives a cell is drawn beside its text.
+/// Shows a cell on one line that is cut off with an ellipsis; the tool tip of a cut-off cell shows the whole text. When
+/// the model provides a CellMark for a cell, it is drawn beside the text.
 class TruncatingDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
                    const QModelIndex &index) override;
 };
 
-/// `text` as a tool tip that wraps its lines, shows marks such as "<" as they are and is cut off where it would fill
+/// `text` as a tool tip that wraps its lines, shows characters such as "<" literally and is cut off where it would fill
 /// the screen.
 [[nodiscard]] QString wholeTextToolTip(const QString &text);
 

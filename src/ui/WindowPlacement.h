@@ -7,7 +7,7 @@ class QWidget;
 namespace brinemark
 {
 
-/// Moves a window to the middle of the available area of the screen that it is on.
+/// Moves a window to the middle of the available area of its screen.
 void centreOnScreen(QWidget &window);
 
 /// Shows a window above the others and makes it the active one.

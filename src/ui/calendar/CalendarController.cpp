@@ -44,7 +44,7 @@ QRect calendar::placeAt(const QRect &cell, QSize size, const QRect &screen, Qt::
         place.moveRight(cell.right());
     else
         place.moveLeft(cell.left());
-    // Far ends first: on a screen too small for it, the beginning is what must be seen.
+    // Right and bottom first, so that the top left corner stays visible on a screen that is too small.
     place.moveRight(std::min(place.right(), screen.right()));
     place.moveBottom(std::min(place.bottom(), screen.bottom()));
     place.moveLeft(std::max(place.left(), screen.left()));
@@ -64,7 +64,7 @@ void CalendarController::setCalendar(std::function<void(const QDateTime &)> targ
                                      const QString &columnIdentifier, const QRect &cell, const QDateTime &date)
 {
     const QPointer<QTableView> safeTable = table;
-    closeAndSave(true, false); // may run into somebody's code
+    closeAndSave(true, false); // the target of the calendar that is open may run any code, even destroy `table`
     if (!safeTable || !table->model())
         return;
     m_target = std::move(target);
@@ -130,7 +130,7 @@ void CalendarController::closeAndSave(bool save, bool fade)
     if (fade && isInPlace)
         fadeOut(*popup, table);
     popup->hide();
-    popup->deleteLater(); // its own event may be running
+    popup->deleteLater(); // deferred, because this may run inside one of its event handlers
     if (chosen.isValid() && target)
         target(chosen);
 }
@@ -143,7 +143,7 @@ void CalendarController::leave(QPoint globalPoint)
         closeAndSave(false, false);
         return;
     }
-    // Some window systems pass the press on to what lies there; at the cell itself it would open the calendar anew.
+    // Some window systems pass the press on to the widget below. On the cell itself it would open the calendar again.
     m_popup->setAttribute(Qt::WA_NoMouseReplay, m_cell.contains(globalPoint));
     closeAndSave(true, true);
 }

@@ -20,12 +20,12 @@ namespace brinemark
 
 class CalendarPopup;
 
-/// The month calendar that pops up at the date cells of tables. There is one; opening it at another cell closes it at
-/// the first as a click outside does.
+/// The month calendar that pops up at the date cells of tables. There is only one: opening it at another cell closes it
+/// at the first, as a click outside does.
 ///
-/// A day's click takes the day, with the time of day as it is, and closes; the keys are those of
-/// ui/calendar/CalendarMonth.h, with Return to take the date, Escape to leave it, and Tab between the days and the
-/// time. A click outside takes what was changed, except in the table's header, which takes nothing.
+/// Clicking a day chooses it, keeps the time of day and closes the calendar. Keys move the day as
+/// ui/calendar/CalendarMonth.h says; Return takes the date, Escape discards it, and Tab moves between the days and the
+/// time. A click outside takes a changed date, except on the table's header, which discards it.
 class CalendarController : public QObject, public Shared<CalendarController>
 {
     Q_OBJECT
@@ -34,25 +34,25 @@ class CalendarController : public QObject, public Shared<CalendarController>
 public:
     ~CalendarController() override;
 
-    /// Opens the calendar below a cell (above it where there is no room, always on the screen), at `date`.
+    /// Opens the calendar at `date`, below a cell or, without room there, above it, always within the screen.
     ///
-    /// `target` gets the chosen date once, after the calendar has closed, and only when it differs from `date`; it is
-    /// not called when the person leaves the date as it was. The chosen date is of the same time spec as `date`: the
-    /// day and time shown and chosen are those at the value's own offset or in its own zone, and an offset stays
-    /// whatever the day. An invalid `date`, or one outside the years 1 to 9999, begins at the clock's now, in local
-    /// time, with nothing chosen; Return then takes that day.
+    /// `target` receives the chosen date once, after the calendar has closed, and only when it differs from `date`. The
+    /// chosen date has the time spec of `date`: days and times are shown and chosen in its own zone or at its own
+    /// offset, and an offset is the same on every day. When `date` is invalid or outside the years 1 to 9999, the
+    /// calendar begins at the clock's current local time with no day chosen; Return then takes the day shown.
     ///
-    /// `cell` is in the coordinates of the table's viewport. When the table goes or is hidden, or its rows change while
-    /// the calendar is open, it closes and the target is not called: its cell may be another record's by then.
+    /// `cell` is in the coordinates of the table's viewport. When the table is destroyed or hidden, or its rows change
+    /// while the calendar is open, the calendar closes without calling the target, since the cell may belong to another
+    /// record by then.
     void setCalendar(std::function<void(const QDateTime &chosen)> target, QTableView *table,
                      const QString &columnIdentifier, const QRect &cell, const QDateTime &date);
 
-    /// Closes the calendar; saving calls the target with what was changed, if anything was. Fading is a short one, and
-    /// the calendar is out of the way from its first moment. Nothing happens when none is open.
+    /// Closes the calendar if it is open. With `save`, the target receives a changed date. With `fade`, a picture of
+    /// the calendar fades out; the calendar itself is hidden at once.
     void closeAndSave(bool save, bool fade);
 
     [[nodiscard]] bool isOpen() const;
-    /// The column and table that the calendar is open at; empty and null when it is not.
+    /// The column and table of the open calendar; empty and null when it is closed.
     [[nodiscard]] QString columnIdentifier() const { return m_columnIdentifier; }
     [[nodiscard]] QTableView *table() const;
 
@@ -65,9 +65,10 @@ private:
     void leave(QPoint globalPoint);
 
     QPointer<CalendarPopup> m_popup; ///< belongs to the table
-    QPointer<QWidget> m_table;       ///< a widget, because a table that is being destroyed is no table any more
+    /// A QWidget, because a table that is being destroyed cannot be cast to QTableView.
+    QPointer<QWidget> m_table;
     QPointer<QAbstractItemModel> m_model;
-    std::unique_ptr<QObject> m_watch; ///< holds the connections of one opening
+    std::unique_ptr<QObject> m_watch; ///< context object of the signal connections of one opening
     std::function<void(const QDateTime &)> m_target;
     QString m_columnIdentifier;
     QRect m_cell;
@@ -76,8 +77,8 @@ private:
 namespace calendar
 {
 
-/// Where a pop-up of `size` stands at a cell of the screen: below it, above it when there is more room there, at the
-/// side where lines begin, and within `screen`.
+/// The position of a pop-up of `size` at a cell, in screen coordinates: below it, or above it when there is more room,
+/// aligned with the cell's leading edge, and within `screen`.
 [[nodiscard]] QRect placeAt(const QRect &cell, QSize size, const QRect &screen, Qt::LayoutDirection direction);
 
 } // namespace calendar

@@ -74,7 +74,7 @@ void CalendarDays::showMonth(QDate month)
     Q_EMIT pageTurned();
 }
 
-/// Says the day aloud: assistive technology reads a focused widget's name when it changes.
+/// Makes assistive technology read the day: it reads a focused widget's name when the name changes.
 void CalendarDays::describe()
 {
     setAccessibleName(
@@ -82,7 +82,7 @@ void CalendarDays::describe()
                    : text("CalendarDays"));
 }
 
-// ---- places
+// ---- geometry
 
 QSize CalendarDays::cellSize() const
 {
@@ -101,7 +101,7 @@ QSize CalendarDays::sizeHint() const
 
 QRect CalendarDays::cellAt(int row, int column) const
 {
-    // Whole pixels that share out the rest, so that the columns fill the width.
+    // Cell edges are rounded to whole pixels so that the columns fill the whole width.
     const int left = width() * column / daysInWeek;
     const int top = height() * row / rows;
     const QRect cell(QPoint(left, top),
@@ -156,14 +156,14 @@ void CalendarDays::paintEvent(QPaintEvent *)
 
 void CalendarDays::paintDay(QPainter &painter, const QRect &cell, QDate day) const
 {
-    // Half a pixel in from whole pixels, so that strokes of 1 px are sharp.
+    // Half a pixel inside the pixel grid, so that 1 px strokes are sharp.
     const QRectF shape = QRectF(cell).adjusted(1.5, 1.5, -1.5, -1.5);
     const bool isChosen = m_isChosen && day == m_day;
     const bool isOfMonth = calendar::monthOf(day) == m_month;
     const QColor highlight = palette().color(QPalette::Active, QPalette::Highlight);
     QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
     if (!isOfMonth)
-        ink.setAlphaF(0.5F); // greyed, but to be read: these days can be taken too
+        ink.setAlphaF(0.5F); // grey but readable, since these days can be chosen too
 
     painter.setBrush(Qt::NoBrush);
     if (isChosen) {
@@ -184,7 +184,7 @@ void CalendarDays::paintDay(QPainter &painter, const QRect &cell, QDate day) con
         painter.drawRoundedRect(isChosen ? shape.adjusted(2, 2, -2, -2) : shape, corner, corner);
     }
     if (day == m_day && hasFocus()) {
-        // Beside the fill, so that it shows on every highlight colour.
+        // Drawn outside the filled shape, so that it is visible on every highlight colour.
         painter.setPen(QPen(palette().color(QPalette::WindowText), 1, isChosen ? Qt::SolidLine : Qt::DotLine));
         painter.drawRoundedRect(shape.adjusted(-1, -1, 1, 1), corner + 1, corner + 1);
     }
@@ -210,7 +210,7 @@ void CalendarDays::mousePressEvent(QMouseEvent *event)
 
 void CalendarDays::mouseReleaseEvent(QMouseEvent *event)
 {
-    // The click that opened the calendar may end here: only a day that was pressed is taken.
+    // The click that opened the calendar may be released here, so a day counts only when it was also pressed here.
     const QDate pressed = std::exchange(m_pressed, {});
     if (event->button() != Qt::LeftButton || !pressed.isValid() || dayAt(event->position().toPoint()) != pressed)
         return;

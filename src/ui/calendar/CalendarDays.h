@@ -8,26 +8,26 @@
 namespace brinemark
 {
 
-/// A month's page: the weekdays in the locale's order above six weeks of days. It shows a month, which may be another
-/// than the chosen day's, takes a day by click and moves it by key (ui/calendar/CalendarMonth.h).
+/// A month's page: the weekdays in the locale's order above six weeks of days. The page may show another month than
+/// that of the chosen day. A click chooses a day; keys move it (see ui/calendar/CalendarMonth.h).
 class CalendarDays : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Begins on `day`'s page, with that day chosen or only as the place where the keys begin.
+    /// Shows the page of `day`. With `isChosen` false, the day is only where the keys begin.
     CalendarDays(QDate day, bool isChosen, QDate today, QWidget *parent = nullptr);
 
     [[nodiscard]] QDate day() const { return m_day; }
     [[nodiscard]] bool isChosen() const { return m_isChosen; }
     [[nodiscard]] QDate shownMonth() const { return m_month; } ///< the first of the month
 
-    /// Chooses a day and turns to its page.
+    /// Chooses a day and shows its page.
     void choose(QDate day);
-    /// Turns to another page; the chosen day stays. Nothing happens at the ends of the range.
+    /// Shows the page so many months further; the chosen day stays. Does nothing at the ends of the range.
     void turnPage(int months);
 
-    /// Where a day stands; an empty rectangle when it is not on the page.
+    /// The rectangle of a day; empty when the day is not on the page.
     [[nodiscard]] QRect rectOf(QDate day) const;
     /// The day at a point; null where there is none.
     [[nodiscard]] QDate dayAt(QPoint point) const;

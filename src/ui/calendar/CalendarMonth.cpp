@@ -73,7 +73,7 @@ std::optional<QDate> dayAfterKey(QDate day, QDate today, int key, Qt::KeyboardMo
 QDateTime moved(const QDateTime &value, QDate day, QTime time)
 {
     constexpr int hour = 3600;
-    constexpr int mostLeftOut = 25; // a zone that crosses the date line leaves out a whole day
+    constexpr int mostLeftOut = 25; // hours; a zone that moves across the date line skips a whole day
     QDateTime result = value;
     for (int hours = 0; hours <= mostLeftOut; ++hours) {
         const QDateTime wanted = QDateTime(day, time, Qt::UTC).addSecs(hours * hour);

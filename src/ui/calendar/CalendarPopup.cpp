@@ -32,7 +32,7 @@ bool isUsable(const QDateTime &date)
     return date.isValid() && calendar::isInRange(date.date());
 }
 
-/// Hour and minute: what the time field shows.
+/// The time as the time field shows it, without seconds.
 QTime toMinute(QTime time)
 {
     return {time.hour(), time.minute()};
@@ -57,7 +57,7 @@ CalendarPopup::CalendarPopup(const QDateTime &date, QWidget *parent)
     column->setSpacing(spacing::tight);
     column->addLayout(makeTitleRow());
     column->addWidget(m_days, 1);
-    column->addSpacing(spacing::section); // the line of paintEvent() runs through its middle
+    column->addSpacing(spacing::section); // paintEvent() draws a line in this gap
     column->addLayout(makeTimeRow());
 
     connect(m_days, &CalendarDays::pageTurned, this, &CalendarPopup::showTitle);
@@ -73,7 +73,7 @@ QToolButton *CalendarPopup::addPageButton(const char *iconName, const QString &t
                                           int months)
 {
     QToolButton *button = makeIconButton(iconName, title, objectName);
-    button->setFocusPolicy(Qt::NoFocus); // each has its key, and the tab key is for the days and the time
+    button->setFocusPolicy(Qt::NoFocus); // each has a key, and the Tab key moves only between the days and the time
     button->setAutoRepeat(true);
     connect(button, &QToolButton::clicked, m_days, [this, months] { m_days->turnPage(months); });
     m_pageButtons.append({button, months});
@@ -82,7 +82,7 @@ QToolButton *CalendarPopup::addPageButton(const char *iconName, const QString &t
 
 QLayout *CalendarPopup::makeTitleRow()
 {
-    // The arrows point to where the pages lie.
+    // In a right-to-left layout, the next page is on the left.
     const bool mirrored = isRightToLeft();
     const char *previousMonth = mirrored ? "NextMonth" : "PreviousMonth";
     const char *nextMonth = mirrored ? "PreviousMonth" : "NextMonth";
@@ -110,7 +110,7 @@ QLayout *CalendarPopup::makeTimeRow()
 {
     m_time = new QTimeEdit(m_start.time());
     m_time->setObjectName("timeField");
-    m_time->setLayoutDirection(Qt::LeftToRight); // from right to left it would show the minute first
+    m_time->setLayoutDirection(Qt::LeftToRight); // right to left would show the minute before the hour
     m_time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
     m_time->setWrapping(true);
     m_time->setAccessibleName(text("CalendarTime"));
@@ -165,7 +165,7 @@ QTime CalendarPopup::chosenTime() const
 QDateTime CalendarPopup::date() const
 {
     if (m_days->day() == m_start.date() && chosenTime() == m_start.time())
-        return m_start; // made anew it could be the other one of two equal hours when the clocks go back
+        return m_start; // computing it again could give the other of two equal hours when the clocks go back
     return calendar::moved(m_start, m_days->day(), chosenTime());
 }
 
@@ -174,7 +174,7 @@ bool CalendarPopup::isChanged() const
     return (!m_hasStart && m_days->isChosen()) || date() != m_start;
 }
 
-// ---- how it ends
+// ---- closing
 
 void CalendarPopup::keyPressEvent(QKeyEvent *event)
 {
@@ -184,7 +184,7 @@ void CalendarPopup::keyPressEvent(QKeyEvent *event)
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // Without a date to begin at, this takes the day that the keys stand on.
+        // When the calendar began without a date, Return chooses the day at which the keys are.
         if (!m_hasStart)
             m_days->choose(m_days->day());
         Q_EMIT finished(true);
@@ -196,14 +196,14 @@ void CalendarPopup::keyPressEvent(QKeyEvent *event)
 
 void CalendarPopup::mousePressEvent(QMouseEvent *event)
 {
-    // A pop-up gets every press while it is open, those beside it too.
+    // An open pop-up receives every press, also those outside it.
     if (!rect().contains(event->position().toPoint()))
         Q_EMIT left(event->globalPosition().toPoint());
 }
 
 void CalendarPopup::closeEvent(QCloseEvent *event)
 {
-    // The window system or a longer-lived command closed it, not the person: what was changed is kept.
+    // Closed by the window system or by another command, not by the user: keep what was changed.
     QFrame::closeEvent(event);
     Q_EMIT finished(true);
 }
@@ -221,7 +221,8 @@ void CalendarPopup::wheelEvent(QWheelEvent *event)
 
 void CalendarPopup::paintEvent(QPaintEvent *)
 {
-    // The window system draws no frame and styles draw theirs for light palettes, so lines are the text's colour, thin.
+    // The window system draws no frame, and styles draw frames for light palettes, so draw thin lines in the text
+    // colour.
     const auto ink = [this](float strength) {
         QColor colour = palette().color(QPalette::WindowText);
         colour.setAlphaF(strength);

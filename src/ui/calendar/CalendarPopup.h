@@ -14,25 +14,25 @@ namespace brinemark
 
 class CalendarDays;
 
-/// The calendar's window: a month's page with its buttons, and the time of day. It works on a date of its own and says
-/// when the person is done; CalendarController decides what becomes of it.
+/// The calendar's window: a month's page with its buttons, and the time of day. It edits its own copy of the date and
+/// signals when the user is done; CalendarController decides what to do with the result.
 class CalendarPopup : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// Begins at `date`; at the present moment, with nothing chosen, when it is invalid or out of range.
+    /// Begins at `date`, or at the current time with nothing chosen when `date` is invalid or out of range.
     CalendarPopup(const QDateTime &date, QWidget *parent);
 
-    /// The date as it stands, with the time spec (zone or offset) of the date it began at. Seconds stay as long as the
-    /// hour and minute do.
+    /// The current date, with the time spec (zone or offset) of the initial date. The seconds are kept while hour and
+    /// minute are unchanged.
     [[nodiscard]] QDateTime date() const;
-    /// Whether date() says something else than the date it began at.
+    /// Whether date() differs from the initial date, or a day was chosen where there was none.
     [[nodiscard]] bool isChanged() const;
 
 Q_SIGNALS:
     void finished(bool save);
-    /// A press outside the window.
+    /// The mouse was pressed outside the window.
     void left(QPoint globalPoint);
 
 protected:
@@ -54,8 +54,8 @@ private:
     CalendarDays *m_days;
     QLabel *m_title = nullptr;
     QTimeEdit *m_time = nullptr;
-    QList<std::pair<QToolButton *, int>> m_pageButtons; ///< with the months that each turns
-    int m_wheel = 0;                                    ///< eighths of a degree not yet used
+    QList<std::pair<QToolButton *, int>> m_pageButtons; ///< with the number of months that each turns
+    int m_wheel = 0; ///< wheel movement short of a whole step, in eighths of a degree
 };
 
 } // namespace brinemark

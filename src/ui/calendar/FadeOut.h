@@ -7,8 +7,8 @@ class QWidget;
 namespace brinemark
 {
 
-/// Leaves a picture of a window that closes at its place and fades it out. The picture takes neither mouse nor keys and
-/// goes by itself, or with its parent. Nothing is shown where the desktop's style has animations turned off.
+/// Replaces a window that closes by a picture of it and fades the picture out. The picture ignores mouse and keys and
+/// deletes itself, at the latest with its parent. Nothing is shown when the desktop's style has animations turned off.
 void fadeOut(QWidget &window, QWidget *parent);
 
 } // namespace brinemark

@@ -18,7 +18,7 @@ bool lower(const QPointF &a, const QPointF &b)
     return a.y() < b.y();
 }
 
-/// Adds the four points that stand for a column, each once.
+/// Adds the first, last, lowest and highest point of a column, each once.
 void appendColumn(QList<QPointF> &result, Place begin, Place end)
 {
     const auto [lowest, highest] = std::minmax_element(begin, end, lower);
@@ -51,7 +51,7 @@ QList<QPointF> decimated(const QList<QPointF> &points, double xMin, double xMax,
     const double width = (xMax - xMin) / columns;
     auto column = begin;
     for (int i = 0; i < columns && column != end; ++i) {
-        // The last column takes what rounding left over.
+        // The last column also takes points that rounding left beyond its edge.
         const double edge = xMin + width * (i + 1);
         const auto next = i == columns - 1
                               ? end

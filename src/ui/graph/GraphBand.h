@@ -7,11 +7,11 @@
 namespace brinemark
 {
 
-/// A stretch of the value axis that a graph shades across its whole width; a single value is a dashed line.
+/// A range of the value axis that a graph shades across its whole width; a single value is drawn as a dashed line.
 struct GraphBand {
     double low = 0;
     double high = 0;
-    QColor colour; ///< of the line and the edges; the shade is a breath of it
+    QColor colour; ///< of the line and the edges; the area is filled with it at low opacity
 };
 
 } // namespace brinemark

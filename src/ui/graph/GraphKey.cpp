@@ -12,7 +12,7 @@ namespace brinemark
 namespace
 {
 
-constexpr double keyMargin = 8; ///< around the whole and between the rows
+constexpr double keyMargin = 8; ///< around the title and the legend, and beside the colour tiles
 constexpr double side = 10;     ///< of a colour tile
 constexpr double betweenNames = 20;
 

@@ -10,24 +10,25 @@ class QPainter;
 namespace brinemark
 {
 
-/// What a graph needs on paper, where nothing stands beside it: a title above, and below the names of the visible lines
-/// beside their colours. Sizes are in the painter's units.
+/// The title and the legend of a printed or exported graph: the title above it, and below it the names of the visible
+/// lines beside their colours. Sizes are in the painter's units.
 class GraphKey
 {
 public:
     GraphKey(const GraphScene &scene, const GraphLook &look, const QString &title, double width);
 
-    [[nodiscard]] double titleHeight() const { return m_titleHeight; }   ///< 0 without a title
-    [[nodiscard]] double legendHeight() const { return m_legendHeight; } ///< 0 without a named line
+    [[nodiscard]] double titleHeight() const { return m_titleHeight; }   ///< 0 when there is no title
+    [[nodiscard]] double legendHeight() const { return m_legendHeight; } ///< 0 when no visible line has a name
 
-    /// Draws both into `target`, which has this key's width: the title at its top, the legend at its bottom.
+    /// Draws both into `target`, which must have the width given to the constructor: the title at its top, the legend
+    /// at its bottom.
     void drawTo(QPainter &painter, const QRectF &target) const;
 
 private:
     struct Entry {
         QString name;
         QColor colour;
-        QPointF place; ///< top left, from that of the legend
+        QPointF place; ///< top left corner, relative to that of the legend
     };
 
     [[nodiscard]] QFont titleFont() const;

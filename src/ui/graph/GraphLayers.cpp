@@ -15,19 +15,20 @@ namespace brinemark
 namespace
 {
 
-/// How far symbols reach beyond the plot when their points are on its edge.
+/// How far a symbol at the edge of the plot reaches beyond it, in pixels.
 constexpr int symbolMargin = 6;
 
-/// Symbols nearer to one another than this on average would be a mere thickening of the line, in pixels.
+/// The smallest average distance of symbols, in pixels. Closer symbols would only make the line look thicker.
 constexpr double symbolDistance = 8;
 
-/// Of a column of pixels, whatever the screen's resolution: lines are seldom thinner than that.
+/// The width of the pixel columns to which lines are reduced, in device-independent pixels. Lines are seldom thinner
+/// than that.
 constexpr double columnWidth = 1;
 
-/// What a hair-thin outline adds to a line's width.
+/// The width that an outline adds to a line, in pixels.
 constexpr double outlineWidth = 1.2;
 
-/// The same for upright strokes, which then fill whole pixels and are drawn in half the time.
+/// The same for upright strokes: with 2 they fill whole pixels and are drawn in half the time.
 constexpr double uprightOutlineWidth = 2;
 
 } // namespace
@@ -56,7 +57,7 @@ void GraphBandLayer::draw(QCPPainter *painter)
     const QRectF plot = m_plot->plotRect();
     const double low = m_plot->toPixels({0, std::min(band->low, band->high)}).y();
     const double high = m_plot->toPixels({0, std::max(band->low, band->high)}).y();
-    // Edges far outside would be beyond what a painter takes.
+    // Painters cannot draw coordinates that lie very far outside.
     const auto edge = [&plot](double y) { return std::clamp(y, plot.top() - 10, plot.bottom() + 10); };
     QColor shade = band->colour;
     shade.setAlphaF(0.14F);
@@ -109,7 +110,7 @@ void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
 
     const double width = line.attributes.width;
     const QColor outline = m_plot->look().outlineOf(line.attributes.colour);
-    // A level line at the very top or bottom keeps its thickness; at the sides lines end with the plot.
+    // A level line at the top or bottom edge keeps its full width; at the sides, lines end at the plot's edge.
     const double reach = (width + outlineWidth) / 2;
     const QRectF area = QRectF(plot).adjusted(0, -reach, 1, reach);
     painter->save();
@@ -133,7 +134,7 @@ void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
 
 void GraphLinesLayer::drawSymbols(QCPPainter *painter, const GraphLine &line, const QPolygonF &pixels) const
 {
-    // A single point has no line that would show it.
+    // A single point has no line to show it, so it always gets a symbol.
     GraphSymbol symbol = line.attributes.symbol;
     if (symbol == GraphSymbol::None && line.points.size() == 1)
         symbol = GraphSymbol::Circle;
@@ -148,7 +149,7 @@ void GraphLinesLayer::drawSymbols(QCPPainter *painter, const GraphLine &line, co
         if (area.contains(pixel))
             shown.append(pixel);
     }
-    // All or none: symbols here and there would seem to say something about their points.
+    // Draw all symbols or none: leaving some out would suggest that the others are special.
     const qsizetype gaps = shown.size() - 1;
     if (gaps > 0 && shown.last().x() - shown.first().x() < symbolDistance * double(gaps))
         return;

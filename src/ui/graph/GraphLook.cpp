@@ -12,7 +12,7 @@ namespace brinemark
 namespace
 {
 
-/// `part` of the second colour in the first.
+/// The colour between `a` (part 0) and `b` (part 1).
 QColor mixed(const QColor &a, const QColor &b, double part)
 {
     const auto mix = [part](double x, double y) { return float(x + (y - x) * part); };
@@ -40,7 +40,7 @@ GraphLook GraphLook::onPaper(const QFont &font)
 
 QColor GraphLook::outlineOf(const QColor &colour) const
 {
-    // What WCAG 2.1 asks of graphical objects against what is beside them.
+    // The contrast that WCAG 2.1 requires between graphical objects and their surroundings.
     constexpr double visible = 3;
     if (contrast(colour, background) >= visible)
         return {};

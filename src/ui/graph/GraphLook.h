@@ -20,12 +20,12 @@ struct GraphLook {
     /// The look on the screen.
     static GraphLook onScreen(const QPalette &palette, const QFont &font);
 
-    /// The look on paper and in exported files: dark on white whatever the desktop's colours, and the font by pixels,
-    /// so that it grows with the drawing and not with the paper's resolution.
+    /// The look on paper and in exported files: dark on white whatever the desktop's colours. The font size is in
+    /// pixels, so that text grows with the drawing and not with the paper's resolution.
     static GraphLook onPaper(const QFont &font);
 
-    /// The colour that frames a line of `colour` so that it can be seen on the background; invalid when it is seen
-    /// without.
+    /// The colour of an outline that makes a line of `colour` visible on the background; invalid when it is visible
+    /// without one.
     [[nodiscard]] QColor outlineOf(const QColor &colour) const;
 };
 

@@ -16,7 +16,7 @@ namespace
 
 constexpr int tickLength = 4;
 constexpr int tickPadding = 4;
-constexpr int plotMargin = 8; ///< around the whole, in pixels
+constexpr int plotMargin = 8; ///< around the axes and their labels, in pixels
 
 double widest(const QStringList &labels, const QFontMetricsF &metrics)
 {
@@ -26,7 +26,7 @@ double widest(const QStringList &labels, const QFontMetricsF &metrics)
     return width;
 }
 
-/// Every how many tick marks a label has room.
+/// The interval between tick marks that get a label, so that labels do not overlap.
 int labelStep(double axisLength, qsizetype ticks, double labelLength)
 {
     if (ticks < 2 || axisLength <= 0)
@@ -62,7 +62,7 @@ GraphPlot::GraphPlot(const GraphScene &scene, const GraphLook &look, QWidget *pa
         axes[i]->setTickLength(0, tickLength);
         axes[i]->setTickLabelPadding(tickPadding);
         axes[i]->setSubTicks(false);
-        axes[i]->setNumberFormat(QStringLiteral("g")); // labels such as 1e+06 stay as they were given
+        axes[i]->setNumberFormat(QStringLiteral("g")); // labels such as 1e+06 are shown as given
         axes[i]->grid()->setZeroLinePen(Qt::NoPen);
     }
     applyLook();
@@ -95,12 +95,12 @@ void GraphPlot::sceneChanged()
     xAxis->setRange(x.min, x.max);
     yAxis->setRange(y.min, y.max);
     placeAxes(size());
-    updateLayout(); // so that positions are right before the next paint event
+    updateLayout(); // so that toPixels() is right before the next paint event
     m_stale = true;
     update();
 }
 
-/// Sets the margins by the labels, so that none is cut off, and leaves out labels that would run into one another.
+/// Sets the margins so that no label is cut off, and leaves out labels that would overlap.
 void GraphPlot::placeAxes(QSize size)
 {
     const QFontMetricsF metrics(m_look.font);
@@ -161,7 +161,8 @@ void GraphPlot::drawTo(QPainter &painter, const QRectF &target)
 
     painter.save();
     painter.translate(target.topLeft());
-    // A picture grows with the resolution of what it is played on; here the painter's units alone count.
+    // A QPicture scales with the resolution of the device that it is played on; undo that, so that the painter's units
+    // count.
     painter.scale(double(picture.logicalDpiX()) / painter.device()->logicalDpiX(),
                   double(picture.logicalDpiY()) / painter.device()->logicalDpiY());
     picture.play(&painter);
@@ -170,7 +171,7 @@ void GraphPlot::drawTo(QPainter &painter, const QRectF &target)
 
 void GraphPlot::paintEvent(QPaintEvent *event)
 {
-    // The window may have moved to a screen of another resolution.
+    // The window may have moved to a screen with another resolution.
     if (!qFuzzyCompare(bufferDevicePixelRatio(), devicePixelRatioF())) {
         setBufferDevicePixelRatio(devicePixelRatioF());
         m_stale = true;

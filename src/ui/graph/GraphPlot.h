@@ -12,35 +12,35 @@
 namespace brinemark
 {
 
-/// Draws a scene: axes, grid, band and lines. Takes no events; the view above it does.
+/// Draws a scene: axes, grid, band and lines. Mouse and keys are handled by the view above it.
 class GraphPlot : public QCustomPlot
 {
     Q_OBJECT
 
 public:
-    /// The scene must live as long as the plot. After a change of it call `sceneChanged()`.
+    /// The scene must outlive the plot. Call `sceneChanged()` after changing it.
     explicit GraphPlot(const GraphScene &scene, const GraphLook &look, QWidget *parent = nullptr);
 
     [[nodiscard]] const GraphScene &scene() const { return m_scene; }
     [[nodiscard]] const GraphLook &look() const { return m_look; }
     void setLook(const GraphLook &look);
 
-    /// Takes over ranges and ticks and draws again with the next paint event.
+    /// Applies the scene's ranges and ticks and redraws at the next paint event.
     void sceneChanged();
 
-    /// The area between the axes, in the widget's coordinates.
+    /// The area between the axes, in widget coordinates.
     [[nodiscard]] QRect plotRect() const;
     [[nodiscard]] QPointF toPixels(QPointF point) const;
     [[nodiscard]] QPointF fromPixels(QPointF position) const;
 
-    /// A ring around a point in graph units, in its line's colour.
+    /// A ring around a point (in graph units), drawn in the colour of the point's line.
     [[nodiscard]] bool hasMarkedPoint() const { return m_marked.has_value(); }
     void setMarkedPoint(std::optional<QPointF> point, const QColor &colour = {});
 
-    /// The frame that says where the keyboard is.
+    /// Shows or hides the frame that marks the keyboard focus.
     void setFocusShown(bool shown);
 
-    /// Draws the scene to fill `target`, as vectors; the painter's units are the pixels in which widths are given.
+    /// Draws the scene to fill `target`, as vectors; line widths in pixels become units of the painter.
     void drawTo(QPainter &painter, const QRectF &target);
 
 protected:
@@ -58,7 +58,7 @@ private:
     std::optional<QPointF> m_marked;
     QColor m_markColour;
     bool m_focusShown = false;
-    bool m_stale = true; ///< the buffers show another scene
+    bool m_stale = true; ///< the paint buffers do not show the current scene
 };
 
 } // namespace brinemark

@@ -11,10 +11,11 @@ namespace brinemark
 namespace
 {
 
-/// Beyond this the arithmetic of axes leaves what a double can hold.
+/// Beyond this, computing axes would overflow a double.
 constexpr double largest = 1e100;
 
-/// How much longer a range must be than the steps between doubles at its place, so that pixels still differ.
+/// The shortest allowed length of a range, relative to its larger absolute end. In a shorter one, neighbouring pixels
+/// could round to the same double.
 constexpr double doubleSteps = 1e-11;
 
 double drawable(double value)
@@ -42,7 +43,7 @@ GraphRange drawableRange(double min, double max)
     GraphRange range{drawable(min), drawable(max)};
     if (range.min > range.max)
         std::swap(range.min, range.max);
-    // At the end of the numbers a length of 1 would be lost in rounding.
+    // At very large values, adding 1 would be lost in rounding.
     if (range.length() <= stepAt(range))
         range.max = range.min + std::max(1.0, stepAt(range) * 1000);
     return range;

@@ -5,7 +5,7 @@
 namespace brinemark
 {
 
-/// A stretch of an axis, in graph units.
+/// A range of an axis, in graph units.
 struct GraphRange {
     double min = 0;
     double max = 1;
@@ -15,12 +15,12 @@ struct GraphRange {
     friend bool operator==(const GraphRange &, const GraphRange &) = default;
 };
 
-/// A range that can be drawn: the ends in order, finite (what is not counts as 0), and apart. What has no extent gets
+/// A range that can be drawn: finite (other values count as 0), with its ends in order and apart. An empty range gets
 /// the length 1.
 [[nodiscard]] GraphRange drawableRange(double min, double max);
 
-/// `visible` made `factor` times as long around `anchor`, which keeps its place. Never longer than `full` nor outside
-/// of it, and never shorter than a millionth of it.
+/// `visible` made `factor` times as long, with `anchor` staying at its place. Never longer than `full` or outside it,
+/// and never shorter than a millionth of it.
 [[nodiscard]] GraphRange zoomedRange(const GraphRange &visible, const GraphRange &full, double anchor, double factor);
 
 /// `visible` moved by `distance`, stopping at the ends of `full`.

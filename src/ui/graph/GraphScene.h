@@ -15,20 +15,20 @@
 namespace brinemark
 {
 
-/// The tick marks of an axis and what is written at them.
+/// The tick marks of an axis and their labels.
 struct GraphTicks {
     QList<double> positions;
-    QStringList labels; ///< as many as positions
+    QStringList labels; ///< one for each position
 };
 
-/// One line as it is drawn.
+/// A line, ready to be drawn.
 struct GraphLine {
     QList<QPointF> points; ///< finite, ascending in x
     GraphLineAttributes attributes;
     bool visible = true;
 };
 
-/// Everything that a plot draws, on the screen and on paper.
+/// Everything that a plot draws, on the screen or on paper.
 struct GraphScene {
     QList<GraphLine> lines;
     std::array<GraphRange, 2> visible; ///< by axis

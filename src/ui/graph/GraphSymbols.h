@@ -9,8 +9,8 @@ class QPainter;
 namespace brinemark
 {
 
-/// Draws a symbol of 6 to 8 pixels around `centre` with the painter's pen and brush; nothing for None. All have about
-/// the same weight, so a caller's legend may use it too.
+/// Draws a symbol of 6 to 8 pixels around `centre` with the painter's pen and brush; draws nothing for None. All
+/// symbols look equally heavy.
 void drawGraphSymbol(QPainter &painter, GraphSymbol symbol, QPointF centre);
 
 } // namespace brinemark

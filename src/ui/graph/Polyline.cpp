@@ -14,7 +14,8 @@ namespace brinemark
 namespace
 {
 
-/// Adds what of the segment lies in the area, by the parameters at which it crosses the four edges (Liang and Barsky).
+/// Adds the part of a segment that lies within the area, found from the parameters at which it crosses the four edges
+/// (the algorithm of Liang and Barsky).
 void appendClipped(QList<QLineF> &result, const QLineF &segment, const QRectF &area)
 {
     const QPointF start = segment.p1();
@@ -37,7 +38,7 @@ void appendClipped(QList<QLineF> &result, const QLineF &segment, const QRectF &a
         result.append(QLineF(start + way * enters, start + way * leaves));
 }
 
-/// Collects strokes; uprights wait until a run of them is complete.
+/// Collects strokes. Upright strokes are kept back until the run that they belong to is complete.
 class Strokes
 {
 public:
@@ -49,16 +50,16 @@ public:
 
     void addSegment(const QLineF &segment) { appendClipped(m_strokes.segments, segment, m_area); }
 
-    /// `upright` leads downwards in the painter's sense: y1 <= y2.
+    /// `upright` must run downwards on the screen: y1 <= y2.
     void addUpright(const QLineF &upright)
     {
-        constexpr qsizetype longest = 16; // more have too little in common
+        constexpr qsizetype longest = 16; // longer runs have too little height in common
         if (m_run.size() == longest || !touchesRun(upright))
             finishRun();
         m_run.append(upright);
     }
 
-    /// Whether what leads to `upright` from the upright before does not show.
+    /// Whether `upright` overlaps the previous upright stroke, so that the segment that joins them is invisible.
     [[nodiscard]] bool touchesRun(const QLineF &upright) const
     {
         return !m_run.isEmpty() && upright.x1() - m_run.last().x1() < m_columnWidth * 1.5 &&
@@ -77,7 +78,7 @@ public:
         const bool filled = m_run.size() > 2 && bottom - top > worthwhile;
         for (qsizetype i = 0; i < m_run.size(); ++i) {
             const QLineF &upright = m_run[i];
-            // The outermost stay whole: they are the edges of what is filled.
+            // The first and the last stroke are drawn whole, since they are the edges of the filled area.
             if (!filled || i == 0 || i == m_run.size() - 1) {
                 appendClipped(m_strokes.uprights, upright, m_area);
             } else {

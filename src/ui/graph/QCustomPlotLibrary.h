@@ -2,7 +2,7 @@
 
 #pragma once
 
-// The library's header uses two words that this build leaves undefined.
+// The library's header uses two of Qt's keyword macros, which this build does not define.
 #define signals Q_SIGNALS
 #define foreach(variable, container) for (variable : container)
 #include <qcustomplot.h>

@@ -12,7 +12,7 @@ namespace brinemark
 
 class TwoDGraphView;
 
-/// The numbers are those by which data sources and delegates know the axes.
+/// The numbers are part of the interface: data sources and delegates identify the axes by them.
 enum class GraphAxis { Y = 0, X = 1 };
 
 enum class GraphSymbol { None, Square, Circle, Triangle, Diamond };
@@ -22,10 +22,10 @@ struct GraphLineAttributes {
     QColor colour;    ///< opaque
     double width = 1; ///< device-independent pixels
     GraphSymbol symbol = GraphSymbol::None;
-    QString name = {}; ///< what the legend on paper calls it; a line without a name is not in it
+    QString name = {}; ///< its name in the legend on paper; a line without a name is left out of the legend
 };
 
-/// What a graph view draws. The view asks again on every `reloadData()` and keeps nothing longer than that.
+/// Supplies the lines of a graph view. The view asks again at every `reloadData()`.
 class TwoDGraphDataSource
 {
 public:
@@ -33,18 +33,18 @@ public:
 
     [[nodiscard]] virtual int numberOfLinesInTwoDGraphView(const TwoDGraphView &view) const = 0;
 
-    /// The points of a line in ascending order of x, in graph units; coordinates carry single precision. An empty list
-    /// draws no line.
+    /// The points of a line in ascending order of x, in graph units, with single precision. An empty list draws no
+    /// line.
     [[nodiscard]] virtual QList<QPointF> dataForLineIndex(const TwoDGraphView &view, int line) const = 0;
 
-    /// The range of an axis. A range without an extent is drawn as one of length 1.
+    /// The ends of an axis range for one line. An empty range is drawn with the length 1.
     [[nodiscard]] virtual double minimumValueForLineIndex(const TwoDGraphView &view, int line,
                                                           GraphAxis axis) const = 0;
     [[nodiscard]] virtual double maximumValueForLineIndex(const TwoDGraphView &view, int line,
                                                           GraphAxis axis) const = 0;
 };
 
-/// What a graph view asks about the look of its lines, its tick labels and its tool tips.
+/// Supplies the look of the lines, the tick labels and the tool tips of a graph view.
 class TwoDGraphDelegate
 {
 public:
@@ -52,11 +52,11 @@ public:
 
     [[nodiscard]] virtual GraphLineAttributes attributesForLineIndex(const TwoDGraphView &view, int line) const = 0;
 
-    /// The text of a tick mark; `defaultLabel` is its value with a full stop.
+    /// The label of a tick mark; `defaultLabel` is its value, with a full stop as the decimal sign.
     [[nodiscard]] virtual QString labelForTickMarkIndex(const TwoDGraphView &view, int index, GraphAxis axis,
                                                         const QString &defaultLabel) const = 0;
 
-    /// The tool tip of a point in graph units, one of a line's own points. Empty for none.
+    /// The tool tip of one of a line's points, in graph units; empty for none.
     [[nodiscard]] virtual QString stringForToolTip(const TwoDGraphView &view, QPointF point) const = 0;
 };
 

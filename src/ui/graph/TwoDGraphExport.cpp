@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a graph view puts on paper and into files.
+// Printing and exporting a TwoDGraphView.
 
 #include "base/Log.h"
 #include "base/SafeFile.h"
@@ -20,11 +20,11 @@ namespace brinemark
 namespace
 {
 
-constexpr double pixelsPerInch = 96; ///< of the units in which a graph is drawn
+constexpr double pixelsPerInch = 96; ///< resolution of the units in which a graph is drawn
 
 } // namespace
 
-/// That of the graph on the screen, and room for what is around it on paper.
+/// The size on paper in pixels: that of the graph on the screen plus the title and the legend.
 QSize TwoDGraphView::drawnSize() const
 {
     const QSize graph = size().expandedTo(minimumSizeHint());

@@ -20,9 +20,9 @@ namespace
 {
 
 constexpr double keyZoom = 0.8;
-constexpr double keyMove = 0.1; ///< of what is visible
+constexpr double keyMove = 0.1; ///< as a share of the visible range
 
-/// The points that can be drawn, in the order that drawing and searching rely on.
+/// The finite points, sorted by x, which drawing and searching rely on.
 QList<QPointF> drawablePoints(QList<QPointF> points)
 {
     points.removeIf([](const QPointF &point) { return !std::isfinite(point.x()) || !std::isfinite(point.y()); });
@@ -39,7 +39,7 @@ double tickPosition(const GraphRange &range, int index, int count)
     if (index == count - 1)
         return range.max;
     const double position = range.min + range.length() * index / (count - 1);
-    // What rounding leaves of a zero would be written as 5.6e-17.
+    // Without this, a tick at zero could be labelled 5.6e-17 because of rounding.
     return std::abs(position) < range.length() * 1e-9 ? 0 : position;
 }
 
@@ -60,7 +60,7 @@ TwoDGraphView::TwoDGraphView(QWidget *parent)
 
 TwoDGraphView::~TwoDGraphView()
 {
-    delete m_plot; // it refers to the scene, which goes before the child widgets do
+    delete m_plot; // it refers to the scene, which is destroyed before child widgets are
 }
 
 void TwoDGraphView::setDataSource(const TwoDGraphDataSource *source)
@@ -100,7 +100,7 @@ void TwoDGraphView::reloadLines()
     }
 }
 
-/// The ranges that hold those of every line.
+/// Sets the ranges of both axes to include every line.
 void TwoDGraphView::reloadRanges()
 {
     for (const GraphAxis axis : {GraphAxis::Y, GraphAxis::X}) {
@@ -131,7 +131,7 @@ void TwoDGraphView::reloadTicks(GraphAxis axis)
     }
 }
 
-/// Everything that follows from lines and visible ranges.
+/// Updates everything that depends on the lines and the visible ranges.
 void TwoDGraphView::showScene()
 {
     clearMark();
@@ -243,7 +243,7 @@ std::optional<TwoDGraphView::PointOfLine> TwoDGraphView::nearestPoint(QPointF po
                 continue;
             const QPointF way = m_plot->toPixels(*point) - position;
             const double distance = std::hypot(way.x(), way.y());
-            // The later line lies on top.
+            // At equal distance the later line wins, since it is drawn on top.
             if (distance <= nearestDistance) {
                 nearestDistance = distance;
                 nearest = {i, *point};
@@ -260,7 +260,7 @@ void TwoDGraphView::markPointAt(QPointF position)
         return clearMark();
     m_plot->setMarkedPoint(nearest->point, m_scene->lines[nearest->line].attributes.colour);
     const QString tip = m_delegate ? m_delegate->stringForToolTip(*this, nearest->point) : QString();
-    // An empty text hides what another point showed.
+    // An empty text hides the previous point's tool tip.
     QToolTip::showText(mapToGlobal(position.toPoint()), tip, this);
 }
 
@@ -325,7 +325,7 @@ void TwoDGraphView::focusOutEvent(QFocusEvent *)
 
 void TwoDGraphView::wheelEvent(QWheelEvent *event)
 {
-    // Some platforms turn the wheel's direction when a modifier is held.
+    // Some platforms report vertical turns as horizontal ones while a modifier key is held.
     const QPoint turned = event->angleDelta();
     constexpr double notch = 120;
     zoom(event->position(), std::pow(keyZoom, (turned.y() != 0 ? turned.y() : turned.x()) / notch), event->modifiers());
@@ -375,7 +375,7 @@ void TwoDGraphView::keyPressEvent(QKeyEvent *event)
     const double y = visibleRange(GraphAxis::Y).length() * keyMove;
     switch (event->key()) {
     case Qt::Key_Plus:
-    case Qt::Key_Equal: // the key of the plus on many keyboards
+    case Qt::Key_Equal: // the same key as plus on many keyboards
         return zoom(centre, keyZoom, {});
     case Qt::Key_Minus:
         return zoom(centre, 1 / keyZoom, {});

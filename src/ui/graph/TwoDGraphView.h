@@ -22,9 +22,10 @@ class GraphPlot;
 struct GraphLook;
 struct GraphScene;
 
-/// Lines over two axes, which its data source and delegate describe. The wheel zooms around the pointer (with Ctrl the
-/// X axis alone, with Shift the Y axis alone), dragging moves the visible part and a double click shows the whole
-/// again; with the keyboard +, -, 0 and the arrows do. The nearest point beside the pointer is marked, with a tool tip.
+/// Draws lines over two axes, as a data source and a delegate describe them. The wheel zooms around the pointer (with
+/// Ctrl only the X axis, with Shift only the Y axis), dragging moves the visible part, and a double click shows
+/// everything again; the keys +, -, 0 and the arrows do the same. The point nearest to the pointer is marked and has a
+/// tool tip.
 class TwoDGraphView : public QWidget
 {
     Q_OBJECT
@@ -33,49 +34,48 @@ public:
     explicit TwoDGraphView(QWidget *parent = nullptr);
     ~TwoDGraphView() override;
 
-    /// Not owned; both must live as long as the view or be replaced by null. Nothing is asked before `reloadData()`.
+    /// Neither is owned; each must outlive the view or be set to null first. They are not called before `reloadData()`.
     void setDataSource(const TwoDGraphDataSource *source);
     void setDelegate(const TwoDGraphDelegate *delegate);
 
-    /// So many tick marks, evenly spaced: the first at the minimum of what is visible, the last at its maximum. Every
-    /// mark's label is asked of the delegate; those that have no room are left out. 0 for none. Takes effect with the
-    /// next `reloadData()`.
+    /// The number of tick marks, evenly spaced from the minimum to the maximum of the visible range; 0 for none. The
+    /// delegate supplies the labels; labels that do not fit are left out. Takes effect at the next `reloadData()`.
     void setNumberOfTickMarks(int count, GraphAxis axis);
 
-    /// Asks the data source and the delegate anew. An axis stays zoomed when its whole range is what it was. Points
+    /// Asks the data source and the delegate again. An axis keeps its zoom when its whole range is unchanged. Points
     /// that are not finite are left out.
     void reloadData();
 
-    /// Lines are visible unless hidden; that outlasts `reloadData()`.
+    /// Hides or shows a line. Hidden lines stay hidden after `reloadData()`.
     void setLineVisible(int line, bool visible);
     [[nodiscard]] bool isLineVisible(int line) const;
 
-    /// Shades a band of values; nothing for none.
+    /// Shades a band of values; nullopt removes it.
     void setHighlightedBand(const std::optional<GraphBand> &band);
 
     void resetZoom();
     [[nodiscard]] bool isZoomed() const;
 
-    /// What of an axis is visible, and the whole of it.
+    /// The visible part and the whole range of an axis.
     [[nodiscard]] GraphRange visibleRange(GraphAxis axis) const;
     [[nodiscard]] GraphRange wholeRange(GraphAxis axis) const;
 
-    /// Where a point in graph units lies in the view's coordinates, which may be outside of it.
+    /// The position of a point (in graph units) in widget coordinates; it may lie outside the widget.
     [[nodiscard]] QPointF positionOf(QPointF point) const;
 
-    /// What stands above the graph on paper and in files.
+    /// The title above the graph on paper and in files.
     void setPaperTitle(const QString &title) { m_paperTitle = title; }
 
-    /// Draws what is visible for paper (dark on white, with title and legend) to fill the rectangle; widths and text
-    /// are in the painter's units, of which 96 should be an inch.
+    /// Draws the visible part for paper (dark on white, with title and legend) to fill the rectangle. Line widths and
+    /// text sizes are in the painter's units, of which 96 should make an inch.
     void render(QPainter *painter, const QRectF &target) const;
     using QWidget::render;
 
-    /// Fills the printer's page as far as the view's proportions allow. False when it could not be printed.
+    /// Prints the graph as large as the page and the view's proportions allow. False when printing fails.
     [[nodiscard]] bool print(QPrinter &printer) const;
 
-    /// A PNG of twice the view's size, or a PDF of one page. False when it could not be written; the log says why, and
-    /// what was at the path before is still there.
+    /// Writes a PNG of twice the view's size, or a PDF of one page. False when writing fails; the log says why, and an
+    /// existing file at the path is left unchanged.
     [[nodiscard]] bool saveImage(const QString &path) const;
     [[nodiscard]] bool savePdf(const QString &path) const;
 
@@ -83,7 +83,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// Another part of the axes is visible, or the same part of other axes.
+    /// The visible range changed, or the whole range that it belongs to.
     void zoomChanged();
 
 protected:
@@ -128,7 +128,7 @@ private:
     QString m_paperTitle;
     std::unique_ptr<GraphScene> m_scene;
     GraphPlot *m_plot;
-    std::optional<QPointF> m_dragFrom; ///< the position of the last drag event
+    std::optional<QPointF> m_dragFrom; ///< where the last drag event was
 };
 
 } // namespace brinemark
