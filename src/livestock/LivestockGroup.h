@@ -11,14 +11,14 @@ namespace brinemark
 
 class Container;
 
-/// What the four kinds of livestock differ in for whoever shows and adds them.
+/// How the four kinds of livestock differ where they are shown and added.
 struct LivestockGroupTraits {
     ContainerKind kind;
-    const char *picture;    ///< an icon's name
-    TextKey emptyKey;       ///< what an empty group says
+    const char *picture;    ///< name of an icon, see ui/Icons.h
+    TextKey emptyKey;       ///< the sentence that an empty group shows
     TextKey addKey;         ///< title of the button that adds one
     TextKey defaultNameKey; ///< name of a new record
-    TextKey deleteKey;      ///< the question before one is deleted, with a place for its name
+    TextKey deleteKey;      ///< the question before one is deleted, with a placeholder for its name
 };
 
 // clang-format off
@@ -30,7 +30,7 @@ inline constexpr std::array<LivestockGroupTraits, 4> livestockGroupTable{{
 }};
 // clang-format on
 
-/// Null for a journal.
+/// Null for a container that is not one of the four livestock groups.
 [[nodiscard]] const LivestockGroupTraits *livestockGroupTraits(ContainerKind kind);
 
 /// The sum of the records' counts.

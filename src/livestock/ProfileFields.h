@@ -15,13 +15,14 @@ struct ItemData;
 
 enum class ProfileKind { Text, Number, Count, ReefSafe };
 
-/// A field of a species profile as forms show it, apart from name, scientific name, family, notes and picture.
+/// A field of a species profile and its place in a form. Name, scientific name, family, notes and picture are not in
+/// the table, since forms lay them out on their own.
 struct ProfileField {
-    QStringView key; ///< of the record
+    QStringView key; ///< key of the record's field
     TextKey captionKey;
     ProfileKind kind;
     int row;
-    int column; ///< 0 or 1; what stands alone in its row is in column 0
+    int column; ///< 0 or 1; a field without a neighbour in its row is in column 0
 };
 
 // clang-format off
@@ -43,12 +44,13 @@ inline constexpr std::array<ProfileField, 14> profileFields{{
 }};
 // clang-format on
 
-/// The field's value as it is shown; numbers in the user's notation with up to seven digits.
+/// The field's value as shown to the user; numbers are in the locale's notation with up to seven digits.
 [[nodiscard]] QString profileText(const ItemData &item, const ProfileField &field);
 
-/// Whether a text stands for "nothing was said", in this language or as older files have it.
+/// Whether a stored text means that nothing was entered: the text of "Unspecified" in this language, or
+/// "(unspecified)", which older files use.
 [[nodiscard]] bool isUnspecified(const QString &stored);
-/// What a text field stores: an empty one the text of "Unspecified".
+/// The text that a field stores: `typed`, or the text of "Unspecified" when it is empty.
 [[nodiscard]] QString compareUnspecified(const QString &typed);
 
 } // namespace brinemark

@@ -23,14 +23,14 @@ class FishDataController : public MainViewController, public Shared<FishDataCont
 public:
     ~FishDataController() override;
 
-    void displayItemData(ItemData *item); ///< null for none
+    void displayItemData(ItemData *item); ///< null shows no record
     [[nodiscard]] ItemData *currentItem() const { return m_currentItem.lock().get(); }
 
     QWidget *view() override;
     void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
     void updateDisplay() override;
 
-    void editInfo(); ///< opens the item editor on the shown record
+    void editInfo(); ///< opens the item editor for the shown record
 
 private:
     friend class Shared<FishDataController>;

@@ -16,7 +16,7 @@ namespace brinemark
 class ItemSheet;
 struct ItemData;
 
-/// Makes new livestock records and edits those there are.
+/// Adds new livestock records and edits existing ones.
 class FishDataEntryController : public QObject, public Shared<FishDataEntryController>
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ class FishDataEntryController : public QObject, public Shared<FishDataEntryContr
 public:
     ~FishDataEntryController() override;
 
-    /// With a record, opens the item sheet on it. Without one, adds a new record of the kind to the current tank,
+    /// With a record, opens the item sheet for it. Without one, adds a new record of the kind to the current tank,
     /// selects it in the tree and starts editing its name there; does nothing when there is no current tank.
     void displayItemData(ItemData *item, ItemContext context);
 

@@ -42,7 +42,7 @@ constexpr std::array<NameField, 3> nameFields{{
     {u"family", "FishDataFamily"_key},
 }};
 
-/// Whether nothing stands beside the field, so that it can be as wide as the form.
+/// Whether the field has no neighbour in its row, so that it can be as wide as the form.
 constexpr bool standsAlone(const ProfileField &field)
 {
     return std::none_of(profileFields.begin(), profileFields.end(), [&](const ProfileField &other) {
@@ -135,7 +135,7 @@ QWidget *ItemSheet::makePictureColumn()
     m_deleteImageButton = new QPushButton(text("PictureRemove"));
     m_deleteImageButton->setObjectName(QStringLiteral("deleteImageButton"));
     for (QPushButton *button : {chooseButton, m_deleteImageButton})
-        button->setAutoDefault(false); // Return is OK's
+        button->setAutoDefault(false); // so that Return presses OK, the default button
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(spacing::group);
     buttons->addWidget(chooseButton);
@@ -176,7 +176,8 @@ void ItemSheet::showItem(const ItemData &item)
     m_reefSafe->setCurrentIndex(m_reefSafe->findData(item.reefSafe));
     m_notes->setPlainText(item.notes);
     showImage(item.itemImage.image());
-    m_deleteImageButton->setEnabled(!item.itemImage.isNone()); // also for bytes that are no picture
+    // Enabled also when the record holds bytes that are no readable picture.
+    m_deleteImageButton->setEnabled(!item.itemImage.isNone());
     m_imageChanged = false;
     QLineEdit *name = m_fields.value(QStringLiteral("name"));
     name->setFocus();

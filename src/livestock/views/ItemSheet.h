@@ -18,7 +18,7 @@ namespace brinemark
 class PictureView;
 struct ItemData;
 
-/// The form in which a livestock record is edited. Object names: "itemSheet", each field by its key ("sciName" ...),
+/// The form for editing a livestock record. Object names: "itemSheet", each field by its key ("sciName" ...),
 /// "chooseImageButton", "deleteImageButton", "okButton", "cancelButton".
 class ItemSheet : public QDialog
 {
@@ -28,10 +28,10 @@ public:
     explicit ItemSheet(QWidget *parent);
 
     void showItem(const ItemData &item);
-    /// Stores what was changed; what was not touched stays exactly as it is in the record.
+    /// Stores the changed fields; fields that the user did not change keep their exact value.
     void storeInto(ItemData &item) const;
 
-    void chooseImage(const QString &path); ///< beeps at a file that is no picture
+    void chooseImage(const QString &path); ///< beeps when the file is not a readable picture
 
 private:
     QWidget *makeFields();
@@ -41,7 +41,7 @@ private:
     void showImage(const QImage &image);
 
     QHash<QString, QLineEdit *> m_fields;
-    QHash<QString, QString> m_shown; ///< the texts that the fields began with
+    QHash<QString, QString> m_shown; ///< the initial texts of the fields, by key
     QComboBox *m_reefSafe = nullptr;
     QPlainTextEdit *m_notes = nullptr;
     PictureView *m_picture = nullptr;

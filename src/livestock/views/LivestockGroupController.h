@@ -15,7 +15,8 @@ class Container;
 class EmptyState;
 class TitleLine;
 
-/// The view of a tank's fish, plants, invertebrates or corals as a group. The view's object name is "fishView".
+/// The view of one of a tank's livestock groups: fish, plants, invertebrates or corals. The view's object name is
+/// "fishView".
 class LivestockGroupController : public MainViewController,
                                  public Shared<LivestockGroupController>,
                                  private ModelObserver
@@ -25,12 +26,12 @@ class LivestockGroupController : public MainViewController,
 public:
     ~LivestockGroupController() override;
 
-    /// The group to show from now on; one of the four livestock containers, or null for none.
+    /// Sets the group to show: one of the four livestock containers, or null for none.
     void setContainer(Container *container);
 
     QWidget *view() override;
     void setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton) override;
-    void newEntry() override; ///< a new record of the group's kind
+    void newEntry() override; ///< adds a new record of the group's kind
     void updateDisplay() override;
 
 private:

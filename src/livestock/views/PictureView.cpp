@@ -35,7 +35,8 @@ void PictureView::paintEvent(QPaintEvent *)
         m_scaled.setDevicePixelRatio(ratio);
     }
     const QSizeF shown = m_scaled.deviceIndependentSize();
-    painter.drawPixmap(QPointF((width() - shown.width()) / 2, 0), m_scaled); // in line with the text beside it
+    // At the top, level with the text beside it.
+    painter.drawPixmap(QPointF((width() - shown.width()) / 2, 0), m_scaled);
 }
 
 } // namespace brinemark

@@ -9,7 +9,8 @@
 namespace brinemark
 {
 
-/// Shows a picture as large as fits, smoothly and in its own proportions; without one, the placeholder.
+/// Shows a picture as large as it fits, smoothly scaled in its own proportions, or a placeholder when there is no
+/// picture.
 class PictureView : public QWidget
 {
     Q_OBJECT
@@ -24,7 +25,7 @@ protected:
 
 private:
     QImage m_image;
-    QPixmap m_scaled; ///< for the screen it was last painted on
+    QPixmap m_scaled; ///< scaled for the screen on which it was last painted
 };
 
 } // namespace brinemark

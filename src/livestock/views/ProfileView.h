@@ -18,8 +18,8 @@ namespace brinemark
 class PictureView;
 class TitleLine;
 
-/// A livestock record on one page: names and picture above, the profile in two columns, the notes below. Object names:
-/// "fishDataView", each value by its key ("tankLevel" ...), "editButton".
+/// A livestock record on one page: names and picture at the top, then the profile in two columns, then the notes.
+/// Object names: "fishDataView", each value by its key ("tankLevel" ...), "editButton".
 class ProfileView : public QWidget
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ class ProfileView : public QWidget
 public:
     explicit ProfileView(QWidget *parent = nullptr);
 
-    void showItem(const ItemData *item); ///< null shows nothing
+    void showItem(const ItemData *item); ///< null shows an empty page
     [[nodiscard]] QWidget *scrollArea() const;
     [[nodiscard]] QPushButton *editButton() const { return m_editButton; }
 
