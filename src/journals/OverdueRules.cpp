@@ -27,7 +27,7 @@ QString dockMenuTankTitle(const QString &tankName)
 
 QString dockMenuActivityTitle(const QString &activity)
 {
-    constexpr int longest = 70; // the blanks count
+    constexpr int longest = 70; // including the leading spaces
     const QString title = QStringLiteral("    ") + activity;
     return title.size() > longest ? title.left(longest) + QStringLiteral("...") : title;
 }

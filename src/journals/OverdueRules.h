@@ -12,11 +12,13 @@ namespace brinemark
 
 class TankList;
 
-/// What is overdue at a moment: of all tanks, in their order, the activities that are not done and whose due date and
-/// time has come. (While a file is read, whatever is due that day counts already: see `Schedule::warningDateCheck`.)
+/// The activities of all tanks that are overdue at `now`: not done, with a due date and time that has been reached.
+/// They are in the order of the tanks. (`Schedule::warningDateCheck`, which runs while a file is read, counts the whole
+/// day of the due date.)
 [[nodiscard]] std::vector<std::shared_ptr<ScheduleData>> overdueActivities(const TankList &tanks, const QDateTime &now);
 
-/// The dock menu's titles: a tank's heading and, below it, an activity, cut off with dots beyond 70 characters.
+/// The titles of dock menu items: a tank's heading, and an activity indented below it. An activity's title is cut off
+/// after 70 characters, with three dots added.
 [[nodiscard]] QString dockMenuTankTitle(const QString &tankName);
 [[nodiscard]] QString dockMenuActivityTitle(const QString &activity);
 

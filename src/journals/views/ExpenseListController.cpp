@@ -10,7 +10,7 @@ namespace brinemark
 namespace
 {
 
-/// The category, if the tank still has it.
+/// The expense's category, or the text for "none" when its tank does not have that category.
 QString shownCategory(const Record &record)
 {
     const auto &expense = static_cast<const ExpenseData &>(record);

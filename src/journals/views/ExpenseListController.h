@@ -8,7 +8,7 @@
 namespace brinemark
 {
 
-/// What was spent on the current tank.
+/// The list of the current tank's expenses.
 class ExpenseListController : public RecordListController, public Shared<ExpenseListController>
 {
     Q_OBJECT

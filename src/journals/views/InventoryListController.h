@@ -8,7 +8,7 @@
 namespace brinemark
 {
 
-/// What the keeper of the current tank owns.
+/// The list of the current tank's equipment and supplies.
 class InventoryListController : public RecordListController, public Shared<InventoryListController>
 {
     Q_OBJECT

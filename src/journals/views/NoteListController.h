@@ -8,7 +8,7 @@
 namespace brinemark
 {
 
-/// The notes about the current tank.
+/// The list of the notes about the current tank.
 class NoteListController : public RecordListController, public Shared<NoteListController>
 {
     Q_OBJECT

@@ -29,12 +29,13 @@ public:
     ~NotificationContentController() override;
 
     [[nodiscard]] const ScheduleData &data() const { return *m_data; }
-    [[nodiscard]] QWidget *contentView(); ///< made when it is first asked for; whoever shows it owns it
+    /// Created on first use; deleted by its parent widget or with this controller.
+    [[nodiscard]] QWidget *contentView();
 
     void addToDockMenu(QMenu &menu);
 
-    void scheduleDataChecked(); ///< shows the record's done mark
-    void scheduleDataDeleted(); ///< the record goes: nothing can be done to it any longer
+    void scheduleDataChecked(); ///< updates the row and the dock item to show whether the record is done
+    void scheduleDataDeleted(); ///< disables the row and removes the dock item, because the record is being deleted
 
 private:
     void setComplete(bool complete);

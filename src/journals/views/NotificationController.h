@@ -21,8 +21,9 @@ namespace brinemark
 class NotificationContentController;
 class NotificationPanel;
 
-/// The notice of overdue activities: a small panel beside the main window with a row for each, and an item for each in
-/// the dock menu. It gathers rows from its making on; the panel itself is made when it is first shown.
+/// The notice of overdue activities: a small panel beside the main window with one row per activity, and one item per
+/// activity in the dock menu. Rows are collected even before the panel exists; the panel is created when it is first
+/// shown.
 class NotificationController : public QObject, public Shared<NotificationController>, private ModelObserver
 {
     Q_OBJECT
@@ -31,17 +32,19 @@ public:
     ~NotificationController() override;
 
     void setNotificationData(const std::shared_ptr<ScheduleData> &record) override; ///< adds a row
-    void shouldShowWindow(bool show) override; ///< whether `showIfNeeded` will show the panel
-    void showIfNeeded();                       ///< shows the panel without giving it the focus, if it should show
-    void displayInFront(bool key);             ///< shows it; as the active window when `key`
-    void resetView();                          ///< empties and hides the panel
+    void shouldShowWindow(bool show) override; ///< sets whether the next `showIfNeeded()` shows the panel
+    /// Shows the panel without giving it the focus, if `shouldShowWindow(true)` was called.
+    void showIfNeeded();
+    void displayInFront(bool key); ///< shows the panel; with `key`, also makes it the active window
+    void resetView();              ///< removes all rows and hides the panel
     [[nodiscard]] bool isVisible() const;
-    [[nodiscard]] QWidget *notePanel(); ///< the panel, made if need be; its object name is "notePanel"
+    [[nodiscard]] QWidget *notePanel(); ///< the panel, created on first use; its object name is "notePanel"
 
-    /// The menu command: closes the panel if it shows; otherwise lists what is overdue now, in all tanks, and shows it.
+    /// The menu command: closes the panel if it is visible. Otherwise collects the overdue activities of all tanks and
+    /// shows them, or beeps when there are none.
     void showOverdue();
 
-    static constexpr QPoint firstPlace{20, 200}; ///< of the panel's corner on the screen
+    static constexpr QPoint firstPlace{20, 200}; ///< of the panel's top left corner on the screen
     void placeAt(const QPoint &topLeft);
 
 private:
@@ -50,7 +53,7 @@ private:
 
     void doneChecked(ScheduleData &record) override;
     void scheduleDataDeleted(ScheduleData &record) override;
-    NotificationPanel &panel(); ///< made with the rows that there are
+    NotificationPanel &panel(); ///< creates it on first use and adds the rows collected so far
     void windowWillClose();
 
     std::vector<std::unique_ptr<NotificationContentController>> m_contentArray;

@@ -10,7 +10,7 @@ class QVBoxLayout;
 namespace brinemark
 {
 
-/// The window of the overdue notice: rows one below the other, never taller than they need.
+/// The window of the overdue notice: a scrolling column of rows, never taller than the rows need.
 class NotificationPanel : public ToolPanel
 {
     Q_OBJECT
@@ -18,8 +18,8 @@ class NotificationPanel : public ToolPanel
 public:
     explicit NotificationPanel(QWidget *parent);
 
-    void addRow(QWidget *row);  ///< a row that is there already stays where it is
-    void fitHeight(int wanted); ///< takes the height, as far as there are rows for it
+    void addRow(QWidget *row);  ///< does nothing to a row that was added before
+    void fitHeight(int wanted); ///< sets the height, but at most the height that the rows need
 
 private:
     QScrollArea *m_scrollView;

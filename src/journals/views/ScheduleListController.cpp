@@ -12,7 +12,7 @@ namespace brinemark
 namespace
 {
 
-/// When the activity would be due the next time.
+/// The due date that would follow the present one, as text.
 QString nextDueDate(const Record &record)
 {
     const auto &activity = static_cast<const ScheduleData &>(record);

@@ -8,14 +8,14 @@
 namespace brinemark
 {
 
-/// The maintenance schedule of the current tank.
+/// The list of the current tank's maintenance activities.
 class ScheduleListController : public RecordListController, public Shared<ScheduleListController>
 {
     Q_OBJECT
 
 protected:
-    void willDeleteRecord(Record &record) override;  ///< who shows the activity elsewhere hears of it
-    void doneChecked(ScheduleData &record) override; ///< wherever it was done
+    void willDeleteRecord(Record &record) override;  ///< tells all observers, such as the overdue notice
+    void doneChecked(ScheduleData &record) override; ///< called whenever an activity's done mark is set, from any view
 
 private:
     friend class Shared<ScheduleListController>;
