@@ -10,8 +10,8 @@
 namespace brinemark
 {
 
-/// One conversion between two units. The factors are the converter's own, some of them rounded on purpose, and in
-/// single or double precision as given: they are not to be corrected.
+/// One conversion between two units. Some factors are rounded on purpose, and each is computed in single or double
+/// precision as written; results depend on both, so they must not be "corrected".
 using Conversion = double (*)(float value);
 
 namespace conversion
@@ -31,7 +31,7 @@ inline constexpr std::array<Conversion, 10> measurement{
     [](float x) -> double { return x * 60.0F; },
     [](float x) -> double { return x * 0.2028841; },            // millilitres to teaspoons
     [](float x) -> double { return x * 4.9289216; },
-    [](float x) -> double { return x / 2.8; },                  // carbonate hardness to milliequivalents a litre
+    [](float x) -> double { return x / 2.8; },                  // carbonate hardness to milliequivalents per litre
     [](float x) -> double { return x * 2.8; },
 };
 inline constexpr std::array<Conversion, 7> length{
@@ -50,9 +50,9 @@ inline constexpr std::array<Conversion, 4> surface{
     [](float x) -> double { return x / 144.0F; },
 };
 inline constexpr std::array<Conversion, 3> flow{
-    [](float x) -> double { return x * 3.7854118; },            // US gallons to litres, both an hour
+    [](float x) -> double { return x * 3.7854118; },            // US gallons per hour to litres per hour
     [](float x) -> double { return x * 0.264172051; },
-    [](float x) -> double { return x * 0.000277777778; },       // an hour to a second
+    [](float x) -> double { return x * 0.000277777778; },       // per hour to per second
 };
 inline constexpr std::array<Conversion, 6> volume{
     [](float x) -> double { return x * 1.20095042; },           // imperial to US gallons
@@ -70,8 +70,8 @@ inline constexpr std::array<Conversion, 2> pollutant{
 
 } // namespace conversion
 
-/// A kind of quantity with its conversions. `menuKey` is the key of their titles, separated by comma and blank, in the
-/// same order.
+/// A kind of quantity with its conversions. `menuKey` is the text key of their titles, which are in the same order and
+/// separated by a comma and a space.
 struct ConversionKind {
     TextKey menuKey;
     std::span<const Conversion> conversions;
@@ -87,10 +87,10 @@ inline constexpr std::array<ConversionKind, 7> conversionKinds{{
     {"PollutantMenu"_key, conversion::pollutant},
 }};
 
-/// Converts by kind and item index. An unknown item leaves the value as it is, an unknown kind gives 0.
+/// Converts by kind and item index. An unknown item returns the value unchanged, an unknown kind returns 0.
 [[nodiscard]] float convertUnits(int kind, int item, float value);
 
-/// The titles of a kind's conversions, or of the kinds themselves.
+/// The titles of a kind's conversions; the titles of all kinds.
 [[nodiscard]] QStringList conversionTitles(int kind);
 [[nodiscard]] QStringList conversionKindTitles();
 

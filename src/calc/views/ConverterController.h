@@ -12,7 +12,7 @@ namespace brinemark
 
 class ConverterPanel;
 
-/// The floating panel of the unit converter; its object name is "convertWindow".
+/// Shows and hides the unit converter, a floating panel whose object name is "convertWindow".
 class ConverterController : public QObject, public Shared<ConverterController>
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ class ConverterController : public QObject, public Shared<ConverterController>
 public:
     ~ConverterController() override;
 
-    void toggleConverter();   ///< shows or hides the panel and remembers which
+    void toggleConverter();   ///< shows or hides the panel and stores in the preferences whether it is visible
     void displayWithoutKey(); ///< shows the panel without giving it the focus
     [[nodiscard]] bool isVisible() const;
 

@@ -10,7 +10,7 @@ class QLineEdit;
 namespace brinemark
 {
 
-/// The floating panel with the unit converter. Object names: "convertWindow", "typePopup", "convertPopup",
+/// The floating panel of the unit converter. Object names: "convertWindow", "typePopup", "convertPopup",
 /// "convertValueField", "convertResultField".
 class ConverterPanel : public ToolPanel
 {
