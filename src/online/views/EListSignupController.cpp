@@ -30,7 +30,7 @@ constexpr int signupTextWidth = 380;
 } // namespace
 
 EListSignupController::EListSignupController()
-    : m_window(std::make_unique<QDialog>(Shell::shared().mainWindow())) // stays above the window that it blocks
+    : m_window(std::make_unique<QDialog>(Shell::shared().mainWindow())) // the parent keeps it above the main window
 {
     m_window->setObjectName(QStringLiteral("signupWindow"));
     m_window->setWindowTitle(text("SignUpTitle"));

@@ -22,7 +22,7 @@ class EListSignupController : public QObject, public Shared<EListSignupControlle
 public:
     ~EListSignupController() override;
 
-    /// Centres the window and shows it, the field filled from the user's e-mail setting.
+    /// Fills the field with the user's e-mail address, centres the window and shows it.
     void display();
     void bringToFront();
     [[nodiscard]] bool isVisible() const;
@@ -33,7 +33,7 @@ private:
     friend class Shared<EListSignupController>;
     EListSignupController();
 
-    void join(); ///< mails the field's text; an empty field only beeps
+    void join(); ///< opens a mail with the address from the field; beeps when the field is empty
 
     std::unique_ptr<QDialog> m_window;
     QLineEdit *m_addressField;

@@ -85,7 +85,7 @@ void QZUpdateController::makeWindow()
 
 void QZUpdateController::initDefaults()
 {
-    if (m_scheduleWindow) // otherwise it is centred when it is made
+    if (m_scheduleWindow) // a window made later is centred when it is first shown
         centreOnScreen(*m_scheduleWindow);
     Preferences &preferences = Preferences::shared();
     preferences.set(preference::updateLastChecked, distantPast());

@@ -15,8 +15,8 @@ class QLabel;
 namespace brinemark
 {
 
-/// The update window, its settings, and whether a check is due. Object names: the window "updateWindow", its controls
-/// "autoUpdateCheck", "checkPopupButton" and "lastCheckField".
+/// The update window with its settings, and the automatic check at start-up. Object names: the window "updateWindow",
+/// its controls "autoUpdateCheck", "checkPopupButton" and "lastCheckField".
 class QZUpdateController : public QObject, public Shared<QZUpdateController>
 {
     Q_OBJECT
@@ -24,9 +24,10 @@ class QZUpdateController : public QObject, public Shared<QZUpdateController>
 public:
     ~QZUpdateController() override;
 
-    void initDefaults();       ///< centres the window and stores the first settings: automatic, weekly, never checked
-    void launchUpdateCheck();  ///< at start-up: checks if that is wanted and due
-    void showScheduleWindow(); ///< shows the window with the settings of the moment
+    /// Stores the first settings (automatic, weekly, never checked) and centres an existing window.
+    void initDefaults();
+    void launchUpdateCheck();  ///< called at start-up: checks if automatic checks are on and one is due
+    void showScheduleWindow(); ///< shows the window with the current settings
 
 private:
     friend class Shared<QZUpdateController>;
