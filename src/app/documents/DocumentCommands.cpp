@@ -49,7 +49,7 @@ void DocumentCommands::newDataFile()
 void DocumentCommands::openDataFile()
 {
     finishTyping(m_window);
-    m_handedOver.clear(); // by somebody who called it off on the way
+    m_handedOver.clear(); // a file handed over earlier is still set when its opening was cancelled in the save panel
     goOnOpening();
 }
 
@@ -102,7 +102,8 @@ void DocumentCommands::closeSaveBeforeNewFileSheet(int returnCode, Context conte
             goOn(context);
         break;
     case AlertAlternate:
-        // The count stays as it is: a cancelled open panel leaves the edits in memory, no longer marked.
+        // The change count is not reset: when the open panel is then cancelled, the edits stay in memory, but the
+        // window is no longer marked as edited.
         m_document.clearEditedMark();
         goOn(context);
         break;
@@ -140,7 +141,7 @@ bool DocumentCommands::writeToCurrentPath(Context context)
         saveTankFileWithContext(context);
         return false;
     case TankDocument::WriteOutcome::Written:
-    case TankDocument::WriteOutcome::Failed: // has been reported; what asked for the save goes on
+    case TankDocument::WriteOutcome::Failed: // already reported to the user; the caller continues
         break;
     }
     return true;
@@ -163,7 +164,7 @@ void DocumentCommands::saveAsCurrentFile()
 
 void DocumentCommands::saveTankFileWithContext(Context context)
 {
-    // The first file that is saved becomes the default one unless the user says otherwise.
+    // The make-default box starts ticked as long as there is no default file.
     if (Preferences::shared().value(preference::defaultFile, QString()).isEmpty())
         m_makeDefault = true;
     beginSavePanel(m_window, text("FileName"), m_makeDefault,
@@ -183,11 +184,11 @@ void DocumentCommands::savePanelDidEnd(const FilePanelAnswer &answer, Context co
         if (context == Context::Quit)
             m_replyToQuit(false);
         return;
-    case TankDocument::WriteOutcome::SaveElsewhere: // than over the open file, which was chosen again
+    case TankDocument::WriteOutcome::SaveElsewhere: // the user chose the open file, then decided to keep it
         saveTankFileWithContext(context);
         return;
     case TankDocument::WriteOutcome::Written:
-    case TankDocument::WriteOutcome::Failed: // has been reported
+    case TankDocument::WriteOutcome::Failed: // already reported to the user
         break;
     }
     if (m_makeDefault)

@@ -15,32 +15,34 @@ namespace brinemark
 struct FilePanelAnswer;
 class TankDocument;
 
-/// The File menu: new, open, save, save as and revert, and the questions that are asked before unsaved changes are
-/// lost.
+/// The commands of the File menu (new, open, save, save as and revert) and the questions they ask before unsaved
+/// changes are lost.
 class DocumentCommands : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What is to happen after a save that one of these commands asked for.
+    /// The command to continue with after a save.
     enum class Context { None, NewFile, OpenFile, Quit };
 
-    /// `window` carries the sheets. `replyToQuit` takes the answer to a quit that was put off for a question.
+    /// `window` is the parent of the sheets. `replyToQuit` is called with the answer to a quit request that had to wait
+    /// for the user.
     DocumentCommands(TankDocument &document, QWidget *window, std::function<void(bool terminate)> replyToQuit);
 
     void newDataFile();
     void openDataFile();
-    /// Opens a file that the desktop handed over; asks about unsaved changes first. False when it could not be read.
+    /// Opens a file that the desktop handed over, after asking about unsaved changes. Returns false when the file could
+    /// not be read, and true while the question is open.
     bool openFile(const QString &path);
     void saveCurrentFile();
     void saveAsCurrentFile();
     void revertFile();
 
-    /// Shows the save panel as a sheet; its completion goes on with what the context names.
+    /// Shows the save panel as a sheet; after saving, continues with the command named by the context.
     void saveTankFileWithContext(Context context);
 
-    /// Asks, or writes without a question, before the program quits. True when nothing stands in the way; otherwise the
-    /// answer is given through `replyToQuit`.
+    /// Saves or asks about unsaved changes before the program quits. Returns true when it can quit at once; otherwise
+    /// `replyToQuit` is called with the answer.
     bool displayDocumentSaveBeforeQuit();
 
 private:
@@ -56,8 +58,9 @@ private:
     TankDocument &m_document;
     QWidget *m_window;
     std::function<void(bool)> m_replyToQuit;
-    QString m_handedOver;       ///< the file to open once unsaved changes have been dealt with; empty: ask for one
-    bool m_makeDefault = false; ///< the make-default box, as the user last left it
+    /// The file to open once the question about unsaved changes is answered; empty shows the open panel.
+    QString m_handedOver;
+    bool m_makeDefault = false; ///< the state in which the user last left the make-default box
 };
 
 } // namespace brinemark

@@ -20,13 +20,13 @@ namespace brinemark
 namespace
 {
 
-/// Leaves folders and tank files. What a file holds is looked at once, when the panel first lists it.
+/// Shows only folders and tank files. The content of a file is examined once, when the panel first lists it.
 class TankFileFilter : public QSortFilterProxyModel
 {
 public:
     using QSortFilterProxyModel::QSortFilterProxyModel;
 
-    /// The file system's own order: folders first, sizes and dates by value and not by their texts.
+    /// Sorts as the file system model does: folders first, sizes and dates by value rather than by their texts.
     void sort(int column, Qt::SortOrder order) override { sourceModel()->sort(column, order); }
 
 protected:
@@ -56,7 +56,7 @@ QCheckBox *addAccessoryView(QFileDialog &panel, bool makeDefault)
 
 void openWith(QWidget *window, QFileDialog *panel, QCheckBox *check, FilePanelCompletion completion)
 {
-    // The panel is gone when the completion runs: the box is read while it is still there.
+    // The panel is deleted before the completion runs, so the box is read when the panel finishes.
     auto makeDefault = std::make_shared<bool>(false);
     QObject::connect(panel, &QDialog::finished, panel,
                      [check, makeDefault] { *makeDefault = check && check->isChecked(); });
@@ -71,7 +71,7 @@ void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelC
 {
     auto *panel = new QFileDialog(window);
     panel->setObjectName(QStringLiteral("openPanel"));
-    panel->setOption(QFileDialog::DontUseNativeDialog); // only the toolkit's own can carry the check box
+    panel->setOption(QFileDialog::DontUseNativeDialog); // the check box can be added only to the toolkit's own panel
     panel->setAcceptMode(QFileDialog::AcceptOpen);
     panel->setNameFilter(text("TankFileFilter"));
     arrangeFilePanel(*panel);

@@ -12,7 +12,8 @@ class QWidget;
 namespace brinemark
 {
 
-/// What an open or save panel answers: OK or not, the chosen path, and the make-default box at that moment.
+/// The result of an open or save panel: whether the user confirmed, the chosen path, and the final state of the
+/// make-default box.
 struct FilePanelAnswer {
     bool ok = false;
     QString path;
@@ -20,12 +21,13 @@ struct FilePanelAnswer {
 };
 using FilePanelCompletion = std::function<void(const FilePanelAnswer &)>;
 
-/// A sheet of `window` that offers tank files only: extension "xml" and the content of a tank file. With `makeDefault`
-/// it carries the make-default check box in that state. Object name "openPanel", the box "makeDefaultCheck".
+/// Opens a sheet of `window` that lists only tank files: files with the extension "xml" and the content of a tank file.
+/// When `makeDefault` is set, the sheet has the make-default check box in that state. Object name "openPanel", the box
+/// "makeDefaultCheck".
 void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelCompletion completion);
 
-/// A sheet of `window` that asks where to save a tank file, with a proposed name; the extension "xml" is added when it
-/// is missing, and an existing file is asked about. Object name "savePanel".
+/// Opens a sheet of `window` that asks where to save a tank file. It adds the extension "xml" when it is missing and
+/// asks before an existing file is overwritten. Object name "savePanel".
 void beginSavePanel(QWidget *window, const QString &proposedName, bool makeDefault, FilePanelCompletion completion);
 
 } // namespace brinemark

@@ -17,7 +17,7 @@ namespace brinemark
 namespace
 {
 
-/// The waiting cursor for as long as a file of many megabytes is read or written.
+/// Shows the waiting cursor during its lifetime; files may be many megabytes.
 struct BusyCursor {
     BusyCursor() { QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor)); }
     ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
@@ -53,7 +53,7 @@ void TankDocument::markUnchanged()
 
 void TankDocument::documentModifiedWithChange(bool made)
 {
-    m_changeCount += made ? 1U : ~0U; // unsigned on purpose: taken below zero it wraps
+    m_changeCount += made ? 1U : ~0U; // unsigned, so that a count below zero wraps instead of overflowing
     setEdited(m_changeCount != 0);
 }
 
@@ -82,7 +82,7 @@ bool TankDocument::readTankFileWithPath(const QString &path)
     if (path == m_representedFilename)
         return true;
     setRepresentedFilename(path);
-    m_notFullyRead = true; // until the last tank is there, saving would lose what is still in the file
+    m_notFullyRead = true; // until the last tank is read, saving would lose the rest of the file
     BusyCursor busy;
     TankFileContent content = readTankDictionary(path);
     if (!content.ok) {
@@ -95,14 +95,14 @@ bool TankDocument::readTankFileWithPath(const QString &path)
     TankFileCallbacks callbacks;
     callbacks.wantsBackup = [this] { return m_host.askKeepBackupOfOlderFile(); };
     callbacks.willReplaceTanks = [&] {
-        // The rows must not point to tanks that are about to go.
+        // No row may point to a tank that is about to be deleted.
         m_host.forgetRows();
         m_host.forgetUndo();
         m_host.resetNotificationView();
         m_documentDictionary = content.root;
     };
     const TankFileResult result = readTanks(content.root, path, m_list, callbacks);
-    if (result.refused) { // no more of a tank file than one that is no property list
+    if (result.refused) { // a property list that is not a tank file; the old tanks are still there
         qCWarning(logFile) << "cannot read" << path << result.error;
         m_host.fitTreeColumn();
         return false;
@@ -126,7 +126,7 @@ TankDocument::WriteOutcome TankDocument::askIfOverwritingLoses(const QString &pa
 {
     using Answer = DocumentHost::OverwriteAnswer;
     using Reason = DocumentHost::OverwriteReason;
-    // Another file than the open one has been asked about where it was chosen.
+    // When the path is that of another file, the save panel has already asked about overwriting it.
     if (path != m_representedFilename || !(m_notFullyRead || changedOnDisk(path, m_lastKnown)))
         return WriteOutcome::Written;
     switch (m_host.askBeforeOverwriting(path, m_notFullyRead ? Reason::NotFullyRead : Reason::ChangedOnDisk)) {

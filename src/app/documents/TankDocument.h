@@ -13,27 +13,28 @@ namespace brinemark
 
 class TankList;
 
-/// What reading and writing the open file need of the window around it.
+/// What TankDocument needs of the window around it.
 class DocumentHost
 {
 public:
     virtual ~DocumentHost() = default;
 
-    virtual void showDocumentTitle(const QString &path) = 0; ///< the empty path is the untitled document
+    virtual void showDocumentTitle(const QString &path) = 0; ///< an empty path means the untitled document
     virtual void showEditedMark(bool edited) = 0;
     virtual void resetNotificationView() = 0;
-    virtual void forgetRows() = 0; ///< the tanks are about to go
-    virtual void reloadTree() = 0; ///< rows open as the tanks' own flags say
+    virtual void forgetRows() = 0; ///< called when all tanks are about to be deleted
+    virtual void reloadTree() = 0; ///< expands the rows as the tanks' own flags say
     virtual void fitTreeColumn() = 0;
     virtual void selectTreeRow(int row) = 0;
     [[nodiscard]] virtual int selectedTreeRow() const = 0;
     virtual void refreshTree() = 0;
-    virtual void display() = 0; ///< shows the window; an empty tree gets its first tank
+    virtual void display() = 0; ///< shows the window; adds a first tank when the tree is empty
     virtual void showNotificationIfOnScreen() = 0;
-    virtual void updateColumnInfo() = 0; ///< the water-test table's layout goes into the tank while it is on screen
-    virtual void forgetUndo() = 0;       ///< steps of a document that is gone
+    /// Stores the layout of the water-test table in the tank, if the table is on screen.
+    virtual void updateColumnInfo() = 0;
+    virtual void forgetUndo() = 0; ///< drops the undo steps of the previous document
 
-    /// The three questions and reports; each answers before it returns.
+    /// Questions and reports; each returns only when the user has answered.
     virtual bool askKeepBackupOfOlderFile() = 0;
     enum class OverwriteAnswer { Overwrite, SaveElsewhere, Cancel };
     enum class OverwriteReason { ChangedOnDisk, NotFullyRead };
@@ -43,7 +44,7 @@ public:
 };
 
 /// The open tank file: its path, its unsaved changes, and how it is read and written. The tanks themselves are in the
-/// list that the tank tree owns.
+/// tank tree's list.
 class TankDocument : public QObject
 {
     Q_OBJECT
@@ -51,28 +52,29 @@ class TankDocument : public QObject
 public:
     TankDocument(TankList &list, DocumentHost &host);
 
-    /// Replaces the open document by the file; no path makes an empty untitled one and answers false. The path that is
-    /// open already is not read again. False as well when the file cannot be read; the old tanks then stay.
+    /// Replaces the open document by the file. An empty path makes a new untitled document and returns false. The file
+    /// that is already open is not read again. Returns false when reading fails; the document then has the new path all
+    /// the same, with the old tanks if the file is not a tank file, or with the tanks before the damaged one.
     bool readTankFileWithPath(const QString &path);
 
     enum class WriteOutcome { Written, Failed, Cancelled, SaveElsewhere };
-    /// Writes the whole document; a failure has been reported when this returns, and leaves the document edited.
+    /// Writes the whole document. A failure is reported to the user before this returns, and the document stays edited.
     WriteOutcome writeTankFileWithPath(const QString &path);
 
-    [[nodiscard]] const QString &representedFilename() const { return m_representedFilename; } ///< "" when untitled
+    [[nodiscard]] const QString &representedFilename() const { return m_representedFilename; } ///< empty when untitled
 
-    /// Unsaved changes. Unsigned, and taken below zero it wraps: the window then stays marked until the next read or
-    /// write.
+    /// The number of unsaved changes. It is unsigned: below zero it wraps, and the window then stays marked as edited
+    /// until the next read or write.
     [[nodiscard]] quint32 changeCount() const { return m_changeCount; }
     void documentModifiedWithChange(bool made);
 
     [[nodiscard]] bool isEdited() const { return m_edited; }
-    void clearEditedMark() { setEdited(false); } ///< without touching the count
+    void clearEditedMark() { setEdited(false); } ///< leaves the change count unchanged
 
-    /// The dictionary last read or written.
+    /// The content of the file as last read or written.
     [[nodiscard]] const plist::Dict &documentDictionary() const { return m_documentDictionary; }
 
-    /// Whether the file's extension is hidden when it is written, where the platform can do that.
+    /// Whether the file's extension is to be hidden when it is written, on platforms that support this.
     bool hideExtensionWhenWriting = true;
 
 private:
@@ -86,8 +88,8 @@ private:
     DocumentHost &m_host;
     QString m_representedFilename;
     plist::Dict m_documentDictionary;
-    FileStamp m_lastKnown;       ///< the file as last read or written
-    bool m_notFullyRead = false; ///< the file holds more than the tanks in memory
+    FileStamp m_lastKnown;       ///< state of the file when it was last read or written
+    bool m_notFullyRead = false; ///< the file may hold more tanks than were read
     quint32 m_changeCount = 0;
     bool m_edited = false;
 };
