@@ -15,7 +15,7 @@ namespace
 
 struct EditRow {
     Command command;
-    const char *slot; ///< what the toolkit's text controls call it
+    const char *slot; ///< the slot's name in the toolkit's text widgets
 };
 
 constexpr EditRow editRows[] = {

@@ -10,10 +10,10 @@ namespace brinemark
 class MainMenuBar;
 class TankListController;
 
-/// Cut, copy, paste and select all act on the menus' target: a text being edited, or the tank tree.
+/// Carries out cut, copy, paste or select all on the menus' target: the text being edited, or the tank tree.
 void performEditCommand(Command command, const MainMenuBar &menus, TankListController &tree);
 
-/// Enables these commands, and delete, for the focus as it is now.
+/// Enables these commands, and delete, for the widget that has the focus now.
 void validateEditCommands(MainMenuBar &menus, const TankListController &tree, bool canDelete);
 
 } // namespace brinemark

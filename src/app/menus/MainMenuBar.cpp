@@ -33,7 +33,7 @@ QList<QKeySequence> shortcutsOf(const MenuRow &row)
     if (row.standardKey == QKeySequence::UnknownKey)
         return {};
     QList<QKeySequence> keys = QKeySequence::keyBindings(row.standardKey);
-    // Some desktops name no key for these two; everybody's fingers know them all the same.
+    // Some desktops define no keys for these two commands; use the usual ones there.
     if (keys.isEmpty() && row.standardKey == QKeySequence::SaveAs)
         keys = {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)};
     if (keys.isEmpty() && row.standardKey == QKeySequence::Quit)

@@ -13,8 +13,8 @@
 namespace brinemark
 {
 
-/// The menu bar, built from the menu table. Its owner validates the items when a menu opens and whenever the state has
-/// changed, so that shortcuts obey the same rules.
+/// The menu bar, built from the menu table. Its owner calls validate() when a menu opens and whenever the state
+/// changes, so that shortcuts follow the same rules as the items.
 class MainMenuBar : public QMenuBar
 {
     Q_OBJECT
@@ -22,19 +22,19 @@ class MainMenuBar : public QMenuBar
 public:
     explicit MainMenuBar(QWidget *parent = nullptr);
 
-    /// Where the rules find the state of the window.
+    /// Sets the function that supplies the window's state to the rules.
     void setStateProvider(std::function<MenuState()> provider) { m_state = std::move(provider); }
 
     [[nodiscard]] QAction *action(Command command) const { return m_actions.at(command); }
 
     void validate();
 
-    /// The control that the commands mean: the one with the focus, or the one that had it until the keyboard moved it
-    /// into the menu bar.
+    /// The widget that the commands act on: the one with the focus or, while the menu bar has it, the one that had it
+    /// before.
     [[nodiscard]] QWidget *commandTarget() const;
 
 Q_SIGNALS:
-    void menuWillOpen(); ///< its owner validates now, by these rules and by what it knows beyond them
+    void menuWillOpen(); ///< the owner enables and disables the items now
     void commandChosen(brinemark::Command command);
 
 private:
@@ -45,7 +45,8 @@ private:
     std::map<Command, QAction *> m_actions;
     std::vector<Item> m_items;
     std::function<MenuState()> m_state;
-    QPointer<QWidget> m_focusBefore; ///< set while the menu bar itself has the focus
+    /// The widget that had the focus before the menu bar; null while the menu bar does not have it.
+    QPointer<QWidget> m_focusBefore;
 };
 
 } // namespace brinemark

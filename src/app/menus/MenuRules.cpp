@@ -54,8 +54,7 @@ MenuItemState menuItemState(int tag, const MenuState &state)
     case menutag::ExpenseSelected:
         return selectedIn(MainView::Expenses);
     case menutag::Undo:
-        // The tree keeps the command to its own editor: while it has the focus there is nothing of the document to
-        // undo.
+        // While the tree has the focus, undo is reserved for its name editor, so the document's undo is disabled.
         return enabledWhen(state.canUndo && !state.treeHasFocus);
     case menutag::Redo:
         return enabledWhen(state.canRedo);

@@ -10,7 +10,7 @@
 namespace brinemark
 {
 
-/// The tags by which menu items are known to their validation rules. Items without a rule carry none (0).
+/// The tags that connect menu items with their rules. An item without a rule has the tag 0.
 namespace menutag
 {
 enum : int {
@@ -38,7 +38,7 @@ enum : int {
 };
 }
 
-/// What the rules look at: the state of the window at the moment a menu opens.
+/// The state of the window that the rules depend on, at the moment a menu opens.
 struct MenuState {
     MainView view = MainView::None;
     bool hasCurrentTank = false;
@@ -47,27 +47,27 @@ struct MenuState {
     bool toolbarVisible = false;
     bool calculatorVisible = false;
     bool overdueNoticeVisible = false;
-    bool selectedRowExpandable = false; ///< a tank or one of the four livestock groups
+    bool selectedRowExpandable = false; ///< the row is a tank or one of the four livestock groups
     bool selectedRowExpanded = false;
-    bool listHasSelectedRow[mainViewCount] = {}; ///< by view: its journal table has a selected row
+    bool listHasSelectedRow[mainViewCount] = {}; ///< by view: whether a row of its table is selected
     bool canUndo = false;
     bool canRedo = false;
     bool treeHasFocus = false;
 };
 
-/// What the rule of a tag says.
+/// The result of the rule of a tag.
 struct MenuItemState {
     bool enabled = true;
-    std::optional<TextKey> title; ///< set for items whose title follows the state
+    std::optional<TextKey> title; ///< set only for items whose title depends on the state
 };
 
-/// Whether the item of a tag is enabled, and its title where that changes.
+/// Whether the item with this tag is enabled, and its title if that depends on the state.
 [[nodiscard]] MenuItemState menuItemState(int tag, const MenuState &state);
 
-/// Whether the delete command has something to act on in the view on screen.
+/// Whether the delete command can act on something in the current view.
 [[nodiscard]] bool canDelete(MainView view, bool listHasSelectedRow);
 
-/// Whether a toolbar item is enabled: without a tank only what needs none (see ToolbarItems.h).
+/// Whether a toolbar item is enabled. Without a tank, only items that need none are (see ToolbarItems.h).
 [[nodiscard]] bool toolbarItemEnabled(const QString &identifier, bool hasCurrentTank, bool canDelete);
 
 } // namespace brinemark

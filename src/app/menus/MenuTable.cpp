@@ -32,8 +32,8 @@ constexpr MenuRow editMenu[] = {
     {"MenuEditPaste"_key, Command::Paste, 0, QKeySequence::Paste, nullptr, "Paste"},
     {"MenuEditSelectAll"_key, Command::SelectAll, 0, QKeySequence::SelectAll},
     separator,
-    // No shortcut of its own: the tree and the lists answer the delete key while they have the focus, and a field that
-    // is being edited must keep it.
+    // Delete has no shortcut: the tree and the lists handle the Delete key themselves while they have the focus, and a
+    // text field must keep it for editing.
     {"MenuEditDelete"_key, Command::Delete, 0, QKeySequence::UnknownKey, nullptr, "Delete"},
     separator,
     {"MenuEditPreferences"_key, Command::Preferences, 0, QKeySequence::UnknownKey, "Ctrl+,", "Settings"},

@@ -11,7 +11,7 @@
 namespace brinemark
 {
 
-/// Every command that a menu can send.
+/// The commands of the menus.
 enum class Command {
     NewFile,
     OpenFile,
@@ -59,7 +59,7 @@ struct MenuRow {
     Command command = Command::NewFile;
     int tag = 0;
     QKeySequence::StandardKey standardKey = QKeySequence::UnknownKey;
-    const char *shortcut = nullptr; ///< where no standard key fits
+    const char *shortcut = nullptr; ///< used where no standard key exists
     const char *icon = nullptr;
 };
 
