@@ -127,7 +127,8 @@ std::optional<QStringList> read()
 
 bool applicationInstalled()
 {
-    // The desktop entry that answers calendar files says whether there is one; looking for it starts no process.
+    // Calendars are supported if a desktop entry handles calendar files. The cache lists these entries, so that no
+    // process has to be started.
     const QStringList lists =
         QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation, QStringLiteral("mimeinfo.cache"));
     for (const QString &list : lists) {

@@ -7,26 +7,26 @@
 
 #include <optional>
 
-/// The user's calendar application and the calendars that it keeps.
+/// Finds the user's calendar application and the names of its calendars.
 namespace brinemark::calendars
 {
 
-/// Whether a calendar application is there at all.
+/// Whether a calendar application is installed.
 [[nodiscard]] bool applicationInstalled();
 
-/// The writable local calendars below a folder of sources: each "Info.plist" whose "Type" is
-/// "com.apple.ical.sources.naivereadwrite" gives its "Title". Nothing when the path is there but is no folder; an empty
-/// list when it is absent.
+/// The writable local calendars in the subfolders of a folder of sources: the "Title" of each "Info.plist" whose "Type"
+/// is "com.apple.ical.sources.naivereadwrite". Returns nullopt when the path is not a folder, and an empty list when it
+/// does not exist.
 [[nodiscard]] std::optional<QStringList> readCalendarsPostTiger(const QString &sourcesFolder);
 
 /// The calendars of the older sources file: the "Description" of every entry of its "SourcesView" whose "Type" is a
-/// number other than 4. Nothing when the path is a folder or cannot be read, or when it names no source.
+/// number other than 4. Returns nullopt when the path is a folder, cannot be read or lists no source.
 [[nodiscard]] std::optional<QStringList> readCalendarsPreTiger(const QString &sourcesFile);
 
-/// The local calendars of a desktop that keeps one key file a source in a folder ("*.source").
+/// The local calendars of desktops that store each source as a key file ("*.source") in one folder.
 [[nodiscard]] std::optional<QStringList> readCalendarsFromKeyFiles(const QString &sourcesFolder);
 
-/// The names of the user's calendars by whatever way this platform has; nothing when none could be read.
+/// The names of the user's calendars, read in the way of this platform; nullopt when none could be read.
 [[nodiscard]] std::optional<QStringList> read();
 
 } // namespace brinemark::calendars

@@ -28,11 +28,12 @@ namespace brinemark
 namespace
 {
 
-// The radio group's cells by tag.
+// The tags of the radio buttons.
 constexpr int autoSaveTag = 0;
 constexpr int askTag = 1;
 
-constexpr int calendarPopupWidth = 237; // what fits the window when the longest name does not
+// The smallest width in pixels; without it, short calendar names would make the pop-up narrow.
+constexpr int calendarPopupWidth = 237;
 
 } // namespace
 

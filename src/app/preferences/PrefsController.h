@@ -18,7 +18,7 @@ class QPushButton;
 namespace brinemark
 {
 
-/// The preferences window. Every change is stored at once; there is nothing to confirm.
+/// The preferences window. Every change is stored at once, so there is no button to confirm.
 class PrefsController : public QObject, public Shared<PrefsController>
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ class PrefsController : public QObject, public Shared<PrefsController>
 public:
     ~PrefsController() override;
 
-    /// Fills the window from the store, centres it and brings it to the front.
+    /// Shows the stored preferences, centres the window and brings it to the front.
     void display();
 
     /// Fills the calendar pop-up; disables it when there is no calendar application or no list could be read.
