@@ -18,7 +18,7 @@ bool paintView(QPrinter &printer, QWidget &view)
 {
     QPainter painter(&printer);
     if (!painter.isActive())
-        return false; // no printer, or the file to print to cannot be written
+        return false; // there is no printer, or the file to print to cannot be written
     const QRectF page = printer.pageLayout().paintRectPixels(printer.resolution());
     const qreal scale = qMin(page.width() / view.width(), page.height() / view.height());
     painter.scale(scale, scale);

@@ -7,10 +7,10 @@ class QWidget;
 namespace brinemark
 {
 
-/// Asks for a printer with a sheet of the window and prints what the view shows, fitted to one page.
+/// Asks for a printer with a sheet of the window and prints the view, fitted to one page.
 void printView(QWidget *window, QWidget &view);
 
-/// The same to the standard printer at once; false when there is none.
+/// Prints the view on the default printer without asking; false when that is not possible.
 bool printViewWithoutDialog(QWidget &view);
 
 } // namespace brinemark
