@@ -25,7 +25,7 @@ void prepareAppearance(bool dark)
 
 QPalette darkPalette()
 {
-    // The style draws its boxes and fields without a light edge, so they must stand out from the window by themselves.
+    // The Fusion style draws boxes and fields without a light edge, so their colours must contrast with the window's.
     const QColor window(0x38, 0x3a, 0x3e), base(0x19, 0x1b, 0x1d), text(0xe6, 0xe6, 0xe6), disabled(0x90, 0x93, 0x96);
     const QColor accent(0x2f, 0x7f, 0xb5);
     QPalette palette(text, window, window.lighter(140), window.darker(160), window.darker(120), text, base);

@@ -7,11 +7,11 @@ class QPalette;
 namespace brinemark
 {
 
-/// Loads the toolkit's own texts in the user's language and, when asked to, puts on the dark palette whatever the
-/// desktop says. Called once, before the first widget.
+/// Loads the toolkit's own texts in the user's language. With `dark`, also sets the dark palette whatever the desktop's
+/// colours. Call once, before the first widget is created.
 void prepareAppearance(bool dark);
 
-/// A dark palette for desktops that bring none, and for pictures of the program in the dark.
+/// A dark palette, for desktops that have none and for pictures of the program in dark colours.
 [[nodiscard]] QPalette darkPalette();
 
 } // namespace brinemark

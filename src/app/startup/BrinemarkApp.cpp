@@ -18,7 +18,7 @@ BrinemarkApp::BrinemarkApp(int &argc, char **argv)
     setApplicationDisplayName(QLatin1String(product::name));
     setApplicationVersion(product::shortVersion());
     setDesktopFileName(QStringLiteral("brinemark"));
-    setQuitOnLastWindowClosed(false); // the delegate says when, after its questions
+    setQuitOnLastWindowClosed(false); // the delegate quits, after asking about unsaved changes
     setWindowIcon(icon("Brinemark"));
 }
 
@@ -48,7 +48,7 @@ bool BrinemarkApp::event(QEvent *event)
         return true;
     }
     if (event->type() == QEvent::Quit) {
-        // Unsaved changes are asked about first; the program then ends by itself.
+        // Ignored because unsaved changes are asked about first; the receiver of the signal quits the program.
         event->ignore();
         Q_EMIT quitRequested();
         return true;

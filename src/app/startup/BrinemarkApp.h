@@ -11,8 +11,8 @@ namespace brinemark
 
 class TankList;
 
-/// The application object. It knows the list of tanks of the open file, which the tank tree hands in, and takes the
-/// desktop's requests to open a file.
+/// The application object. It gives access to the list of tanks of the open file, which the tank tree provides, and
+/// receives the desktop's requests to open a file or to quit.
 class BrinemarkApp : public QApplication
 {
     Q_OBJECT
@@ -25,11 +25,11 @@ public:
     static BrinemarkApp &sharedInstance();
 
     [[nodiscard]] TankList *appTankList() const;
-    void setAppTankList(TankList *list); ///< the very list of the tank tree, not a copy
+    void setAppTankList(TankList *list); ///< the tank tree's own list, not a copy
 
 Q_SIGNALS:
-    void openFileRequested(const QString &path); ///< the desktop hands over a file (macOS sends it as an event)
-    void quitRequested();                        ///< the desktop wants the program to end
+    void openFileRequested(const QString &path); ///< the desktop asks to open a file (macOS sends an event)
+    void quitRequested();                        ///< the desktop asks the program to quit
 
 protected:
     bool event(QEvent *event) override;

@@ -10,16 +10,16 @@
 namespace brinemark
 {
 
-/// What the command line asks for.
+/// The settings that the command line contains.
 struct CommandLine {
-    QString file;       ///< the tank file to open; empty for the default file
-    QString renderTo;   ///< write a picture of the main window to this path and end
-    bool print = false; ///< print the file without a question and end
+    QString file;       ///< the tank file to open; the default file if empty
+    QString renderTo;   ///< if set, write a picture of the main window to this path and quit
+    bool print = false; ///< print the file without asking and quit
     bool dark = false;  ///< use the dark palette whatever the desktop says
 };
 
-/// Reads the arguments. Answers nothing when the program should end at once (help, version, a wrong option), with the
-/// text to print and the exit code set.
+/// Parses the arguments. Returns nullopt when the program should quit at once (help, version, an unknown option);
+/// `output` and `exitCode` are then set.
 [[nodiscard]] std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QString &output, int &exitCode);
 
 } // namespace brinemark

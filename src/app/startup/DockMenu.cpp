@@ -52,7 +52,8 @@ QMenu *DockMenu::offeredMenu() const
 bool DockMenu::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionRemoved)
-        QMetaObject::invokeMethod(this, &DockMenu::updateTray, Qt::QueuedConnection); // the menu is mid-change now
+        // Queued, because the menu is still being changed.
+        QMetaObject::invokeMethod(this, &DockMenu::updateTray, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }
 

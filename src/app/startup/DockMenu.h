@@ -12,8 +12,8 @@ class QSystemTrayIcon;
 namespace brinemark
 {
 
-/// The menu that the dock's icon offers: a heading, and below it what the overdue notice adds. Where there is no dock,
-/// a system-tray icon carries the menu while it is offered.
+/// The menu of the dock icon: a heading, and below it the items that the overdue notice adds. On platforms without a
+/// dock, a system-tray icon shows the menu while it has something to offer.
 class DockMenu : public QObject
 {
     Q_OBJECT
@@ -22,13 +22,13 @@ public:
     explicit DockMenu(QObject *parent = nullptr);
     ~DockMenu() override;
 
-    /// The menu, built when there is none.
+    /// The menu, created on first use.
     QMenu &dockMenu();
 
-    /// Throws any menu away and makes a new one with nothing but its heading.
+    /// Replaces the menu by a new one that has only the heading.
     void buildDockMenu();
 
-    /// The menu if it is worth showing: from three items on. The heading alone, or with one more item, is not offered.
+    /// The menu if it has at least three items (the heading, a tank and an activity), else null.
     [[nodiscard]] QMenu *offeredMenu() const;
 
 private:

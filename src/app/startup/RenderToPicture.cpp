@@ -15,7 +15,7 @@ bool renderToPicture(const QString &path)
 {
     MainWindow &window = ShoalwatchController::sharedInstance().window();
     window.show();
-    QApplication::processEvents(); // lays out what was shown
+    QApplication::processEvents(); // completes the layout
     return window.grab().save(path, "PNG");
 }
 

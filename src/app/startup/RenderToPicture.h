@@ -7,8 +7,8 @@
 namespace brinemark
 {
 
-/// Draws the main window, with the document that is open, into a PNG file: for machines without a display. False when
-/// the picture could not be written.
+/// Writes a picture of the main window with the open document to a PNG file, on machines without a display as well.
+/// False when the picture could not be written.
 bool renderToPicture(const QString &path);
 
 } // namespace brinemark

@@ -36,7 +36,7 @@ QString applicationSupportFolder()
 void applicationSupportFolderCheck(const QString &applicationSupportFolder)
 {
     const QString name = text("FolderName");
-    // A folder is about to be removed with all its contents: the name must be one plain component.
+    // The folder is removed with all its contents, so make sure that the name is a single path component.
     if (applicationSupportFolder.isEmpty() || name.isEmpty() || name == u"." || name == u".." || name.contains(u'/') ||
         name.contains(u'\\'))
         return;

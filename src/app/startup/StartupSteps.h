@@ -4,28 +4,28 @@
 
 #include <QString>
 
-/// The steps of start-up that work on the preferences and folders.
+/// The start-up steps that work on preferences and folders.
 namespace brinemark::startup
 {
 
-/// Whether the program has never run for this user: nothing is stored for "autoSaveOnQuit".
+/// Whether the program runs for the first time for this user: no value is stored for "autoSaveOnQuit".
 [[nodiscard]] bool isFirstRun();
 
 /// Stores the first-run values of the general preferences.
 void writeFirstRunValues();
 
-/// Clears away the left-over folder of the name "FolderName" in a folder, with all that is in it. A plain file of that
-/// name stays; of a symbolic link only the link goes.
+/// Removes the left-over folder that the text "FolderName" names, with all its contents, from the given folder. A plain
+/// file of that name is kept; of a symbolic link to a folder, only the link is removed.
 void applicationSupportFolderCheck(const QString &applicationSupportFolder);
 
 /// The user's application-support folder.
 [[nodiscard]] QString applicationSupportFolder();
 
-/// The default tank file, or the empty path when none is set. A file that is gone, or a folder in its place, is
-/// forgotten.
+/// The default tank file, or an empty path when none is set. When the stored path is not an existing file, it is
+/// removed from the preferences.
 [[nodiscard]] QString defaultFileExistsCheck();
 
-/// Records which version ran last.
+/// Stores the version that is running.
 void updatePreferenceFile();
 
 } // namespace brinemark::startup
