@@ -25,7 +25,7 @@ namespace
 {
 constexpr int iconEdge = 32;
 constexpr int spaceWidth = 32;
-constexpr int captionedWidth = 64; // short captions get as much room as medium ones, so that the row looks even
+constexpr int captionedWidth = 64; // wide enough for captions of medium length, so that most buttons are equally wide
 } // namespace
 
 MainToolBar::MainToolBar(Trigger trigger, QWidget *parent)
@@ -42,7 +42,7 @@ MainToolBar::MainToolBar(Trigger trigger, QWidget *parent)
     setContentsMargins(spacing::tight, 0, spacing::tight, 0);
     createToolbarDictionary();
 
-    // The action that every main window offers for its toolbars hides this one for good as well.
+    // QToolBar provides this action; hiding or showing the toolbar with it must be stored too.
     connect(toggleViewAction(), &QAction::triggered, this, &MainToolBar::setShown);
 
     m_configuration = ToolbarConfiguration::fromMap(Preferences::shared().value(preference::toolbarConfiguration, {}));
@@ -61,7 +61,8 @@ void MainToolBar::createToolbarDictionary()
         action->setObjectName(identifier);
         action->setToolTip(text(item.toolTip));
         action->setStatusTip(action->toolTip());
-        // The menus have roles of their own for these; a toolbar's twin must not be moved into the application menu.
+        // The menu items of these commands have menu roles; the toolbar's actions must not move into the application
+        // menu as well.
         action->setMenuRole(QAction::NoRole);
         connect(action, &QAction::triggered, this, [this, identifier] {
             if (identifier == toolbarid::Customise)
@@ -135,7 +136,7 @@ QAction *MainToolBar::addSpacer(bool flexible)
     return addWidget(spacer);
 }
 
-// The tool bar makes a button whenever an action is added, so what belongs to the button is set each time.
+// QToolBar creates a new button whenever an action is added, so the button's properties are set each time.
 void MainToolBar::dressButton(QAction *action)
 {
     auto *button = qobject_cast<QToolButton *>(widgetForAction(action));
@@ -157,7 +158,7 @@ void MainToolBar::customise()
     }
     const auto apply = [this](const ToolbarConfiguration &chosen) {
         ToolbarConfiguration configuration = chosen;
-        configuration.visible = m_configuration.visible; // not the dialog's to change
+        configuration.visible = m_configuration.visible; // the dialog does not change the visibility
         setConfiguration(std::move(configuration));
     };
     auto *dialog = new ToolbarCustomiseDialog(m_configuration, apply, window());

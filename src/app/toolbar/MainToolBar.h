@@ -14,38 +14,37 @@
 namespace brinemark
 {
 
-/// The main window's toolbar: a row of known items that the user may rearrange. It remembers its configuration (items,
-/// display mode, shown or not) with every change and takes it up again when it is made; what its items do is the
-/// owner's.
+/// The main window's toolbar: a row of items that the user may rearrange. It stores its configuration (items, display
+/// mode, visibility) at every change and restores it when it is created. Its owner carries out the commands of the
+/// items.
 class MainToolBar : public QToolBar
 {
     Q_OBJECT
 
 public:
-    /// Called with the identifier of the item that was pressed.
+    /// Called with the identifier of the pressed item.
     using Trigger = std::function<void(const QString &identifier)>;
-    /// Answers whether the item of this identifier can be pressed now.
+    /// Returns whether the item with this identifier is enabled.
     using Validator = std::function<bool(const QString &identifier)>;
 
     explicit MainToolBar(Trigger trigger, QWidget *parent = nullptr);
 
-    /// Every item that can be pressed, shown or not, by identifier. The toolbar owns the actions.
+    /// The actions of all items that can be pressed, shown or not, by identifier. The toolbar owns them.
     [[nodiscard]] const QHash<QString, QAction *> &toolbarDictionary() const { return m_toolbarDictionary; }
 
-    /// Enables or disables every item; customising stays possible always.
+    /// Enables or disables every item except customising, which is always enabled.
     void validate(const Validator &canTrigger);
 
     [[nodiscard]] const ToolbarConfiguration &configuration() const { return m_configuration; }
-    /// Shows the configuration (reduced to what is usable) and remembers it.
+    /// Applies and stores a configuration; unusable items are removed from it first.
     void setConfiguration(ToolbarConfiguration configuration);
 
-    /// Whether the user wants the toolbar, even while its window is hidden.
+    /// Whether the user wants the toolbar to be visible. True even while the window is hidden.
     [[nodiscard]] bool isShown() const { return m_configuration.visible; }
     void setShown(bool shown);
-    /// Shows the toolbar when it is hidden and hides it otherwise.
     void toggle() { setShown(!isShown()); }
 
-    /// Opens the sheet that rearranges the toolbar; a second call brings the open one to the front.
+    /// Opens the sheet for rearranging the toolbar; if it is open already, brings it to the front.
     void customise();
 
 protected:
@@ -61,7 +60,7 @@ private:
     Trigger m_trigger;
     ToolbarConfiguration m_configuration;
     QHash<QString, QAction *> m_toolbarDictionary;
-    std::vector<std::unique_ptr<QAction>> m_fillers; ///< separators and spaces: made anew with every arrangement
+    std::vector<std::unique_ptr<QAction>> m_fillers; ///< separators and spaces; created anew by every rebuild
 };
 
 } // namespace brinemark

@@ -19,7 +19,7 @@ ToolbarAvailableModel::ToolbarAvailableModel(ToolbarShownModel *shown, QObject *
     connect(shown, &ToolbarShownModel::changed, this, &ToolbarAvailableModel::follow);
 }
 
-// Row by row rather than by a reset, so that the selection stays where it is.
+// Updates row by row rather than with a model reset, so that the selection is kept.
 void ToolbarAvailableModel::follow()
 {
     int row = 0;
@@ -55,7 +55,7 @@ Qt::ItemFlags ToolbarAvailableModel::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags item =
         Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
-    // The place in this list means nothing, so a drop may fall anywhere.
+    // The order of this list is fixed, so an item may be dropped anywhere in it.
     return index.isValid() ? item | Qt::ItemIsDropEnabled : Qt::ItemIsDropEnabled;
 }
 

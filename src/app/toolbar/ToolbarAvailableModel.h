@@ -10,8 +10,8 @@ namespace brinemark
 
 class ToolbarShownModel;
 
-/// What can still be added to the toolbar: the allowed set without the single items that are shown. It follows the list
-/// of shown items, which must outlive it; an item dropped here leaves that list.
+/// The items that can still be added to the toolbar: all allowed items except the non-repeatable ones that are shown.
+/// It follows changes of `shown`, which must outlive it. Dropping a shown item here removes it from the toolbar.
 class ToolbarAvailableModel : public QAbstractListModel
 {
     Q_OBJECT

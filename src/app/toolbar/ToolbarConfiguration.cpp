@@ -19,7 +19,7 @@ constexpr QLatin1String identifiersKey{"Identifiers"};
 constexpr QLatin1String displayKey{"DisplayMode"};
 constexpr QLatin1String visibleKey{"Visible"};
 
-// A store may hand a list of strings back as a list of anything; one element of another type damages the whole.
+// The preferences may return a list of strings as a QVariantList. One element of another type makes the list invalid.
 std::optional<QStringList> stringList(const QVariant &value)
 {
     if (value.typeId() == QMetaType::QStringList)
@@ -69,7 +69,8 @@ ToolbarConfiguration ToolbarConfiguration::fromMap(const QVariantMap &stored)
 {
     ToolbarConfiguration configuration;
     if (const std::optional<QStringList> identifiers = stringList(stored.value(identifiersKey))) {
-        // An empty toolbar may be somebody's wish; one emptied by unknown names is not.
+        // An empty stored list is the user's choice; a list with only unknown names is damaged and gives the default
+        // set.
         const QStringList usable = usableToolbarIdentifiers(*identifiers);
         if (!usable.isEmpty() || identifiers->isEmpty())
             configuration.identifiers = usable;

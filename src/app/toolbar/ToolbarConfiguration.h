@@ -13,7 +13,7 @@ namespace brinemark
 
 enum class ToolbarDisplay { IconAndText, IconOnly, TextOnly };
 
-/// A display mode's stored name, its text and the tool kit's word for it, in the order that menus offer them.
+/// A display mode with its stored name, its text and the toolkit's button style, in the order of the menus.
 struct ToolbarDisplayMode {
     ToolbarDisplay mode;
     QLatin1String name;
@@ -29,14 +29,14 @@ inline constexpr ToolbarDisplayMode toolbarDisplayModes[] = {
 
 [[nodiscard]] const ToolbarDisplayMode &toolbarDisplayMode(ToolbarDisplay mode);
 
-/// The default set's identifiers.
+/// The identifiers of the default set.
 [[nodiscard]] QStringList toolbarDefaultIdentifiers();
 
-/// The identifiers that a toolbar can show: unknown ones are left out, of an item that stands twice the first place
-/// holds; separators and spaces may repeat.
+/// The identifiers that a toolbar can show: unknown ones are removed, and of a non-repeatable item that occurs twice
+/// only the first is kept. Separators and spaces may repeat.
 [[nodiscard]] QStringList usableToolbarIdentifiers(const QStringList &identifiers);
 
-/// What a person may change about the toolbar, and its stored form: a dictionary with "Identifiers" (list of strings),
+/// The user's changes to the toolbar. The stored form is a dictionary with "Identifiers" (list of strings),
 /// "DisplayMode" (string) and "Visible" (flag).
 struct ToolbarConfiguration {
     QStringList identifiers = toolbarDefaultIdentifiers();
@@ -45,7 +45,7 @@ struct ToolbarConfiguration {
 
     [[nodiscard]] QVariantMap toMap() const;
 
-    /// Whatever is missing, of another type or makes no sense has its default, each part by itself.
+    /// Reads the stored form. Each part that is missing, has the wrong type or is unknown gets its default value.
     [[nodiscard]] static ToolbarConfiguration fromMap(const QVariantMap &stored);
 
     friend bool operator==(const ToolbarConfiguration &, const ToolbarConfiguration &) = default;

@@ -154,7 +154,7 @@ QListView *ToolbarCustomiseDialog::listView(const char *name, QAbstractItemModel
     return list;
 }
 
-// Return belongs to Done and to the list that has the focus, so no other button takes it.
+// Return is reserved for the Done button and for the list with the focus, so these buttons are not auto-default.
 QPushButton *ToolbarCustomiseDialog::button(const char *name, TextKey caption, void (ToolbarCustomiseDialog::*action)())
 {
     auto *result = new QPushButton(text(caption));
@@ -170,7 +170,7 @@ void ToolbarCustomiseDialog::addKey(QListView *list, const QKeySequence &key, vo
     connect(shortcut, &QShortcut::activated, this, action);
 }
 
-// A new item goes behind the selected one, where the eye is.
+// Inserts the new item after the selected one.
 void ToolbarCustomiseDialog::add()
 {
     const int from = currentRow(m_available);

@@ -20,8 +20,9 @@ namespace brinemark
 class ToolbarAvailableModel;
 class ToolbarShownModel;
 
-/// The sheet that rearranges a toolbar: what can be added stands on the left, what is shown on the right, and items go
-/// from one to the other by mouse, by button or by key. Every change is handed on at once; there is nothing to confirm.
+/// The sheet for rearranging the toolbar: the available items on the left, the shown items on the right. Items are
+/// moved between them with the mouse, buttons or keys. Every change is applied at once, so there is no button to
+/// confirm.
 class ToolbarCustomiseDialog : public QDialog
 {
     Q_OBJECT
@@ -43,7 +44,7 @@ private:
     void moveUp();
     void moveDown();
     void restoreDefaults();
-    void finish() { accept(); } // of this type, as button() wants it
+    void finish() { accept(); } // a void function without parameters, as button() expects
     void selectShown(int row);
     void enableButtons();
     void applyNow();

@@ -10,18 +10,18 @@
 namespace brinemark
 {
 
-/// What an entry of the toolbar is. Only actions are limited to one place; the others may stand any number of times.
+/// The kind of a toolbar item. An action occurs at most once; the other kinds may be repeated.
 enum class ToolbarItemKind { Action, Separator, Space, FlexibleSpace };
 
-/// One entry that the toolbar can hold.
+/// One item that the toolbar can show.
 struct ToolbarItem {
-    QLatin1String identifier; ///< the name that is stored and handed to the callbacks
+    QLatin1String identifier; ///< the name in the preferences and in callbacks
     TextKey label;
     TextKey toolTip;
-    const char *icon; ///< of ui/Icons.h
+    const char *icon; ///< a name in ui/Icons.h
     ToolbarItemKind kind = ToolbarItemKind::Action;
-    std::optional<Command> command = {}; ///< what an action sends
-    bool needsTank = true;               ///< of an action: disabled while there is no current tank
+    std::optional<Command> command = {}; ///< the command that an action sends
+    bool needsTank = true;               ///< for actions: disabled while there is no current tank
 
     [[nodiscard]] constexpr bool repeatable() const { return kind != ToolbarItemKind::Action; }
 };
@@ -37,7 +37,7 @@ inline constexpr QLatin1String Delete{"delete"};
 inline constexpr QLatin1String Convert{"convert"};
 inline constexpr QLatin1String Note{"note"};
 inline constexpr QLatin1String Print{"print"};
-inline constexpr QLatin1String Customise{"customise"}; ///< answered by the toolbar itself, and never disabled
+inline constexpr QLatin1String Customise{"customise"}; ///< handled by the toolbar itself and never disabled
 inline constexpr QLatin1String Separator{"separator"};
 inline constexpr QLatin1String Space{"space"};
 inline constexpr QLatin1String FlexibleSpace{"flexibleSpace"};
@@ -61,20 +61,20 @@ inline constexpr ToolbarItem toolbarItems[] = {
 };
 // clang-format on
 
-/// What a toolbar that nobody customised shows, from left to right.
+/// The items of a toolbar that was never customised, from left to right.
 inline constexpr QLatin1String toolbarDefaultSet[] = {
     toolbarid::NewTank,   toolbarid::NewFish, toolbarid::NewPlant, toolbarid::NewInvert, toolbarid::NewCoral,
     toolbarid::Separator, toolbarid::Convert, toolbarid::Note,     toolbarid::Delete,
 };
 
-/// What customising offers, in the order offered.
+/// The items that the customising sheet offers, in its order.
 inline constexpr QLatin1String toolbarAllowedSet[] = {
     toolbarid::NewTank,       toolbarid::NewFish,   toolbarid::NewPlant, toolbarid::NewInvert, toolbarid::NewCoral,
     toolbarid::Note,          toolbarid::Convert,   toolbarid::Delete,   toolbarid::Separator, toolbarid::Space,
     toolbarid::FlexibleSpace, toolbarid::Customise, toolbarid::Print,
 };
 
-/// The item of an identifier; null for an unknown one.
+/// The item with this identifier, or null.
 inline const ToolbarItem *toolbarItem(QStringView identifier)
 {
     for (const ToolbarItem &item : toolbarItems) {

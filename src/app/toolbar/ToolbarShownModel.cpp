@@ -78,7 +78,7 @@ QVariant ToolbarShownModel::data(const QModelIndex &index, int role) const
                                                              : QVariant();
 }
 
-// Rows take no drops themselves, so that a drop always falls between two of them.
+// Rows do not accept drops on themselves, so that a drop always falls between two rows.
 Qt::ItemFlags ToolbarShownModel::flags(const QModelIndex &index) const
 {
     return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren
@@ -104,7 +104,7 @@ bool ToolbarShownModel::canDropMimeData(const QMimeData *data, Qt::DropAction ac
     return action == Qt::MoveAction && !parent.isValid() && ToolbarDrag::fromMimeData(data).has_value();
 }
 
-// The whole move is made here: the view's own removal of the dragged row afterwards finds no removable rows.
+// Moves the item at once. Afterwards the view tries to remove the dragged row, which this model does not support.
 bool ToolbarShownModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                                      const QModelIndex &parent)
 {

@@ -8,7 +8,7 @@
 namespace brinemark
 {
 
-/// The items of the toolbar from left to right, one a row, with the rule that only separators and spaces repeat.
+/// The items of the toolbar from left to right, one per row. Only separators and spaces may occur more than once.
 class ToolbarShownModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -19,10 +19,11 @@ public:
     [[nodiscard]] const QStringList &identifiers() const { return m_identifiers; }
     void setIdentifiers(const QStringList &identifiers);
 
-    /// Puts an item before a row (or at the end for a row out of range) and answers its row. A non-repeatable item that
-    /// is shown already is moved there. Answers -1 for an unknown identifier.
+    /// Inserts an item before a row, or at the end if the row is out of range, and returns its new row. A
+    /// non-repeatable item that is shown already is moved instead. Returns -1 for an unknown identifier.
     int insert(int row, const QString &identifier);
-    /// Moves the item of row `from` before row `before` (the count: to the end) and answers its new row.
+    /// Moves the item in row `from` to before row `before` (the row count moves it to the end) and returns its new row,
+    /// or -1 if a row is out of range.
     int move(int from, int before);
     void remove(int row);
 
@@ -38,9 +39,9 @@ public:
                       const QModelIndex &parent) override;
 
 Q_SIGNALS:
-    /// After every change of the list, however made.
+    /// Emitted after every change of the list.
     void changed();
-    /// An item was dropped here and now stands in this row.
+    /// Emitted after a drop, with the new row of the dropped item.
     void dropped(int row);
 
 private:
