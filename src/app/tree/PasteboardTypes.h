@@ -4,15 +4,15 @@
 
 #include <QString>
 
-/// What the tank tree puts on the pasteboard; each type carries a property list.
+/// The pasteboard types of the tank tree; the data of each is a property list.
 namespace brinemark::pasteboard
 {
 
-/// A tank that is being dragged: the text "tank available".
+/// A dragged tank; the data is the text "tank available".
 inline const QString tank = QStringLiteral("TankOutlineViewPboardType");
-/// A livestock record: "fish available" while it is being dragged, its dictionary once it has been copied.
+/// A livestock record; the data is the text "fish available" while dragging, and the record's dictionary after copying.
 inline const QString livestock = QStringLiteral("FishOutlineViewPboardType");
-/// The kind of a copied record, as the tank file names it ("TankFish" ...).
+/// The kind of a copied record, by its name in the tank file ("TankFish" ...).
 inline const QString itemContext = QStringLiteral("ItemContext");
 
 } // namespace brinemark::pasteboard

@@ -134,10 +134,10 @@ void TankListController::select(const TreeItem &item)
 
 void TankListController::forgetRows()
 {
-    // The view on screen lets go of its tank while that is still there.
+    // The current view must release its tank before the tank is destroyed.
     m_shell->changeView(MainView::None);
     const QScopedValueRollback rebuilding(m_rebuilding, true);
-    const TankList going = std::exchange(m_list, {}); // until the rows no longer point to them
+    const TankList going = std::exchange(m_list, {}); // keeps the tanks alive until no row points to them
     m_model->reload();
     m_selected = {};
     setCurrentTank(nullptr);
@@ -146,7 +146,7 @@ void TankListController::forgetRows()
 
 void TankListController::reload()
 {
-    // The list may have changed already, so the rows can no longer be asked what they stand for.
+    // The list may have changed already, so the selected item cannot be found through the rows of the model.
     int row = selectedRow();
     const TreeItem selected = m_selected.tank == currentTank() ? m_selected : TreeItem();
     const int scrolled = m_outline->verticalScrollBar()->value();
@@ -155,7 +155,7 @@ void TankListController::reload()
         m_model->reload();
         for (const auto &tank : m_list)
             expandRows(*tank);
-        // A row that has gone leaves its place to the one that moved up, the last one to the last.
+        // If the selected item was removed, select the row that is now in its place, or the nearest one above.
         QModelIndex again = m_model->indexOf(selected);
         for (; !again.isValid() && row >= 0; --row)
             again = visibleIndex(row);
@@ -194,7 +194,7 @@ void TankListController::outlineViewSelectionDidChange()
     m_shell->documentModifiedWithChange(true);
 }
 
-// ---- opening and closing rows
+// ---- expanding and collapsing rows
 
 void TankListController::expandRows(Tank &tank)
 {
@@ -259,7 +259,7 @@ bool TankListController::rename(const TreeItem &item, const QString &name)
     const auto afterwards = [this](bool made) {
         m_outline->viewport()->update();
         m_shell->documentModifiedWithChange(made);
-        m_shell->changeView(m_shell->currentView()); // the view on screen names it as well
+        m_shell->changeView(m_shell->currentView()); // the current view shows the name too
     };
     QUndoStack &undo = m_shell->undoManager();
     const QString actionName = QStringLiteral("RenameUndo");

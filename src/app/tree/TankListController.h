@@ -17,8 +17,8 @@ namespace brinemark
 class Shell;
 class TankTreeModel;
 
-/// The tank tree's controller: owns the list of tanks, knows the current one, turns the selection into the main view to
-/// show, and carries out renaming, deleting, dragging, copying and pasting of tanks and livestock.
+/// The tank tree's controller. It owns the list of tanks, knows the current tank, shows the main view that belongs to
+/// the selected row, and carries out renaming, deleting, dragging, copying and pasting of tanks and livestock.
 class TankListController : public QObject, public Shared<TankListController>, private ModelObserver
 {
     Q_OBJECT
@@ -26,29 +26,30 @@ class TankListController : public QObject, public Shared<TankListController>, pr
 public:
     ~TankListController() override;
 
-    /// Called once, before the first row is shown.
+    /// Must be called before the first row is shown.
     void setShell(Shell &shell) { m_shell = &shell; }
 
     [[nodiscard]] TankList &list() { return m_list; }
     [[nodiscard]] Tank *currentTank() const;
     void setCurrentTank(Tank *tank);
-    [[nodiscard]] TankOutlineView *tankList() const { return m_outline; } ///< the outline control; the window adopts it
+    /// The tree view; the main window becomes its parent.
+    [[nodiscard]] TankOutlineView *tankList() const { return m_outline; }
 
-    [[nodiscard]] int selectedRow() const; ///< counted over the visible rows, -1 when none is selected
-    void selectRow(int row);               ///< a row that is not there selects the first
+    [[nodiscard]] int selectedRow() const; ///< counts the visible rows from 0; -1 when none is selected
+    void selectRow(int row);               ///< selects the first row when there is no such row
     [[nodiscard]] TreeItem currentSelectedItem() const;
-    /// The list in which the selected livestock record stands; for any other row the list of tanks.
+    /// The livestock group of the selected record; for any other row the list of tanks.
     [[nodiscard]] std::variant<Container *, TankList *> currentSelectedArray();
-    void select(const TreeItem &item); ///< opens the rows above it first
+    void select(const TreeItem &item); ///< expands the rows above it first
 
-    void forgetRows();    ///< the tanks are about to go: no row, no selection
-    void reload();        ///< shows the tanks afresh: same rows open, same row selected
-    void updateDisplay(); ///< the same, takes one change back and lets the main view follow
+    void forgetRows();    ///< shows no row and selects none; called when all tanks are about to be deleted
+    void reload();        ///< rebuilds the rows; expanded rows and the selection are kept
+    void updateDisplay(); ///< reloads, decrements the change count and updates the main view
     void fitColumn();
     void outlineViewSelectionDidChange();
 
-    void expandRows(Tank &tank); ///< opens the tank's rows that its flags say
-    void expandTankItem();       ///< opens or closes the selected row
+    void expandRows(Tank &tank); ///< expands or collapses the tank's rows as its flags say
+    void expandTankItem();       ///< expands the selected row
     void collapseTankItem();
     [[nodiscard]] bool isExpanded(const TreeItem &item) const;
 
@@ -61,9 +62,9 @@ public:
     void copy();
     void paste();
 
-    /// Opens the item editor on a record; set by the application, which knows the editor.
+    /// Opens the item editor for a record. Set by the application, since the tree does not know the editor.
     std::function<void(ItemData &)> openItemEditor;
-    /// Empties the document when its last tank was deleted.
+    /// Empties the document; called after its last tank was deleted.
     std::function<void()> resetDocument;
     std::function<bool()> canDelete;
 
@@ -74,7 +75,7 @@ private:
     void livestockChanged(Tank &, ContainerKind) override { updateDisplay(); }
 
     void connectOutline();
-    [[nodiscard]] QModelIndex visibleIndex(int row) const; ///< invalid when there is no such row
+    [[nodiscard]] QModelIndex visibleIndex(int row) const; ///< invalid when there is no such visible row
     bool rename(const TreeItem &item, const QString &name);
     void rowExpanded(const QModelIndex &index, bool expanded);
     void doubleClickAction(const TreeItem &item);
@@ -94,9 +95,9 @@ private:
     std::weak_ptr<Tank> m_currentTank;
     TankTreeModel *m_model;
     QPointer<TankOutlineView> m_outline;
-    TreeItem m_selected; ///< as last shown; only compared, for by now it may be gone
+    TreeItem m_selected; ///< the selection last shown; only compared, since it may have been deleted
     DragData m_dragData;
-    bool m_rebuilding = false; ///< the rows are being put back: nobody has opened or selected anything
+    bool m_rebuilding = false; ///< true while rows are rebuilt: expanding and selecting are then not the user's changes
 };
 
 } // namespace brinemark

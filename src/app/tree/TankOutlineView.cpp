@@ -23,7 +23,7 @@ namespace
 constexpr int iconExtent = 16;
 constexpr int smallestColumnWidth = 80;
 constexpr std::chrono::milliseconds openDelay(700);
-constexpr int betweenRowsZone = 4; // this near to a row's edge a drop lands between rows, farther in on the row
+constexpr int betweenRowsZone = 4; // pixels from a row's top or bottom edge within which a drop falls between rows
 
 } // namespace
 
@@ -47,7 +47,7 @@ TankOutlineView::TankOutlineView(TankTreeModel &model, QWidget *parent)
     setExpandsOnDoubleClick(false);
     setDragEnabled(true);
     setAcceptDrops(true);
-    setDropIndicatorShown(false); // the rules say where a drop lands, so the mark is drawn here
+    setDropIndicatorShown(false); // drawn in paintEvent(), because the tree's rules may move the drop elsewhere
     m_openTimer.setSingleShot(true);
     m_openTimer.setInterval(openDelay);
     connect(&m_openTimer, &QTimer::timeout, this, [this] { expand(m_hovered); });
@@ -56,7 +56,7 @@ TankOutlineView::TankOutlineView(TankTreeModel &model, QWidget *parent)
 
 void TankOutlineView::keyPressEvent(QKeyEvent *event)
 {
-    // The editor of a name hands on what it has dealt with itself, the Return that ends it among others.
+    // While a name is edited, the editor passes on keys that it has handled, such as Return.
     if (state() == EditingState) {
         QTreeView::keyPressEvent(event);
         return;
@@ -96,8 +96,8 @@ void TankOutlineView::mouseDoubleClickEvent(QMouseEvent *event)
 QItemSelectionModel::SelectionFlags TankOutlineView::selectionCommand(const QModelIndex &index,
                                                                       const QEvent *event) const
 {
-    // A click beside the rows, or on the selected row with a modifier, leaves the selection alone: the right side of
-    // the window always shows something.
+    // A click outside the rows, or a click with a modifier that would deselect the row, does not change the selection:
+    // the right side of the window always shows something.
     if (!index.isValid())
         return QItemSelectionModel::NoUpdate;
     const auto command = QTreeView::selectionCommand(index, event);
@@ -121,7 +121,7 @@ void TankOutlineView::startDrag(Qt::DropActions)
 
 Qt::DropActions TankOutlineView::allowedActions(const QDropEvent &event)
 {
-    // Holding the copy key is how a person restricts a drag to copying.
+    // Holding the copy key allows only copying.
     return event.modifiers() & Qt::ControlModifier ? Qt::CopyAction : event.possibleActions();
 }
 
@@ -136,7 +136,7 @@ DropProposal TankOutlineView::proposalAt(const QPoint &position, TreeItem &row) 
     if (position.y() < rect.top() + betweenRowsZone)
         return {parent, index.row()};
     if (position.y() > rect.bottom() - betweenRowsZone) {
-        // Below the row of an open group, or of one with nothing in it yet, is the place before its first record.
+        // Below the row of a group that is expanded or empty is the position before its first record.
         if (row.isLivestockGroup() && (isExpanded(index) || row.container->isEmpty()))
             return {row, 0};
         return {parent, index.row() + 1};
@@ -150,10 +150,11 @@ void TankOutlineView::dragEnterEvent(QDragEnterEvent *event)
     if (data->hasFormat(pasteboard::livestock) || data->hasFormat(pasteboard::tank))
         event->accept();
     else
-        event->ignore(); // files are the window's to take
+        event->ignore(); // the window accepts dropped files
 }
 
-// The toolkit's own delay would close the open rows as well, and with them the rows that a drag is on its way to.
+// Used instead of autoExpandDelay, which would also collapse expanded rows, including those that contain the drop
+// target.
 void TankOutlineView::hoverOver(const QModelIndex &index)
 {
     if (index == m_hovered)
@@ -172,7 +173,7 @@ void TankOutlineView::endHovering()
 
 void TankOutlineView::dragMoveEvent(QDragMoveEvent *event)
 {
-    QTreeView::dragMoveEvent(event); // scrolls at the edges
+    QTreeView::dragMoveEvent(event); // scrolls when the drag is near an edge
     hoverOver(indexAt(event->position().toPoint()));
     TreeItem row;
     const DropProposal proposal = proposalAt(event->position().toPoint(), row);
@@ -244,7 +245,7 @@ void TankOutlineView::paintEvent(QPaintEvent *event)
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
     const QLine line = dropMark(*m_dropMark);
-    // Edged in the background's colour, so that it shows beside the selected row as well.
+    // Draw an outline in the background colour first, so that the mark is visible next to the selected row too.
     for (const QPen &pen : {QPen(palette().base(), 6), QPen(palette().highlight(), 2)}) {
         painter.setPen(pen);
         painter.drawEllipse(QPointF(line.p1()) + QPointF(3, 0), 3, 3);

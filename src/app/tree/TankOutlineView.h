@@ -14,8 +14,8 @@ namespace brinemark
 
 class TankTreeModel;
 
-/// The outline control of the tank tree: a tree view with the delete keys, the context menu, and drags that follow the
-/// rules of the tree. What a command does is the controller's.
+/// The view of the tank tree: a tree view with delete keys, a context menu, and drag and drop by the tree's rules. The
+/// controller carries out the commands.
 class TankOutlineView : public QTreeView
 {
     Q_OBJECT
@@ -23,14 +23,14 @@ class TankOutlineView : public QTreeView
 public:
     explicit TankOutlineView(TankTreeModel &model, QWidget *parent = nullptr);
 
-    /// Asked while a drag hovers; answers the rows between which it may land (none: refused) and what it would do.
+    /// The result of asking where a dragged item may be dropped.
     struct DropAnswer {
         DropOperation operation = DropOperation::Refused;
-        std::optional<DropProposal> retargeted; ///< where to show the mark when it is not the proposal itself
+        std::optional<DropProposal> retargeted; ///< where to draw the mark, if not at the proposed position
     };
     std::function<DropAnswer(const DropProposal &, const TreeItem &row, Qt::DropActions allowed)> validateDrop;
     std::function<bool(const DropProposal &, const TreeItem &row, Qt::DropActions allowed)> acceptDrop;
-    /// The pasteboard form of the dragged row; null when it cannot be dragged.
+    /// Returns the pasteboard data of a row, or null when the row cannot be dragged.
     std::function<QMimeData *(const TreeItem &)> writeItem;
     std::function<void()> dragEnded;
 
@@ -52,7 +52,7 @@ protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 
 private:
-    void hoverOver(const QModelIndex &index); ///< opens a closed row over which a drag stays
+    void hoverOver(const QModelIndex &index); ///< expands a collapsed row after a drag has stayed over it for a while
     void endHovering();
     [[nodiscard]] DropProposal proposalAt(const QPoint &position, TreeItem &row) const;
     [[nodiscard]] QLine dropMark(const DropProposal &proposal) const;
@@ -60,7 +60,7 @@ private:
 
     TankTreeModel &m_model;
     std::optional<DropProposal> m_dropMark;
-    QPersistentModelIndex m_hovered; ///< the row below a drag
+    QPersistentModelIndex m_hovered; ///< the row under the drag
     QTimer m_openTimer;
 };
 

@@ -11,8 +11,8 @@ namespace brinemark
 namespace
 {
 
-// An index carries the parent of its row: nothing for a tank, the tank for a container, the container for a record.
-// Both are at least four-byte aligned, so the lowest bit is free to tell them apart.
+// An index stores the parent of its row in its internal id: 0 for a tank, the tank for a container, the container for a
+// record. Both pointers are at least four-byte aligned, so the lowest bit can tell them apart.
 constexpr quintptr containerBit = 1;
 
 quintptr idBelow(Tank *tank)
@@ -51,7 +51,7 @@ TreeItem TankTreeModel::itemAt(const QModelIndex &index) const
 {
     if (!index.isValid())
         return {};
-    // A row whose record or tank has just been taken out stands for nothing until the rows are shown afresh.
+    // Between the removal of a record or tank and the next reload(), the view may ask for a row that no longer exists.
     if (Container *container = containerOf(index.internalId())) {
         return index.row() < container->count() ? TreeItem(static_cast<ItemData &>(*container->recordAt(index.row())))
                                                 : TreeItem();
@@ -109,7 +109,7 @@ int TankTreeModel::rowCount(const QModelIndex &parent) const
 
 bool TankTreeModel::hasChildren(const QModelIndex &parent) const
 {
-    // A group opens whether or not there is anything in it yet.
+    // A group can be expanded even when it is empty.
     return parent.isValid() ? itemAt(parent).isExpandable() : !m_list.isEmpty();
 }
 
@@ -146,8 +146,7 @@ Qt::ItemFlags TankTreeModel::flags(const QModelIndex &index) const
     if (item.isNone())
         return {};
     Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDropEnabled;
-    // A collection's name is the program's own and is not stored in the file, so only what is the keeper's can be
-    // renamed.
+    // The names of containers are fixed texts and are not stored in the file, so only tanks and records can be renamed.
     if (!item.isContainer())
         flags |= Qt::ItemIsEditable | Qt::ItemIsDragEnabled;
     return flags;

@@ -13,8 +13,8 @@ namespace brinemark
 
 class TankList;
 
-/// The tank tree as an item model: tanks, their containers, and the records of the livestock groups. The tanks change
-/// behind its back; whoever changes them calls `reload`.
+/// The tank tree as an item model: tanks, their containers, and the records of the livestock groups. The tanks do not
+/// notify the model of changes: code that changes them must call `reload`.
 class TankTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -23,13 +23,13 @@ public:
     explicit TankTreeModel(TankList &list, QObject *parent = nullptr);
 
     [[nodiscard]] TreeItem itemAt(const QModelIndex &index) const;
-    [[nodiscard]] QModelIndex indexOf(const TreeItem &item) const; ///< invalid when it is in no list
+    [[nodiscard]] QModelIndex indexOf(const TreeItem &item) const; ///< invalid when the item is in no list
 
     void reload();
 
-    /// Called to store an edited name; answers whether it was taken.
+    /// Called to store an edited name; returns whether it was stored.
     std::function<bool(const TreeItem &item, const QString &name)> rename;
-    /// Row texts show only while there is a current tank.
+    /// Returns whether there is a current tank; without one, rows have no text.
     std::function<bool()> hasCurrentTank;
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;

@@ -15,7 +15,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
-// What the tank tree takes from and gives to the pasteboard: drags, copy and paste.
+// Drag and drop, copy and paste of TankListController.
 
 namespace brinemark
 {
@@ -81,7 +81,8 @@ bool TankListController::acceptDrop(const DropProposal &proposal, const TreeItem
 void TankListController::showDropped(const TreeItem &item)
 {
     reload();
-    // What was dragged is mostly the selected row already; it has moved all the same, so the view follows in any case.
+    // A moved item is usually the selected row already, so select() would not report a change. The view must be updated
+    // anyway.
     if (currentSelectedItem() == item)
         outlineViewSelectionDidChange();
     else

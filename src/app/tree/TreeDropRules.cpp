@@ -44,7 +44,7 @@ std::shared_ptr<ItemData> acceptRecordDrop(const std::shared_ptr<ItemData> &drag
     if (!proposal.childIndex) {
         list.appendRecord(record);
     } else {
-        // The shift by one within a tank is fixed, whichever side of the target the record came from.
+        // Within one tank the index is reduced by one even when the record comes from below the target.
         const bool shifted = source == destination && *proposal.childIndex > 0;
         list.insertRecord(record, *proposal.childIndex - (shifted ? 1 : 0));
     }

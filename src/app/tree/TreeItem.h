@@ -11,11 +11,11 @@
 namespace brinemark
 {
 
-/// What a row of the tank tree stands for: a tank, one of its containers, or a livestock record. Empty when no row is
-/// meant.
+/// The object that a row of the tank tree shows: a tank, one of its containers, or a livestock record. Empty for no
+/// row.
 struct TreeItem {
     Tank *tank = nullptr;
-    Container *container = nullptr; ///< of the row itself, or of the record's group
+    Container *container = nullptr; ///< the container of the row itself, or the group of the record
     ItemData *record = nullptr;
 
     TreeItem() = default;
@@ -28,7 +28,7 @@ struct TreeItem {
         , container(&container)
     {
     }
-    /// Empty when the record is in no tank.
+    /// Empty when the record belongs to no tank.
     explicit TreeItem(ItemData &record);
 
     [[nodiscard]] bool isNone() const { return !tank; }
@@ -37,9 +37,8 @@ struct TreeItem {
     [[nodiscard]] bool isRecord() const { return record != nullptr; }
     [[nodiscard]] bool isLivestockGroup() const { return isContainer() && container->traits().isLivestock(); }
 
-    /// Tanks and livestock groups have rows below them.
     [[nodiscard]] bool isExpandable() const { return isTank() || isLivestockGroup(); }
-    /// The tank's flag that keeps the row open; null for a row that does not open.
+    /// The flag of the tank that stores whether the row is expanded; null for rows that cannot be expanded.
     [[nodiscard]] bool *expandedFlag() const;
 
     [[nodiscard]] QString name() const;
