@@ -25,7 +25,7 @@ MainViewController &shared()
     return Controller::sharedInstance();
 }
 
-/// By view constant; the empty view has no controller.
+/// The controllers by view number; the empty view has none.
 constexpr std::array<MainViewController &(*)(), mainViewCount> controllers{
     nullptr,
     &shared<TankDataController>,

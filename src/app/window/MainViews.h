@@ -16,23 +16,23 @@ namespace brinemark
 
 class MainViewController;
 
-/// The right side of the main window: nine views, of which one is on screen. A view's controller is made the first time
-/// that the view is shown.
+/// The right side of the main window, which shows one of nine views. A view's controller is created when the view is
+/// first shown.
 class MainViews : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `container` shows the views; the tab order runs from the tree through the view to the help button and back.
+    /// `container` shows the views. `tankTree` and `helpButton` begin and end the tab order of each view.
     MainViews(QStackedWidget &container, QWidget *tankTree, QWidget *helpButton);
 
-    /// Prepares the view and puts it on screen. A number that is no view leaves what is there on screen, but is
-    /// remembered.
+    /// Prepares the view and shows it. An unknown number leaves the present view on screen, but becomes the current
+    /// view constant.
     void changeView(MainView view);
     [[nodiscard]] MainView currentViewConstant() const { return m_currentViewConstant; }
     [[nodiscard]] QWidget *currentView() const;
 
-    /// The controller of a view; null for the empty view, and for one that was not shown yet.
+    /// The controller of a view; null for the empty view and for a view that has not been shown yet.
     [[nodiscard]] MainViewController *controller(MainView view) const;
     [[nodiscard]] bool hasSelectedRow(MainView view) const;
 
@@ -40,7 +40,7 @@ public:
     void updateColumnInfo();
 
 Q_SIGNALS:
-    void selectionChanged(); ///< in the view on screen
+    void selectionChanged(); ///< emitted for the view on screen
 
 private:
     MainViewController &prepared(MainView view);

@@ -54,7 +54,8 @@ MainWindow::MainWindow(TankOutlineView *tankList)
     setObjectName(QStringLiteral("mainWindow"));
     setMenuBar(m_menus);
     addToolBar(m_toolbar);
-    setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is hidden by its own command, not by a stray menu
+    // No context menu, so that the toolbar can be hidden only by its own command.
+    setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(true);
 
     m_newButton = makeIconButton("New", text("TreeNewToolTip"), QStringLiteral("newButton"));
@@ -105,8 +106,7 @@ void MainWindow::restoreWidths()
     if (!mainWidth)
         return;
     const int treeWidth = preferences.value(preference::tankListViewWidth, QString()).toInt();
-    // Both panes are given their widths, so the window takes the width that they had together, as far as the screen of
-    // today allows.
+    // Size the window for both stored pane widths, as far as the current screen allows.
     const int together = qBound(0, treeWidth, maximumWidth()) + qBound(0, mainWidth->toInt(), maximumWidth());
     resize(qMin(together + m_splitView->handleWidth(), screen()->availableGeometry().width()), height());
     m_splitView->setSizes({treeWidth, mainWidth->toInt()});
@@ -117,7 +117,7 @@ bool MainWindow::event(QEvent *event)
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::Paint && !m_painted) {
         m_painted = true;
-        qCDebug(logApp) << "the main window is on screen"; // what the start-up benchmark waits for
+        qCDebug(logApp) << "the main window is on screen"; // the start-up benchmark waits for this line
     }
     return handled;
 }

@@ -17,8 +17,8 @@ class MainMenuBar;
 class MainToolBar;
 class TankOutlineView;
 
-/// The one main window: the tank tree with its foot on the left, the main view on the right, menu bar and toolbar
-/// above. It only lays out; what happens is the main controller's.
+/// The main window: the tank tree and its buttons on the left, the main view on the right, menu bar and toolbar above.
+/// It only arranges these; ShoalwatchController carries out the commands.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -34,14 +34,14 @@ public:
     [[nodiscard]] QToolButton *newButton() const { return m_newButton; }
     [[nodiscard]] QToolButton *deleteButton() const { return m_deleteButton; }
 
-    /// The widths of the two panes are kept as whole numbers in the preferences.
+    /// Stores the widths of the two panes in the preferences as whole numbers.
     void storeWidths() const;
     void restoreWidths();
 
     std::function<void(const QString &identifier)> toolbarItemChosen;
-    /// Asked when the user closes the window, which never closes by itself.
+    /// Called when the user tries to close the window; the window does not close itself.
     std::function<void()> closeRequested;
-    /// Asked about a single dropped file; answers whether it was taken.
+    /// Called with a single dropped file; returns whether it was opened.
     std::function<bool(const QString &path)> openDroppedFile;
     std::function<bool(const QString &path)> takesDroppedFile;
 
