@@ -3,6 +3,7 @@
 #include "chemistry/views/ConditionColumnWindow.h"
 
 #include "chemistry/ConditionColumns.h"
+#include "ui/Spacing.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -43,8 +44,8 @@ ConditionColumnWindow::ConditionColumnWindow(QWidget *parent)
         ++place;
     }
     auto *content = new QVBoxLayout(this);
-    content->setContentsMargins(16, 16, 16, 16);
-    content->setSpacing(12);
+    content->setContentsMargins(spacing::aroundContent);
+    content->setSpacing(spacing::section);
     content->addWidget(m_label);
     content->addWidget(m_checks);
     content->setSizeConstraint(QLayout::SetFixedSize);

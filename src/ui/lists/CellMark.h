@@ -15,24 +15,24 @@ class QStyleOptionViewItem;
 namespace brinemark
 {
 
-/// What a cell says beside its text: a colour, and a shape so that the colour does not say it alone. None by default.
+/// A state of a cell's value, shown beside its text by a colour and by a shape, so that it can be told without colours.
 struct CellMark {
     enum class Shape {
         None,
-        Above, ///< a small triangle upwards: more than it should be
-        Below, ///< downwards: less
-        Opens, ///< a small arrow: a click opens something to choose from; shows where the mouse or the focus is
+        Above, ///< a triangle that points up: the value is too high
+        Below, ///< a triangle that points down: the value is too low
+        Opens, ///< an arrow: a click opens a chooser. Drawn only under the mouse, with the focus or in a selected row
     };
 
-    std::optional<ColourRole> role = {}; ///< of the text and the shape; none for the palette's own
+    std::optional<ColourRole> role = {}; ///< colour of text and shape; the palette's text colour when there is none
     Shape shape = Shape::None;
 };
 
-/// Under which a model hands out the CellMark of a cell.
+/// The item role under which a model returns the CellMark of a cell.
 inline constexpr int CellMarkRole = int(Qt::UserRole) + 77;
 
-/// Draws the shape behind the end of the cell's text, or into the right margin when there is no more room. To be called
-/// after the cell has been drawn, with the option of its view item (text, font and alignment).
+/// Draws the shape after the cell's text, or in the right margin when the text leaves no room. Call it after the cell
+/// has been drawn; `option` is the initialised option of the item (text, font and alignment).
 void paintCellMark(QPainter *painter, const QStyleOptionViewItem &option, const CellMark &mark);
 
 } // namespace brinemark

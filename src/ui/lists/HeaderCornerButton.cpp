@@ -41,7 +41,7 @@ bool HeaderCornerButton::eventFilter(QObject *watched, QEvent *event)
 
 void HeaderCornerButton::paintEvent(QPaintEvent *)
 {
-    // As the header beside it looks, so that the two are one line.
+    // Drawn as a section of the header, so that button and header look like one bar.
     QPainter painter(this);
     QStyleOptionHeader section;
     section.initFrom(this);

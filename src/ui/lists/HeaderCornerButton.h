@@ -9,14 +9,14 @@ class QTableView;
 namespace brinemark
 {
 
-/// A button in the corner of a table above its vertical scroll bar, as wide as that and as high as the header. The
-/// scroll bar stays in sight for it, whether there is something to scroll or not.
+/// A button in the corner of a table above its vertical scroll bar, as wide as the scroll bar and as high as the
+/// header. It keeps the scroll bar visible, even when there is nothing to scroll.
 class HeaderCornerButton : public QToolButton
 {
     Q_OBJECT
 
 public:
-    /// The name of an icon (of ui/Icons.h) and the looked-up tool tip. The table owns the button.
+    /// `iconName` names an icon of ui/Icons.h; `toolTip` is the looked-up text. The table owns the button.
     HeaderCornerButton(QTableView &table, const char *iconName, const QString &toolTip);
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -16,13 +16,13 @@ class RecordListController;
 
 /// An item of a list's context menu, described once in a constexpr table of its list controller.
 struct ListMenuItem {
-    TextKey title = {}; ///< none for a separator
-    int tag = 0;        ///< names the item to the list's `validateMenuItem`
+    TextKey title = {}; ///< empty for a separator
+    int tag = 0;        ///< passed to the list's `validateMenuItem`
     void (*perform)(RecordListController &) = nullptr;
 };
 
-/// A menu of these items that are enabled, each time it opens, as the list says of their tags. Each action has its
-/// tag as data.
+/// Makes a menu of these items. Each time it opens, the list's `validateMenuItem` decides which items are enabled. The
+/// data of an action is its tag.
 [[nodiscard]] QMenu *makeListMenu(std::span<const ListMenuItem> items, RecordListController &list, QWidget *parent);
 
 } // namespace brinemark

@@ -16,13 +16,13 @@ enum class ColumnKind { Date, Number, Text, Flag, Amount };
 
 /// A column of a record table, described once in a constexpr table of its list controller.
 struct RecordColumn {
-    QStringView identifier; ///< the record's key, which is also what the container sorts by
+    QStringView identifier; ///< the key of the record's field; also the container's sort identifier
     TextKey header;
     ColumnKind kind = ColumnKind::Text;
     int decimals = 0; ///< of a number
     Qt::AlignmentFlag alignment = Qt::AlignLeft;
-    int width = 0;      ///< pixels to begin with; 0 for the smallest width
-    int leastWidth = 0; ///< pixels of the smallest width; 0 for what the header needs. Usual values always fit.
+    int width = 0;      ///< opening width in pixels; 0 for the smallest width
+    int leastWidth = 0; ///< smallest width in pixels; 0 for what the header needs. Usual values always fit.
     QString (*shownText)(const Record &) = nullptr; ///< the cell's text where it is not the value of the key
     bool editable = false;
 
@@ -31,6 +31,7 @@ struct RecordColumn {
     {
         return editable && kind != ColumnKind::Date && kind != ColumnKind::Flag;
     }
+    [[nodiscard]] constexpr bool opensCalendar() const { return editable && kind == ColumnKind::Date; }
 };
 
 } // namespace brinemark

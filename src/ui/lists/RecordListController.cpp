@@ -2,8 +2,6 @@
 
 #include "ui/lists/RecordListController.h"
 
-#include "base/text/AmountText.h"
-#include "base/text/DateText.h"
 #include "model/KeyAccess.h"
 #include "model/Tank.h"
 #include "model/TankList.h"
@@ -11,10 +9,10 @@
 #include "ui/Shell.h"
 #include "ui/UndoStep.h"
 #include "ui/calendar/CalendarController.h"
+#include "ui/lists/RecordCellText.h"
 #include "ui/lists/RecordSelectionModel.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QMenu>
 #include <QToolButton>
 #include <QUndoStack>
@@ -161,38 +159,18 @@ void RecordListController::updateColumnInfo()
 
 QString RecordListController::cellText(const Record &record, int place) const
 {
-    const RecordColumn &column = m_model->columns()[std::size_t(place)];
-    if (column.shownText)
-        return column.shownText(record);
-    const QVariant value = valueForKey(record, column.identifier);
-    switch (column.kind) {
-    case ColumnKind::Date:
-        return localeDateText(value.toDateTime());
-    case ColumnKind::Number:
-        return QLocale().toString(value.toDouble(), 'f', column.decimals);
-    case ColumnKind::Amount:
-        return formatObjectForLocale(value);
-    case ColumnKind::Flag:
-        return {};
-    case ColumnKind::Text:
-        break;
-    }
-    return value.toString();
+    return textOfCell(record, m_model->columns()[std::size_t(place)]);
 }
 
 CellMark RecordListController::cellMark(const Record &, int place) const
 {
-    const RecordColumn &column = m_model->columns()[std::size_t(place)];
-    const bool opensCalendar = column.editable && column.kind == ColumnKind::Date;
+    const bool opensCalendar = m_model->columns()[std::size_t(place)].opensCalendar();
     return {.shape = opensCalendar ? CellMark::Shape::Opens : CellMark::Shape::None};
 }
 
 QString RecordListController::cellToolTip(const Record &record, int place) const
 {
-    const RecordColumn &column = m_model->columns()[std::size_t(place)];
-    if (!column.editable || column.kind != ColumnKind::Date)
-        return {};
-    return QLocale().toString(valueForKey(record, column.identifier).toDateTime(), QLocale::LongFormat);
+    return toolTipOfCell(record, m_model->columns()[std::size_t(place)]);
 }
 
 // ---- sorting
@@ -295,7 +273,7 @@ bool RecordListController::displayCalendar(const QModelIndex &cell)
     if (!record)
         return false;
     const RecordColumn &column = m_model->columns()[std::size_t(cell.column())];
-    if (!column.editable || column.kind != ColumnKind::Date)
+    if (!column.opensCalendar())
         return false;
     m_table->finishEditing();
     const QString key = column.identifier.toString();

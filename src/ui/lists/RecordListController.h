@@ -28,26 +28,26 @@ template <class R>
     return std::make_shared<R>(&tank);
 }
 
-/// What the record lists differ in.
+/// The differences between the record lists.
 struct RecordListTraits {
     ContainerKind kind;
     TextKey itemKey;                                   ///< what the delete question calls the list
     TextKey emptySentenceKey;                          ///< what an empty list says
     std::shared_ptr<Record> (*makeRecord)(Tank &tank); ///< a new record with its default values
     bool deletingCountsAChange = true;
-    std::span<const RecordColumn> columns;   ///< all that the list can show, in their default order
-    const char *layoutName = "";             ///< of the column layout in the preferences, where no other store is given
-    const char *undoActionName = "";         ///< of an edited cell; stands as it is, not looked up
-    bool undoCountsUp = false;               ///< undo and redo: whether they add a change to the count or take one off
-    const char *menuName = "";               ///< object name of the context menu
+    std::span<const RecordColumn> columns; ///< all that the list can show, in their default order
+    const char *layoutName = "";     ///< names the column layout in the preferences; unused with a store of its own
+    const char *undoActionName = ""; ///< action name of an edit on the undo stack, a literal text
+    bool undoCountsUp = false;       ///< whether undo and redo add a change to the document's count or take one off
+    const char *menuName = "";       ///< object name of the context menu
     std::span<const ListMenuItem> menu = {}; ///< of the context menu and of the action button; empty for neither
 };
 
 /// The view of one journal of the current tank: title, table, buttons. Shows, sorts, edits, adds and deletes records.
 /// RecordListPage.h documents the object names of its widgets.
 ///
-/// An edit in the sort column, and a new record, leave the row where it is until the selection starts to change: then
-/// the list is sorted, and the record moves and stays selected.
+/// An edit in the sort column, or a new record, does not sort the list at once: the re-sort is pending until the
+/// selection starts to change. The record then moves to its place and stays selected.
 class RecordListController : public MainViewController, protected ModelObserver, private RecordCells
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ public:
     [[nodiscard]] RecordTableView *table() const { return m_table; }            ///< null before view() was called
     [[nodiscard]] std::vector<std::shared_ptr<Record>> selectedRecords() const; ///< in the order of their rows
 
-    /// Re-sorts the list and selects the record, or keeps selected what is.
+    /// Sorts the list and selects the record; without a record the selected records stay selected.
     void sortAndSelect(const std::shared_ptr<Record> &record = nullptr);
 
     /// Selects only this record and scrolls to it; false when the table does not show it.
@@ -75,10 +75,11 @@ public:
     /// The row whose re-sort is pending, -1 for none.
     [[nodiscard]] int rowNeedsSort() const { return m_rowNeedsSort; }
 
-    /// Whether the menu items of a tag can be chosen now.
+    /// Whether menu items with this tag are enabled now.
     [[nodiscard]] virtual bool validateMenuItem(int) const { return true; }
 
-    /// Opens the calendar at an editable date cell; the chosen date is an edit like any other. False for other cells.
+    /// Opens the calendar at an editable date cell; the chosen date is stored like any other edit. False for other
+    /// cells.
     bool displayCalendar(const QModelIndex &cell);
 
     /// What undoes an edit that is about to be made: the field's present value.
@@ -89,14 +90,14 @@ public:
     std::optional<UndoDictionary> undoWithDictionary(const UndoDictionary &dictionary);
 
 protected:
-    /// Without a store the column layout is kept in the preferences, under the traits' layout name.
+    /// Without a `layout` store the column layout is kept in the preferences, under the traits' layout name.
     explicit RecordListController(const RecordListTraits &traits, std::unique_ptr<ColumnLayoutStore> layout = nullptr);
 
     virtual void viewMade() {}                 ///< the table and the row of buttons exist
     virtual void tankShown() {}                ///< the table shows the columns and rows of the current tank
     virtual void willDeleteRecord(Record &) {} ///< the user has confirmed; the record is still in its list
 
-    /// Stores a value of a cell, or of an undo step; false refuses it, and nothing is registered.
+    /// Stores a value from a cell or from an undo step. Returns false to refuse it: no undo step is registered then.
     virtual bool storeValue(Record &record, const QString &key, const QVariant &value);
     /// A cell was edited, the change counted and its undo registered. `changed`: its text differs from the old one;
     /// false for dates.

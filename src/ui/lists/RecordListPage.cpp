@@ -7,6 +7,7 @@
 #include "ui/EmptyState.h"
 #include "ui/IconButton.h"
 #include "ui/Icons.h"
+#include "ui/Spacing.h"
 #include "ui/TitleLine.h"
 #include "ui/lists/RecordCellDelegate.h"
 #include "ui/lists/RecordTableView.h"
@@ -38,8 +39,8 @@ RecordListPage::RecordListPage(ContainerKind kind, TextKey emptySentence)
     m_deleteButton->setEnabled(false);
     m_pages->addWidget(m_table);
     m_pages->addWidget(m_emptyState);
-    m_buttonRow->setContentsMargins(4, 4, 4, 4);
-    m_buttonRow->setSpacing(4);
+    m_buttonRow->setContentsMargins(spacing::tight, spacing::tight, spacing::tight, spacing::tight);
+    m_buttonRow->setSpacing(spacing::tight);
     m_buttonRow->addWidget(m_newButton);
     m_buttonRow->addWidget(m_deleteButton);
     m_buttonRow->addStretch();

@@ -19,8 +19,8 @@ class RecordTableView;
 class TitleLine;
 struct TextKey;
 
-/// How the view of a journal looks: title line, table or what an empty list says, and the row of buttons below. Knows
-/// nothing of records.
+/// The widgets of a list's view: title line, table or empty state, and the row of buttons below. Knows nothing of
+/// records.
 ///
 /// Object names: the page "NAMEView" and the table "NAMEList" with the container's list name ("noteList" ...), the
 /// buttons "newButton", "deleteButton" and "actionButton", the empty state's button "emptyStateButton".
@@ -37,7 +37,7 @@ public:
 
     void setTitle(const QString &title, const QString &tankName);
     void showEmptyState(bool empty);
-    void addActionMenu(QMenu *menu); ///< without one there is no action button
+    void addActionMenu(QMenu *menu); ///< adds the action button, which opens this menu
     /// Links the tab order from the tree through the table and the buttons to the help button.
     void linkKeyViews(QWidget *tankTree, QWidget *helpButton);
 

@@ -93,7 +93,7 @@ void RecordSelectionModel::setCurrentIndex(const QModelIndex &index, SelectionFl
     if (!isDropped(changes)) {
         QItemSelectionModel::setCurrentIndex(index, command);
     } else if (!m_inGesture && command == NoUpdate) {
-        // What follows is its selection, which goes with it; but only if it follows at once.
+        // The view selects next. Drop that selection too, but only if it comes before the event loop runs again.
         QTimer::singleShot(0, this, [this] {
             if (!m_inGesture)
                 m_dropping = false;

@@ -10,24 +10,26 @@
 namespace brinemark
 {
 
-/// First and last row of each run of rows that a selection touches, in order and apart from one another.
+/// First and last row of each run of adjacent rows in a selection, in ascending order.
 [[nodiscard]] std::vector<std::pair<int, int>> rowRuns(const QItemSelection &selection);
 
-/// A selection that, while it is armed, asks before its rows change. The answer may move rows, so that the change would
-/// hit another record than was aimed at: then the change is dropped, with all that belongs to it (a click selects and
-/// makes current in two steps). Moving between the cells of a row is no change.
+/// A selection model that, while it is armed, calls a callback before the selected rows change. The callback may sort
+/// the list. The rows under the pointer are then other ones than the user aimed at, so the change is dropped, and with
+/// it all other changes of the same gesture: a click, for instance, selects and sets the current index in two steps.
+/// Moving between the cells of a row does not count as a change.
 class RecordSelectionModel : public QItemSelectionModel
 {
     Q_OBJECT
 
 public:
-    /// `rowsWillChange` disarms the selection and answers whether the change is to be dropped; what it selects itself
-    /// goes through.
+    /// `rowsWillChange` disarms the selection and returns whether to drop the change. Selections that the callback
+    /// makes are never dropped.
     RecordSelectionModel(QAbstractItemModel *model, std::function<bool()> rowsWillChange, QObject *parent);
 
     void setArmed(bool armed) { m_armed = armed; }
 
-    /// All changes between these belong to one press of a key or of the mouse, up to its release.
+    /// All changes between these two calls belong to one gesture: a press of a key or of a mouse button up to its
+    /// release.
     void beginGesture();
     void endGesture();
     [[nodiscard]] bool dropsGesture() const { return m_dropping; }

@@ -85,7 +85,7 @@ void RecordTableModel::remove(const std::vector<std::shared_ptr<Record>> &record
     Container *list = container();
     if (!list || records.empty())
         return;
-    // One pass over the list, however many go.
+    // One pass over the list, however many records are removed.
     std::unordered_set<const Record *> going;
     for (const auto &record : records)
         going.insert(record.get());
@@ -123,7 +123,7 @@ bool RecordTableModel::sortContainer()
     const std::vector<const Record *> after = recordsInOrder();
     const bool moved = before != after;
     if (const QModelIndexList kept = persistentIndexList(); moved && !kept.isEmpty()) {
-        // Few indexes are kept and rows may be many: only those of the kept ones are looked up.
+        // There are few persistent indexes and possibly many rows: look up only the rows of those indexes.
         std::unordered_map<const Record *, int> rowOf;
         for (const QModelIndex &index : kept)
             rowOf.emplace(before[std::size_t(index.row())], 0);

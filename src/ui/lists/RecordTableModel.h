@@ -19,15 +19,14 @@ class Container;
 class RecordCells;
 class Tank;
 
-/// The records of one container of a tank as table rows, in the order in which they stand there. Nothing is kept for a
-/// row: a cell's text is made when it is asked for. Whoever changes the container says so through one of the operations
-/// below.
+/// The records of one container of a tank as table rows, in the container's order. The model keeps nothing per row: a
+/// cell's text is made on request. Code that changes the container uses the operations below or calls refresh().
 class RecordTableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    /// `cells` says what stands in the cells and takes what is entered; it has to outlive the model.
+    /// `cells` supplies the contents of the cells and stores what is entered; it has to outlive the model.
     RecordTableModel(ContainerKind kind, RecordCells &cells, QObject *parent = nullptr);
 
     /// Shows another tank, or none (null), and these columns; they are copied.
@@ -35,16 +34,16 @@ public:
     void appendColumn(const RecordColumn &column); ///< at the right; rows and selection stay
     void removeColumn(int column);
 
-    [[nodiscard]] Container *container() const;                    ///< null without a tank, and after the tank is gone
+    [[nodiscard]] Container *container() const; ///< null without a tank and after its tank was closed
     [[nodiscard]] std::shared_ptr<Record> recordAt(int row) const; ///< null out of range
     [[nodiscard]] const std::vector<RecordColumn> &columns() const { return m_columns; }
     [[nodiscard]] int columnOf(QStringView identifier) const; ///< -1 when it is not shown
 
-    int append(std::shared_ptr<Record> record); ///< answers its row, or -1 without a tank
+    int append(std::shared_ptr<Record> record); ///< returns its row, or -1 without a tank
     void remove(const std::vector<std::shared_ptr<Record>> &records);
-    bool sortContainer();  ///< by its own order; selections follow their records; answers whether any record moved
-    void refresh();        ///< shows what the container holds now
-    void showRow(int row); ///< its record has changed
+    bool sortContainer();  ///< by the container's own order; selections follow their records; true when a record moved
+    void refresh();        ///< after a change of the container by other code
+    void showRow(int row); ///< after a change of the row's record
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
@@ -58,7 +57,7 @@ private:
     RecordCells &m_cells;
     std::weak_ptr<Tank> m_tank;
     std::vector<RecordColumn> m_columns;
-    int m_rowCount = 0; ///< as last told to the views
+    int m_rowCount = 0; ///< as last announced to the views
 };
 
 } // namespace brinemark

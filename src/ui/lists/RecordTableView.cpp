@@ -20,8 +20,8 @@ namespace brinemark
 namespace
 {
 
-/// Gives the texts of cells and headers some air at their sides, and the sort mark a small place of its own at the end
-/// of a header, so that a column as wide as its header's text and 17 pixels shows both.
+/// Adds margins at the sides of the texts of cells and headers, and reserves a place for the sort mark at the end of a
+/// header, so that a column 17 pixels wider than its header's text shows text and mark.
 class AirySides : public QProxyStyle
 {
 public:
@@ -85,7 +85,7 @@ RecordTableView::RecordTableView(std::function<void()> deletePressed, QWidget *p
     viewport()->setAttribute(Qt::WA_Hover);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
-    // All rows are alike, so that a hundred thousand of them need no measuring.
+    // All rows have the same height, so that the view need not measure each of a hundred thousand rows.
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->hide();
     horizontalHeader()->setSectionsClickable(true);
@@ -106,7 +106,7 @@ RecordSelectionModel *RecordTableView::recordSelection() const
 
 void RecordTableView::keyPressEvent(QKeyEvent *event)
 {
-    if (state() == EditingState) { // what the editor leaves over, such as Return
+    if (state() == EditingState) { // a key that the editor did not use, such as Return
         event->ignore();
         return;
     }
@@ -125,7 +125,7 @@ void RecordTableView::keyPressEvent(QKeyEvent *event)
     if (plain && (key == Qt::Key_F2 || key == Qt::Key_Space) && openCell && openCell(currentIndex()))
         return;
     if (plain && key == Qt::Key_Space && currentIndex().flags().testFlag(Qt::ItemIsEditable)) {
-        edit(currentIndex()); // as it is, without a blank typed into it
+        edit(currentIndex()); // the base class would replace the text by a blank
         return;
     }
     RecordSelectionModel *selection = recordSelection();
@@ -142,7 +142,7 @@ void RecordTableView::mousePressEvent(QMouseEvent *event)
     if (selection)
         selection->beginGesture();
     QTableView::mousePressEvent(event);
-    if (selection && m_held) // the sheet takes the release
+    if (selection && m_held) // a sheet has opened and receives the release of the button
         selection->endGesture();
 }
 
@@ -236,7 +236,7 @@ void RecordTableView::releaseEditing()
 
 void RecordTableView::commitData(QWidget *editor)
 {
-    // A sheet that the value brings up takes the focus, at which the editor would be committed once more.
+    // Storing the value can open a sheet, which takes the focus; losing the focus commits the editor a second time.
     if (m_committing)
         return;
     const QScopedValueRollback committing(m_committing, true);
@@ -245,7 +245,7 @@ void RecordTableView::commitData(QWidget *editor)
 
 void RecordTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    if (m_committing) // whoever commits closes it afterwards
+    if (m_committing) // the caller of commitData() closes the editor afterwards
         return;
     int step = 0;
     if (hint == QAbstractItemDelegate::EditNextItem)

@@ -12,8 +12,8 @@ namespace brinemark
 
 class RecordSelectionModel;
 
-/// The look and the keys of the program's record tables: whole rows are selected, the delete key asks to delete them,
-/// Return makes a new one, and the cells of a row are typed one after the other with the tab key.
+/// The look and the keys of the record tables. Whole rows are selected, the delete key asks to delete them, Return
+/// makes a new record, and Tab moves the typing to the next cell of the row.
 class RecordTableView : public QTableView
 {
     Q_OBJECT
@@ -22,19 +22,19 @@ public:
     explicit RecordTableView(std::function<void()> deletePressed = {}, QWidget *parent = nullptr);
 
     std::function<void()> returnPressed = {};
-    /// A cell was clicked, or F2 or the space bar pressed on it; true when it opens something of its own.
+    /// Called when a cell is clicked, or F2 or the space bar pressed on it. Returns true when the cell opens a chooser.
     std::function<bool(const QModelIndex &cell)> openCell = {};
-    /// The context menu is asked for at a point of the screen, by mouse or by key.
+    /// Called with a point of the screen when the context menu is requested by mouse or key.
     std::function<void(const QPoint &place)> menuAsked = {};
 
     /// The first cell of a row, in the order on screen, that takes typing; invalid when none does.
     [[nodiscard]] QModelIndex firstTypableCell(int row) const;
 
-    /// Makes the cell current and starts editing it, as soon as editing is not held.
+    /// Makes the cell current and starts editing it, or does so in releaseEditing() while editing is held.
     void editCell(const QModelIndex &cell);
     void finishEditing(); ///< commits what is being typed, if anything
 
-    /// While a sheet is up nothing can be typed: editing starts when it is released again.
+    /// For the time of a sheet: no editor opens between these two calls.
     void holdEditing();
     void releaseEditing();
 
@@ -53,7 +53,7 @@ private:
     [[nodiscard]] RecordSelectionModel *recordSelection() const;
 
     std::function<void()> m_deletePressed;
-    QPersistentModelIndex m_toEdit; ///< once editing is released
+    QPersistentModelIndex m_toEdit; ///< the cell to edit when editing is released
     bool m_held = false;
     bool m_committing = false;
 };
