@@ -394,8 +394,7 @@ void RecordListController::deleteRecords(const std::vector<std::shared_ptr<Recor
         return;
     for (const auto &record : records)
         willDeleteRecord(*record);
-    m_model->remove(records);
-    m_table->clearSelection();
+    m_model->remove(records); // resets the model, which clears the selection
     if (m_traits.deletingCountsAChange)
         Shell::shared().documentModifiedWithChange(true);
 }

@@ -65,6 +65,7 @@ private Q_SLOTS:
         QCOMPARE(m_list->edited, edited.isEmpty() ? QStringList() : QStringList{edited});
         QCOMPARE(m_shell->undo.count(), edited.isEmpty() ? 0 : 1);
         QCOMPARE(m_shell->changes, edited.isEmpty() ? 0 : 1);
+        QCOMPARE(m_list->rowNeedsSort(), -1); // none of these is the sort column
     }
 
     void keepsWhatIsTypedWhileTheModelChanges()
@@ -80,8 +81,20 @@ private Q_SLOTS:
         QCOMPARE(edited.activity, "half a wor");
     }
 
+    void storesAnEditOnce()
+    {
+        clickCell(table(), 1, Activity);
+        press(Qt::Key_F2);
+        type("feed");
+        for (int i = 0; i < 2; ++i) // Return commits, and the loss of the focus commits again
+            table()->itemDelegate()->setModelData(editor(), table()->model(), table()->currentIndex());
+        QCOMPARE(m_shell->undo.count(), 1);
+    }
+
     void ticking()
     {
+        QVERIFY(!table()->model()->setData(cell(2, Repeats), Qt::Checked, Qt::CheckStateRole));
+        QVERIFY(!record(2).autoReschedule());
         QVERIFY(cell(2, Done).flags().testFlag(Qt::ItemIsUserCheckable));
         QVERIFY(!cell(2, Done).flags().testFlag(Qt::ItemIsEditable));
         QVERIFY(table()->model()->setData(cell(2, Done), Qt::Checked, Qt::CheckStateRole));
@@ -91,6 +104,15 @@ private Q_SLOTS:
         QVERIFY(!record(2).complete());
         record(2).setComplete(true); // elsewhere
         QCOMPARE(cell(2, Done).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
+    }
+
+    void theRecordOfThePendingSortGetsSelected()
+    {
+        clickCell(table(), 3, Activity);
+        rename(0, "z"); // not the selected row
+        clickCell(table(), 1, Activity);
+        QCOMPARE(activities(), "bcdez");
+        QCOMPARE(selectedRows(table()), QList<int>{4});
     }
 
     void undo()
@@ -118,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(selectedRows(table()), QList<int>{1});
         m_tank->schedule()->clear();
         m_shell->undo.redo();
-        QCOMPARE(m_beeps, 1); // the record is no longer in its list
+        QCOMPARE(m_beeps, 1);               // the record is no longer in its list
         QCOMPARE(m_shell->undo.count(), 1); // the step is dropped
     }
 

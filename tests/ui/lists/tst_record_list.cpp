@@ -38,6 +38,7 @@ private Q_SLOTS:
         QVERIFY(table()->hasFocus());
         clickHeader(table(), Done); // another column keeps the direction
         QCOMPARE(activities(), "aedcb");
+        QCOMPARE(indicator(), std::pair(int(Done), Qt::DescendingOrder));
         QCOMPARE(selectedRows(table()), QList<int>({0, 4}));
         QCOMPARE(m_tank->schedule()->sortIdentifier(), "complete");
         clickHeader(table(), Done);
