@@ -65,8 +65,9 @@ std::shared_ptr<Tank> Tank::fromArray(const plist::Array &olderTank)
         return tank;
     for (std::size_t i = 0; i < olderLists.size(); ++i)
         tank->container(olderLists[i])->readArray(&element(olderTank, i + 1), &element(attributes, i + 1));
-    for (const Parameter later : {Parameter::Dioxide, Parameter::Magnesium})
-        tank->setTarget(later, plainTarget(later));
+    // The older form has no target for carbon dioxide and the parameters after it.
+    for (std::size_t i = std::size_t(Parameter::Dioxide); i < parameterCount; ++i)
+        tank->setTarget(Parameter(i), plainTarget(Parameter(i)));
     return tank;
 }
 

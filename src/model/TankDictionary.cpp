@@ -53,9 +53,11 @@ std::shared_ptr<Tank> Tank::fromDict(const plist::Dict &tankDictionary)
     readTankProperties(*tank, properties);
     for (const ParameterTraits &traits : parameterTable)
         tank->setTarget(traits.parameter, readTarget(traits.parameter, properties));
-    // Magnesium was added last: a tank from an older file gets a target with its name.
-    if (!properties.contains(traitsOf(Parameter::Magnesium).targetFileKey))
-        tank->setTarget(Parameter::Magnesium, plainTarget(Parameter::Magnesium));
+    // Files may be older than magnesium and the parameters after it: a target that is not in the file gets a name.
+    for (std::size_t i = std::size_t(Parameter::Magnesium); i < parameterCount; ++i) {
+        if (!properties.contains(parameterTable[i].targetFileKey))
+            tank->setTarget(Parameter(i), plainTarget(Parameter(i)));
+    }
     for (const auto &container : tank->m_containers) {
         const QStringView key = container->traits().fileKey;
         container->readArray(lists.find(key), attributes.find(key));
