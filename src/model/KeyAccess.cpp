@@ -78,13 +78,13 @@ void convert(const QVariant &value, ItemImage &result)
                                                      : ItemImage::fromImage(value.value<QImage>());
 }
 
-/// What nothing means in a number or flag of each record type; no answer where it is refused.
+/// What an invalid variant stores in a number or flag of each record type; none where it is refused.
 template <class R>
-constexpr std::optional<int> numberForNothing = std::nullopt;
+constexpr std::optional<int> numberForInvalid = std::nullopt;
 template <>
-constexpr std::optional<int> numberForNothing<ConditionData> = 0;
+constexpr std::optional<int> numberForInvalid<ConditionData> = 0;
 template <>
-constexpr std::optional<int> numberForNothing<InventoryData> = 1;
+constexpr std::optional<int> numberForInvalid<InventoryData> = 1;
 
 template <class R, class T>
 bool setField(R &record, const Field<R> &field, T R::*member, const QVariant &value)
@@ -93,9 +93,9 @@ bool setField(R &record, const Field<R> &field, T R::*member, const QVariant &va
     if (value.isValid()) {
         convert(value, converted);
     } else if constexpr (std::is_arithmetic_v<T>) {
-        if (!numberForNothing<R>)
+        if (!numberForInvalid<R>)
             return false;
-        converted = T(*numberForNothing<R>);
+        converted = T(*numberForInvalid<R>);
     }
     if constexpr (std::is_same_v<T, bool>) {
         if (field.setter) {
