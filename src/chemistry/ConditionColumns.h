@@ -2,13 +2,16 @@
 
 #pragma once
 
+#include "base/TableChecks.h"
 #include "base/text/Texts.h"
 #include "chemistry/SFCheckedFormatter.h"
 #include "model/Condition.h"
+#include "model/Parameters.h"
 
 #include <QStringView>
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace brinemark
@@ -16,36 +19,40 @@ namespace brinemark
 
 /// A column that the water-test table can show.
 struct ConditionColumnTraits {
-    int tag; ///< identifies the column in menus
-    QStringView identifier;
+    int tag;                            ///< identifies the column in menus
+    std::optional<Parameter> parameter; ///< none for the date
     TextKey headerKey;
     float maximum; ///< the largest value that can be entered; 0 for the date
     int decimals;
     int width = 0; ///< pixels; 0 for as wide as the header's text
+    /// Of the column in saved layouts, and of its field in a water test.
+    QStringView identifier = parameter ? traitsOf(*parameter).identifier : QStringView(u"date");
 };
 
 // clang-format off
-inline constexpr std::array<ConditionColumnTraits, 18> conditionColumnTable{{
-    {20, u"date",       "Date"_key,             0,    0},
-    {21, u"temp",       "TemperatureShort"_key, 150,  1},
-    {22, u"ph",         "Ph"_key,               99,   2},
-    {23, u"ammonia",    "Ammonia"_key,          99,   2},
-    {24, u"nitrate",    "Nitrate"_key,          600,  2},
-    {25, u"nitrite",    "Nitrite"_key,          300,  2},
-    {26, u"gH",         "GH"_key,               999,  2, 40},
-    {27, u"kH",         "KH"_key,               600,  2, 40},
-    {28, u"alkalinity", "Alkalinity"_key,       600,  1},
-    {29, u"calcium",    "Calcium"_key,          999,  0},
-    {30, u"copper",     "Copper"_key,           99,   2},
-    {31, u"iodine",     "Iodine"_key,           99,   2},
-    {32, u"iron",       "Iron"_key,             99,   1},
-    {33, u"salt",       "Salinity"_key,         10,   3},
-    {34, u"oxygen",     "OxygenShort"_key,      99,   1},
-    {35, u"phosphate",  "Phosphate"_key,        99,   1},
-    {38, u"dioxide",    "CarbonDioxide"_key,    99,   0},
-    {39, u"magnesium",  "Magnesium"_key,        2500, 0},
+inline constexpr std::array<ConditionColumnTraits, 1 + parameterCount> conditionColumnTable{{
+    {20, std::nullopt,          "Date"_key,             0,    0},
+    {21, Parameter::Temp,       "TemperatureShort"_key, 150,  1},
+    {22, Parameter::Ph,         "Ph"_key,               99,   2},
+    {23, Parameter::Ammonia,    "Ammonia"_key,          99,   2},
+    {24, Parameter::Nitrate,    "Nitrate"_key,          600,  2},
+    {25, Parameter::Nitrite,    "Nitrite"_key,          300,  2},
+    {26, Parameter::GH,         "GH"_key,               999,  2, 40},
+    {27, Parameter::KH,         "KH"_key,               600,  2, 40},
+    {28, Parameter::Alkalinity, "Alkalinity"_key,       600,  1},
+    {29, Parameter::Calcium,    "Calcium"_key,          999,  0},
+    {30, Parameter::Copper,     "Copper"_key,           99,   2},
+    {31, Parameter::Iodine,     "Iodine"_key,           99,   2},
+    {32, Parameter::Iron,       "Iron"_key,             99,   1},
+    {33, Parameter::Salt,       "Salinity"_key,         10,   3},
+    {34, Parameter::Oxygen,     "OxygenShort"_key,      99,   1},
+    {35, Parameter::Phosphate,  "Phosphate"_key,        99,   1},
+    {38, Parameter::Dioxide,    "CarbonDioxide"_key,    99,   0},
+    {39, Parameter::Magnesium,  "Magnesium"_key,        2500, 0},
 }};
 // clang-format on
+static_assert(eachHasOneRow<Parameter>(conditionColumnTable, &ConditionColumnTraits::parameter),
+              "conditionColumnTable needs one row for each Parameter");
 
 /// The column with a tag or an identifier; null when there is none (tags 36 and 37 are unused).
 [[nodiscard]] const ConditionColumnTraits *conditionColumnFromTag(int tag);

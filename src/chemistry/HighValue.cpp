@@ -2,6 +2,8 @@
 
 #include "chemistry/HighValue.h"
 
+#include "base/TableChecks.h"
+
 #include <algorithm>
 #include <array>
 
@@ -16,6 +18,7 @@ constexpr std::array<HighValueAdvice, 3> advices{{
     {Parameter::Nitrate, "NitrateFreshValue"_key, "NitrateSaltValue"_key, "HighNitrateReason"_key},
     {Parameter::Nitrite, "NitriteFreshValue"_key, "NitriteSaltValue"_key, "HighNitriteReason"_key},
 }};
+static_assert(noneHasTwoRows<Parameter>(advices, &HighValueAdvice::parameter));
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/TableChecks.h"
 #include "model/Parameters.h"
 
 #include <array>
@@ -9,7 +10,7 @@
 namespace brinemark
 {
 
-/// How one of a target's two numbers is entered: by steps, from 0 to a maximum, in the parameter's unit.
+/// The stepper of one of a target's two numbers: from 0 to a maximum by steps, in the parameter's unit.
 struct StepRange {
     double step;
     double maximum;
@@ -49,6 +50,8 @@ inline constexpr std::array<TargetInput, parameterCount> targetInputTable{{
     {17, Parameter::Magnesium,  {10,     2500}, {10,     400}, 0},
 }};
 // clang-format on
+static_assert(eachHasOneRow<Parameter>(targetInputTable, &TargetInput::parameter),
+              "targetInputTable needs one row for each Parameter");
 
 /// Null for a tag without a parameter, such as 0.
 [[nodiscard]] constexpr const TargetInput *targetInputForTag(int tag)

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/TableChecks.h"
 #include "model/ContainerKind.h"
 
 #include <array>
@@ -29,6 +30,18 @@ inline constexpr std::array<LivestockGroupTraits, 4> livestockGroupTable{{
     {ContainerKind::Coral,  "Coral",         "EmptyCoral"_key,  "ToolbarNewCoral"_key,  "NewCoralName"_key,  "DeleteCoralWarning"_key},
 }};
 // clang-format on
+
+/// Whether each livestock kind, and no journal, has one row.
+consteval bool livestockGroupsComplete()
+{
+    for (const ContainerTraits &container : containerTraitsTable) {
+        const std::size_t rows = rowsOf(container.kind, livestockGroupTable, &LivestockGroupTraits::kind);
+        if (rows != (container.isLivestock() ? 1 : 0))
+            return false;
+    }
+    return true;
+}
+static_assert(livestockGroupsComplete(), "livestockGroupTable needs one row for each livestock ContainerKind");
 
 /// Null for a container that is not one of the four livestock groups.
 [[nodiscard]] const LivestockGroupTraits *livestockGroupTraits(ContainerKind kind);

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/TableChecks.h"
 #include "base/text/Texts.h"
 #include "model/ItemContext.h"
 
@@ -17,6 +18,7 @@ struct Record;
 
 /// The nine containers of a tank in the fixed order of its `tankItemsArray`.
 enum class ContainerKind { Fish, Plant, Invert, Coral, Condition, Schedule, Inventory, Expense, Note };
+inline constexpr std::size_t containerCount = enumCount<ContainerKind>;
 
 /// The properties in which the nine containers differ.
 struct ContainerTraits {
@@ -33,7 +35,7 @@ struct ContainerTraits {
 };
 
 // clang-format off
-inline constexpr std::array<ContainerTraits, 9> containerTraitsTable{{
+inline constexpr std::array<ContainerTraits, containerCount> containerTraitsTable{{
     {ContainerKind::Fish,      "FishName"_key,      u"fishListArray",      u"TankFish",      u"Fish",      u"",      false, ItemContext::Fish},
     {ContainerKind::Plant,     "PlantName"_key,     u"plantListArray",     u"TankPlant",     u"Plant",     u"",      false, ItemContext::Plant},
     {ContainerKind::Invert,    "InvertName"_key,    u"invertListArray",    u"TankInvert",    u"Invert",    u"",      false, ItemContext::Invert},
@@ -46,7 +48,8 @@ inline constexpr std::array<ContainerTraits, 9> containerTraitsTable{{
 }};
 // clang-format on
 
-inline constexpr std::size_t containerCount = containerTraitsTable.size();
+static_assert(rowsFollow<ContainerKind>(containerTraitsTable, &ContainerTraits::kind),
+              "containerTraitsTable needs one row for each ContainerKind, in its order");
 
 [[nodiscard]] constexpr const ContainerTraits &traitsOf(ContainerKind kind)
 {

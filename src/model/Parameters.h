@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/TableChecks.h"
 #include "base/text/Texts.h"
 
 #include <QStringView>
@@ -12,7 +13,7 @@
 namespace brinemark
 {
 
-/// The seventeen water parameters, in the order of a tank's targets.
+/// The water parameters, in the order of a tank's targets.
 enum class Parameter {
     Temp,
     Ph,
@@ -32,11 +33,12 @@ enum class Parameter {
     Dioxide,
     Magnesium,
 };
+inline constexpr std::size_t parameterCount = enumCount<Parameter>;
 
-/// A number of a default target: fixed, or looked up in the texts because it depends on language and units.
+/// A number of a default target: fixed, or a text's number where it depends on language and units.
 struct DefaultNumber {
     float literal = 0;
-    std::optional<TextKey> textKey = {}; ///< wins over the literal when there is one
+    std::optional<TextKey> textKey = {}; ///< when set, the number of this text is used instead of the literal
 
     [[nodiscard]] float value() const { return textKey ? float(numberOfText(*textKey)) : literal; }
 };
@@ -48,25 +50,25 @@ struct LineColour {
     float blue;
 };
 
-/// What is known of a parameter apart from its measured values.
+/// What a parameter is called, how it is filed, and what a new tank aims at.
 struct ParameterTraits {
     Parameter parameter;
-    QStringView identifier;    ///< names it everywhere; the field key in a water test
-    QStringView targetKey;     ///< names its target in a tank
-    QStringView targetFileKey; ///< names its target in the tank file
-    QStringView testFileKey;   ///< names its value in the tank file's water tests
+    QStringView identifier;    ///< of the field in a water test, and of the column
+    QStringView targetKey;     ///< of the target in a tank
+    QStringView targetFileKey; ///< of the target in the tank file
+    QStringView testFileKey;   ///< of the value in the tank file's water tests
     bool integral;             ///< measured in whole numbers
-    TextKey targetNameKey;     ///< key of the target's display name
-    DefaultNumber preferred;   ///< of a default target, like the rest
+    TextKey targetNameKey;     ///< of the target's display name
+    DefaultNumber preferred;   ///< of a default target, as are the deviation and the warning
     DefaultNumber deviation;
-    bool warningOn;                            ///< a default target that warns has its band on as well
-    TextKey treatmentKey;                      ///< what to do when a test lies outside the target
-    std::optional<LineColour> lineColour = {}; ///< of its line in a graph; none for the one that is never drawn
+    bool warningOn;                       ///< a default target that warns has its band on as well
+    TextKey treatmentKey;                 ///< of the advice when a test lies outside the target
+    std::optional<LineColour> lineColour; ///< in a graph; none for temperature, which is never drawn
 };
 
 // clang-format off
-inline constexpr std::array<ParameterTraits, 17> parameterTable{{
-    {Parameter::Temp,       u"temp",       u"tempData",       u"tempValue",       u"Temp",       false, "Temperature"_key,   {0, "TempFreshValue"_key}, {}, false, "TempTreatment"_key},
+inline constexpr std::array<ParameterTraits, parameterCount> parameterTable{{
+    {Parameter::Temp,       u"temp",       u"tempData",       u"tempValue",       u"Temp",       false, "Temperature"_key,   {0, "TempFreshValue"_key}, {}, false, "TempTreatment"_key, std::nullopt},
     {Parameter::Ph,         u"ph",         u"phData",         u"pHValue",         u"ph",         false, "Ph"_key,            {7.0F}, {}, false, "PhTreatment"_key, LineColour{0.45F, 0.15F, 0.75F}},
     {Parameter::Ammonia,    u"ammonia",    u"ammoniaData",    u"ammoniaValue",    u"Ammonia",    false, "Ammonia"_key,       {}, {0, "AmmoniaFreshValue"_key}, true, "AmmoniaTreatment"_key, LineColour{0.8F, 0.078F, 0.078F}},
     {Parameter::Nitrate,    u"nitrate",    u"nitrateData",    u"nitrateValue",    u"Nitrate",    false, "Nitrate"_key,       {}, {0, "NitrateFreshValue"_key}, true, "NitrateTreatment"_key, LineColour{0.078F, 0.44F, 0.8F}},
@@ -86,7 +88,8 @@ inline constexpr std::array<ParameterTraits, 17> parameterTable{{
 }};
 // clang-format on
 
-inline constexpr std::size_t parameterCount = parameterTable.size();
+static_assert(rowsFollow<Parameter>(parameterTable, &ParameterTraits::parameter),
+              "parameterTable needs one row for each Parameter, in its order");
 
 [[nodiscard]] constexpr const ParameterTraits &traitsOf(Parameter parameter)
 {
@@ -99,20 +102,22 @@ inline constexpr std::size_t parameterCount = parameterTable.size();
 /// The parameter of a target key such as "gHData".
 [[nodiscard]] std::optional<Parameter> parameterFromTargetKey(QStringView targetKey);
 
-/// Of the fields of a water test, after the date.
+/// The order of the fields of a water test, after the date.
 inline constexpr std::array<Parameter, parameterCount> recordFieldOrder{
     Parameter::Ph,      Parameter::Ammonia,   Parameter::Nitrate, Parameter::Nitrite,    Parameter::GH,
     Parameter::KH,      Parameter::Salt,      Parameter::Temp,    Parameter::Alkalinity, Parameter::Phosphate,
     Parameter::Calcium, Parameter::Iodine,    Parameter::Oxygen,  Parameter::Copper,     Parameter::Iron,
     Parameter::Dioxide, Parameter::Magnesium,
 };
+static_assert(eachHasOneRow<Parameter>(recordFieldOrder), "recordFieldOrder needs each Parameter once");
 
-/// Of the columns of a new tank's water-test table, after the date.
+/// The order of the columns of a new tank's water-test table, after the date.
 inline constexpr std::array<Parameter, parameterCount> defaultColumnOrder{
     Parameter::Temp,      Parameter::Ph,        Parameter::Ammonia, Parameter::Nitrate, Parameter::Nitrite,
     Parameter::Magnesium, Parameter::GH,        Parameter::KH,      Parameter::Salt,    Parameter::Alkalinity,
     Parameter::Calcium,   Parameter::Dioxide,   Parameter::Copper,  Parameter::Iodine,  Parameter::Iron,
     Parameter::Oxygen,    Parameter::Phosphate,
 };
+static_assert(eachHasOneRow<Parameter>(defaultColumnOrder), "defaultColumnOrder needs each Parameter once");
 
 } // namespace brinemark

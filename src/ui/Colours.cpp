@@ -2,6 +2,8 @@
 
 #include "ui/Colours.h"
 
+#include "base/TableChecks.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -25,14 +27,7 @@ constexpr std::array shades{
     Shades{ColourRole::Accent, 0xff08639a, 0xff62c0f0},  Shades{ColourRole::SecondaryText, 0xff5a6268, 0xffb2b9bf},
 };
 
-static_assert(shades.size() == size_t(ColourRole::Count));
-static_assert([] {
-    for (size_t i = 0; i < shades.size(); ++i) {
-        if (shades[i].role != ColourRole(i))
-            return false;
-    }
-    return true;
-}());
+static_assert(rowsFollow<ColourRole>(shades, &Shades::role), "shades needs one row for each ColourRole, in its order");
 
 double luminance(const QColor &colour)
 {

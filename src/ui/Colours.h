@@ -9,7 +9,7 @@ namespace brinemark
 {
 
 /// What a colour means. Colour is never the only sign: a mark or a word accompanies it.
-enum class ColourRole { InRange, Near, Out, NotTested, Overdue, Done, Accent, SecondaryText, Count };
+enum class ColourRole { InRange, Near, Out, NotTested, Overdue, Done, Accent, SecondaryText };
 
 /// The colour of `role` for the palette, from the light or the dark set according to the lightness of the window
 /// colour. Every colour is readable as text on the window and base colours (contrast of at least 4.5:1).

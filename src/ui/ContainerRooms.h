@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/TableChecks.h"
 #include "model/ContainerKind.h"
 #include "ui/MainView.h"
 
@@ -30,6 +31,8 @@ inline constexpr std::array<ContainerRoom, containerCount> containerRooms{{
     {ContainerKind::Note,      "NotesSmall",         MainView::Notes},
 }};
 // clang-format on
+static_assert(rowsFollow<ContainerKind>(containerRooms, &ContainerRoom::kind),
+              "containerRooms needs one row for each ContainerKind, in its order");
 
 [[nodiscard]] constexpr const ContainerRoom &roomOf(ContainerKind kind)
 {

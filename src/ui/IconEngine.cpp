@@ -11,6 +11,7 @@
 #include <QSvgRenderer>
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 namespace brinemark
@@ -33,7 +34,7 @@ enum class Kind {
 struct Ink {
     const char *placeholder;
     Kind kind;
-    ColourRole role = ColourRole::Count;
+    std::optional<ColourRole> role = {}; ///< none for text, and for inks that have shades only
     QRgb light = 0;
     QRgb dark = 0;
 };
@@ -41,16 +42,20 @@ struct Ink {
 constexpr std::array inks{
     Ink{"#1a1a1a", Kind::Text},
     Ink{"#0a84c8", Kind::Accent, ColourRole::Accent, 0xff0a78b8},
-    Ink{"#fefefe", Kind::Mark, ColourRole::Count, 0xffffffff, 0xff1b1f22},
+    Ink{"#fefefe", Kind::Mark, std::nullopt, 0xffffffff, 0xff1b1f22},
     Ink{"#2e8b3d", Kind::Fixed, ColourRole::InRange},
     Ink{"#d98200", Kind::Fixed, ColourRole::Near, 0xffc47300},
     Ink{"#c62828", Kind::Fixed, ColourRole::Out},
     Ink{"#7a7a7a", Kind::Grey, ColourRole::NotTested},
     Ink{"#a3336f", Kind::Fixed, ColourRole::Overdue},
     Ink{"#227a86", Kind::Fixed, ColourRole::Done},
-    Ink{"#1767b0", Kind::Fixed, ColourRole::Accent},                        // alerts that ask and inform
-    Ink{"#0c3f63", Kind::Fixed, ColourRole::Count, 0xff0c3f63, 0xff8fd0f0}, // the rim of the program's icon
+    Ink{"#1767b0", Kind::Fixed, ColourRole::Accent},                   // alerts that ask and inform
+    Ink{"#0c3f63", Kind::Fixed, std::nullopt, 0xff0c3f63, 0xff8fd0f0}, // the rim of the program's icon
 };
+
+static_assert(std::all_of(inks.begin(), inks.end(), [](const Ink &ink) {
+    return ink.kind == Kind::Text || ink.role || (ink.light != 0 && ink.dark != 0);
+}));
 
 /// The colour of an ink in one mode. `ownColours` is true for drawings without an ink of kind Text; of their inks only
 /// Grey changes, and only when selected.
@@ -66,7 +71,7 @@ QColor inkColour(const Ink &ink, const QPalette &palette, QIcon::Mode mode, bool
     if (ink.kind == Kind::Mark && oneColour)
         return palette.color(QPalette::Active, selected ? QPalette::Highlight : QPalette::Window);
     const QRgb own = isDark(palette) ? ink.dark : ink.light;
-    return own != 0 ? QColor::fromRgb(own) : colour(ink.role, palette);
+    return own != 0 ? QColor::fromRgb(own) : colour(*ink.role, palette);
 }
 
 } // namespace

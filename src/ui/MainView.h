@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "base/TableChecks.h"
+
 #include <QtGlobal>
 
 namespace brinemark
@@ -19,6 +21,6 @@ enum class MainView : qint32 {
     Inventory = 7,
     Expenses = 8,
 };
-inline constexpr qint32 mainViewCount = 9;
+inline constexpr qint32 mainViewCount = enumCount<MainView>;
 
 } // namespace brinemark

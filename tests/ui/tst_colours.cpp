@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "base/TableChecks.h"
 #include "support/TestProgram.h"
 #include "ui/Colours.h"
 
@@ -44,7 +45,7 @@ private Q_SLOTS:
         QPalette palette;
         palette.setColor(QPalette::Window, window);
         palette.setColor(QPalette::Base, base);
-        for (int role = 0; role < int(ColourRole::Count); ++role) {
+        for (int role = 0; role < int(enumCount<ColourRole>); ++role) {
             const QColor shown = colour(ColourRole(role), palette);
             QVERIFY2(contrast(shown, base) >= 4.5, qPrintable(QString::number(role)));
             QVERIFY2(contrast(shown, window) >= 4.5, qPrintable(QString::number(role)));
@@ -57,7 +58,7 @@ private Q_SLOTS:
             const QPalette palette(window);
             QVERIFY(colour(ColourRole::Out, palette).red() > colour(ColourRole::Out, palette).green());
             QVERIFY(colour(ColourRole::InRange, palette).green() > colour(ColourRole::InRange, palette).red());
-            for (int a = 0; a < int(ColourRole::Count); ++a) {
+            for (int a = 0; a < int(enumCount<ColourRole>); ++a) {
                 for (int b = 0; b < a; ++b)
                     QVERIFY(colour(ColourRole(a), palette) != colour(ColourRole(b), palette));
             }

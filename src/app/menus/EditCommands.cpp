@@ -4,6 +4,7 @@
 
 #include "app/menus/MainMenuBar.h"
 #include "app/tree/TankListController.h"
+#include "base/TableChecks.h"
 
 #include <QWidget>
 
@@ -24,6 +25,7 @@ constexpr EditRow editRows[] = {
     {Command::Paste, "paste"},
     {Command::SelectAll, "selectAll"},
 };
+static_assert(noneHasTwoRows<Command>(editRows, &EditRow::command));
 
 bool answers(const QWidget *widget, const char *slot)
 {

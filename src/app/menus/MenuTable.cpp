@@ -2,6 +2,8 @@
 
 #include "app/menus/MenuTable.h"
 
+#include "base/TableChecks.h"
+
 namespace brinemark
 {
 
@@ -87,6 +89,27 @@ constexpr MenuTitle menus[] = {
     {"MenuFile"_key, fileMenu}, {"MenuEdit"_key, editMenu},     {"MenuTank"_key, tankMenu},
     {"MenuView"_key, viewMenu}, {"MenuWindow"_key, windowMenu}, {"MenuHelp"_key, helpMenu},
 };
+
+/// The number of menu items that send a command; separators send none.
+consteval std::size_t itemsOf(Command command)
+{
+    std::size_t items = 0;
+    for (const MenuTitle &menu : menus) {
+        for (const MenuRow &row : menu.rows)
+            items += !row.title.isEmpty() && row.command == command ? 1 : 0;
+    }
+    return items;
+}
+
+consteval bool eachCommandHasOneItem()
+{
+    for (std::size_t i = 0; i < enumCount<Command>; ++i) {
+        if (itemsOf(Command(i)) != 1)
+            return false;
+    }
+    return true;
+}
+static_assert(eachCommandHasOneItem(), "the menus need one item for each Command");
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/TableChecks.h"
 #include "base/text/Texts.h"
 
 #include <QLatin1String>
@@ -26,6 +27,8 @@ inline constexpr ToolbarDisplayMode toolbarDisplayModes[] = {
     {ToolbarDisplay::IconOnly, QLatin1String("iconOnly"), "ToolbarIconOnly"_key, Qt::ToolButtonIconOnly},
     {ToolbarDisplay::TextOnly, QLatin1String("textOnly"), "ToolbarTextOnly"_key, Qt::ToolButtonTextOnly},
 };
+static_assert(rowsFollow<ToolbarDisplay>(toolbarDisplayModes, &ToolbarDisplayMode::mode),
+              "toolbarDisplayModes needs one row for each ToolbarDisplay, in its order");
 
 [[nodiscard]] const ToolbarDisplayMode &toolbarDisplayMode(ToolbarDisplay mode);
 

@@ -3,9 +3,13 @@
 #pragma once
 
 #include "app/menus/MenuTable.h"
+#include "base/TableChecks.h"
 
 #include <QLatin1String>
 #include <QStringView>
+
+#include <iterator>
+#include <string_view>
 
 namespace brinemark
 {
@@ -73,6 +77,32 @@ inline constexpr QLatin1String toolbarAllowedSet[] = {
     toolbarid::Note,          toolbarid::Convert,   toolbarid::Delete,   toolbarid::Separator, toolbarid::Space,
     toolbarid::FlexibleSpace, toolbarid::Customise, toolbarid::Print,
 };
+
+/// Whether every action, and nothing else, sends a command of its own.
+consteval bool toolbarActionsHaveCommands()
+{
+    for (const ToolbarItem &item : toolbarItems) {
+        if ((item.kind == ToolbarItemKind::Action) != item.command.has_value())
+            return false;
+    }
+    return noneHasTwoRows<Command>(toolbarItems, &ToolbarItem::command);
+}
+static_assert(toolbarActionsHaveCommands(), "toolbarItems needs one command for each action");
+
+/// Whether customising offers every item exactly once.
+consteval bool toolbarOffersEachItem()
+{
+    for (const ToolbarItem &item : toolbarItems) {
+        const std::string_view wanted(item.identifier.data(), std::size_t(item.identifier.size()));
+        std::size_t found = 0;
+        for (const QLatin1String offered : toolbarAllowedSet)
+            found += std::string_view(offered.data(), std::size_t(offered.size())) == wanted ? 1 : 0;
+        if (found != 1)
+            return false;
+    }
+    return std::size(toolbarAllowedSet) == std::size(toolbarItems);
+}
+static_assert(toolbarOffersEachItem(), "toolbarAllowedSet needs each of toolbarItems once");
 
 /// The item with this identifier, or null.
 inline const ToolbarItem *toolbarItem(QStringView identifier)

@@ -25,18 +25,24 @@ MainViewController &shared()
     return Controller::sharedInstance();
 }
 
-/// The controllers by view number; the empty view has none.
-constexpr std::array<MainViewController &(*)(), mainViewCount> controllers{
-    nullptr,
-    &shared<TankDataController>,
-    &shared<LivestockGroupController>,
-    &shared<FishDataController>,
-    &shared<ScheduleListController>,
-    &shared<NoteListController>,
-    &shared<ConditionListController>,
-    &shared<InventoryListController>,
-    &shared<ExpenseListController>,
+/// How the controller of a view is made, or found when it exists.
+struct ViewRow {
+    MainView view;
+    MainViewController &(*controller)(); ///< null for the empty view, which has no controller
 };
+
+constexpr std::array<ViewRow, mainViewCount> viewRows{{
+    {MainView::None, nullptr},
+    {MainView::Tank, &shared<TankDataController>},
+    {MainView::LivestockGroup, &shared<LivestockGroupController>},
+    {MainView::LivestockItem, &shared<FishDataController>},
+    {MainView::Schedule, &shared<ScheduleListController>},
+    {MainView::Notes, &shared<NoteListController>},
+    {MainView::Conditions, &shared<ConditionListController>},
+    {MainView::Inventory, &shared<InventoryListController>},
+    {MainView::Expenses, &shared<ExpenseListController>},
+}};
+static_assert(rowsFollow<MainView>(viewRows, &ViewRow::view), "viewRows needs one row for each MainView, in its order");
 
 bool isView(MainView view)
 {
@@ -59,7 +65,7 @@ MainViewController &MainViews::prepared(MainView view)
 {
     MainViewController *&controller = m_controllers[std::size_t(view)];
     if (!controller) {
-        controller = &controllers[std::size_t(view)]();
+        controller = &viewRows[std::size_t(view)].controller();
         m_container.addWidget(controller->view());
         connect(controller, &MainViewController::selectionChanged, this, &MainViews::selectionChanged);
     }
