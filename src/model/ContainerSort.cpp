@@ -2,8 +2,6 @@
 
 #include "model/ContainerSort.h"
 
-#include "base/text/NumberText.h"
-#include "model/PlistField.h"
 #include "model/RecordFields.h"
 
 #include <algorithm>
@@ -15,21 +13,18 @@ namespace brinemark
 namespace
 {
 
-/// Sorts by a key that is worked out once a record.
-template <class R, class KeyOf>
-void sortBy(std::vector<std::shared_ptr<R>> &list, bool ascending, KeyOf keyOf)
-{
-    using Key = std::decay_t<decltype(keyOf(*list.front()))>;
-    struct Place {
-        Key key;
-        quint32 index;
-    };
-    std::vector<Place> places;
-    places.reserve(list.size());
-    for (const std::shared_ptr<R> &record : list)
-        places.push_back({keyOf(*record), quint32(places.size())});
+/// A record's sort key, and its place in the unsorted list.
+template <class Key>
+struct SortPlace {
+    Key key;
+    quint32 index;
+};
 
-    const auto before = [ascending](const Place &a, const Place &b) {
+/// Sorts the places; those with equal keys keep their order in both directions. Returns false if all were in order.
+template <class Key>
+bool sortPlaces(std::vector<SortPlace<Key>> &places, bool ascending)
+{
+    const auto before = [ascending](const SortPlace<Key> &a, const SortPlace<Key> &b) {
         if (ascending ? a.key < b.key : b.key < a.key)
             return true;
         if (ascending ? b.key < a.key : a.key < b.key)
@@ -37,118 +32,125 @@ void sortBy(std::vector<std::shared_ptr<R>> &list, bool ascending, KeyOf keyOf)
         return a.index < b.index;
     };
     if (std::is_sorted(places.begin(), places.end(), before))
-        return;
+        return false;
     std::sort(places.begin(), places.end(), before);
+    return true;
+}
+
+/// Sorts by a key that is computed once for each record.
+template <class R, class KeyOf>
+void sortBy(std::vector<std::shared_ptr<R>> &list, bool ascending, KeyOf keyOf)
+{
+    using Key = std::decay_t<decltype(keyOf(*list.front()))>;
+    std::vector<SortPlace<Key>> places;
+    places.reserve(list.size());
+    for (const std::shared_ptr<R> &record : list)
+        places.push_back({keyOf(*record), quint32(places.size())});
+    if (!sortPlaces(places, ascending))
+        return;
 
     std::vector<std::shared_ptr<R>> sorted;
     sorted.reserve(list.size());
-    for (const Place &place : places)
+    for (const SortPlace<Key> &place : places)
         sorted.push_back(std::move(list[place.index]));
     list = std::move(sorted);
 }
 
-template <class R>
-void sortByDate(std::vector<std::shared_ptr<R>> &list, bool ascending)
+qint64 dateSortKey(const QDateTime &date)
 {
-    sortBy(list, ascending, [](const R &record) {
-        return record.date.isValid() ? record.date.toMSecsSinceEpoch() : std::numeric_limits<qint64>::min();
+    return date.isValid() ? date.toMSecsSinceEpoch() : std::numeric_limits<qint64>::min();
+}
+
+double numberSortKey(float number)
+{
+    return double(number);
+}
+double numberSortKey(qint32 number)
+{
+    return double(float(number)); // compared in single precision, as the floats are
+}
+double numberSortKey(bool flag)
+{
+    return flag ? 1 : 0;
+}
+double numberSortKey(const Amount &amount)
+{
+    return amount.toDouble();
+}
+template <class Other>
+double numberSortKey(const Other &)
+{
+    return 0; // not reached: `sortKindFitsType` allows no other type as a number or flag
+}
+
+template <class R>
+double numberSortKey(const R &record, const Field<R> &field)
+{
+    return std::visit([&](auto member) { return numberSortKey(record.*member); }, field.member);
+}
+
+/// Whether each field of a journal's record has a sort kind that fits its type.
+template <class R>
+consteval bool fieldsCanBeSorted()
+{
+    return std::all_of(FieldTable<R>::fields.begin(), FieldTable<R>::fields.end(), [](const Field<R> &field) {
+        return field.sortKind != SortKind::None && sortKindFitsType(field);
     });
 }
 
-float floatOf(float member)
-{
-    return member;
-}
-float floatOf(qint32 member)
-{
-    return float(member);
-}
-float floatOf(bool member)
-{
-    return member ? 1 : 0;
-}
-float floatOf(const QString &member)
-{
-    return leadingFloat(member);
-}
-float floatOf(const Amount &member)
-{
-    return plistfield::singlePrecision(member.toDouble());
-}
-template <class Other>
-float floatOf(const Other &)
-{
-    return 0;
-}
-
+/// Sorts by the field of this key; does nothing for an unknown key.
 template <class R>
-float floatOf(const R &record, const Field<R> &field)
+void sortByField(std::vector<std::shared_ptr<R>> &list, QStringView key, bool ascending)
 {
-    return std::visit([&](auto member) { return floatOf(record.*member); }, field.member);
-}
-
-/// By the named text, case-insensitively; only texts have such an order.
-template <class R>
-void sortByText(std::vector<std::shared_ptr<R>> &list, const QString &identifier, bool ascending)
-{
-    const Field<R> *field = fieldForKey<R>(identifier);
-    if (const auto *member = field ? std::get_if<QString R::*>(&field->member) : nullptr)
-        sortBy(list, ascending, [&](const R &record) { return (record.**member).toCaseFolded(); });
-}
-
-/// By the named field as a float, seen through `view`.
-template <class R, class View>
-void sortByNumber(std::vector<std::shared_ptr<R>> &list, const QString &identifier, bool ascending, View view)
-{
-    if (const Field<R> *field = fieldForKey<R>(identifier))
-        sortBy(list, ascending, [&](const R &record) { return view(floatOf(record, *field)); });
+    static_assert(fieldsCanBeSorted<R>(), "a field of this record has no sort kind, or one that does not fit its type");
+    const Field<R> *field = fieldForKey<R>(key);
+    if (!field)
+        return;
+    switch (field->sortKind) {
+    case SortKind::None:
+        return;
+    case SortKind::Date:
+        return sortBy(list, ascending, [member = std::get<QDateTime R::*>(field->member)](const R &record) {
+            return dateSortKey(record.*member);
+        });
+    case SortKind::Number:
+        return sortBy(list, ascending, [&](const R &record) { return numberSortKey(record, *field); });
+    case SortKind::Text:
+        return sortBy(list, ascending, [member = std::get<QString R::*>(field->member)](const R &record) {
+            return (record.*member).toCaseFolded();
+        });
+    case SortKind::Flag:
+        return sortBy(list, ascending, [&](const R &record) { return numberSortKey(record, *field) != 0 ? 1.0 : 0.0; });
+    }
 }
 
 } // namespace
 
 void sortRecordList(std::vector<std::shared_ptr<ConditionData>> &list, const QString &identifier, bool ascending)
 {
-    if (identifier == u"date")
-        sortByDate(list, ascending);
-    else
-        sortByNumber(list, identifier, ascending, [](float value) { return value; });
+    sortByField(list, identifier, ascending);
 }
 
 void sortRecordList(std::vector<std::shared_ptr<ExpenseData>> &list, const QString &identifier, bool ascending)
 {
-    if (identifier == u"date")
-        sortByDate(list, ascending);
-    else if (identifier == u"amount")
-        sortBy(list, ascending, [](const ExpenseData &record) { return record.amount.toDouble(); });
-    else
-        sortByText(list, identifier, ascending);
+    sortByField(list, identifier, ascending);
 }
 
 void sortRecordList(std::vector<std::shared_ptr<InventoryData>> &list, const QString &identifier, bool ascending)
 {
-    if (identifier == u"item")
-        sortByText(list, identifier, ascending);
-    else
-        sortByNumber(list, identifier, ascending, [](float value) { return plistfield::wholeNumber(double(value)); });
+    sortByField(list, identifier, ascending);
 }
 
 void sortRecordList(std::vector<std::shared_ptr<NoteData>> &list, const QString &identifier, bool ascending)
 {
-    if (identifier == u"date")
-        sortByDate(list, ascending);
-    else
-        sortByText(list, identifier, ascending);
+    sortByField(list, identifier, ascending);
 }
 
 void sortRecordList(std::vector<std::shared_ptr<ScheduleData>> &list, const QString &identifier, bool ascending)
 {
-    // The next due date's column sorts by the due date too.
-    if (identifier == u"date" || identifier == u"next")
-        sortByDate(list, ascending);
-    else if (identifier == u"activity")
-        sortByText(list, identifier, ascending);
-    else
-        sortByNumber(list, identifier, ascending, [](float value) { return value != 0; });
+    // The column of the next date is sorted by the due date too.
+    const bool isNextDate = identifier == u"next";
+    sortByField(list, isNextDate ? QStringView(u"date") : QStringView(identifier), ascending);
 }
 
 } // namespace brinemark

@@ -17,8 +17,9 @@ struct InventoryData;
 struct NoteData;
 struct ScheduleData;
 
-/// Sorts a record list in place; descending is the exact negation of ascending, equal records keep their order.
-/// Livestock lists have no order of their own: nothing is done. Unknown identifiers leave the list as it is.
+/// Sorts a record list in place by the field of this key, as the field's sort kind says; the schedule also takes "next"
+/// for its due date. Records that compare as equal keep their order in both directions. An unknown key leaves the list
+/// as it is, and so does any key on a livestock list, which has no order of its own.
 void sortRecordList(std::vector<std::shared_ptr<ConditionData>> &list, const QString &identifier, bool ascending);
 void sortRecordList(std::vector<std::shared_ptr<ExpenseData>> &list, const QString &identifier, bool ascending);
 void sortRecordList(std::vector<std::shared_ptr<InventoryData>> &list, const QString &identifier, bool ascending);

@@ -11,7 +11,6 @@
 #include "model/TankReadError.h"
 
 #include <cmath>
-#include <string_view>
 
 namespace brinemark
 {
@@ -20,11 +19,6 @@ namespace
 {
 
 const auto parentKey = QStringLiteral("Parent");
-
-constexpr std::u16string_view characters(QStringView text)
-{
-    return {text.utf16(), std::size_t(text.size())};
-}
 
 /// The indices of a field table, ordered by file key. Dictionaries are ordered by key too, so reading and writing a
 /// record walk both in parallel instead of searching for each key.

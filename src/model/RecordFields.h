@@ -16,16 +16,16 @@ namespace brinemark
 {
 
 /// A water test's field of a parameter: its keys and encoding are those of the parameter table.
-constexpr Field<ConditionData> parameterField(Parameter parameter, Field<ConditionData>::Member member,
-                                              Missing missing = Missing::Zero, Copied copied = Copied::Yes,
-                                              QStringView onlyWith = {})
+constexpr Field<ConditionData> parameterField(Parameter parameter, Field<ConditionData>::Member member, Missing missing,
+                                              Copied copied = Copied::Yes, QStringView onlyWith = {})
 {
     const ParameterTraits &traits = traitsOf(parameter);
     const Encoding encoding = traits.integral ? Encoding::IntegerText : Encoding::FloatText;
-    return {traits.identifier, traits.testFileKey, member, encoding, missing, copied, onlyWith, nullptr};
+    return {traits.identifier, traits.testFileKey, member, SortKind::Number, encoding, missing, copied, onlyWith};
 }
 
-/// One of the seven that came with alkalinity: in a test without that key all of them read as a measured 0.
+/// The field of one of the seven parameters that the file form gained together with alkalinity: in a test without
+/// alkalinity's key all seven read as a measured 0.
 constexpr Field<ConditionData> withAlkalinity(Parameter parameter, Field<ConditionData>::Member member)
 {
     return parameterField(parameter, member, Missing::Zero, Copied::Yes, traitsOf(Parameter::Alkalinity).testFileKey);
@@ -37,41 +37,41 @@ template <>
 struct FieldTable<ItemData> {
     using R = ItemData;
     static constexpr std::array<Field<R>, 19> fields{{
-        {u"ph",          u"ph",          &R::ph,          Encoding::FloatText},
-        {u"KH",          u"KH",          &R::KH,          Encoding::FloatText},
-        {u"temp",        u"Temp",        &R::temp,        Encoding::Text,        Missing::ReadFails},
-        {u"gHardness",   u"GHardness",   &R::gHardness,   Encoding::WholeText},
-        {u"sciName",     u"SciName",     &R::sciName,     Encoding::Text,        Missing::ReadFails},
-        {u"name",        u"Name",        &R::name,        Encoding::Text,        Missing::ReadFails},
-        {u"family",      u"Family",      &R::family,      Encoding::Text,        Missing::ReadFails},
-        {u"size",        u"Size",        &R::size,        Encoding::Text,        Missing::ReadFails},
-        {u"socialLevel", u"SocialLevel", &R::socialLevel, Encoding::Text,        Missing::ReadFails},
-        {u"lifeSpan",    u"LifeSpan",    &R::lifeSpan,    Encoding::Text,        Missing::ReadFails},
-        {u"tankLevel",   u"TankLevel",   &R::tankLevel,   Encoding::Text,        Missing::ReadFails},
-        {u"diet",        u"Diet",        &R::diet,        Encoding::Text,        Missing::ReadFails},
-        {u"breeding",    u"Breeding",    &R::breeding,    Encoding::Text,        Missing::ReadFails},
-        {u"care",        u"Care",        &R::care,        Encoding::Text,        Missing::ReadFails},
-        {u"notes",       u"Notes",       &R::notes,       Encoding::Text,        Missing::Keep},
-        {u"salt",        u"Salt",        &R::salt,        Encoding::FloatText},
-        {u"count",       u"Count",       &R::count,       Encoding::IntegerText},
-        {u"reefSafe",    u"ReefSafe",    &R::reefSafe,    Encoding::Integer,     Missing::Keep, Copied::No},
-        {u"itemImage",   u"FishImage",   &R::itemImage,   Encoding::Picture,     Missing::Keep},
+        {u"ph",          u"ph",          &R::ph,          SortKind::None, Encoding::FloatText},
+        {u"KH",          u"KH",          &R::KH,          SortKind::None, Encoding::FloatText},
+        {u"temp",        u"Temp",        &R::temp,        SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"gHardness",   u"GHardness",   &R::gHardness,   SortKind::None, Encoding::WholeText},
+        {u"sciName",     u"SciName",     &R::sciName,     SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"name",        u"Name",        &R::name,        SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"family",      u"Family",      &R::family,      SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"size",        u"Size",        &R::size,        SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"socialLevel", u"SocialLevel", &R::socialLevel, SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"lifeSpan",    u"LifeSpan",    &R::lifeSpan,    SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"tankLevel",   u"TankLevel",   &R::tankLevel,   SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"diet",        u"Diet",        &R::diet,        SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"breeding",    u"Breeding",    &R::breeding,    SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"care",        u"Care",        &R::care,        SortKind::None, Encoding::Text,        Missing::ReadFails},
+        {u"notes",       u"Notes",       &R::notes,       SortKind::None, Encoding::Text,        Missing::Keep},
+        {u"salt",        u"Salt",        &R::salt,        SortKind::None, Encoding::FloatText},
+        {u"count",       u"Count",       &R::count,       SortKind::None, Encoding::IntegerText},
+        {u"reefSafe",    u"ReefSafe",    &R::reefSafe,    SortKind::None, Encoding::Integer,     Missing::Keep, Copied::No},
+        {u"itemImage",   u"FishImage",   &R::itemImage,   SortKind::None, Encoding::Picture,     Missing::Keep},
     }};
 };
 
 template <>
 struct FieldTable<ConditionData> {
     using R = ConditionData;
-    static constexpr std::array<Field<R>, 18> fields{{
-        {u"date", u"Date", &R::date, Encoding::DateText, Missing::Keep},
-        parameterField(Parameter::Ph, &R::ph),
-        parameterField(Parameter::Ammonia, &R::ammonia),
-        parameterField(Parameter::Nitrate, &R::nitrate),
-        parameterField(Parameter::Nitrite, &R::nitrite),
-        parameterField(Parameter::GH, &R::gH),
-        parameterField(Parameter::KH, &R::kH),
-        parameterField(Parameter::Salt, &R::salt),
-        parameterField(Parameter::Temp, &R::temp),
+    static constexpr std::array<Field<R>, 1 + parameterCount> fields{{
+        {u"date", u"Date", &R::date, SortKind::Date, Encoding::DateText, Missing::Keep},
+        parameterField(Parameter::Ph, &R::ph, Missing::Zero),
+        parameterField(Parameter::Ammonia, &R::ammonia, Missing::Zero),
+        parameterField(Parameter::Nitrate, &R::nitrate, Missing::Zero),
+        parameterField(Parameter::Nitrite, &R::nitrite, Missing::Zero),
+        parameterField(Parameter::GH, &R::gH, Missing::Zero),
+        parameterField(Parameter::KH, &R::kH, Missing::Zero),
+        parameterField(Parameter::Salt, &R::salt, Missing::Zero),
+        parameterField(Parameter::Temp, &R::temp, Missing::Zero),
         withAlkalinity(Parameter::Alkalinity, &R::alkalinity),
         withAlkalinity(Parameter::Phosphate, &R::phosphate),
         withAlkalinity(Parameter::Calcium, &R::calcium),
@@ -84,14 +84,29 @@ struct FieldTable<ConditionData> {
     }};
 };
 
+/// Whether the fields after the date are the parameters in `recordFieldOrder`, each with a member of its type.
+consteval bool conditionFieldsFollowParameters()
+{
+    for (std::size_t i = 0; i < parameterCount; ++i) {
+        const ParameterTraits &traits = traitsOf(recordFieldOrder[i]);
+        const Field<ConditionData> &field = FieldTable<ConditionData>::fields[i + 1];
+        const bool isWhole = std::holds_alternative<qint32 ConditionData::*>(field.member);
+        if (characters(field.key) != characters(traits.identifier) || isWhole != traits.integral)
+            return false;
+    }
+    return true;
+}
+static_assert(conditionFieldsFollowParameters(),
+              "FieldTable<ConditionData> needs one field for each Parameter, in recordFieldOrder");
+
 template <>
 struct FieldTable<ExpenseData> {
     using R = ExpenseData;
     static constexpr std::array<Field<R>, 4> fields{{
-        {u"date",    u"Date",    &R::date,    Encoding::DateText, Missing::Keep},
-        {u"expense", u"Expense", &R::expense, Encoding::Text,     Missing::ReadFails},
-        {u"amount",  u"Amount",  &R::amount,  Encoding::Number,   Missing::Keep},
-        {u"type",    u"Type",    &R::type,    Encoding::Text,     Missing::ReadFails},
+        {u"date",    u"Date",    &R::date,    SortKind::Date,   Encoding::DateText, Missing::Keep},
+        {u"expense", u"Expense", &R::expense, SortKind::Text,   Encoding::Text,     Missing::ReadFails},
+        {u"amount",  u"Amount",  &R::amount,  SortKind::Number, Encoding::Number,   Missing::Keep},
+        {u"type",    u"Type",    &R::type,    SortKind::Text,   Encoding::Text,     Missing::ReadFails},
     }};
 };
 
@@ -99,8 +114,8 @@ template <>
 struct FieldTable<InventoryData> {
     using R = InventoryData;
     static constexpr std::array<Field<R>, 2> fields{{
-        {u"item",  u"Item",  &R::item,  Encoding::Text, Missing::ReadFails},
-        {u"count", u"Count", &R::count, Encoding::IntegerText},
+        {u"item",  u"Item",  &R::item,  SortKind::Text,   Encoding::Text, Missing::ReadFails},
+        {u"count", u"Count", &R::count, SortKind::Number, Encoding::IntegerText},
     }};
 };
 
@@ -108,20 +123,21 @@ template <>
 struct FieldTable<NoteData> {
     using R = NoteData;
     static constexpr std::array<Field<R>, 2> fields{{
-        {u"date", u"Date", &R::date, Encoding::DateText, Missing::Keep},
-        {u"note", u"Note", &R::note, Encoding::Text,     Missing::ReadFails},
+        {u"date", u"Date", &R::date, SortKind::Date, Encoding::DateText, Missing::Keep},
+        {u"note", u"Note", &R::note, SortKind::Text, Encoding::Text,     Missing::ReadFails},
     }};
 };
 
 template <>
 struct FieldTable<ScheduleData> {
     using R = ScheduleData;
+    // The interval to the next date sorts as a flag: activities without one come before all others.
     static constexpr std::array<Field<R>, 5> fields{{
-        {u"date",           u"Date",           &R::date,             Encoding::DateText,  Missing::Keep},
-        {u"activity",       u"Activity",       &R::activity,         Encoding::Text,      Missing::ReadFails},
-        {u"complete",       u"Complete",       &R::m_complete,       Encoding::FlagText,  Missing::Zero, Copied::Yes, {}, &R::setComplete},
-        {u"nextDate",       u"NextDate",       &R::nextDate,         Encoding::FloatText},
-        {u"autoReschedule", u"AutoReschedule", &R::m_autoReschedule, Encoding::FlagText,  Missing::Zero, Copied::Yes, {}, &R::setAutoReschedule},
+        {u"date",           u"Date",           &R::date,             SortKind::Date, Encoding::DateText,  Missing::Keep},
+        {u"activity",       u"Activity",       &R::activity,         SortKind::Text, Encoding::Text,      Missing::ReadFails},
+        {u"complete",       u"Complete",       &R::m_complete,       SortKind::Flag, Encoding::FlagText,  Missing::Zero, Copied::Yes, {}, &R::setComplete},
+        {u"nextDate",       u"NextDate",       &R::nextDate,         SortKind::Flag, Encoding::FloatText},
+        {u"autoReschedule", u"AutoReschedule", &R::m_autoReschedule, SortKind::Flag, Encoding::FlagText,  Missing::Zero, Copied::Yes, {}, &R::setAutoReschedule},
     }};
 };
 
@@ -129,11 +145,11 @@ template <>
 struct FieldTable<TankData> {
     using R = TankData;
     static constexpr std::array<Field<R>, 5> fields{{
-        {u"name",           u"name",        &R::name,           Encoding::Text, Missing::Keep},
-        {u"preferredValue", u"preferred",   &R::preferredValue, Encoding::Real},
-        {u"warningOn",      u"warningOn",   &R::warningOn,      Encoding::Flag},
-        {u"deviationOn",    u"deviationOn", &R::deviationOn,    Encoding::Flag},
-        {u"deviationValue", u"deviation",   &R::deviationValue, Encoding::Real},
+        {u"name",           u"name",        &R::name,           SortKind::None, Encoding::Text, Missing::Keep},
+        {u"preferredValue", u"preferred",   &R::preferredValue, SortKind::None, Encoding::Real},
+        {u"warningOn",      u"warningOn",   &R::warningOn,      SortKind::None, Encoding::Flag},
+        {u"deviationOn",    u"deviationOn", &R::deviationOn,    SortKind::None, Encoding::Flag},
+        {u"deviationValue", u"deviation",   &R::deviationValue, SortKind::None, Encoding::Real},
     }};
 };
 

@@ -92,6 +92,27 @@ private Q_SLOTS:
         QCOMPARE(valuesNow(), up);
     }
 
+    /// The interval to the next date counts as on or off: 7 and 3 are equal, and equal records keep their order.
+    void intervalsAsFlags()
+    {
+        Tank tank(QStringLiteral("T"));
+        for (const float interval : {7.0F, 0.0F, 3.0F, 0.0F, 5.0F}) {
+            tank.schedule()->appendRecord(std::make_shared<ScheduleData>());
+            ScheduleData &record = *tank.scheduleListArray().back();
+            record.nextDate = interval;
+            record.activity = QString::number(tank.schedule()->count());
+        }
+        const auto order = [&](bool ascending) {
+            tank.schedule()->sortWithIdentifier(QStringLiteral("nextDate"), ascending);
+            QString activities;
+            for (const auto &record : tank.scheduleListArray())
+                activities += record->activity;
+            return activities;
+        };
+        QCOMPARE(order(true), QStringLiteral("24135"));
+        QCOMPARE(order(false), QStringLiteral("13524"));
+    }
+
     void livestockKeepsItsOrder()
     {
         Tank tank(QStringLiteral("T"));
