@@ -13,6 +13,31 @@ namespace
 
 constexpr Parameter firstMarineParameter = Parameter::Salt;
 
+std::unique_ptr<Container> makeContainer(ContainerKind kind, Tank *tank)
+{
+    switch (kind) {
+    case ContainerKind::Fish:
+        return std::make_unique<Fish>(tank);
+    case ContainerKind::Plant:
+        return std::make_unique<Plant>(tank);
+    case ContainerKind::Invert:
+        return std::make_unique<Invert>(tank);
+    case ContainerKind::Coral:
+        return std::make_unique<Coral>(tank);
+    case ContainerKind::Condition:
+        return std::make_unique<Condition>(tank);
+    case ContainerKind::Schedule:
+        return std::make_unique<Schedule>(tank);
+    case ContainerKind::Inventory:
+        return std::make_unique<Inventory>(tank);
+    case ContainerKind::Expense:
+        return std::make_unique<Expense>(tank);
+    case ContainerKind::Note:
+        break;
+    }
+    return std::make_unique<Note>(tank);
+}
+
 } // namespace
 
 QStringList defaultExpenseCategories()
@@ -25,10 +50,8 @@ Tank::Tank(Blank)
     : freshwater(false)
     , m_anchor(std::make_shared<Tank *>(this))
 {
-    m_containers = {
-        std::make_unique<Fish>(this),      std::make_unique<Plant>(this),     std::make_unique<Invert>(this),
-        std::make_unique<Coral>(this),     std::make_unique<Condition>(this), std::make_unique<Schedule>(this),
-        std::make_unique<Inventory>(this), std::make_unique<Expense>(this),   std::make_unique<Note>(this)};
+    for (const ContainerTraits &traits : containerTraitsTable)
+        m_containers[std::size_t(traits.kind)] = makeContainer(traits.kind, this);
     for (const ParameterTraits &traits : parameterTable)
         setTarget(traits.parameter, std::make_shared<TankData>(this));
 }
