@@ -20,8 +20,7 @@ using brinemark::test::writeFile;
 namespace
 {
 
-/// A file of its own for every case: within a process the toolkit keeps what it knows of a file that it has read
-/// before.
+/// A new file for every case: within a process the toolkit keeps what it has read of a file.
 QString freshPreferencesPath(const QString &name = QStringLiteral("Brinemark.plist"))
 {
     static int count = 0;
@@ -43,7 +42,7 @@ QStringList filesBeside(const QString &path)
 
 } // namespace
 
-/// The preferences store: types survive the file, absence is absence, a damaged file is kept and costs nothing else.
+/// The preferences store: types survive the file, an absent key is not a value, and a damaged file is kept aside.
 class TestPreferences : public QObject
 {
     Q_OBJECT
@@ -128,27 +127,18 @@ private Q_SLOTS:
                       plist::Value(plist::Dict{{"ConvertState", plist::Value(true)},
                                                {"ConvertWindowPoint", plist::Value(QStringLiteral("{1.5, 2}"))}})},
                  }));
-
-        const Preferences again(copyElsewhere(path));
-        QCOMPARE(again.value(preference::autoSaveOnQuit), true);
-        QCOMPARE(again.value(preference::updateLastChecked), checked);
-        QCOMPARE(again.value(preference::convertWindowState), window);
     }
 
     void lenientReading_data()
     {
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<QVariant>("flag"); // an invalid one where the value reads as absent
-        QTest::addColumn<QVariant>("number");
-        QTest::addColumn<QVariant>("text");
+        // flag: an invalid one where the value reads as absent
+        test::columns<QVariant, QVariant, QVariant, QVariant>("stored", "flag", "number", "text");
         const QVariant absent;
         row("flag", QVariant(true), QVariant(true), QVariant(1), QVariant("true"));
         row("number", QVariant(7), QVariant(true), QVariant(7), QVariant("7"));
-        row("zero", QVariant(0), QVariant(false), QVariant(0), QVariant("0"));
         row("number as text", QVariant(" 42 "), QVariant(true), QVariant(42), QVariant(" 42 "));
         row("YES", QVariant("YES"), QVariant(true), absent, QVariant("YES"));
         row("word", QVariant("often"), absent, absent, QVariant("often"));
-        row("comma", QVariant("2,5"), absent, absent, QVariant("2,5"));
         row("beyond 32 bits", QVariant(qint64(1) << 40), QVariant(true), absent, QVariant("1099511627776"));
         row("date", QVariant(distantPast()), absent, absent, absent);
         row("map", QVariant(QVariantMap{{"a", 1}}), absent, absent, absent);
@@ -176,10 +166,7 @@ private Q_SLOTS:
     void damagedFileIsSetAside_data()
     {
         QTest::addColumn<QByteArray>("bytes");
-        const QByteArray good = bytesOf(QStringLiteral(BRINEMARK_TEST_DATA "/preferences/written-by-python.plist"));
-        QTest::newRow("cut short") << good.left(good.size() / 2);
         QTest::newRow("not a property list") << QByteArray("[General]\nautoSaveOnQuit=true\n");
-        QTest::newRow("not a dictionary") << QByteArray("<plist version=\"1.0\"><array/></plist>");
         QTest::newRow("bytes") << QByteArray(1000, '\0');
     }
 

@@ -37,8 +37,7 @@ private Q_SLOTS:
 
     void languageChain_data()
     {
-        QTest::addColumn<QStringList>("chosen");
-        QTest::addColumn<QStringList>("chain");
+        test::columns<QStringList, QStringList>("chosen", "chain");
         QTest::newRow("region") << QStringList{"de-AT"} << QStringList{"de_AT", "de", "en"};
         QTest::newRow("English region") << QStringList{"en_US"} << QStringList{"en_US", "en"};
         QTest::newRow("script") << QStringList{"en-Latn-US", "en-US", "en"} << QStringList{"en_US", "en"};
@@ -54,8 +53,7 @@ private Q_SLOTS:
 
     void lookUp_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("cancelText");
+        test::columns<QString, QString>("language", "cancelText");
         row("German", "de", "Abbrechen");
         row("German region", "de_AT", "Abbrechen");
         row("region that has only what differs", "en_US", "Cancel");
@@ -81,8 +79,7 @@ private Q_SLOTS:
 
     void numbers_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<double>("temperature");
+        test::columns<QString, double>("language", "temperature");
         QTest::newRow("Celsius") << "de_DE" << 25.0;
         QTest::newRow("Fahrenheit") << "en_US" << 78.0;
     }
@@ -100,9 +97,7 @@ private Q_SLOTS:
 
     void placeholders_data()
     {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<QStringList>("values");
-        QTest::addColumn<QString>("filled");
+        test::columns<QString, QStringList, QString>("format", "values", "filled");
         QTest::newRow("three") << "^0: ^1 of ^2" << QStringList{"a", "b", "c"} << "a: b of c";
         QTest::newRow("first occurrence only") << "^0 ^0" << QStringList{"a"} << "a ^0";
         QTest::newRow("value with a placeholder") << "^0 ^1" << QStringList{"^1", "b"} << "^1 b";
@@ -120,9 +115,7 @@ private Q_SLOTS:
 
     void formats_data()
     {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<QVariantList>("values");
-        QTest::addColumn<QString>("filled");
+        test::columns<QString, QVariantList, QString>("format", "values", "filled");
         QTest::newRow("text and number") << "%@: %i" << QVariantList{"Reef", 7} << "Reef: 7";
         QTest::newRow("per-cent sign") << "%i%% %@" << QVariantList{50, "full"} << "50% full";
         QTest::newRow("missing values") << "%@-%i-%@" << QVariantList{"a"} << "a--";

@@ -3,6 +3,7 @@
 #include "base/PreferenceKeys.h"
 #include "calc/UnitConversion.h"
 #include "calc/views/ConverterController.h"
+#include "support/DataRow.h"
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
 
@@ -21,10 +22,7 @@ class TestUnitConversion : public QObject
 private Q_SLOTS:
     void converts_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<int>("item");
-        QTest::addColumn<float>("value");
-        QTest::addColumn<float>("result");
+        test::columns<int, int, float, float>("kind", "item", "value", "result");
         const struct {
             int kind;
             int item;

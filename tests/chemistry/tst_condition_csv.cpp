@@ -42,18 +42,11 @@ class TestConditionCsv : public QObject
 private Q_SLOTS:
     void numbers_data()
     {
-        QTest::addColumn<QString>("identifier");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QByteArray>("field");
+        test::columns<QString, QVariant, QByteArray>("identifier", "value", "field");
         using S = QString;
         const auto number = [](double value) { return QVariant(value); };
-        row("decimals", S("ph"), number(7.2), QByteArray("7.2"));
         row("no grouping", S("magnesium"), number(1350), QByteArray("1350"));
-        row("large", S("nitrate"), number(123456.7), QByteArray("123456.7"));
-        row("whole", S("temp"), number(25), QByteArray("25"));
-        row("zero", S("ammonia"), number(0), QByteArray("0"));
         row("not tested", S("ammonia"), number(-1), QByteArray());
-        row("not tested, whole", S("calcium"), number(-1), QByteArray());
         row("a fraction below zero", S("ph"), number(-0.5), QByteArray("-0.5"));
         row("below minus one", S("ph"), number(-1.5), QByteArray());
         row("a column that is none", S("colour"), number(5), QByteArray());
@@ -100,7 +93,6 @@ private Q_SLOTS:
         };
         QCOMPARE(dated("%1d, %1m, %Y"), QByteArray("DATE\r\"9, 2, 2026\"\r"));
         QCOMPARE(dated("%1d, \"%m\""), QByteArray("DATE\r\"9, \"02\"\"\r"));
-        QCOMPARE(dated("\"%d\""), QByteArray("DATE\r\"09\"\r"));
     }
 
     void asPythonWritesIt_data()
@@ -155,10 +147,8 @@ private Q_SLOTS:
         QCOMPARE(python.errors, QByteArray());
         const QList<QByteArray> ours = conditionCsv(*tank.condition(), columns, format).split('\r');
         const QList<QByteArray> theirs = python.output.split('\r');
-        for (qsizetype i = 0; i < std::min(ours.size(), theirs.size()); ++i)
-            QCOMPARE(ours.at(i), theirs.at(i));
-        QCOMPARE(ours.size(), 2002); // the headers, and what follows the last line's end
-        QCOMPARE(theirs.size(), ours.size());
+        QCOMPARE(ours.size(), 2002); // the headers, and the empty rest after the last line
+        QCOMPARE(ours, theirs);
     }
 
     /// The day of a test is that of its own zone, not of the computer's.

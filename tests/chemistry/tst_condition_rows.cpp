@@ -21,15 +21,12 @@ private Q_SLOTS:
 
     void sortsWhenTheSelectionMoves_data()
     {
-        QTest::addColumn<std::function<void(QTableView *)>>("move");
-        QTest::addColumn<QList<int>>("selected");
+        test::columns<std::function<void(QTableView *)>, QList<int>>("move", "selected");
         using Move = std::function<void(QTableView *)>;
         const QList<int> itself{4};
         row("click", Move([](QTableView *table) { clickCell(table, 2, Ammonia); }), itself);
         row("click and extend", Move([](QTableView *table) { clickCell(table, 2, Ph, Qt::ShiftModifier); }), itself);
-        row("click to add", Move([](QTableView *table) { clickCell(table, 2, Ph, Qt::ControlModifier); }), itself);
         row("down", Move([](QTableView *table) { QTest::keyClick(table, Qt::Key_Down); }), itself);
-        row("end", Move([](QTableView *table) { QTest::keyClick(table, Qt::Key_End, Qt::ControlModifier); }), itself);
         row("select all", Move([](QTableView *table) { table->selectAll(); }), itself);
         row("select row", Move([](QTableView *table) { table->selectRow(3); }), itself);
         row("drag", Move([](QTableView *table) {
@@ -108,9 +105,7 @@ private Q_SLOTS:
 
     void marks_data()
     {
-        QTest::addColumn<float>("value");
-        QTest::addColumn<CellMark::Shape>("shape");
-        QTest::addColumn<bool>("says");
+        test::columns<float, CellMark::Shape, bool>("value", "shape", "says");
         row("low", 7.0F, CellMark::Shape::Below, true);
         row("on the limit", 7.5F, CellMark::Shape::None, false);
         row("high", 8.6F, CellMark::Shape::Above, true);
@@ -136,9 +131,7 @@ private Q_SLOTS:
 
     void menu_data()
     {
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<bool>("enabled");
-        row("none", 0, false);
+        test::columns<int, bool>("rows", "enabled");
         row("one", 1, false);
         row("two", 2, true);
     }

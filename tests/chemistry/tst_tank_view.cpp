@@ -37,9 +37,7 @@ private Q_SLOTS:
 
     void cells_data()
     {
-        QTest::addColumn<bool>("warning");
-        QTest::addColumn<bool>("deviation");
-        QTest::addColumn<bool>("grey");
+        test::columns<bool, bool, bool>("warning", "deviation", "grey");
         row("both off", false, false, true);
         row("band without warning", false, true, true);
         row("warning without band", true, false, true);

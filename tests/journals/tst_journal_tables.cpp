@@ -5,6 +5,7 @@
 #include "journals/views/NoteListController.h"
 #include "journals/views/ScheduleListController.h"
 #include "support/AlertDriver.h"
+#include "support/DataRow.h"
 #include "support/ListDriver.h"
 #include "support/TestProgram.h"
 
@@ -117,10 +118,7 @@ private Q_SLOTS:
 
     void deleteAsks_data()
     {
-        QTest::addColumn<bool>("schedule");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<int>("left");
-        QTest::addColumn<int>("changes");
+        test::columns<bool, QString, int, int>("schedule", "button", "left", "changes");
         QTest::newRow("schedule, yes") << true << "defaultButton" << 1 << 1;
         QTest::newRow("schedule, cancel") << true << "alternateButton" << 3 << 0;
         QTest::newRow("notes, yes") << false << "defaultButton" << 1 << 0; // deleting notes counts no change

@@ -5,6 +5,7 @@
 #include "livestock/views/FishDataEntryController.h"
 #include "livestock/views/ItemSheet.h"
 #include "livestock/views/LivestockGroupController.h"
+#include "support/DataRow.h"
 #include "support/RecordingShell.h"
 #include "support/TestHome.h"
 #include "support/TestProgram.h"
@@ -43,8 +44,7 @@ private Q_SLOTS:
 
     void newRecord_data()
     {
-        QTest::addColumn<ContainerKind>("kind");
-        QTest::addColumn<QString>("name");
+        test::columns<ContainerKind, QString>("kind", "name");
         QTest::newRow("fish") << ContainerKind::Fish << text("NewFishName");
         QTest::newRow("plant") << ContainerKind::Plant << text("NewPlantName");
         QTest::newRow("invert") << ContainerKind::Invert << text("NewInvertName");

@@ -3,10 +3,12 @@
 #include "ModelTest.h"
 
 #include "base/PreferenceKeys.h"
+#include "support/DataRow.h"
 
 #include <QTimeZone>
 
 using namespace brinemark;
+using test::row;
 
 class OverdueTest : public QObject
 {
@@ -15,12 +17,8 @@ class OverdueTest : public QObject
 private Q_SLOTS:
     void dueFromMidnightOfItsOwnZone_data()
     {
-        QTest::addColumn<QDateTime>("date");
-        QTest::addColumn<QString>("now"); // UTC
-        QTest::addColumn<bool>("due");
-        const auto row = [](const char *name, const QDateTime &date, const char *now, bool due) {
-            QTest::newRow(name) << date << QString::fromLatin1(now) << due;
-        };
+        // now: UTC
+        test::columns<QDateTime, QString, bool>("date", "now", "due");
         const QDateTime berlin(QDate(2026, 3, 14), QTime(18, 0), Qt::OffsetFromUTC, 3600);
         row("a second before its midnight", berlin, "2026-03-13T22:59:59Z", false);
         row("at its midnight", berlin, "2026-03-13T23:00:00Z", true);

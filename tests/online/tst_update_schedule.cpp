@@ -4,6 +4,7 @@
 #include "base/PreferenceKeys.h"
 #include "online/UpdateSchedule.h"
 #include "online/views/QZUpdateController.h"
+#include "support/DataRow.h"
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
 
@@ -35,10 +36,8 @@ class TestUpdateSchedule : public QObject
 private Q_SLOTS:
     void checksWhenDue_data()
     {
-        QTest::addColumn<QVariant>("automatic");
-        QTest::addColumn<int>("secondsAgo"); // -1: never stored
-        QTest::addColumn<int>("frequency");
-        QTest::addColumn<bool>("checks");
+        // secondsAgo: -1: never stored
+        test::columns<QVariant, int, int, bool>("automatic", "secondsAgo", "frequency", "checks");
         constexpr int week = 604800;
         QTest::newRow("off") << QVariant(false) << 10 * week << week << false;
         QTest::newRow("nothing stored") << QVariant() << 10 * week << week << false;

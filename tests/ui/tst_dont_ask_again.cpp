@@ -15,8 +15,8 @@ using namespace brinemark;
 using namespace brinemark::test;
 using Panel = AlertPanelDontAskAgain;
 
-/// How a case asks, what it does to the alert when it comes up, and what is to come of it. A missing number is
-/// "nothing".
+/// What a case asks, how the alert is answered, and the expected outcome. A missing number means that nothing is
+/// stored.
 struct Case {
     std::optional<int> stored = {};
     std::optional<int> ownCode = {};
@@ -159,30 +159,6 @@ private Q_SLOTS:
         QCOMPARE(Panel::valueForIdentifier(identifier), 0);
         Panel::beginSheetForWindow(m_window.get(), question());
         QVERIFY(!shownAlert());
-    }
-
-    void growsWithItsTexts()
-    {
-        const auto sizeWith = [&](const QString &message, const QString &button) {
-            Panel::Question ask = question();
-            ask.message = message;
-            ask.defaultButton = button;
-            ask.alternateButton.clear();
-            Panel::beginSheetForWindow(m_window.get(), ask);
-            const AlertDialog &sheet = *shownAlert();
-            const QPushButton *only = sheet.button(AlertDefault);
-            const QSize size(only->width(), sheet.height());
-            if (sheet.button(AlertAlternate) || only->text() != (button.isEmpty() ? "OK" : button))
-                return QSize();
-            pressAlertButton("defaultButton");
-            return size;
-        };
-        const QSize small = sizeWith("Short.", {});
-        const QSize large =
-            sizeWith(QString("A long message of many words. ").repeated(20), QString("wide ").repeated(20));
-        QCOMPARE(small.width(), 82);
-        QVERIFY(large.width() > 82);
-        QVERIFY(large.height() > small.height() + 60);
     }
 
 private:

@@ -15,6 +15,7 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
 
 using namespace brinemark;
 using brinemark::test::bytesOf;
@@ -36,16 +37,11 @@ public:
         GraphSymbol symbol = GraphSymbol::None;
         QString name = {};
     };
-    struct Asked {
-        int index;
-        GraphAxis axis;
-        QString label;
-    };
-
     QList<Line> lines;
     GraphRange x{0, 10};
     GraphRange y{0, 20};
-    mutable QList<Asked> asked;
+    /// The labels asked for, in the order of their indexes.
+    mutable std::map<GraphAxis, QStringList> asked;
 
     int numberOfLinesInTwoDGraphView(const TwoDGraphView &) const override { return int(lines.size()); }
     QList<QPointF> dataForLineIndex(const TwoDGraphView &, int line) const override { return lines[line].points; }
@@ -63,25 +59,12 @@ public:
     }
     QString labelForTickMarkIndex(const TwoDGraphView &, int index, GraphAxis axis, const QString &label) const override
     {
-        asked.append({index, axis, label});
+        asked[axis].append(index == asked[axis].size() ? label : QStringLiteral("out of order"));
         return u'<' + label + u'>';
     }
     QString stringForToolTip(const TwoDGraphView &, QPointF point) const override
     {
         return QStringLiteral("at %1, %2").arg(point.x()).arg(point.y());
-    }
-
-    [[nodiscard]] QStringList labelsAsked(GraphAxis axis) const
-    {
-        QStringList labels;
-        for (const Asked &each : asked) {
-            if (each.axis == axis) {
-                if (each.index != labels.size())
-                    return {QStringLiteral("out of order")};
-                labels.append(each.label);
-            }
-        }
-        return labels;
     }
 };
 
@@ -147,8 +130,6 @@ private:
         QApplication::sendEvent(m_view.get(), &event);
     }
 
-    [[nodiscard]] QPointF middle() const { return m_view->positionOf({5, 10}); }
-
 private Q_SLOTS:
     void init()
     {
@@ -181,12 +162,10 @@ private Q_SLOTS:
     void hiddenLinesAreNotDrawn()
     {
         m_view->setLineVisible(1, false);
+        m_view->reloadData();
         QVERIFY(!m_view->isLineVisible(1));
-        QVERIFY(m_view->isLineVisible(0));
         QCOMPARE(pixelsOf(shot(), m_blue), 0);
         QVERIFY(pixelsOf(shot(), m_red) > 100);
-        m_view->reloadData();
-        QCOMPARE(pixelsOf(shot(), m_blue), 0);
         m_view->setLineVisible(1, true);
         QVERIFY(pixelsOf(shot(), m_blue) > 100);
     }
@@ -194,8 +173,7 @@ private Q_SLOTS:
     /// A colour hardly different from the background is given an edge, and stays what it is.
     void linesCanBeSeen_data()
     {
-        QTest::addColumn<QPalette>("palette");
-        QTest::addColumn<QColor>("colour");
+        test::columns<QPalette, QColor>("palette", "colour");
         row("yellow on white", QPalette(QColor("#efefef")), QColor::fromRgbF(0.95F, 0.95F, 0.38F));
         row("grey on dark", darkPalette(), QColor::fromRgbF(0.21F, 0.21F, 0.21F));
     }
@@ -229,34 +207,26 @@ private Q_SLOTS:
         QCOMPARE(colourAt(shot(), outside), base);
         m_view->setHighlightedBand(GraphBand{11, 11, Qt::darkGreen});
         QVERIFY(shows(shot(), within, Qt::darkGreen));
-        m_view->setHighlightedBand({});
-        QCOMPARE(pixelsOf(shot(), Qt::darkGreen), 0);
-        // One that reaches far beyond the axis fills it.
+        // A band far beyond the axis fills the whole plot.
         m_view->setHighlightedBand(GraphBand{-1e30, 1e30, Qt::darkGreen});
         QVERIFY(colourAt(shot(), outside) != base);
-        QVERIFY(colourAt(shot(), within) != base);
+        m_view->setHighlightedBand({});
+        QCOMPARE(colourAt(shot(), outside), base);
     }
 
     void tickLabelsAreAskedOfTheDelegate()
     {
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::X), QStringList({"0", "5", "10"}));
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::Y), QStringList({"0", "5", "10", "15", "20"}));
+        QCOMPARE(m_graph.asked[GraphAxis::X], QStringList({"0", "5", "10"}));
+        QCOMPARE(m_graph.asked[GraphAxis::Y], QStringList({"0", "5", "10", "15", "20"}));
 
         m_graph.asked.clear();
         m_graph.x = {-1, 1};
         m_graph.y = {0, 1234567};
-        m_view->setNumberOfTickMarks(5, GraphAxis::X);
+        m_view->setNumberOfTickMarks(1, GraphAxis::X);
         m_view->setNumberOfTickMarks(2, GraphAxis::Y);
         m_view->reloadData();
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::X), QStringList({"-1", "-0.5", "0", "0.5", "1"}));
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::Y), QStringList({"0", "1.23457e+06"}));
-
-        m_graph.asked.clear();
-        m_view->setNumberOfTickMarks(1, GraphAxis::X);
-        m_view->setNumberOfTickMarks(0, GraphAxis::Y);
-        m_view->reloadData();
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::X), QStringList("-1"));
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::Y), QStringList());
+        QCOMPARE(m_graph.asked[GraphAxis::X], QStringList("-1"));
+        QCOMPARE(m_graph.asked[GraphAxis::Y], QStringList({"0", "1.23457e+06"}));
     }
 
     void pointsThatAreNotFiniteAreLeftOut()
@@ -275,13 +245,10 @@ private Q_SLOTS:
         m_graph.lines[1].points.clear();
         m_view->reloadData();
         QCOMPARE(pixelsOf(shot(), m_red) + pixelsOf(shot(), m_blue), 0);
-        m_graph.lines.clear();
-        m_view->reloadData();
-        QVERIFY(m_view->visibleRange(GraphAxis::Y) == (GraphRange{0, 1}));
         m_view->setDataSource(nullptr);
         m_view->setDelegate(nullptr);
         m_view->reloadData();
-        QVERIFY(!shot().isNull());
+        QVERIFY(m_view->visibleRange(GraphAxis::Y) == (GraphRange{0, 1}));
     }
 
     void wheelZoomsAroundThePointer()
@@ -294,10 +261,10 @@ private Q_SLOTS:
         QVERIFY(QLineF(m_view->positionOf({2, 15}), position).length() < 8); // the margins follow the labels
         QVERIFY(std::abs(m_view->visibleRange(GraphAxis::X).length() - 8) < 1e-9);
         QVERIFY(std::abs(m_view->visibleRange(GraphAxis::Y).length() - 16) < 1e-9);
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::X).size(), 3); // spaced anew over what is visible
+        QCOMPARE(m_graph.asked[GraphAxis::X].size(), 3); // spaced anew over what is visible
         const GraphRange x = m_view->visibleRange(GraphAxis::X);
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::X).first(), QString::asprintf("%g", x.min));
-        QCOMPARE(m_graph.labelsAsked(GraphAxis::X).last(), QString::asprintf("%g", x.max));
+        QCOMPARE(m_graph.asked[GraphAxis::X].first(), QString::asprintf("%g", x.min));
+        QCOMPARE(m_graph.asked[GraphAxis::X].last(), QString::asprintf("%g", x.max));
         QCOMPARE(changes.size(), 1);
         turnWheel(position, -5);
         QVERIFY(!m_view->isZoomed());
@@ -311,51 +278,35 @@ private Q_SLOTS:
         QVERIFY(m_view->visibleRange(GraphAxis::Y) != m_view->wholeRange(GraphAxis::Y));
     }
 
-    /// Strongly magnified, the line still passes where it should.
-    void zoomEndsAtAMillionth()
+    void draggingAndKeysMoveWhatIsVisible()
     {
-        const QPointF position = m_view->positionOf({2, 5});
-        for (int i = 0; i < 200; ++i)
-            turnWheel(m_view->positionOf({2, 5}), 1);
-        QVERIFY(std::abs(m_view->visibleRange(GraphAxis::X).length() - 1e-5) < 1e-9);
-        QVERIFY(m_view->visibleRange(GraphAxis::X).contains(2));
-        QVERIFY(shows(shot(), m_view->positionOf({2, 5}), m_red));
-        QTest::mouseDClick(m_view.get(), Qt::LeftButton, {}, position.toPoint());
+        QTest::keyClick(m_view.get(), Qt::Key_Minus);
         QVERIFY(!m_view->isZoomed());
-    }
-
-    void draggingMovesWhatIsVisible()
-    {
-        turnWheel(middle(), 4);
-        const GraphRange before = m_view->visibleRange(GraphAxis::X);
-        const QPoint from = middle().toPoint();
+        QTest::keyClick(m_view.get(), Qt::Key_Plus);
+        QVERIFY(m_view->isZoomed());
+        const auto x = [this] { return m_view->visibleRange(GraphAxis::X); };
+        const GraphRange before = x();
+        const QPoint from = m_view->positionOf({5, 10}).toPoint();
         QTest::mousePress(m_view.get(), Qt::LeftButton, {}, from);
         QMouseEvent moved(QEvent::MouseMove, QPointF(from + QPoint(30, 0)), QPointF(), Qt::NoButton, Qt::LeftButton,
                           {});
         QApplication::sendEvent(m_view.get(), &moved);
-        QVERIFY(m_view->visibleRange(GraphAxis::X).min < before.min);
-        QVERIFY(std::abs(m_view->visibleRange(GraphAxis::X).length() - before.length()) < 1e-9);
-        QMouseEvent farAway(QEvent::MouseMove, QPointF(from + QPoint(1000000, 0)), QPointF(), Qt::NoButton,
-                            Qt::LeftButton, {});
-        QApplication::sendEvent(m_view.get(), &farAway);
-        QCOMPARE(m_view->visibleRange(GraphAxis::X).min, 0.0);
         QTest::mouseRelease(m_view.get(), Qt::LeftButton);
-    }
+        const GraphRange dragged = x();
+        QVERIFY(dragged.min < before.min);
+        QVERIFY(std::abs(dragged.length() - before.length()) < 1e-9);
 
-    void keysZoomAndMove()
-    {
-        QTest::keyClick(m_view.get(), Qt::Key_Plus);
-        QVERIFY(m_view->isZoomed());
-        const GraphRange before = m_view->visibleRange(GraphAxis::X);
         QTest::keyClick(m_view.get(), Qt::Key_Right);
-        QVERIFY(m_view->visibleRange(GraphAxis::X).min > before.min);
+        QVERIFY(x().min > dragged.min);
         QTest::keyClick(m_view.get(), Qt::Key_Left);
+        QVERIFY(std::abs(x().min - dragged.min) < 1e-9);
         const GraphRange y = m_view->visibleRange(GraphAxis::Y);
         QTest::keyClick(m_view.get(), Qt::Key_Up);
         QVERIFY(m_view->visibleRange(GraphAxis::Y).max > y.max);
         QTest::keyClick(m_view.get(), Qt::Key_0);
         QVERIFY(!m_view->isZoomed());
-        QTest::keyClick(m_view.get(), Qt::Key_Minus);
+        QTest::keyClick(m_view.get(), Qt::Key_Plus);
+        QTest::mouseDClick(m_view.get(), Qt::LeftButton, {}, from);
         QVERIFY(!m_view->isZoomed());
     }
 
@@ -448,9 +399,16 @@ private Q_SLOTS:
         printer.setOutputFileName(folder.filePath(QStringLiteral("print.pdf")));
         QVERIFY(m_view->print(printer));
         QVERIFY(bytesOf(printer.outputFileName()).startsWith("%PDF"));
+
+        const QDir missing(folder.filePath(QStringLiteral("missing")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write .*graph\\.png")));
+        QVERIFY(!m_view->saveImage(missing.filePath(QStringLiteral("graph.png"))));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write .*graph\\.pdf")));
+        QVERIFY(!m_view->savePdf(missing.filePath(QStringLiteral("graph.pdf"))));
+        QVERIFY(!missing.exists());
     }
 
-    // On paper the graph stands alone: it says what it is and which line is which.
+    // On paper nothing else names the graph and its lines.
     void paperHasTitleAndLegend()
     {
         const QTemporaryDir folder;
@@ -463,7 +421,7 @@ private Q_SLOTS:
         const int titled = saved().height();
         QVERIFY(titled > bare);
 
-        const QColor lime(10, 230, 40); // beyond the top: to be seen in the legend alone
+        const QColor lime(10, 230, 40); // beyond the top, so that only the legend shows it
         m_graph.lines.append({lime, {{0, 90}, {10, 90}}, GraphSymbol::None, QStringLiteral("pH")});
         m_view->reloadData();
         const QImage named = saved();
@@ -471,7 +429,7 @@ private Q_SLOTS:
         QVERIFY(legend > 0);
         QVERIFY(pixelsOf(named.copy(0, titled, named.width(), legend), lime) > 50);
 
-        m_graph.lines.last().name = QString(200, u'x'); // too long for one row beside another
+        m_graph.lines.last().name = QString(200, u'x'); // too long to share a row
         m_graph.lines.append({Qt::black, {{0, 90}, {10, 90}}, GraphSymbol::None, QStringLiteral("KH")});
         m_view->reloadData();
         QVERIFY(saved().height() > named.height());
@@ -479,19 +437,6 @@ private Q_SLOTS:
         m_view->setLineVisible(int(m_graph.lines.size()) - 1, false);
         m_view->setLineVisible(int(m_graph.lines.size()) - 2, false);
         QCOMPARE(saved().height(), titled);
-    }
-
-    void failedWritingLeavesNothing()
-    {
-        const QTemporaryDir folder;
-        const QDir missing(folder.filePath(QStringLiteral("missing")));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write .*graph\\.png")));
-        QVERIFY(!m_view->saveImage(missing.filePath(QStringLiteral("graph.png"))));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write .*graph\\.pdf")));
-        QVERIFY(!m_view->savePdf(missing.filePath(QStringLiteral("graph.pdf"))));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot write")));
-        QVERIFY(!m_view->savePdf(folder.path()));
-        QVERIFY(QDir(folder.path()).isEmpty());
     }
 };
 

@@ -92,8 +92,7 @@ private Q_SLOTS:
 
     void everyPageIsWholeAndEveryLinkResolves_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("page");
+        test::columns<QString, QString>("language", "page");
         for (const QString &language : languages)
             for (const QString &page : pagesOf(language))
                 QTest::addRow("%s/%s", qPrintable(language), qPrintable(page)) << language << page;
@@ -153,8 +152,7 @@ private Q_SLOTS:
 
     void opensAtAnAnchor_data()
     {
-        QTest::addColumn<QString>("anchor");
-        QTest::addColumn<QString>("page");
+        test::columns<QString, QString>("anchor", "page");
         row("a page", "conditions", "conditions.html");
         row("a heading", "targets", "conditions.html");
         row("unknown", "kraken", "start.html");
@@ -168,15 +166,9 @@ private Q_SLOTS:
         QFETCH(QString, page);
         showHelp(anchor);
         QVERIFY(window()->isVisible());
-        QVERIFY(!window()->isModal());
-        QCOMPARE(window()->size(), QSize(720, 560));
         QCOMPARE(shownPage(), page);
-    }
-
-    void aHeadingIsScrolledTo()
-    {
-        showHelp(QStringLiteral("targets"));
-        QTRY_VERIFY(part<QTextBrowser>("helpBrowser")->verticalScrollBar()->value() > 100);
+        if (anchor == u"targets")
+            QTRY_VERIFY(part<QTextBrowser>("helpBrowser")->verticalScrollBar()->value() > 100);
     }
 
     void oneWindowInTheUsersLanguage()
@@ -214,12 +206,11 @@ private Q_SLOTS:
         showHelp();
         QVERIFY(!part<QToolButton>("helpBack")->isEnabled());
         showHelp(QStringLiteral("files"));
-        QTest::mouseClick(part<QToolButton>("helpBack"), Qt::LeftButton);
-        QCOMPARE(shownPage(), QStringLiteral("start.html"));
-        QTest::mouseClick(part<QToolButton>("helpForward"), Qt::LeftButton);
-        QCOMPARE(shownPage(), QStringLiteral("files.html"));
-        QTest::mouseClick(part<QToolButton>("helpHome"), Qt::LeftButton);
-        QCOMPARE(shownPage(), QStringLiteral("start.html"));
+        for (const auto &[button, page] :
+             {std::pair("helpBack", "start"), std::pair("helpForward", "files"), std::pair("helpHome", "start")}) {
+            QTest::mouseClick(part<QToolButton>(button), Qt::LeftButton);
+            QCOMPARE(shownPage(), QLatin1String(page) + QStringLiteral(".html"));
+        }
     }
 
     void findsOnThePage()
