@@ -35,11 +35,6 @@ QString copyElsewhere(const QString &path)
     return QFile::copy(path, copy) ? copy : QString();
 }
 
-QStringList filesBeside(const QString &path)
-{
-    return QFileInfo(path).dir().entryList({QStringLiteral("*.plist")}, QDir::Files, QDir::Name);
-}
-
 } // namespace
 
 /// The preferences store: types survive the file, an absent key is not a value, and a damaged file is kept aside.
@@ -105,7 +100,6 @@ private Q_SLOTS:
         {
             Preferences store(path);
             store.set(preference::autoSaveOnQuit, true);
-            store.set(preference::updateFrequency, 604800);
             store.set(preference::bundleVersion, qint64(0xFFFFFFFF));
             store.set(preference::updateLastChecked, checked);
             store.set(preference::notificationWindowHeight, 117);
@@ -118,7 +112,6 @@ private Q_SLOTS:
         QCOMPARE(file.value,
                  plist::Value(plist::Dict{
                      {"autoSaveOnQuit", plist::Value(true)},
-                     {"UpdateFrequency", plist::Value(604800)},
                      {"bundleVersion", plist::Value(qint64(0xFFFFFFFF))},
                      {"UpdateLastChecked", plist::Value(checked.toUTC())},
                      {"NotificationWindowHeight", plist::Value(117.0)},
@@ -163,41 +156,22 @@ private Q_SLOTS:
         QCOMPARE(store.value(PreferenceKey<QVariantMap>{"key"}).has_value(), isMap);
     }
 
-    void damagedFileIsSetAside_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("not a property list") << QByteArray("[General]\nautoSaveOnQuit=true\n");
-        QTest::newRow("bytes") << QByteArray(1000, '\0');
-    }
-
-    void damagedFileIsSetAside()
-    {
-        QFETCH(QByteArray, bytes);
-        const QString path = freshPreferencesPath();
-        QVERIFY(writeFile(path, bytes));
-        QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(QStringLiteral("^The preferences could not be read: .+")));
-        Preferences store(path);
-        QVERIFY(!store.contains(preference::autoSaveOnQuit));
-        QCOMPARE(bytesOf(QFileInfo(path).path() + QStringLiteral("/Brinemark-damaged-1.plist")), bytes);
-
-        store.set(preference::autoSaveOnQuit, true);
-        QVERIFY(store.flush());
-        QCOMPARE(Preferences(copyElsewhere(path)).value(preference::autoSaveOnQuit), true);
-    }
-
-    void everyDamagedFileIsKept()
+    void damagedFilesAreSetAside()
     {
         const QString path = freshPreferencesPath();
-        for (const char *bytes : {"first", "second"}) {
-            QVERIFY(writeFile(path, bytes));
+        const QList<QByteArray> damaged{"[General]\nautoSaveOnQuit=true\n", QByteArray(1000, '\0')};
+        for (qsizetype i = 0; i < damaged.size(); ++i) {
+            QVERIFY(writeFile(path, damaged[i]));
             QTest::ignoreMessage(QtWarningMsg,
-                                 QRegularExpression(QStringLiteral("^The preferences could not be read")));
-            const Preferences store(path);
+                                 QRegularExpression(QStringLiteral("^The preferences could not be read: .+")));
+            Preferences store(path);
             QVERIFY(!store.contains(preference::autoSaveOnQuit));
+            const QString name = QStringLiteral("/Brinemark-damaged-%1.plist").arg(i + 1);
+            QCOMPARE(bytesOf(QFileInfo(path).path() + name), damaged[i]);
+            store.set(preference::autoSaveOnQuit, true);
+            QVERIFY(store.flush());
+            QCOMPARE(Preferences(copyElsewhere(path)).value(preference::autoSaveOnQuit), true);
         }
-        QCOMPARE(filesBeside(path), (QStringList{"Brinemark-damaged-1.plist", "Brinemark-damaged-2.plist"}));
-        QCOMPARE(bytesOf(QFileInfo(path).path() + QStringLiteral("/Brinemark-damaged-2.plist")), QByteArray("second"));
     }
 
     void failedFlushIsToldAndCanBeMendedLater()

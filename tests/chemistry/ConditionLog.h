@@ -50,8 +50,6 @@ protected:
         m_shell = std::make_unique<RecordingShell>();
         m_shell->appendTank(makeTank(5));
         m_tank = m_shell->tanks.at(0);
-        setBeepHandler([this] { ++m_beeps; });
-        m_beeps = 0;
         present(log(), *m_shell);
         m_tester = std::make_unique<QAbstractItemModelTester>(table()->model());
         m_shell->window.activateWindow();
@@ -64,7 +62,6 @@ protected:
         CalendarController::destroyShared();
         m_shell.reset();
         m_tank.reset();
-        setBeepHandler({});
     }
 
     static ConditionListController &log() { return ConditionListController::sharedInstance(); }
@@ -85,7 +82,6 @@ protected:
     std::unique_ptr<RecordingShell> m_shell;
     std::shared_ptr<Tank> m_tank;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
-    int m_beeps = 0;
 };
 
 } // namespace brinemark::test

@@ -31,11 +31,9 @@ public:
         shell.appendTank(std::make_shared<Tank>(QStringLiteral("Cube")));
         shell.window.resize(800, 700); // room below the targets
         shell.window.show();
-        m_beepBefore = setBeepHandler([this] { ++beeps; });
     }
     ~TankSheetDriver()
     {
-        setBeepHandler(m_beepBefore);
         closeHelp();
         TankDataController::destroyShared();
         TankDataEntryController::destroyShared();
@@ -84,10 +82,6 @@ public:
     }
 
     RecordingShell shell;
-    int beeps = 0;
-
-private:
-    std::function<void()> m_beepBefore;
 };
 
 } // namespace brinemark::test

@@ -9,11 +9,9 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -99,20 +97,6 @@ Act compose(const QString &text)
     };
 }
 
-/// An entry of the field's own context menu.
-Act choose(const char *entry)
-{
-    return [=](CheckedLineEdit &field) {
-        const std::unique_ptr<QMenu> menu(field.createStandardContextMenu());
-        const QList<QAction *> actions = menu->actions();
-        const auto action = std::find_if(actions.begin(), actions.end(), [entry](const QAction *candidate) {
-            return candidate->text().remove(u'&').startsWith(QLatin1String(entry));
-        });
-        QVERIFY2(action != actions.end() && (*action)->isEnabled(), entry);
-        (*action)->trigger();
-    };
-}
-
 Act select(int start, int length)
 {
     return [=](CheckedLineEdit &field) { field.setSelection(start, length); };
@@ -166,6 +150,8 @@ private Q_SLOTS:
         add("minus twice", Signed, {typed("--2-")}, "-2|", 2, -2);
         add("minus, not tested", MayBeUntested, {typed("-5")}, "5|", 1, 5);
         add("minus pasted, not tested", MayBeUntested, {paste("-5")}, "?|", 0, -1);
+        add("minus pasted behind", Signed, {paste("12-")}, "12.00|", 0, 12);
+        add("below the range", Signed, {typed("-12")}, "-1|", 1, -1);
         add("emoji composed", Tested, {typed("1"), compose(emoji), typed("2")}, "1.002|", 0, 1);
         add("emoji pasted", Tested, {typed("1"), paste(emoji + "2" + emoji)}, "12.00|", 0, 12);
         add("composed letter", Tested, {typed("1"), compose("x"), typed("3")}, "13|", 1, 13);
@@ -186,7 +172,6 @@ private Q_SLOTS:
         add("undo a correction", Tested, {typed("12.5"), back, undo}, "[12.5]", 0, 12.5);
         add("undo a paste", Tested, {typed("12.5"), all, paste("77x"), undo}, "[12.5]", 0, 12.5);
         add("redo after a refusal", Tested, {typed("1x"), pressing(QKeySequence::Redo)}, "1|", 1, 1);
-        add("menu: paste several", Tested, {paste("12"), all, choose("Cut"), choose("Paste")}, "12.00|", 0, 12);
     }
     void edits()
     {

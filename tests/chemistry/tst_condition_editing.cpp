@@ -24,6 +24,7 @@ private Q_SLOTS:
         test::columns<int, QVariant, QVariant, bool>("column", "value", "stored", "taken");
         const QDateTime day(QDate(2025, 6, 1), QTime(0, 0));
         row("a number", int(Ph), QVariant(8.25), QVariant(8.25F), true);
+        row("the same again", int(Ph), QVariant(7.0), QVariant(7.0F), true);
         row("a whole number", int(Calcium), QVariant(420.0), QVariant(420), true);
         row("a date", int(Date), QVariant(day), QVariant(day), true);
         row("nothing", int(Ph), QVariant(), QVariant(7.0F), false);
@@ -71,14 +72,14 @@ private Q_SLOTS:
         m_shell->undo.redo();
         m_tank->condition()->removeEveryOccurrence(record.get());
         m_shell->undo.undo();
-        QCOMPARE(m_beeps, 1);
+        QCOMPARE(m_shell->beeps, 1);
         QCOMPARE(m_shell->undo.count(), 0); // the step is gone
         edit(0, Ph, 9);
         m_shell->tanks.removeAt(1);
         m_shell->current = nullptr;
         log().updateDisplay();
         m_shell->undo.undo();
-        QCOMPARE(m_beeps, 2);
+        QCOMPARE(m_shell->beeps, 2);
     }
 
     void theFirstEntry()

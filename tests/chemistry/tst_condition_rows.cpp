@@ -147,15 +147,12 @@ private Q_SLOTS:
         auto *context = table()->findChild<QMenu *>(QStringLiteral("conditionCM"));
         for (QMenu *menu : {button->menu(), context}) {
             Q_EMIT menu->aboutToShow();
-            QStringList titles;
             for (const QAction *action : menu->actions()) {
-                titles << action->text();
                 const bool needsTwo = action->text() == text("Graph") || action->text() == text("Export");
                 if (!action->isSeparator())
                     QCOMPARE(action->isEnabled(), enabled || !needsTwo);
             }
-            QCOMPARE(titles, QStringList({text("Graph"), text("Export"), QString(), text("NewTitle"),
-                                          text("DeleteTitle"), QString(), text("Condition Columns...")}));
+            QCOMPARE(menu->actions().at(4)->text(), text("DeleteTitle"));
             menu->actions().at(4)->trigger();
         }
         QCOMPARE(m_shell->deletesAsked, 2);

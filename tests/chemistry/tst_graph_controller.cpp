@@ -39,16 +39,12 @@ private Q_SLOTS:
     {
         m_shell = std::make_unique<test::RecordingShell>();
         m_tank = std::make_shared<Tank>(QStringLiteral("Reef"));
-        m_shell->tanks.append(m_tank);
-        m_shell->current = m_tank.get();
+        m_shell->appendTank(m_tank);
         m_tank->condition()->setColumnInfoArray({{"date", 0}, {"temp", 0}, {"kH", 0}, {"calcium", 0}, {"iron", 0}});
         m_shell->window.show();
-        m_beeps = 0;
-        setBeepHandler([this] { ++m_beeps; });
     }
     void cleanup()
     {
-        setBeepHandler({});
         GraphController::destroyShared();
         m_shell.reset();
         m_tank.reset();
@@ -98,6 +94,7 @@ private Q_SLOTS:
         auto &controller = GraphController::sharedInstance();
         QVERIFY(view().isVisible());
         QVERIFY(!find<QWidget>("drawButton")->isVisible());
+        QVERIFY(m_window->maximumWidth() > 4000); // can be resized
         QCOMPARE(controller.numberOfLinesInTwoDGraphView(view()), 3);
         const QList<QPointF> kH = controller.dataForLineIndex(view(), 0);
         QCOMPARE(kH.size(), 11);
@@ -133,7 +130,9 @@ private Q_SLOTS:
     {
         test::columns<QString, QString>("start", "end");
         test::row("reversed", "09.03.26", "02.03.26");
+        test::row("the same", "02.03.26", "02.03.26");
         test::row("no start", "", "09.03.26");
+        test::row("no end", "02.03.26", "");
         test::row("no such day", "02.03.26", "31.04.26");
     }
     void unusableRanges()
@@ -158,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(7));
 
         // The same from the boxes beside the graph: the lines go.
-        m_beeps = 0;
+        m_shell->beeps = 0;
         type("startDateComboSmall", start);
         type("endDateComboSmall", end);
         expectRangeAlert([this] { press("drawButtonSmall"); });
@@ -433,13 +432,12 @@ private:
         });
         act();
         QCOMPARE(said, QStringList({text("DateRangeTitle"), text("DateRangeMessage")}));
-        QCOMPARE(m_beeps, 1);
+        QCOMPARE(m_shell->beeps, 1);
     }
 
     std::unique_ptr<test::RecordingShell> m_shell;
     std::shared_ptr<Tank> m_tank;
     QDialog *m_window = nullptr;
-    int m_beeps = 0;
 };
 
 BRINEMARK_TEST(QApplication, TestGraphController)

@@ -70,31 +70,6 @@ private Q_SLOTS:
         QFETCH(double, deviationMaximum);
         check("deviation", deviationStep, deviationMaximum, target.deviationValue);
     }
-
-    void typing_data()
-    {
-        // "," stands for the locale's separator
-        test::columns<QString, QString, QString, float, int>("key", "typed", "shown", "stored", "beeps");
-        row("rounded", "ammoniaData", "0,126", "0,13", 0.13F, 0);
-        row("three decimals", "saltData", "1,0256", "1,026", 1.026F, 0);
-        row("beyond the maximum", "ammoniaData", "150", "15,00", 15.0F, 1);
-        row("no decimals", "magnesiumData", "1300,5", "1300", 1300.0F, 2); // nor 13005
-        row("below zero", "ammoniaData", "-1", "1,00", 1.0F, 1);
-        row("nothing", "ammoniaData", "", "0,00", 0.0F, 0);
-    }
-    void typing()
-    {
-        QFETCH(QString, key);
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
-        m_driver->open();
-        m_driver->choose(key);
-        m_driver->type("preferredField", local(typed));
-        QCOMPARE(m_driver->control<CheckedLineEdit>("preferredField")->text(), local(shown));
-        QTEST(m_driver->tank().targetForKey(key)->preferredValue, "stored");
-        QTEST(m_driver->beeps, "beeps");
-    }
-
     void arrowsBeginWhereTypingEnded_data()
     {
         test::columns<bool, QString, QString, float>("pasted", "entered", "arrow", "stored");

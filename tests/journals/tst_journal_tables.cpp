@@ -220,28 +220,6 @@ private Q_SLOTS:
                  QStringList({m_tank->expenseCategoryArray.first(), text("ExpenseNoneItem")}));
     }
 
-    void manyRowsOpenAtOnce()
-    {
-        constexpr int many = 100000;
-        for (int i = 0; i < many; ++i)
-            m_tank->note()->appendRecord(std::make_shared<NoteData>(m_tank.get()));
-        auto &controller = NoteListController::sharedInstance();
-        QElapsedTimer timer;
-        timer.start();
-        present(controller, *m_shell);
-        controller.table()->viewport()->repaint();
-        controller.table()->scrollToBottom();
-        controller.table()->viewport()->repaint();
-        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
-        controller.table()->selectAll();
-        controller.deleteSelected();
-        QTRY_VERIFY(test::shownAlert());
-        timer.restart();
-        QVERIFY(test::pressAlertButton("defaultButton"));
-        QTRY_COMPARE(m_tank->note()->count(), 0);
-        QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
-    }
-
 private:
     std::unique_ptr<test::RecordingShell> m_shell;
     std::shared_ptr<Tank> m_tank;

@@ -7,7 +7,6 @@
 #include "journals/views/ScheduleListController.h"
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
-#include "ui/Alerts.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -28,13 +27,10 @@ private Q_SLOTS:
         m_tank = std::make_shared<Tank>(QStringLiteral("Reef"));
         m_shell->appendTank(m_tank);
         m_shell->window.show();
-        m_beeps = 0;
-        setBeepHandler([this] { ++m_beeps; });
         Preferences::shared().remove(preference::notificationWindowHeight);
     }
     void cleanup()
     {
-        setBeepHandler({});
         NotificationController::destroyShared();
         ScheduleListController::destroyShared();
         m_tank.reset();
@@ -58,11 +54,11 @@ private Q_SLOTS:
         clock::FixedClock clock(QDateTime(QDate(2026, 5, 4), QTime(9, 0)));
         auto &notice = NotificationController::sharedInstance();
         notice.showOverdue();
-        QCOMPARE(m_beeps, 1);
+        QCOMPARE(m_shell->beeps, 1);
         QVERIFY(!notice.isVisible());
         add("due today at six", QDateTime(QDate(2026, 5, 4), QTime(18, 0)));
         notice.showOverdue();
-        QCOMPARE(m_beeps, 2);
+        QCOMPARE(m_shell->beeps, 2);
         clock.advance(std::chrono::hours(9));
         notice.showOverdue();
         QVERIFY(notice.isVisible());
@@ -70,7 +66,7 @@ private Q_SLOTS:
         notice.showOverdue();
         QVERIFY(!notice.isVisible());
         QVERIFY(m_shell->dock.isEmpty());
-        QCOMPARE(m_beeps, 2);
+        QCOMPARE(m_shell->beeps, 2);
     }
 
     void rowsFollowTheirActivities()
@@ -165,7 +161,6 @@ private:
 
     std::unique_ptr<test::RecordingShell> m_shell;
     std::shared_ptr<Tank> m_tank;
-    int m_beeps = 0;
 };
 
 BRINEMARK_TEST(QApplication, TestOverdueNotice)

@@ -250,37 +250,6 @@ private Q_SLOTS:
         QCOMPARE(valueForKey(*read, key), value);
     }
 
-    void writtenTexts_data()
-    {
-        test::columns<QString, QString, QVariant, QString, QString>("type", "key", "value", "fileKey", "written");
-        const auto row = [](const char *type, const char *key, const QVariant &value, const char *fileKey,
-                            const char *written) {
-            QTest::addRow("%s %s", key, written) << QString::fromLatin1(type) << QString::fromLatin1(key) << value
-                                                 << QString::fromLatin1(fileKey) << QString::fromLatin1(written);
-        };
-        row("fish", "ph", 7.2F, "ph", "7.2");
-        row("fish", "gHardness", 7.9F, "GHardness", "7");
-        row("fish", "gHardness", -7.9F, "GHardness", "-7");
-        row("condition", "gH", 0.125F, "GH", "0.125");
-        row("schedule", "nextDate", 31449600.0F, "NextDate", "31449600");
-        row("schedule", "complete", true, "Complete", "1");
-        row("note", "date", QDateTime(QDate(2007, 3, 14), QTime(18, 22, 5), Qt::OffsetFromUTC, -5 * 3600), "Date",
-            "2007-03-14 18:22:05 -0500");
-    }
-
-    void writtenTexts()
-    {
-        QFETCH(QString, type);
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
-        QFETCH(QString, fileKey);
-        QFETCH(QString, written);
-        const auto record = newRecord(type, false);
-        QVERIFY(setValueForKey(*record, key, value));
-        QVERIFY(fileValue(*record, fileKey).string());
-        QCOMPARE(*fileValue(*record, fileKey).string(), written);
-    }
-
     void convertedByKey_data()
     {
         test::columns<QString, QString, QVariant, QVariant>("type", "key", "value", "after");

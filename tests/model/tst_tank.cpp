@@ -42,6 +42,9 @@ private Q_SLOTS:
         QCOMPARE(tank.inventory()->sortIdentifier(), QStringLiteral("count"));
         QCOMPARE(tank.note()->sortIdentifier(), QStringLiteral("date"));
         QVERIFY(tank.freshwater && !tank.bundleVersion);
+        QCOMPARE(tank.expenseCategoryArray,
+                 QStringList({text("FishName"_key), text("PlantName"_key), text("InvertName"_key),
+                              text("CoralName"_key), text("ExpenseDefaultEquipmentItem"_key)}));
         QCOMPARE(tank.condition()->columnInfoArray().front().identifier, QStringLiteral("date"));
     }
 

@@ -5,11 +5,14 @@
 #include "model/ModelContext.h"
 #include "model/Tank.h"
 #include "model/TankFile.h"
+#include "ui/Alerts.h"
 #include "ui/Shell.h"
 
 #include <QMenu>
 #include <QUndoStack>
 #include <QWidget>
+
+#include <functional>
 
 namespace brinemark::test
 {
@@ -23,9 +26,11 @@ public:
         setShared(this);
         ModelContext::sharedInstance().setAppTankList(&tanks);
         window.resize(800, 500);
+        m_beepBefore = setBeepHandler([this] { ++beeps; });
     }
     ~RecordingShell() override
     {
+        setBeepHandler(m_beepBefore);
         ModelContext::sharedInstance().setAppTankList(nullptr);
         setShared(nullptr);
     }
@@ -80,6 +85,10 @@ public:
     int deletesAsked = 0;
     int treeUpdates = 0;
     int namesEdited = 0;
+    int beeps = 0;
+
+private:
+    std::function<void()> m_beepBefore;
 };
 
 } // namespace brinemark::test

@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "support/DataRow.h"
+#include "support/PanelDriver.h"
 #include "support/TestProgram.h"
 #include "ui/calendar/CalendarController.h"
 #include "ui/calendar/CalendarDays.h"
@@ -136,6 +137,11 @@ private Q_SLOTS:
         const QRect last = days()->rectOf({9999, 12, 31});
         QTest::mouseClick(days(), Qt::LeftButton, {}, last.center() + QPoint(0, last.height()));
         QVERIFY(controller().isOpen());
+        controller().closeAndSave(false, false);
+
+        open(at(1, 1, 1));
+        for (const char *button : {"previousMonthButton", "previousYearButton"})
+            QVERIFY(!child<QToolButton>(button)->isEnabled());
     }
 
     void pagesTurnAndTheDayStays()
@@ -287,6 +293,7 @@ private Q_SLOTS:
         test::columns<QRect, bool, QPoint>("cell", "mirrored", "place");
         row("below", QRect(100, 100, 80, 20), false, QPoint(100, 120));
         row("above", QRect(100, 500, 80, 20), false, QPoint(100, 200));
+        row("right edge", QRect(700, 100, 80, 20), false, QPoint(600, 120));
         row("left edge, mirrored", QRect(20, 100, 80, 20), true, QPoint(0, 120));
         row("left of the screen", QRect(-50, 100, 80, 20), false, QPoint(0, 120));
         row("no room at either side", QRect(100, 290, 80, 20), false, QPoint(100, 0));
@@ -330,14 +337,7 @@ private:
         QVERIFY(QTest::qWaitForWindowExposed(shownPopup()));
     }
 
-    static QWidget *shownPopup()
-    {
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->isVisible() && window->objectName() == "calendarPopup")
-                return window;
-        }
-        return nullptr;
-    }
+    static QWidget *shownPopup() { return test::shownWindow<QWidget>("calendarPopup"); }
     static QRect popupGeometry() { return shownPopup()->geometry(); }
 
     template <class Widget>

@@ -125,19 +125,6 @@ private Q_SLOTS:
         QCOMPARE(decimated(points, 0, 1, 7), points);
     }
 
-    void segmentsFollowTheLine()
-    {
-        const QRectF area(0, 0, 100, 100);
-        using Segments = QList<QLineF>;
-        const auto segmentsOf = [&area](const QPolygonF &line) { return strokesOf(line, area, 1).segments; };
-        QCOMPARE(segmentsOf(QPolygonF({{10, 10}, {50, 90}, {90, 20}})), Segments({{10, 10, 50, 90}, {50, 90, 90, 20}}));
-        // Three corners in one column become its extent.
-        const GraphStrokes strokes = strokesOf(QPolygonF({{10.1, 10}, {10.5, 90}, {10.9, 20}, {30, 20}}), area, 1);
-        QCOMPARE(strokes.uprights, Segments({{10.5, 10, 10.5, 90}}));
-        QCOMPARE(strokes.segments, Segments({{10.9, 20, 30, 20}}));
-        QCOMPARE(segmentsOf(QPolygonF({{10, 10}})), Segments());
-    }
-
     /// Of a dense line every column shows its whole extent, and nothing more than what leads to its neighbours.
     void denseLinesShowEveryExtent()
     {

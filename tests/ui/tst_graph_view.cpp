@@ -262,9 +262,7 @@ private Q_SLOTS:
         QVERIFY(std::abs(m_view->visibleRange(GraphAxis::X).length() - 8) < 1e-9);
         QVERIFY(std::abs(m_view->visibleRange(GraphAxis::Y).length() - 16) < 1e-9);
         QCOMPARE(m_graph.asked[GraphAxis::X].size(), 3); // spaced anew over what is visible
-        const GraphRange x = m_view->visibleRange(GraphAxis::X);
-        QCOMPARE(m_graph.asked[GraphAxis::X].first(), QString::asprintf("%g", x.min));
-        QCOMPARE(m_graph.asked[GraphAxis::X].last(), QString::asprintf("%g", x.max));
+        QCOMPARE(m_graph.asked[GraphAxis::X].last(), QString::asprintf("%g", m_view->visibleRange(GraphAxis::X).max));
         QCOMPARE(changes.size(), 1);
         turnWheel(position, -5);
         QVERIFY(!m_view->isZoomed());

@@ -2,6 +2,7 @@
 
 #include "base/text/Texts.h"
 #include "support/DataRow.h"
+#include "support/PanelDriver.h"
 #include "support/TestProgram.h"
 #include "ui/Desktop.h"
 #include "ui/HelpWindow.h"
@@ -57,10 +58,7 @@ QStringList linksOf(const QString &content)
 
 QWidget *window()
 {
-    for (QWidget *widget : QApplication::topLevelWidgets())
-        if (widget->objectName() == QLatin1String("helpWindow"))
-            return widget;
-    return nullptr;
+    return brinemark::test::shownWindow<QWidget>("helpWindow");
 }
 
 template <class T>
@@ -90,30 +88,24 @@ private Q_SLOTS:
         desktop::setUrlHandler({});
     }
 
-    void everyPageIsWholeAndEveryLinkResolves_data()
-    {
-        test::columns<QString, QString>("language", "page");
-        for (const QString &language : languages)
-            for (const QString &page : pagesOf(language))
-                QTest::addRow("%s/%s", qPrintable(language), qPrintable(page)) << language << page;
-    }
-
     void everyPageIsWholeAndEveryLinkResolves()
     {
-        QFETCH(QString, language);
-        QFETCH(QString, page);
-        const QString content = contentOf(language, page);
-        QVERIFY(content.contains(QLatin1String("<html lang=\"%1\">").arg(language)));
-        QVERIFY(!captured(content, "<title>([^<]+)</title>").isEmpty());
-        QVERIFY(!content.contains(QRegularExpression(QStringLiteral("style=|color|<font"))));
-        for (const QString &link : linksOf(content)) {
-            const QUrl url(link);
-            if (!url.isRelative())
-                continue;
-            const QString target = url.path().isEmpty() ? page : url.path();
-            QVERIFY2(pagesOf(language).contains(target), qPrintable(link));
-            if (url.hasFragment())
-                QVERIFY2(anchorsOf(contentOf(language, target)).contains(url.fragment()), qPrintable(link));
+        for (const QString &language : languages) {
+            for (const QString &page : pagesOf(language)) {
+                const QString content = contentOf(language, page);
+                QVERIFY(content.contains(QLatin1String("<html lang=\"%1\">").arg(language)));
+                QVERIFY(!captured(content, "<title>([^<]+)</title>").isEmpty());
+                QVERIFY(!content.contains(QRegularExpression(QStringLiteral("style=|color|<font"))));
+                for (const QString &text : linksOf(content)) {
+                    const QUrl link(text);
+                    const QString target = link.path().isEmpty() ? page : link.path();
+                    const bool found =
+                        !link.isRelative() ||
+                        (pagesOf(language).contains(target) &&
+                         (!link.hasFragment() || anchorsOf(contentOf(language, target)).contains(link.fragment())));
+                    QVERIFY2(found, qPrintable(page + QStringLiteral(": ") + link.toString()));
+                }
+            }
         }
     }
 
@@ -228,7 +220,6 @@ private Q_SLOTS:
             QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(browser->textCursor().selectionStart(), first.selectionStart()); // once round
         field->clear();
-        QVERIFY(part<QLabel>("helpFindResult")->text().isEmpty());
         QTest::keyClicks(field, QStringLiteral("kraken"));
         QCOMPARE(part<QLabel>("helpFindResult")->text(), text("HelpFindNone"));
     }

@@ -33,12 +33,6 @@ const QPalette &light()
     return palette;
 }
 
-const QPalette &dark()
-{
-    static const QPalette palette = paletteOf("#2d2d2d", "#eaeaea", "#777777");
-    return palette;
-}
-
 QImage imageOf(const QString &name, int side, qreal ratio = 1, QIcon::Mode mode = QIcon::Normal)
 {
     return icon(name).pixmap(QSize(side, side), ratio, mode).toImage().convertToFormat(QImage::Format_ARGB32);
@@ -84,19 +78,17 @@ private Q_SLOTS:
     void paints()
     {
         QFETCH(QString, name);
-        for (const int side : {16, 64}) {
-            for (const qreal ratio : {1.0, 2.0}) {
-                const QImage image = imageOf(name, side, ratio);
-                QCOMPARE(image.size(), QSize(side, side) * ratio);
-                QVERIFY2(coverage(image) > 0.03, "hardly any ink");
-                QVERIFY2(coverage(image) < 0.97, "a solid block");
-            }
+        for (const qreal ratio : {1.0, 2.0}) {
+            const QImage image = imageOf(name, 16, ratio);
+            QCOMPARE(image.size(), QSize(16, 16) * ratio);
+            QVERIFY2(coverage(image) > 0.03, "hardly any ink");
+            QVERIFY2(coverage(image) < 0.97, "a solid block");
         }
         const QImage plain = imageOf(name, 32);
         QVERIFY(imageOf(name, 32, 1, QIcon::Disabled) != plain);
-        // Ink of its own colour only would vanish on one of the two; the same icon has to follow by itself.
+        // An icon that is already in use follows a change of the palette.
         const QIcon before = icon(name);
-        QGuiApplication::setPalette(dark());
+        QGuiApplication::setPalette(paletteOf("#2d2d2d", "#eaeaea", "#777777"));
         QVERIFY(before.pixmap(QSize(32, 32), 1.0).toImage().convertToFormat(plain.format()) != plain);
     }
 
