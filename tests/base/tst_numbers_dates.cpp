@@ -23,7 +23,7 @@ class TestNumbersDates : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        // As a toolkit does at start-up: from here on the C library writes "7,5" when the locale says so.
+        // As Qt Widgets does at start-up: the C library then writes "7,5" under a comma-decimal locale.
         QVERIFY(std::setlocale(LC_ALL, ""));
     }
 
@@ -176,7 +176,8 @@ private Q_SLOTS:
         QCOMPARE(fileDateText(QDateTime()), QString());
         QCOMPARE(fileDateText(QDateTime(QDate(10000, 1, 1), QTime(12, 0), Qt::UTC)), QString());
 
-        // Local mean time, 53 minutes and 28 seconds ahead: the seconds do not fit the text, the moment must stay.
+        // Local mean time, 53 minutes and 28 seconds ahead: the text holds no seconds of an offset, but the moment
+        // stays the same.
         const QDateTime old(QDate(1880, 1, 1), QTime(12, 0));
         QCOMPARE(dateFromFileText(fileDateText(old)), old);
     }
@@ -260,7 +261,7 @@ private Q_SLOTS:
             QCOMPARE(read, QDateTime(read.date(), QTime(0, 0)));
     }
 
-    // Whatever the user's short format is: what is shown can be typed.
+    // In every locale the shown short date can be typed.
     void shownDatesCanBeTyped()
     {
         for (const QLocale &locale :

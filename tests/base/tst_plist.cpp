@@ -46,7 +46,7 @@ QByteArray everyByte()
     return bytes;
 }
 
-/// What tests/data/plist/make.py wrote into everything.plist.
+/// The value that tests/data/plist/make.py writes into everything.plist.
 Value everything()
 {
     return Value(Dict{
@@ -74,7 +74,7 @@ Value everything()
 
 } // namespace
 
-// Ordinary literals only: the meta-object compiler loses its way in raw ones.
+// Ordinary literals only: the meta-object compiler cannot read raw ones.
 class PlistTest : public QObject
 {
     Q_OBJECT
@@ -87,7 +87,7 @@ private Q_SLOTS:
         const ReadResult result = readXml(bytes);
         QVERIFY2(result, qPrintable(result.error));
         QVERIFY(result.value == everything());
-        QCOMPARE(bytes, copy); // parsed in place, but not in a place that others share
+        QCOMPARE(bytes, copy); // the parser works in place, on a copy of its own
         QCOMPARE(writeXml(everything()), bytes);
     }
 
@@ -296,7 +296,7 @@ private Q_SLOTS:
                     bytes.insert(at, bytes.mid(random.bounded(bytes.size()), random.bounded(1, 60)));
                 }
             }
-            // Whatever was readable must be the same after another trip.
+            // A readable file is the same after it is written and read again.
             if (const ReadResult result = readXml(bytes)) {
                 const QByteArray written = writeXml(result.value);
                 QCOMPARE(writeXml(readXml(written).value), written);
@@ -379,7 +379,7 @@ private Q_SLOTS:
     {
         const QByteArray whole = "{\"a\\U0041\" = (b, <00 01>, {c = 'd';}); /* e */ }";
         QVERIFY(readText(whole));
-        // One to a "|".
+        // Separated by "|".
         QList<QByteArray> texts =
             QByteArray("|  // only a comment|{a=b}|{a b;}|{=b;}|{a=;}|{a=b;};|{a=b;} c|{(a)=b;}|(a b)|(,)|(a,,b)|(a))|"
                        "<0>|<0g>|<00> <00>|'abc|\"\\U12\"|\"\\U12g4\"|\"\\400\"|/* open|/*/|{a = /* open; }|"

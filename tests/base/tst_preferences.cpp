@@ -49,7 +49,7 @@ private Q_SLOTS:
         QCOMPARE(&shared, &Preferences::shared());
         QVERIFY(shared.path().startsWith(test::TestHome::current().path()));
         QVERIFY(shared.path().endsWith(QStringLiteral("/Brinemark/Brinemark.plist")));
-        // Not even the folder is there yet.
+        // The folder does not exist yet.
         shared.set(preference::convertVisible, true);
         QVERIFY(shared.flush());
         QVERIFY(QFile::exists(shared.path()));
@@ -176,7 +176,7 @@ private Q_SLOTS:
 
     void failedFlushIsToldAndCanBeMendedLater()
     {
-        // A file where the folder should be: not even the superuser can write below it.
+        // A file where the folder should be: even the superuser cannot write below it.
         const QString blocker = freshPreferencesPath(QStringLiteral("folder"));
         QVERIFY(writeFile(blocker, "in the way"));
         const QString path = blocker + QStringLiteral("/Brinemark.plist");

@@ -18,7 +18,7 @@ namespace
 
 struct Use {
     QString key;
-    QString table; ///< empty where the place does not say: any table will do
+    QString table; ///< empty where the source names none: any table will do
 
     bool operator==(const Use &) const = default;
 };
@@ -31,7 +31,7 @@ const QMap<QString, QString> tableNames = {{QStringLiteral("Default"), QStringLi
 /// Calls of text(), hasText() and numberOfText() with a literal, and key literals wherever they stand.
 QList<Use> usesIn(QString source)
 {
-    // Ordinary literals throughout this file: moc loses its way in raw ones.
+    // Ordinary literals throughout this file: moc cannot read raw ones.
     static const QRegularExpression comments(QLatin1String("(?m)(^|\\s)//.*$"));
     static const QRegularExpression use(
         QLatin1String("(?<call>(?<![\\w.>])(?:text|hasText|numberOfText)\\(\\s*)?\"(?<key>[^\"\\n]+)\"(?<suffix>_key)?"

@@ -19,7 +19,7 @@ constexpr TextKey unwritten{"NoTableHoldsThisKey"};
 
 } // namespace
 
-/// Texts by key: which language answers, what a missing text gives, how placeholders are filled.
+/// Texts by key: which language is used, what a missing text gives, how placeholders are filled.
 class TestTexts : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     static constexpr bool usesSystemLanguage = true;
 
 private Q_SLOTS:
-    // First of all tests, before any of them chooses languages.
+    // Runs first, before another test chooses languages.
     void languagesOfTheSystem()
     {
         QCOMPARE(textLanguages().first().left(2), QString::fromLatin1(qgetenv("LC_ALL").left(2)));

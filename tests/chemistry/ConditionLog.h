@@ -16,7 +16,7 @@ namespace brinemark::test
 enum Column { Date, Ph, Ammonia, Calcium };
 inline const QString notTestedIdentifier = QStringLiteral("DontShowAgainNotTested");
 
-/// pH 7.0, 7.1 ... one a day, the oldest first.
+/// A tank with one test a day, the oldest first, of pH 7.0, 7.1 and so on.
 inline std::shared_ptr<Tank> makeTank(int tests)
 {
     auto tank = std::make_shared<Tank>(QStringLiteral("Reef"));
@@ -66,7 +66,7 @@ protected:
 
     static ConditionListController &log() { return ConditionListController::sharedInstance(); }
     static QTableView *table() { return log().table(); }
-    /// The one that is typed into; null when nothing is edited.
+    /// The open cell editor; null when nothing is edited.
     static QWidget *editor() { return table()->indexWidget(table()->currentIndex()); }
     static QStringView conditionKey(int column)
     {

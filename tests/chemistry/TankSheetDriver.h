@@ -19,7 +19,7 @@
 namespace brinemark::test
 {
 
-/// A shell with one tank, "Cube", and hands for the sheet that edits it.
+/// A shell with one tank, "Cube", and functions that drive the sheet that edits it.
 class TankSheetDriver
 {
 public:
@@ -29,7 +29,7 @@ public:
     TankSheetDriver()
     {
         shell.appendTank(std::make_shared<Tank>(QStringLiteral("Cube")));
-        shell.window.resize(800, 700); // room below the targets
+        shell.window.resize(800, 700); // leaves room below the targets
         shell.window.show();
     }
     ~TankSheetDriver()
@@ -70,7 +70,7 @@ public:
     }
     static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
     void pressIn(const QByteArray &name, Qt::Key key) { QTest::keyClick(control<>(name), key); }
-    /// Types over what the field holds, and leaves it.
+    /// Replaces the field's text by typing, and leaves the field.
     void type(const QByteArray &name, const QString &typed)
     {
         auto *field = control<QLineEdit>(name);

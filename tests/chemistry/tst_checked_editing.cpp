@@ -47,7 +47,7 @@ void send(CheckedLineEdit &field, QEvent &&event)
 Act typing(const QString &keys)
 {
     return [=](CheckedLineEdit &field) {
-        for (const char32_t c : keys.toUcs4()) // as a keyboard sends them, letters beyond Latin as well
+        for (const char32_t c : keys.toUcs4()) // one key event a character, whatever its script
             send(field, QKeyEvent(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUcs4(&c, 1)));
     };
 }
@@ -75,7 +75,7 @@ Act paste(const QString &text)
     };
 }
 
-/// At the beginning of the text.
+/// Drops the text at the beginning of the field.
 Act drop(const QString &text)
 {
     return [=](CheckedLineEdit &field) {
@@ -86,7 +86,7 @@ Act drop(const QString &text)
     };
 }
 
-/// From the input method, after it was shown as being composed.
+/// Commits the text from an input method, after a preedit.
 Act compose(const QString &text)
 {
     return [=](CheckedLineEdit &field) {
@@ -123,7 +123,7 @@ private Q_SLOTS:
     }
     void cleanup() { setBeepHandler({}); }
 
-    /// What stands in the field after each way to edit, "|" where the caret is, and the value in the end.
+    /// The text of the field after each way to edit, with "|" for the caret, and the final value.
     void edits_data()
     {
         test::columns<int, Acts, QString, int, double>("mode", "acts", "shown", "beeps", "value");
@@ -257,8 +257,8 @@ private Q_SLOTS:
         QVERIFY(finished == 1 && field.hasEdit());
     }
 
-    /// A table of a text column and a number column that may be untested. What each key leaves in the cell, and how
-    /// often it was stored.
+    /// A table of a text column and a number column that may be untested: the value of the cell after each key, and
+    /// how often it was stored.
     void cells_data()
     {
         test::columns<QString, int, double, int>("keys", "end", "value", "stored");

@@ -46,7 +46,7 @@ private Q_SLOTS:
         const std::vector<CsvColumn> columns{column("date"), column("ph"), column("ammonia")};
         QCOMPARE(conditionCsv(*tank.condition(), columns), QByteArray("DATE,PH,AMMONIA\r"));
         QCOMPARE(conditionCsv(*tank.condition(), {}), QByteArray("\r"));
-        for (const int day : {9, 3}) { // the log's own order, whatever the dates are
+        for (const int day : {9, 3}) { // exported in the log's order, not by date
             auto test = std::make_shared<ConditionData>(&tank);
             test->date = noonOf(2026, 2, day);
             test->ph = 7.2F;
@@ -88,12 +88,12 @@ private Q_SLOTS:
                 }
                 if (random() % 3 > 0)
                     setValueForKey(*test, traits.identifier, double(random() % 4'000'000) / 1000 - 2);
-                values << valueForKey(*test, traits.identifier).toDouble(); // as it is kept: single or whole
+                values << valueForKey(*test, traits.identifier).toDouble(); // as stored: single precision or whole
             }
             tank.condition()->appendRecord(test);
             tests << values;
         }
-        // "%1d" is ours, "%-d" the other's, for a day without a leading zero.
+        // A day without a leading zero is "%1d" here and "%-d" in Python.
         const QJsonObject log{{QStringLiteral("format"), QString(format).replace(u"%1"_qs, u"%-"_qs)},
                               {QStringLiteral("headers"), headers},
                               {QStringLiteral("tests"), tests}};

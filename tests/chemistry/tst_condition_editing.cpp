@@ -62,18 +62,18 @@ private Q_SLOTS:
         const auto record = m_tank->condition()->recordAt(0);
         m_shell->appendTank(makeTank(2));
         present(log(), *m_shell);
-        QCOMPARE(m_tank->condition()->indexOf(record.get()), 4); // left in order
+        QCOMPARE(m_tank->condition()->indexOf(record.get()), 4); // the sort ran when the tank was left
         m_shell->undo.undo();
         QCOMPARE(m_tank->condition()->indexOf(record.get()), 0);
         QCOMPARE(table()->model()->rowCount(), 2);
         QVERIFY(!log().hasSelectedRow());
 
-        // Neither a record that was deleted nor one whose tank has gone can be brought back.
+        // Undoing an edit of a deleted record, or of a record of a removed tank, only beeps.
         m_shell->undo.redo();
         m_tank->condition()->removeEveryOccurrence(record.get());
         m_shell->undo.undo();
         QCOMPARE(m_shell->beeps, 1);
-        QCOMPARE(m_shell->undo.count(), 0); // the step is gone
+        QCOMPARE(m_shell->undo.count(), 0); // the step was removed
         edit(0, Ph, 9);
         m_shell->tanks.removeAt(1);
         m_shell->current = nullptr;
@@ -89,13 +89,13 @@ private Q_SLOTS:
         QTest::mouseClick(log().view()->findChild<QPushButton *>(QStringLiteral("emptyStateButton")), Qt::LeftButton);
         QVERIFY(editor() && editor()->hasFocus());
         type(number(8));
-        clickCell(table(), 0, Ammonia); // which commits
+        clickCell(table(), 0, Ammonia); // commits the editor
         QCOMPARE(column(table(), Ph), QStringList{number(8)});
         press(Qt::Key_Space);
         QVERIFY(editor());
         type(number(1));
         m_shell->current = m_tank.get();
-        log().updateDisplay(); // nothing typed is lost
+        log().updateDisplay(); // stores the typed text
         QCOMPARE(m_shell->tanks.at(1)->conditionListArray().front()->ammonia, 1.0F);
     }
 
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(m_tank->condition()->count(), 6);
         QCOMPARE(m_shell->changes, 1);
         QCOMPARE(m_shell->undo.count(), 0);
-        QCOMPARE(selectedRows(table()), QList<int>{0}); // not tested sorts first
+        QCOMPARE(selectedRows(table()), QList<int>{0}); // untested values sort first
         QCOMPARE(log().rowNeedsSort(), 0);
         if (!silenced) {
             QTRY_VERIFY(shownAlert());
@@ -133,7 +133,7 @@ private Q_SLOTS:
         const auto &record = static_cast<ConditionData &>(*m_tank->condition()->recordAt(0));
         QCOMPARE(record.ph, 8.1F);
         QCOMPARE(record.ammonia, 0.25F);
-        press(Qt::Key_Return); // which, with nothing being typed, is the next entry
+        press(Qt::Key_Return); // without an open editor, Return adds an entry
         QCOMPARE(m_tank->condition()->count(), 7);
     }
 
@@ -144,9 +144,9 @@ private Q_SLOTS:
         press(Qt::Key_F2);
         QVERIFY(editor());
         type(QStringLiteral("380"));
-        press(Qt::Key_Tab); // past the date
+        press(Qt::Key_Tab); // skips the date
         QCOMPARE(table()->currentIndex(), table()->model()->index(1, Ph));
-        press(Qt::Key_Tab); // an untouched cell is no edit
+        press(Qt::Key_Tab); // an unedited cell adds no undo step
         QCOMPARE(m_shell->undo.count(), 1);
         QCOMPARE(table()->currentIndex(), table()->model()->index(1, Ammonia));
         press(Qt::Key_Backtab, Qt::ShiftModifier);
@@ -158,7 +158,7 @@ private Q_SLOTS:
         clickCell(table(), 1, Ammonia);
         type(QStringLiteral("3")); // typing starts editing
         QVERIFY(editor());
-        press(Qt::Key_Tab); // the last one
+        press(Qt::Key_Tab); // from the last column
         QTRY_VERIFY(!editor());
         QVERIFY(table()->hasFocus());
         QCOMPARE(selectedRows(table()), QList<int>{1});
@@ -193,13 +193,13 @@ private Q_SLOTS:
         QCOMPARE(shownAlert() != nullptr, warns);
         QCOMPARE(table()->currentIndex(), table()->model()->index(1, Ammonia));
         if (warns) {
-            QCOMPARE(m_shell->undo.count(), 1); // stored before anything is said
+            QCOMPARE(m_shell->undo.count(), 1); // stored before the alert opens
             QCOMPARE(shownAlert()->title(), fillPlaceholders(text("HighValueTitle"), {text("Ph")}));
             QVERIFY(!shownAlert()->button(AlertAlternate));
             QVERIFY(!editor());
             QVERIFY(pressAlertButton("defaultButton"));
         }
-        QTRY_VERIFY(editor() && editor()->hasFocus()); // where the tab key went
+        QTRY_VERIFY(editor() && editor()->hasFocus()); // in the cell after the edited one
         QCOMPARE(m_shell->undo.count(), 1);
     }
 
@@ -218,7 +218,7 @@ private Q_SLOTS:
         CalendarController &calendar = CalendarController::sharedInstance();
         if (key == 0) {
             clickCell(table(), 1, Date, Qt::ControlModifier);
-            QVERIFY(!calendar.isOpen()); // that only selects
+            QVERIFY(!calendar.isOpen()); // Ctrl+click only selects
             clickCell(table(), 1, Date);
         } else {
             table()->setCurrentIndex(table()->model()->index(1, Date));
@@ -230,7 +230,7 @@ private Q_SLOTS:
             return;
         QCOMPARE(calendar.columnIdentifier(), QStringLiteral("date"));
         QTest::mousePress(table()->horizontalHeader()->viewport(), Qt::LeftButton, {}, {10, 5});
-        QVERIFY(!calendar.isOpen()); // without saving
+        QVERIFY(!calendar.isOpen()); // closed without storing
         QCOMPARE(m_shell->changes, 0);
     }
     void aChosenDateIsAnEdit()

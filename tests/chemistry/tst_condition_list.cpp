@@ -58,7 +58,7 @@ private Q_SLOTS:
 
     void widths_data()
     {
-        // shown: 0 for the column's own
+        // shown: 0 for the column's own width
         test::columns<double, int>("saved", "shown");
         QTest::newRow("saved") << 140.0 << 140;
         QTest::newRow("own") << 0.0 << 0;
@@ -75,7 +75,7 @@ private Q_SLOTS:
         ConditionListController::destroyShared();
         m_shell->current->condition()->setColumnInfoArray({{"ph", saved}, {"iron", 60}});
         QCOMPARE(show().table()->columnWidth(0), shown > 0 ? shown : own);
-        // A person cannot make it smaller either.
+        // Dragging cannot make the column smaller either.
         show().table()->horizontalHeader()->resizeSection(0, 5);
         QCOMPARE(show().table()->columnWidth(0), own);
         QCOMPARE(m_shell->changes, 0);
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(stored[2].width, 131);
         QCOMPARE(m_shell->changes, 0);
 
-        // Another tank does not inherit the order on screen, and storing never mixes the two up.
+        // Another tank has its own column order, and storing one leaves the other unchanged.
         const auto other = std::make_shared<Tank>(QStringLiteral("Other"));
         m_shell->tanks.append(other);
         m_shell->current = other.get();
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QVERIFY(!iron->isChecked());
         iron->click();
         QCOMPARE(storedIdentifiers(controller), QStringList({"date", "ph", "iron"}));
-        QVERIFY(controller.table()->columnWidth(1) < 300); // no longer the one that fills the table
+        QVERIFY(controller.table()->columnWidth(1) < 300); // the last column fills the table now
         QVERIFY(controller.isColumnVisible(32));
         QCOMPARE(test::selectedRows(controller.table()), QList<int>{2});
         window->findChild<QCheckBox *>(QStringLiteral("column.date"))->click();

@@ -46,16 +46,16 @@ private Q_SLOTS:
         clickCell(table(), 0, Ph);
         edit(0, Ph, 9);
         QCOMPARE(log().rowNeedsSort(), 0);
-        edit(0, Ammonia, 1); // not the sort column, and one is pending
+        edit(0, Ammonia, 1); // not the sort column: the pending sort stays
         clickCell(table(), 0, Ammonia);
         QTest::keyClick(table(), Qt::Key_Right);
-        QCOMPARE(log().rowNeedsSort(), 0); // between the cells of the row nothing moves
+        QCOMPARE(log().rowNeedsSort(), 0); // moving within the row does not sort
         QCOMPARE(column(table(), Ph).first(), number(9));
         move(table());
         QCOMPARE(column(table(), Ph).last(), number(9));
         QTEST(selectedRows(table()), "selected");
         QCOMPARE(log().rowNeedsSort(), -1);
-        clickCell(table(), 2, Ph); // and from now on as usual
+        clickCell(table(), 2, Ph); // the next click selects as usual
         QCOMPARE(selectedRows(table()), QList<int>{2});
     }
 

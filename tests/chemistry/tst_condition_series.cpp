@@ -30,7 +30,7 @@ std::shared_ptr<ConditionData> testOn(double day)
 
 } // namespace
 
-/// The lines that a graph draws, held against numbers worked out by hand.
+/// The lines of a graph, compared with numbers calculated by hand.
 class TestConditionSeries : public QObject
 {
     Q_OBJECT
@@ -127,7 +127,7 @@ private Q_SLOTS:
 
     void range()
     {
-        // Out of order, one at each end, one before, one after, and one that lost its date.
+        // Unordered days: inside, at both ends, before and after the range, and a test without a date.
         for (const double day : {3.0, 1.0, 5.0, 0.0, 4.0, 2.0, 3.0})
             m_tank->conditionListArray().push_back(testOn(day));
         m_tank->conditionListArray().push_back(std::make_shared<ConditionData>(Blank{}));
@@ -141,7 +141,7 @@ private Q_SLOTS:
         for (const auto &record : inside.graphArray())
             days << double(firstMoment.secsTo(record->date)) / 86400;
         QCOMPARE(days, (Days{1, 2, 3, 3, 4}));
-        QCOMPARE(in(3, 3.5).graphArray().front()->ph, 6.0F); // of one moment, the log's order
+        QCOMPARE(in(3, 3.5).graphArray().front()->ph, 6.0F); // tests of one moment keep the log's order
 
         // The same moments in another zone.
         const QDateTime start = testOn(1)->date.toOffsetFromUtc(5 * 3600);
@@ -187,7 +187,7 @@ private Q_SLOTS:
         QCOMPARE(scaledMaxYValue(420, 400), 20.0);
         QCOMPARE(scaledMaxYValue(20, 20), 0.1);
         QCOMPARE(scaledMaxYValue(20, 19.95F), 0.1);
-        QCOMPARE(scaledMaxYValue(8.1F, 0.3F), double(8.1F - 0.3F)); // as single-precision numbers subtract
+        QCOMPARE(scaledMaxYValue(8.1F, 0.3F), double(8.1F - 0.3F)); // subtracted in single precision
     }
 
 private:

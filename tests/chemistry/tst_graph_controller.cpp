@@ -106,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(controller.labelForTickMarkIndex(view(), 0, GraphAxis::X, QStringLiteral("2.5")), QStringLiteral("3"));
         QVERIFY(controller.stringForToolTip(view(), {5, 9}).startsWith(u"x: "));
 
-        // The range follows into the small combos, to the second.
+        // The small combos take over the range, to the second.
         QCOMPARE(combo("startDateComboSmall").date(), firstTest);
         combo("startDateComboSmall").setCurrentIndex(5);
         press("drawButtonSmall");
@@ -123,7 +123,8 @@ private Q_SLOTS:
         expectRangeAlert([this] { press("drawButton"); });
         QTest::mouseClick(find<QToolButton>("swapButton"), Qt::LeftButton);
         press("drawButton");
-        QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(4)); // to the second at both ends
+        QCOMPARE(GraphController::sharedInstance().graphArray().size(),
+                 std::size_t(4)); // includes the tests at both ends
     }
 
     void unusableRanges_data()
@@ -153,10 +154,10 @@ private Q_SLOTS:
         type("endDateCombo", QStringLiteral("9.3.2026"));
         press("drawButton");
         QVERIFY(!find<QLabel>("emptyStateSentence")->isVisible());
-        // From midnight to midnight: the test of the last day came later.
+        // Typed days begin at midnight, so the test of the last day is outside.
         QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(7));
 
-        // The same from the boxes beside the graph: the lines go.
+        // The same range from the small combos: the graph is hidden.
         m_shell->beeps = 0;
         type("startDateComboSmall", start);
         type("endDateComboSmall", end);
@@ -236,7 +237,7 @@ private Q_SLOTS:
         QCOMPARE(entry->toolTip().contains(QStringLiteral("14") + QLocale().decimalPoint()), warningOn && deviationOn);
 
         const auto colourAt = [this](double value) {
-            QCoreApplication::processEvents(); // the view draws when it gets to it
+            QCoreApplication::processEvents(); // the view is painted in the event loop
             const QPoint place = view().positionOf({1.4, value}).toPoint();
             return view().grab().toImage().pixelColor(place * view().devicePixelRatio());
         };

@@ -23,7 +23,7 @@ private Q_SLOTS:
 
     void listsTheTargetsByName()
     {
-        m_driver->tank().ironData()->name.clear(); // as in a file without one
+        m_driver->tank().ironData()->name.clear(); // a file may lack it
         m_driver->tank().copperData()->name = QStringLiteral("zinc");
         QTableView &table = *showView();
         const QAbstractItemModelTester tester(table.model());
@@ -31,7 +31,7 @@ private Q_SLOTS:
         QStringList names;
         for (const int row : {0, 6, 12, 16})
             names << table.model()->index(row, 0).data().toString();
-        QCOMPARE(names, QStringList({"Alkalinity", "Iron", "pH", "zinc"})); // whatever their case
+        QCOMPARE(names, QStringList({"Alkalinity", "Iron", "pH", "zinc"})); // sorted without regard to case
     }
 
     void cells_data()
@@ -105,7 +105,7 @@ private Q_SLOTS:
             stop = stop->nextInFocusChain();
         } while (stop->objectName() != QLatin1String("tree"));
         stops.removeAll(QString());
-        // The size is empty and no stop.
+        // The empty size field is not a tab stop.
         QCOMPARE(stops, QStringList({"tree", "conditionTableView", "editButton", "help", "nameField", "typeField"}));
         QVERIFY(view->findChild<QLabel *>("nameField")->textInteractionFlags() & Qt::TextSelectableByMouse);
     }
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QVERIFY(m_driver->isUp());
         m_driver->click("okButton");
         QCOMPARE(m_driver->shell.tanks.count(), 2);
-        QVERIFY(!add->isVisible()); // the new tank's targets are there instead
+        QVERIFY(!add->isVisible()); // the new tank's targets are shown instead
     }
 
 private:
@@ -138,7 +138,7 @@ private:
         tree->show();
         help->show();
         controller.setKeyViewWithTankList(tree, help);
-        QCoreApplication::processEvents(); // lays it out
+        QCoreApplication::processEvents(); // runs the layout
         return controller.view()->findChild<QTableView *>("conditionTableView");
     }
 

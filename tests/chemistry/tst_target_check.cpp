@@ -109,7 +109,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// The text of a key that a table of cases names.
+    /// The text of a key that is known at run time only.
     static QString textOf(const QString &key) { return text(operator""_key(key.toLatin1().constData(), 0)); }
 };
 

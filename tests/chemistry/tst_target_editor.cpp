@@ -57,7 +57,7 @@ private Q_SLOTS:
         TankData &target = *m_driver->tank().targetForKey(key);
         target.warningOn = true;
         target.deviationOn = !deviation.isEmpty();
-        target.deviationValue = 10; // does not count unless it is in use
+        target.deviationValue = 10; // ignored while no band is in use
         m_driver->tank().freshwater = freshwater;
         m_driver->open(target.name);
         const QSize size = m_driver->sheet()->size();
@@ -69,7 +69,7 @@ private Q_SLOTS:
             const double value = typed.toDouble() + deviation.toDouble();
             QVERIFY(box()->findChild<QLabel *>("warningTitle")->text().contains(shownNumber(value, 7)));
         }
-        // The same from the file, in single precision.
+        // The same for the stored number, in single precision.
         m_driver->click("okButton");
         m_driver->open(target.name);
         QCOMPARE(box()->isVisible(), high);
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
     void thresholdsInSinglePrecision()
     {
-        QVERIFY(0.1F > 0.1); // what a target of 0.1 holds
+        QVERIFY(0.1F > 0.1); // the number that a target of 0.1 stores
         QVERIFY(!isHighValue(Parameter::Ammonia, false, 0.1F));
         QVERIFY(isHighValue(Parameter::Ammonia, false, 0.100001));
     }
@@ -96,7 +96,7 @@ private Q_SLOTS:
         m_driver->click("deviationCheckbox");
         QVERIFY(!box()->isVisible());
         m_driver->click("deviationCheckbox");
-        m_driver->click("warningCheckbox"); // takes the band away as well
+        m_driver->click("warningCheckbox"); // turns the band off as well
         QVERIFY(!box()->isVisible());
         m_driver->click("warningCheckbox");
         QVERIFY(box()->isVisible());
@@ -154,7 +154,7 @@ private Q_SLOTS:
             m_driver->press(Qt::Key_Return);
         else
             m_driver->click(end.toLatin1());
-        QCoreApplication::processEvents(); // the field may lose the focus only now
+        QCoreApplication::processEvents(); // a late focus change must not store anything
         QVERIFY(!m_driver->isUp());
         const bool confirmed = end == "okButton" || end == "return";
         QTEST(m_driver->shell.changes, "changes");

@@ -32,7 +32,7 @@ private Q_SLOTS:
         row("saltData", 14, 0.001, 10.0, 0.001, 10.0, 3);
         row("magnesiumData", 17, 10.0, 2500.0, 10.0, 400.0, 0);
     }
-    /// Steps both numbers once up, and to and beyond their ends, as the arrows and the keys do.
+    /// Steps both numbers up once, to their ends and beyond, by arrows and keys.
     void inputs()
     {
         QFETCH(int, tag);
@@ -104,7 +104,7 @@ private Q_SLOTS:
     void untouchedNumbersStay()
     {
         TankData &ammonia = *m_driver->tank().ammoniaData();
-        ammonia.preferredValue = 16.000003F; // eight digits tell it from 16
+        ammonia.preferredValue = 16.000003F; // differs from 16 in the eighth digit
         ammonia.deviationValue = 140;
         m_driver->open();
         m_driver->choose("ammoniaData");
@@ -160,7 +160,7 @@ private Q_SLOTS:
         auto *popup = m_driver->control<QComboBox>("warningPopup");
         popup->addItem(QStringLiteral("Colour"), 0);
         popup->setItemData(popup->count() - 1, QStringLiteral("colourData"), test::TankSheetDriver::keyRole);
-        m_driver->choose("ammoniaData"); // warns
+        m_driver->choose("ammoniaData"); // a target that warns
         m_driver->choose("colourData");
         QVERIFY(!m_driver->control<QCheckBox>("warningCheckbox")->isChecked());
         for (const char *name : {"warningCheckbox", "preferredField", "deviationField"})

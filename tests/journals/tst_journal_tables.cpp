@@ -23,7 +23,7 @@ using test::present;
 namespace
 {
 
-/// Hears which activities are about to be deleted.
+/// Records which activities are about to be deleted.
 struct DeletionWitness : ModelObserver {
     QStringList heard;
     void scheduleDataDeleted(ScheduleData &record) override { heard.append(record.activity); }
@@ -89,7 +89,7 @@ private Q_SLOTS:
         clickHeader(table, 1); // the sorted column flips it
         QCOMPARE(column(table, 1), QStringList({"Water change", "feed", "Clean"}));
         QCOMPARE(table->horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
-        clickHeader(table, 0); // kept again
+        clickHeader(table, 0); // keeps the direction again
         QCOMPARE(column(table, 1), QStringList({"Water change", "Clean", "feed"}));
         QCOMPARE(list.sortIdentifier(), QStringLiteral("date"));
         QVERIFY(!list.sortAscending());
@@ -135,7 +135,7 @@ private Q_SLOTS:
         DeletionWitness witness;
         auto *deleteButton = controller.view()->findChild<QToolButton *>(QStringLiteral("deleteButton"));
         QVERIFY(!deleteButton->isEnabled());
-        QTest::keyClick(controller.table(), Qt::Key_Delete); // nothing selected: nothing asked
+        QTest::keyClick(controller.table(), Qt::Key_Delete); // without a selection no alert opens
         QVERIFY(!test::shownAlert());
 
         QItemSelectionModel *selection = controller.table()->selectionModel();
@@ -175,7 +175,7 @@ private Q_SLOTS:
         m_tank->removeFromNoteListArrayAtIndex(0);
         QCOMPARE(controller.table()->model()->rowCount(), 3);
 
-        // The tank goes while its notes are on screen.
+        // The tank is deleted while its notes are on screen.
         m_shell->current = nullptr;
         m_shell->tanks.clear();
         m_tank.reset();

@@ -119,7 +119,7 @@ private Q_SLOTS:
         m_tank->schedule()->clear();
         add("only one", QDateTime(QDate(2026, 5, 1), QTime(9, 0)));
         notice.showOverdue();
-        QVERIFY(notice.notePanel()->height() < 117); // never more than needed for the rows
+        QVERIFY(notice.notePanel()->height() < 117); // no higher than its rows
     }
 
     void showsOnceAfterReading()

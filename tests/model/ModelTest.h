@@ -15,7 +15,7 @@
 namespace brinemark::test
 {
 
-/// A tank list that the application knows for as long as it lives.
+/// A tank list that is the application's during its lifetime.
 class AppTanks : public TankList
 {
 public:

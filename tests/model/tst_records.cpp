@@ -27,7 +27,7 @@ QByteArray picture(int seed, const char *format = "PNG")
     return bytes;
 }
 
-// A value for a member that differs from what a blank record holds and from that of any other place.
+// Sets a member to a value that differs from a blank record's and from that of any other place.
 void distinct(float &member, int place)
 {
     member = float(place) + 0.5F;
@@ -134,7 +134,7 @@ void checkRecordType(R &record, std::shared_ptr<Record> read, const QStringList 
     for (const Field<R> &field : FieldTable<R>::fields)
         QVERIFY2(sameField(record, *copied, field) != notCopied.contains(field.key), qPrintable(field.key.toString()));
 
-    // Through key access, into a record that holds nothing of it yet. Backwards, so that the flag that clears the
+    // Through key access, into a blank record. Backwards, so that the flag that clears the
     // interval is set before the interval is.
     R byKey(Blank{});
     for (auto field = FieldTable<R>::fields.rbegin(); field != FieldTable<R>::fields.rend(); ++field) {

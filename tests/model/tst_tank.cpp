@@ -61,18 +61,18 @@ private Q_SLOTS:
         first->insertItemData(a, u"fishListArray", 1);
         QCOMPARE(namesOf(*first), QStringLiteral("x a y"));
 
-        // Not in the destination: stays where it was as well.
+        // A record that the destination lacks also stays in its old list.
         second->insertItemData(a, u"fishListArray", 0);
         QCOMPARE(namesOf(*first), QStringLiteral("x a y"));
         QCOMPARE(namesOf(*second), QStringLiteral("a x y"));
         QCOMPARE(a->tank.get(), second.get());
 
-        // In the destination, which is not the first tank: taken out of the first one, and here a second time.
+        // A record that the destination holds is removed from the first tank and inserted a second time.
         second->insertItemData(a, u"fishListArray", 3);
         QCOMPARE(namesOf(*first), QStringLiteral("x y"));
         QCOMPARE(namesOf(*second), QStringLiteral("a x y a"));
 
-        // In the destination, but without a tank: nothing is taken out anywhere.
+        // A record without a tank is removed nowhere.
         a->tank = nullptr;
         second->insertItemData(a, u"fishListArray", 1);
         QCOMPARE(namesOf(*second), QStringLiteral("a a x y a"));
@@ -126,7 +126,7 @@ private Q_SLOTS:
 
     void observersComeAndGo()
     {
-        // The first takes the second away while a notice is on its way.
+        // The first observer deletes the second during a notice.
         struct Remover : ModelObserver {
             std::unique_ptr<test::NoticeLog> other;
             void livestockChanged(Tank &, ContainerKind) override { other.reset(); }

@@ -104,7 +104,7 @@ private Q_SLOTS:
         if (expected.contains(u"notes"))
             QCOMPARE(tanks.at(tanks.count() - 1)->note()->count(), expected.value(u"notes").toInt());
 
-        // Whatever was read can be saved, and what was saved reads.
+        // Every file that is read can be saved and read again.
         if (result.ok) {
             const plist::Dict root = tankFileDictionary(tanks, 0, 1);
             const auto saved = plist::readXml(plist::writeXml(root));
@@ -266,7 +266,7 @@ private Q_SLOTS:
         const Document six(good(QStringLiteral("older-six.xml")));
         const Tank &tank = six.tank(0);
         for (const Container *container : tank.tankItemsArray()) {
-            // The containers that the older form knows; the rest came later.
+            // The containers of the older form.
             const bool known = QList{ContainerKind::Fish, ContainerKind::Condition, ContainerKind::Schedule,
                                      ContainerKind::Inventory, ContainerKind::Note}
                                    .contains(container->kind());
@@ -321,7 +321,7 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(backup), before);
         QCOMPARE(bytesOf(path), before);
 
-        // A second copy fails silently: the first one stays.
+        // A second copy fails silently, and the first one stays.
         QVERIFY(QFile::remove(path) && QFile::copy(good(QStringLiteral("older-no-targets.xml")), path));
         QVERIFY(Document(path, callbacks).result.ok);
         QCOMPARE(bytesOf(backup), before);

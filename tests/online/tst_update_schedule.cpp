@@ -36,7 +36,7 @@ class TestUpdateSchedule : public QObject
 private Q_SLOTS:
     void checksWhenDue_data()
     {
-        // secondsAgo: -1: never stored
+        // secondsAgo: -1 when no date is stored
         test::columns<QVariant, int, int, bool>("automatic", "secondsAgo", "frequency", "checks");
         constexpr int week = 604800;
         QTest::newRow("off") << QVariant(false) << 10 * week << week << false;

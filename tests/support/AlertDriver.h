@@ -14,7 +14,7 @@
 namespace brinemark::test
 {
 
-/// The alert that is on the screen, sheet or panel; null when there is none.
+/// The visible alert, sheet or panel; null when there is none.
 inline AlertDialog *shownAlert()
 {
     for (QWidget *window : QApplication::topLevelWidgets()) {
@@ -36,8 +36,8 @@ inline bool pressAlertButton(const char *name)
     return button != nullptr;
 }
 
-/// For modal panels, which do not return before they are answered: call this first, and `act` gets the next alert once
-/// it is on the screen. `act` has to answer it. Within two seconds nothing shown means nothing called.
+/// For modal panels, which block until they are answered: calls `act`, which has to answer, with the next visible
+/// alert. `act` is not called when no alert appears within two seconds.
 inline void onNextAlert(std::function<void(AlertDialog &)> act, int triesLeft = 200)
 {
     QTimer::singleShot(10, qApp, [act = std::move(act), triesLeft] {

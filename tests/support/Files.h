@@ -10,14 +10,14 @@
 namespace brinemark::test
 {
 
-/// What a file holds; nothing when it cannot be read.
+/// The content of a file; empty when it cannot be read.
 inline QByteArray bytesOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Writes a file, and the folders that it needs.
+/// Writes a file and creates its folders.
 inline bool writeFile(const QString &path, const QByteArray &bytes)
 {
     QDir().mkpath(QFileInfo(path).path());

@@ -11,7 +11,7 @@
 namespace brinemark::test
 {
 
-/// While it lives the system lets no file grow beyond `room` bytes, as on a full disk.
+/// During its lifetime no file can grow beyond `room` bytes, as on a full disk.
 class FullDisk
 {
 public:

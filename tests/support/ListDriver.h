@@ -37,7 +37,7 @@ inline void clickCell(const QTableView *table, int row, int column, Qt::Keyboard
     QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers, middle);
 }
 
-/// What the column shows, from the first row to the last.
+/// The shown texts of a column, from the first row to the last.
 inline QStringList column(const QTableView *table, int section)
 {
     QStringList texts;
@@ -55,7 +55,7 @@ inline QList<int> selectedRows(const QTableView *table)
     return rows;
 }
 
-/// Types as a person does, into whatever has the focus.
+/// Types into the widget that has the focus.
 inline void type(const QString &text)
 {
     QTest::keyClicks(QApplication::focusWidget(), text);

@@ -8,7 +8,7 @@
 namespace brinemark::test
 {
 
-/// A number written with a comma or a full stop, as a person of this locale types it.
+/// A number with a comma or a full stop, turned into the notation of the default locale.
 inline QString local(QString number)
 {
     const QString point = QLocale().decimalPoint();

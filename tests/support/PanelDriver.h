@@ -16,7 +16,7 @@
 namespace brinemark::test
 {
 
-/// The window of this object name that is on the screen; null when there is none.
+/// The visible window of this object name; null when there is none.
 template <class Window>
 Window *shownWindow(const char *name)
 {
@@ -27,7 +27,7 @@ Window *shownWindow(const char *name)
     return nullptr;
 }
 
-/// Waits for a window to come up; null when it does not.
+/// Waits for a window to become visible; null when it does not.
 template <class Window = QDialog>
 Window *awaitWindow(const char *name)
 {
@@ -35,8 +35,8 @@ Window *awaitWindow(const char *name)
                                                                                           : nullptr;
 }
 
-/// Waits for the open or save panel, leaves its make-default box as told, and chooses `path`, or cancels when it is
-/// empty. False when no panel came up.
+/// Waits for the open or save panel, sets its make-default box, and chooses `path`, or cancels when `path` is empty.
+/// False when no panel appears.
 inline bool answerPanel(const char *name, const QString &path, std::optional<bool> makeDefault = {})
 {
     auto *panel = awaitWindow<QFileDialog>(name);
@@ -50,12 +50,12 @@ inline bool answerPanel(const char *name, const QString &path, std::optional<boo
         panel->findChild<QLineEdit *>("fileNameEdit")->setText(path);
         QMetaObject::invokeMethod(panel, "accept");
     }
-    QCoreApplication::processEvents(); // what the answer leads to is queued
+    QCoreApplication::processEvents(); // the effect of the answer is queued
     return !shownWindow<QFileDialog>(name);
 }
 
-/// Answers the question that the panel is about to ask (whether a file may be replaced) as soon as it is on the screen.
-/// Within two seconds nothing asked means nothing answered.
+/// Answers the next question of the panel (whether a file may be replaced) as soon as it is visible. Gives up after two
+/// seconds.
 inline void onNextQuestion(QMessageBox::StandardButton answer, int triesLeft = 200)
 {
     QTimer::singleShot(10, qApp, [answer, triesLeft] {

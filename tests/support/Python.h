@@ -9,9 +9,9 @@
 namespace brinemark::test
 {
 
-/// What a run of python3 left: the witness of tests about formats that other programs read.
+/// The outcome of a run of python3, which reads or writes a format independently of our code.
 struct PythonRun {
-    int exitCode = -1; ///< -1 when it did not run to its end
+    int exitCode = -1; ///< -1 when it did not end normally
     QByteArray output;
     QByteArray errors;
 };

@@ -17,7 +17,7 @@
 namespace brinemark::test
 {
 
-/// A main window that only writes down what the views ask of it. It is the shared shell for as long as it lives.
+/// A main window that only records the calls of the views. It is the shared shell during its lifetime.
 class RecordingShell : public Shell
 {
 public:

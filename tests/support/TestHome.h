@@ -8,8 +8,8 @@
 namespace brinemark::test
 {
 
-/// A home of its own for one test program: preferences, caches and application data go to a folder that is removed at
-/// the end. Made before the application object, so that nothing has looked up a folder yet.
+/// A separate home for one test program: preferences, caches and application data go to a folder that is removed at
+/// the end. Made before the application object, which looks up these folders.
 class TestHome
 {
 public:

@@ -12,7 +12,7 @@ namespace
 
 using Tests = std::map<QString, brinemark::test::TestFunction>;
 
-/// Filled while the program's constants are initialised, in an order that nobody knows: made on first use.
+/// Made on first use, because the tests add themselves during static initialisation, in any order.
 Tests &tests()
 {
     static Tests all;

@@ -101,7 +101,7 @@ private Q_SLOTS:
             beginAlertSheet(window, {.title = title}, [&log, title](int) { log << title; });
         };
         ask(m_window.get(), "first");
-        ask(&part, "second"); // the sheet belongs to the window that the part is in
+        ask(&part, "second"); // the sheet belongs to the window around the part
         ask(m_window.get(), "third");
         ask(&elsewhere, "elsewhere");
 

@@ -66,7 +66,7 @@ private Q_SLOTS:
 
     void keysChoose_data()
     {
-        // expected: null: the target is not called
+        // expected: null when the target is not called
         test::columns<QDateTime, Keys, QDateTime>("start", "keys", "expected");
         const QDateTime none;
         const QKeyCombination yearBack = Qt::SHIFT | Qt::Key_PageUp;
@@ -347,7 +347,7 @@ private:
     }
     static CalendarDays *days() { return child<CalendarDays>("calendarDays"); }
 
-    /// As a keyboard does: to the window, which finds the focus.
+    /// Sends the key to the window, which passes it to the focus widget.
     void press(QKeyCombination key) const
     {
         QTest::keyClick(shownPopup()->windowHandle(), key.key(), key.keyboardModifiers());

@@ -17,7 +17,7 @@ class ColoursTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Against figures that other checkers of contrast give.
+    /// The expected figures are those of other contrast checkers.
     void contrastIsTheRatioOfLuminances()
     {
         QCOMPARE(contrast(Qt::black, Qt::white), 21.0);

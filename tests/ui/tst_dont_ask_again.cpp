@@ -56,7 +56,7 @@ static std::optional<int> stored()
 {
     int state = -99;
     if (Panel::canShowPanelForIdentifier(identifier, &state))
-        return state == -99 ? std::nullopt : std::optional(state); // nothing stored leaves the state alone
+        return state == -99 ? std::nullopt : std::optional(state); // nothing stored: the state is unchanged
     return state;
 }
 
@@ -128,7 +128,7 @@ private Q_SLOTS:
             Panel::beginSheetForWindow(m_window.get(), ask, true, *c.ownCode, ended, &context);
         else
             Panel::beginSheetForWindow(m_window.get(), ask, ended, &context);
-        QCOMPARE(calls, c.press ? 0 : 1); // at once when it is not shown
+        QCOMPARE(calls, c.press ? 0 : 1); // called at once when no sheet is shown
         if (c.press)
             answer(c);
         QCOMPARE(calls, 1);
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QVERIFY(!Panel::willShowPanelForIdentifier(identifier));
         QVERIFY(Panel::willShowPanelForIdentifier(identifier + "2"));
 
-        // It lasts: another reader of the same file sees a number.
+        // Another reader of the same file sees a number.
         QVERIFY(Preferences::shared().flush());
         const Preferences reread(Preferences::shared().path());
         const QVariant read = reread.variant("dont.ask.again.result.DontShowAgainNotTested");

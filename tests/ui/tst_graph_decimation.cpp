@@ -27,7 +27,7 @@ bool left(const QPointF &a, const QPointF &b)
     return a.x() < b.x();
 }
 
-/// Random points in ascending x, with many at one place and gaps between others.
+/// Random points in ascending x; many share an x, others have gaps between them.
 QList<QPointF> randomPoints(int count, quint32 seed)
 {
     QRandomGenerator random(seed);
@@ -105,7 +105,7 @@ private Q_SLOTS:
             }
             QCOMPARE(extremesByColumn(kept, xMin, xMax, columns), extremesByColumn(points, xMin, xMax, columns));
 
-            // The line enters and leaves as it did.
+            // The points before and after the range are kept, for the line at the edges.
             const auto inside =
                 std::partition_point(points.begin(), points.end(), [xMin](const QPointF &p) { return p.x() < xMin; });
             if (inside != points.begin())
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(decimated(points, 0, 1, 7), points);
     }
 
-    /// Of a dense line every column shows its whole extent, and nothing more than what leads to its neighbours.
+    /// A dense line drawn by its strokes looks like the same line drawn segment by segment.
     void denseLinesShowEveryExtent()
     {
         const QRectF area(0, 0, 200, 100);
@@ -157,7 +157,7 @@ private Q_SLOTS:
                 for (int x = 0; x < image.width(); ++x)
                     different += image.pixel(x, y) != reference.pixel(x, y) ? 1 : 0;
             }
-            // A pixel at either end of a column may be rounded another way.
+            // The pixel at either end of a column may be rounded differently.
             QVERIFY2(different < 3 * image.width(), qPrintable(QString::number(different)));
             QVERIFY(dense.segments.size() + dense.uprights.size() < 2 * image.width() + 10);
             if (seed == 1 || seed == 10) // a thin line encloses nothing
@@ -193,7 +193,7 @@ private Q_SLOTS:
     void rangesCanBeDrawn()
     {
         constexpr double inf = std::numeric_limits<double>::infinity();
-        QVERIFY(drawableRange(20, 0) == (GraphRange{0, 20})); // turned round
+        QVERIFY(drawableRange(20, 0) == (GraphRange{0, 20})); // swapped
         QVERIFY(drawableRange(7, 7) == (GraphRange{7, 8}));
         QVERIFY(drawableRange(inf, -inf) == (GraphRange{0, 1}));
         QVERIFY(drawableRange(std::nan(""), std::nan("")) == (GraphRange{0, 1}));
@@ -205,9 +205,9 @@ private Q_SLOTS:
     {
         const GraphRange whole{10, 110};
         QVERIFY(zoomedRange(whole, whole, 60, 0.5) == (GraphRange{35, 85}));
-        QVERIFY(zoomedRange(whole, whole, 1000, 0.5) == (GraphRange{60, 110})); // an anchor outside is the edge
+        QVERIFY(zoomedRange(whole, whole, 1000, 0.5) == (GraphRange{60, 110})); // an anchor outside counts as the edge
         QVERIFY(zoomedRange({35, 85}, whole, 40, 100) == whole);
-        QVERIFY(zoomedRange({100, 110}, whole, 100, 2) == (GraphRange{90, 110})); // not into emptiness
+        QVERIFY(zoomedRange({100, 110}, whole, 100, 2) == (GraphRange{90, 110})); // the whole range is the limit
 
         GraphRange visible = whole;
         for (int i = 0; i < 500; ++i)

@@ -170,7 +170,7 @@ private Q_SLOTS:
         QVERIFY(pixelsOf(shot(), m_blue) > 100);
     }
 
-    /// A colour hardly different from the background is given an edge, and stays what it is.
+    /// A line whose colour is close to the background gets an edge and keeps its colour.
     void linesCanBeSeen_data()
     {
         test::columns<QPalette, QColor>("palette", "colour");
@@ -258,10 +258,10 @@ private Q_SLOTS:
         m_graph.asked.clear();
         turnWheel(position, 1);
         QVERIFY(m_view->isZoomed());
-        QVERIFY(QLineF(m_view->positionOf({2, 15}), position).length() < 8); // the margins follow the labels
+        QVERIFY(QLineF(m_view->positionOf({2, 15}), position).length() < 8); // the labels change the margins
         QVERIFY(std::abs(m_view->visibleRange(GraphAxis::X).length() - 8) < 1e-9);
         QVERIFY(std::abs(m_view->visibleRange(GraphAxis::Y).length() - 16) < 1e-9);
-        QCOMPARE(m_graph.asked[GraphAxis::X].size(), 3); // spaced anew over what is visible
+        QCOMPARE(m_graph.asked[GraphAxis::X].size(), 3); // spaced over the visible range
         QCOMPARE(m_graph.asked[GraphAxis::X].last(), QString::asprintf("%g", m_view->visibleRange(GraphAxis::X).max));
         QCOMPARE(changes.size(), 1);
         turnWheel(position, -5);
@@ -329,7 +329,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!QToolTip::isVisible());
         m_view->setLineVisible(0, true);
 
-        // Of a zoomed graph the points outside are out of reach.
+        // Points outside the visible range have no tool tip.
         turnWheel(m_view->positionOf({8, 8}), 8, Qt::ControlModifier);
         hover(m_view->positionOf({4, 8}));
         QTRY_VERIFY(!QToolTip::isVisible());
@@ -337,7 +337,7 @@ private Q_SLOTS:
 
     void symbolsStandWhereTheyHaveRoom()
     {
-        // How much red stands out above a level line.
+        // The number of red pixels above a level line.
         const auto standingOut = [this](int count, GraphSymbol symbol) {
             QList<QPointF> points;
             for (int i = 0; i < count; ++i)

@@ -120,7 +120,7 @@ private Q_SLOTS:
             QCOMPARE(anchorsOf(german), anchorsOf(english));
             QCOMPARE(linksOf(german), linksOf(english));
             for (const QString &anchor : anchorsOf(english)) {
-                QVERIFY2(!seen.contains(anchor), qPrintable(anchor)); // an anchor alone has to name its page
+                QVERIFY2(!seen.contains(anchor), qPrintable(anchor)); // an anchor belongs to one page
                 seen.insert(anchor);
             }
         }
@@ -218,7 +218,7 @@ private Q_SLOTS:
         QVERIFY(browser->extraSelections().size() > 2);
         for (qsizetype i = 1; i < browser->extraSelections().size(); ++i)
             QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(browser->textCursor().selectionStart(), first.selectionStart()); // once round
+        QCOMPARE(browser->textCursor().selectionStart(), first.selectionStart()); // the search starts again at the top
         field->clear();
         QTest::keyClicks(field, QStringLiteral("kraken"));
         QCOMPARE(part<QLabel>("helpFindResult")->text(), text("HelpFindNone"));

@@ -63,7 +63,7 @@ private Q_SLOTS:
         open();
         const bool replace = answer == QMessageBox::Yes;
         test::onNextQuestion(answer);
-        // Asked about the file with the suffix, which was not typed; after a no the panel is still there.
+        // The question is about the file with the added suffix. After "No" the panel stays open.
         QCOMPARE(test::answerPanel("reefPanel", m_folder->filePath(QStringLiteral("reef"))), replace);
         QCOMPARE(m_chosen, replace ? QStringList{there} : QStringList());
         if (!replace)
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QString, name);
         QCOMPARE(fileNameFor(text), name);
-        // The panel proposes it in its folder, and it can be written there.
+        // The panel proposes the name in its folder, and a file of that name can be written.
         SavePanelOptions options{QStringLiteral("reefPanel")};
         options.folder = m_folder->path();
         options.proposedName = text.isEmpty() ? QStringLiteral(".") : text;

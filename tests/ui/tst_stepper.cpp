@@ -58,10 +58,10 @@ private Q_SLOTS:
         stepper.setValue(std::numeric_limits<double>::quiet_NaN());
         QCOMPARE(stepper.value(), 0.0);
         stepper.setValue(4);
-        stepper.setRange(0, 3); // takes the value along
+        stepper.setRange(0, 3); // limits the value too
         QCOMPARE(stepper.value(), 3.0);
         QCOMPARE(heard.count(), 0);
-        stepper.stepBy(1); // at the end already
+        stepper.stepBy(1); // already at the maximum
         QCOMPARE(heard.count(), 0);
         stepper.stepBy(-1);
         QCOMPARE(heard, (QList<QVariantList>{{2.0}}));
