@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "chemistry/views/CheckedCellDelegate.h"
 #include "chemistry/views/CheckedLineEdit.h"
 #include "support/DataRow.h"
 #include "support/LocalNumber.h"
@@ -14,8 +13,6 @@
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QSignalSpy>
-#include <QStandardItemModel>
-#include <QTableView>
 
 #include <functional>
 #include <memory>
@@ -255,74 +252,6 @@ private Q_SLOTS:
         QTest::keyClicks(&field, "7");
         QTest::keyClick(&field, Qt::Key_Return);
         QVERIFY(finished == 1 && field.hasEdit());
-    }
-
-    /// A table of a text column and a number column that may be untested: the value of the cell after each key, and
-    /// how often it was stored.
-    void cells_data()
-    {
-        test::columns<QString, int, double, int>("keys", "end", "value", "stored");
-        using S = QString;
-        row("typed, Tab", S("8.25"), int(Qt::Key_Tab), 8.25, 1);
-        row("typed, Escape", S("8.25"), int(Qt::Key_Escape), 7.5, 0);
-        row("typed, focus out", S("8.25"), 0, 8.25, 1);
-        row("same again", S("7.5"), int(Qt::Key_Return), 7.5, 1);
-        row("untouched", S(), int(Qt::Key_Return), 7.5, 0);
-        row("emptied", S("\b"), int(Qt::Key_Return), -1.0, 1);
-        row("rounded", S("1.005001"), int(Qt::Key_Tab), 1.01, 1);
-    }
-    void cells()
-    {
-        QFETCH(QString, keys);
-        QFETCH(int, end);
-        QFETCH(double, value);
-        QFETCH(int, stored);
-        struct CountingModel : QStandardItemModel {
-            using QStandardItemModel::QStandardItemModel;
-            bool setData(const QModelIndex &index, const QVariant &value, int role) override
-            {
-                ++stored;
-                return QStandardItemModel::setData(index, value, role);
-            }
-            int stored = 0;
-        } model(2, 2);
-        model.setHorizontalHeaderLabels({"Name", "pH"});
-        model.setItem(0, 0, new QStandardItem("first"));
-        const QModelIndex cell = model.index(0, 1);
-        model.setData(cell, 7.5, Qt::EditRole);
-        const SFCheckedFormatter checked = formatter(MayBeUntested);
-        QTableView view;
-        view.setModel(&model);
-        view.setItemDelegate(new CheckedCellDelegate(
-            [&](const QModelIndex &index) { return index.column() == 1 ? &checked : nullptr; }, &view));
-        view.show();
-        view.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&view));
-
-        view.setCurrentIndex(cell);
-        view.edit(cell);
-        auto *editor = view.findChild<CheckedLineEdit *>("cellEditor");
-        QVERIFY(editor);
-        QCOMPARE(editor->text(), local("7.50"));
-        QCOMPARE(editor->selectedText(), editor->text());
-        QCOMPARE(editor->accessibleName(), QString("pH"));
-        QVERIFY(!editor->hasFrame());
-
-        model.stored = 0;
-        for (const QChar c : local(keys)) {
-            if (c == u'\b')
-                QTest::keyClick(editor, Qt::Key_Backspace);
-            else
-                QTest::keyClicks(editor, QString(c));
-        }
-        if (end != 0)
-            QTest::keyClick(editor, Qt::Key(end));
-        else
-            view.setFocus();
-        QTRY_VERIFY(!view.findChild<CheckedLineEdit *>("cellEditor") || end == Qt::Key_Tab);
-        QCOMPARE(model.stored, stored);
-        QCOMPARE(model.data(cell).toDouble(), value);
-        QCOMPARE(view.currentIndex().row(), end == Qt::Key_Tab ? 1 : 0);
     }
 
 private:

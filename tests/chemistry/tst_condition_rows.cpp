@@ -157,17 +157,6 @@ private Q_SLOTS:
         }
         QCOMPARE(m_shell->deletesAsked, 2);
     }
-
-    void deletesScatteredRows()
-    {
-        for (const int row : {0, 2, 4})
-            clickCell(table(), row, Ph, Qt::ControlModifier);
-        QTest::keyClick(table(), Qt::Key_Delete);
-        QTRY_VERIFY(shownAlert());
-        QVERIFY(pressAlertButton("defaultButton"));
-        QCOMPARE(column(table(), Ph), QStringList({number(7.1), number(7.3)}));
-        QCOMPARE(m_shell->undo.count(), 0);
-    }
 };
 
 BRINEMARK_TEST(QApplication, TestConditionRows)

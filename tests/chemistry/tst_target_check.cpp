@@ -12,7 +12,6 @@
 #include <QCoreApplication>
 
 #include <cmath>
-#include <limits>
 
 using namespace brinemark;
 using test::row;

@@ -5,7 +5,6 @@
 #include "base/plist/XmlReader.h"
 #include "base/plist/XmlWriter.h"
 #include "model/TankFile.h"
-#include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/Python.h"
 

@@ -30,8 +30,8 @@
 namespace brinemark::test
 {
 
-/// Answers every alert that comes up, sheet or panel, with the next of the given answers, for as long as it lives, and
-/// keeps their titles. An alert too many is cancelled, so that the titles show it and nothing hangs.
+/// During its lifetime answers every alert, sheet or panel, with the next of the given answers, and keeps its title. An
+/// alert beyond the given answers is cancelled: its title shows it and the test does not hang.
 class AlertScript : public QObject
 {
 public:
@@ -81,8 +81,8 @@ inline QStringList tankNamesIn(const QString &path)
     return names;
 }
 
-/// The program as main() starts it, with fresh preferences and a folder of its own, and its end. Nothing is shown
-/// before start(). It has run before, unless told otherwise.
+/// Starts the program as main() does, with fresh preferences and a folder of its own, and ends it. Nothing is shown
+/// before start(). By default the preferences are those of a program that has run before.
 class Program
 {
 public:
@@ -91,7 +91,7 @@ public:
     explicit Program(History history = RanBefore)
     {
         if (history != KeepPreferences) {
-            // A second object of the same file shares the values of the program's own.
+            // Objects of the same file share their values, so this clears those of the program.
             QSettings(Preferences::shared().path(), propertyListSettingsFormat()).clear();
             Preferences::shared().flush();
         }
@@ -117,7 +117,7 @@ public:
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
 
-    /// Goes through start-up, with the file when one is given; then the document is clean and no sheet is up.
+    /// Runs the start-up, with the file when one is given. Afterwards the document is unedited and no sheet is open.
     void start(const QString &file = {})
     {
         if (!file.isEmpty())
@@ -126,7 +126,7 @@ public:
         settle();
     }
 
-    /// Confirms the sheet that an untitled document opens on its new tank, and counts the changes so far as saved.
+    /// Confirms the sheet that an untitled document opens for its new tank, and resets the change count.
     void settle()
     {
         QCoreApplication::processEvents();
@@ -137,11 +137,11 @@ public:
             document().documentModifiedWithChange(false);
     }
 
-    /// Runs the event loop as main() does, with `act` in it. Whether the program then ended by itself.
+    /// Runs the event loop as main() does and calls `act` in it. True when the program ends by itself.
     static bool endsAfter(const std::function<void()> &act)
     {
         constexpr int stillRunning = 1;
-        QTimer giveUp; // goes with this function: an exit() later would end the next panel instead
+        QTimer giveUp; // local: a later exit() would end the next panel instead
         giveUp.setSingleShot(true);
         QObject::connect(&giveUp, &QTimer::timeout, [] { QCoreApplication::exit(stillRunning); });
         QTimer::singleShot(0, qApp, [&] {
@@ -167,7 +167,7 @@ public:
         return names;
     }
 
-    /// An edit as a person makes it: gives the first tank another name in the tree.
+    /// Renames the first tank in the tree, which is an edit of the document.
     static bool renameFirstTank(const QString &name)
     {
         QAbstractItemModel *rows = tree().tankList()->model();
