@@ -235,11 +235,15 @@ private Q_SLOTS:
         row("other separators", german, "4/3-07", day);
         row("names", named, "Sunday, 4 march 2007", day);
         row("short names", named, "Sun, 4 Mar 2007", day);
+        row("blanks", german, "  4. 3. 07 ", day);
+        row("short names", named, "Sun, 4 Mar 2007", day);
+        row("mark at the end", "%d.%m.%Y г.", "4.3.2007", day);
         row("year first", "%Y-%m-%d", "2007-3-4", day);
         row("last of this century", german, "4.3.68", QDate(2068, 3, 4));
         row("first of the last century", german, "4.3.69", QDate(1969, 3, 4));
         row("leap day", german, "29.2.24", QDate(2024, 2, 29));
         row("no leap day", german, "29.2.23", none);
+        row("three-digit year", british, "4/3/200", none);
         row("five-digit year", british, "4/3/20070", none);
         row("no year", german, "4.3.", none);
         row("empty", german, "", none);

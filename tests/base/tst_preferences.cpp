@@ -129,6 +129,7 @@ private Q_SLOTS:
         const QVariant absent;
         row("flag", QVariant(true), QVariant(true), QVariant(1), QVariant("true"));
         row("number", QVariant(7), QVariant(true), QVariant(7), QVariant("7"));
+        row("zero", QVariant(0), QVariant(false), QVariant(0), QVariant("0"));
         row("number as text", QVariant(" 42 "), QVariant(true), QVariant(42), QVariant(" 42 "));
         row("YES", QVariant("YES"), QVariant(true), absent, QVariant("YES"));
         row("word", QVariant("often"), absent, absent, QVariant("often"));

@@ -112,6 +112,7 @@ private Q_SLOTS:
         QTest::newRow("text and number") << "%@: %i" << QVariantList{"Reef", 7} << "Reef: 7";
         QTest::newRow("per-cent sign") << "%i%% %@" << QVariantList{50, "full"} << "50% full";
         QTest::newRow("surplus value") << "%@" << QVariantList{"a", "b"} << "a";
+        QTest::newRow("missing values") << "%@-%i-%@" << QVariantList{"a"} << "a--";
         QTest::newRow("value with a format") << "%@ %@" << QVariantList{"%@", "b"} << "%@ b";
         QTest::newRow("fraction as whole number") << "%i" << QVariantList{-7.9} << "-7";
         QTest::newRow("large number") << "%i" << QVariantList{qint64(9007199254740993)} << "9007199254740993";

@@ -145,6 +145,7 @@ private Q_SLOTS:
         add("minus", Signed, {typed("-3.5")}, "-3.5|", 0, -3.5);
         add("minus alone", Signed, {typed("-")}, "-|", 0, 0);
         add("minus twice", Signed, {typed("--2-")}, "-2|", 2, -2);
+        add("minus, from 0", Tested, {typed("-5")}, "5|", 1, 5);
         add("minus, not tested", MayBeUntested, {typed("-5")}, "5|", 1, 5);
         add("minus pasted, not tested", MayBeUntested, {paste("-5")}, "?|", 0, -1);
         add("minus pasted behind", Signed, {paste("12-")}, "12.00|", 0, 12);

@@ -46,6 +46,7 @@ private Q_SLOTS:
         row("truncated", S("7.29"), 99.0, 2, 1, false, false, 7.2);
         row("floor", S("-0.21"), 99.0, 3, 1, false, false, -0.3);
         row("ceiling", S("1.21"), 99.0, 4, 1, false, false, 1.3);
+        row("unknown rounding", S("1.21"), 99.0, 9, 1, false, false, 1.21);
         row("empty", S(), 99.0, 1, 2, false, false, 0.0);
         row("empty, not tested", S(), 99.0, 1, 2, true, false, -1.0);
         row("word, not tested", text("NotTested"_key), 99.0, 1, 2, true, false, -1.0);

@@ -171,6 +171,7 @@ private Q_SLOTS:
         row("click", 0, true);
         row("F2", int(Qt::Key_F2), true);
         row("space", int(Qt::Key_Space), true);
+        row("a letter", int(Qt::Key_A), false);
     }
     void datesComeFromTheCalendar()
     {

@@ -163,6 +163,7 @@ private Q_SLOTS:
         type("endDateComboSmall", end);
         expectRangeAlert([this] { press("drawButtonSmall"); });
         QCOMPARE(find<QLabel>("emptyStateSentence")->text(), text("DateRangeMessage"));
+        QCOMPARE(GraphController::sharedInstance().numberOfLinesInTwoDGraphView(view()), 0);
         QVERIFY(!view().isVisible());
         QLocale::setDefault(before);
     }

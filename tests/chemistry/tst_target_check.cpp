@@ -43,6 +43,7 @@ private Q_SLOTS:
         row("on a single value", 25.0, -1.0, 25.0, none, none, 0.0F);
         row("a band of width 0", 25.0, 0.0, 24.0, low, equal, 25.0F);
         row("not tested", 25.0, 1.0, -1.0, none, none, 0.0F);
+        row("any negative value", 25.0, 1.0, -0.001, none, none, 0.0F);
         row("zero is a result", 25.0, 1.0, 0.0, low, QStringLiteral("LowValueMessage"), 24.0F);
         row("no number", 25.0, 1.0, std::nan(""), none, none, 0.0F);
     }

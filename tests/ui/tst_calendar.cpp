@@ -80,8 +80,11 @@ private Q_SLOTS:
         row("leap day a year back and on", at(2024, 2, 29), keys(yearBack, yearOn), at(2024, 2, 28));
         row("31st a month on", at(2026, 3, 31), keys(Qt::Key_PageDown), at(2026, 4, 30));
         row("month over the year", at(2026, 12, 5), keys(Qt::Key_PageDown), at(2027, 1, 5));
+        row("last of the month", at(2024, 2, 3), keys(Qt::Key_End), at(2024, 2, 29));
         row("first of the month", at(2024, 2, 3), keys(Qt::Key_Home), at(2024, 2, 1));
         row("today", at(2007, 3, 14), keys(Qt::Key_T), at(2026, 3, 14));
+        row("there and back", at(2007, 3, 14), keys(Qt::Key_Right, Qt::Key_Left), none);
+        row("time there and back", at(2007, 3, 14), keys(Qt::Key_Tab, Qt::Key_Up, Qt::Key_Down), none);
         row("last day there is", at(9999, 12, 31), keys(Qt::Key_Right, Qt::Key_Down, Qt::Key_PageDown, yearOn), none);
         row("first day there is", at(1, 1, 1), keys(Qt::Key_Left, Qt::Key_Up, Qt::Key_PageUp, yearBack), none);
         row("near the end", at(9999, 12, 30), keys(Qt::Key_Down, Qt::Key_Right), at(9999, 12, 31));
