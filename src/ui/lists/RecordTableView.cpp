@@ -142,14 +142,23 @@ void RecordTableView::mousePressEvent(QMouseEvent *event)
     if (selection)
         selection->beginGesture();
     QTableView::mousePressEvent(event);
+    m_pressDropped = selection && selection->dropsGesture();
     if (selection && m_held) // a sheet has opened and receives the release of the button
         selection->endGesture();
+}
+
+void RecordTableView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // After a dropped press another record is under the pointer: its editor or calendar must not open.
+    if (m_pressDropped)
+        event->accept();
+    else
+        QTableView::mouseDoubleClickEvent(event);
 }
 
 void RecordTableView::mouseReleaseEvent(QMouseEvent *event)
 {
     RecordSelectionModel *selection = recordSelection();
-    const bool dropped = selection && selection->dropsGesture();
     const QPersistentModelIndex cell = indexAt(event->position().toPoint());
     bool isClick = false;
     const auto watch =
@@ -159,7 +168,7 @@ void RecordTableView::mouseReleaseEvent(QMouseEvent *event)
     if (selection)
         selection->endGesture();
     const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
-    if (isClick && plain && !dropped && cell.isValid() && openCell)
+    if (isClick && plain && !m_pressDropped && cell.isValid() && openCell)
         openCell(cell);
 }
 
@@ -167,6 +176,10 @@ void RecordTableView::contextMenuEvent(QContextMenuEvent *event)
 {
     if (!menuAsked) {
         QTableView::contextMenuEvent(event);
+        return;
+    }
+    if (event->reason() == QContextMenuEvent::Mouse && m_pressDropped) {
+        event->accept();
         return;
     }
     QPoint place = event->globalPos();

@@ -43,6 +43,7 @@ protected:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -55,6 +56,7 @@ private:
     std::function<void()> m_deletePressed;
     QPersistentModelIndex m_toEdit; ///< the cell to edit when editing is released
     bool m_held = false;
+    bool m_pressDropped = false; ///< the last press ended a pending re-sort: all that belongs to it is dropped
     bool m_committing = false;
 };
 

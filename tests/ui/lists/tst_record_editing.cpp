@@ -115,6 +115,51 @@ private Q_SLOTS:
         QCOMPARE(selectedRows(table()), QList<int>{4});
     }
 
+    /// A press that ends a pending re-sort hits another record than was aimed at. All that belongs to it is dropped.
+    void aDroppedGesture_data()
+    {
+        test::columns<QString>("gesture");
+        for (const char *gesture : {"click on a date", "double click", "right click", "drag"})
+            QTest::newRow(gesture) << QString(gesture);
+    }
+    void aDroppedGesture()
+    {
+        QFETCH(QString, gesture);
+        int menus = 0;
+        table()->menuAsked = [&](const QPoint &) { ++menus; };
+        const auto at = [&](int row, int column) { return table()->visualRect(cell(row, column)).center(); };
+        clickCell(table(), 0, Activity);
+        rename(0, "z");
+        QWidget *viewport = table()->viewport();
+        if (gesture == "click on a date") {
+            clickCell(table(), 2, Due);
+        } else if (gesture == "double click") {
+            clickCell(table(), 2, Activity);
+            QTest::mouseDClick(viewport, Qt::LeftButton, {}, at(2, Activity));
+        } else if (gesture == "right click") {
+            QTest::mousePress(viewport, Qt::RightButton, {}, at(2, Activity));
+            QContextMenuEvent ask(QContextMenuEvent::Mouse, at(2, Activity), viewport->mapToGlobal(at(2, Activity)));
+            QApplication::sendEvent(viewport, &ask);
+            QTest::mouseRelease(viewport, Qt::RightButton, {}, at(2, Activity));
+        } else {
+            QTest::mousePress(viewport, Qt::LeftButton, {}, at(1, Activity));
+            for (const int row : {2, 3})
+                QTest::mouseMove(viewport, at(row, Activity));
+            QTest::mouseRelease(viewport, Qt::LeftButton, {}, at(3, Activity));
+        }
+        QCOMPARE(activities(), "bcdez");
+        QCOMPARE(selectedRows(table()), QList<int>{4}); // still "z"
+        QVERIFY(!editor() && !CalendarController::sharedInstance().isOpen());
+        QCOMPARE(menus, 0);
+
+        clickCell(table(), 1, Activity); // the next gesture counts
+        QTest::mouseDClick(viewport, Qt::LeftButton, {}, at(1, Activity));
+        QVERIFY(editor());
+        QContextMenuEvent ask(QContextMenuEvent::Mouse, at(1, Activity), viewport->mapToGlobal(at(1, Activity)));
+        QApplication::sendEvent(viewport, &ask);
+        QCOMPARE(menus, 1);
+    }
+
     void undo()
     {
         rename(0, "z");
