@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QScopeGuard>
+#include <QSplitter>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTimeEdit>
@@ -212,7 +213,7 @@ private Q_SLOTS:
     void goesWithWhatItStandsOn_data()
     {
         QTest::addColumn<QString>("what");
-        for (const char *what : {"table", "model", "reset", "rows", "other model", "hidden"})
+        for (const char *what : {"table", "model", "reset", "rows", "other model", "hidden", "resized", "splitter"})
             row(what, QString(what));
     }
 
@@ -220,6 +221,17 @@ private Q_SLOTS:
     {
         QFETCH(QString, what);
         QStandardItemModel other;
+        QSplitter splitter;
+        const auto takeBack = qScopeGuard([this] {
+            if (m_table)
+                m_table->setParent(nullptr);
+        });
+        if (what == "splitter") {
+            splitter.addWidget(m_table.get());
+            splitter.addWidget(new QWidget);
+            splitter.resize(800, 300);
+            splitter.show();
+        }
         open(at(2026, 3, 11));
         press(Qt::Key_Right);
         if (what == "table")
@@ -232,6 +244,10 @@ private Q_SLOTS:
             m_model->removeRow(3);
         else if (what == "other model")
             m_table->setModel(&other);
+        else if (what == "resized")
+            m_table->resize(m_table->size() + QSize(8, 0));
+        else if (what == "splitter")
+            QTest::mouseClick(splitter.windowHandle(), Qt::LeftButton, {}, splitter.handle(1)->geometry().center());
         else
             m_table->hide();
         controller().closeAndSave(true, true);

@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QScreen>
+#include <QSplitterHandle>
 
 #include <algorithm>
 #include <utility>
@@ -108,6 +109,7 @@ void CalendarController::watchTable()
     connect(m_model, &QAbstractItemModel::rowsMoved, watch, abandon);
     connect(m_model, &QObject::destroyed, watch, abandon);
     m_table->installEventFilter(this);
+    m_table->window()->installEventFilter(this);
 }
 
 void CalendarController::closeAndSave(bool save, bool fade)
@@ -118,8 +120,10 @@ void CalendarController::closeAndSave(bool save, bool fade)
     const QPointer<QAbstractItemModel> model = std::exchange(m_model, {});
     m_columnIdentifier.clear();
     m_watch.reset();
-    if (widget)
+    if (widget) {
         widget->removeEventFilter(this);
+        widget->window()->removeEventFilter(this);
+    }
     if (!popup)
         return;
 
@@ -139,7 +143,9 @@ void CalendarController::leave(QPoint globalPoint)
 {
     if (!m_popup || !table())
         return;
-    if (isAt(table()->horizontalHeader(), globalPoint)) {
+    const QWidget *window = m_table->window();
+    const QWidget *pressed = window->childAt(window->mapFromGlobal(globalPoint));
+    if (isAt(table()->horizontalHeader(), globalPoint) || qobject_cast<const QSplitterHandle *>(pressed)) {
         closeAndSave(false, false);
         return;
     }
@@ -150,7 +156,9 @@ void CalendarController::leave(QPoint globalPoint)
 
 bool CalendarController::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Hide && watched == m_table)
+    const bool hidden = event->type() == QEvent::Hide && watched == m_table;
+    const bool resized = event->type() == QEvent::Resize && m_table && watched == m_table->window();
+    if (hidden || resized)
         closeAndSave(false, false);
     return QObject::eventFilter(watched, event);
 }
