@@ -116,8 +116,10 @@ private Q_SLOTS:
         m_tank->removeFromScheduleListArrayAtIndex(0);
         QCOMPARE(activities(), "abcde");
         Tank &other = showAnotherTank(2);
+        table()->selectRow(1);
         m_tank->insertInScheduleListArray(first, 5); // of a tank that is not on screen
         QCOMPARE(activities(), "ab");
+        QCOMPARE(selectedRows(table()), QList<int>{1});
         other.schedule()->clear();
         m_list->updateDisplay();
         QVERIFY(button<QPushButton>("emptyStateButton")->isVisible());
