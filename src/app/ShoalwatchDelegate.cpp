@@ -4,7 +4,7 @@
 
 #include "app/ShoalwatchController.h"
 #include "app/documents/DocumentCommands.h"
-#include "app/preferences/PrefsController.h"
+#include "app/documents/TankDocument.h"
 #include "app/startup/DockMenu.h"
 #include "app/startup/StartupSteps.h"
 #include "app/tree/TankListController.h"
@@ -14,18 +14,8 @@
 #include "base/Product.h"
 #include "base/text/Texts.h"
 #include "calc/views/ConverterController.h"
-#include "chemistry/views/ConditionListController.h"
-#include "chemistry/views/GraphController.h"
-#include "chemistry/views/TankDataController.h"
-#include "chemistry/views/TankDataEntryController.h"
-#include "journals/views/ExpenseListController.h"
-#include "journals/views/InventoryListController.h"
-#include "journals/views/NoteListController.h"
 #include "journals/views/NotificationController.h"
-#include "journals/views/ScheduleListController.h"
-#include "livestock/views/FishDataController.h"
 #include "livestock/views/FishDataEntryController.h"
-#include "livestock/views/LivestockGroupController.h"
 #include "model/TankFile.h"
 #include "online/views/EListSignupController.h"
 #include "online/views/QZUpdateController.h"
@@ -33,7 +23,6 @@
 #include "ui/FinishTyping.h"
 #include "ui/HelpWindow.h"
 #include "ui/WindowPlacement.h"
-#include "ui/calendar/CalendarController.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -61,32 +50,12 @@ ShoalwatchDelegate::~ShoalwatchDelegate() = default;
 
 void ShoalwatchDelegate::destroyEverything()
 {
-    closeHelp();
     if (ShoalwatchController::hasSharedInstance())
         ShoalwatchController::sharedInstance().programWillEnd();
-    // Undo steps hold records and call back into the controllers, so they go first.
+    // The undo steps hold records and call back into the controllers, so they are destroyed first.
     if (hasSharedInstance())
         sharedInstance().m_undoManager->clear();
-    CalendarController::destroyShared();
-    GraphController::destroyShared();
-    ConditionListController::destroyShared();
-    TankDataController::destroyShared();
-    TankDataEntryController::destroyShared();
-    ScheduleListController::destroyShared();
-    InventoryListController::destroyShared();
-    ExpenseListController::destroyShared();
-    NoteListController::destroyShared();
-    FishDataController::destroyShared();
-    LivestockGroupController::destroyShared();
-    ConverterController::destroyShared();
-    QZUpdateController::destroyShared();
-    EListSignupController::destroyShared();
-    PrefsController::destroyShared();
-    FishDataEntryController::destroyShared();
-    NotificationController::destroyShared();
-    ShoalwatchController::destroyShared();
-    TankListController::destroyShared();
-    ShoalwatchDelegate::destroyShared();
+    SharedRegistry::endAll();
 }
 
 // ---- start-up

@@ -26,8 +26,7 @@ class ShoalwatchDelegate : public QObject, public Shared<ShoalwatchDelegate>
 public:
     ~ShoalwatchDelegate() override;
 
-    /// Ends every shared instance of the program, in the order in which they need each other. Called once, while the
-    /// application object still lives.
+    /// Ends every shared instance of the program. Called once, while the application object still exists.
     static void destroyEverything();
 
     [[nodiscard]] QUndoStack &undoManager() const { return *m_undoManager; } ///< 20 levels

@@ -68,11 +68,6 @@ void showHelp(const QString &anchor)
     HelpWindow::sharedInstance().showAnchor(anchor);
 }
 
-void closeHelp()
-{
-    HelpWindow::destroyShared();
-}
-
 HelpWindow::HelpWindow()
     : m_browser(new QTextBrowser)
     , m_findField(new QLineEdit)

@@ -18,9 +18,6 @@ namespace brinemark
 /// anchor shows the start page.
 void showHelp(const QString &anchor = {});
 
-/// Destroys the help window; called at quit.
-void closeHelp();
-
 /// The help window: plain HTML pages in the user's language, or in English when that language has none.
 class HelpWindow : public QWidget, public Shared<HelpWindow>
 {

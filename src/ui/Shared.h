@@ -2,13 +2,15 @@
 
 #pragma once
 
+#include "ui/SharedRegistry.h"
+
 #include <memory>
 
 namespace brinemark
 {
 
-/// A process-wide single instance, created on first use by `sharedInstance()`. The application calls `destroyShared()`
-/// before the application object is destroyed, so that no widget outlives it.
+/// A process-wide single instance, created on first use by `sharedInstance()`. The application ends all of them through
+/// `SharedRegistry` before the application object is destroyed, so that no widget outlives it.
 ///
 ///     class PrefsController : public Shared<PrefsController> { friend class Shared<PrefsController>;
 ///     PrefsController(); };
@@ -18,13 +20,21 @@ class Shared
 public:
     static T &sharedInstance()
     {
-        if (!instance())
+        if (!instance()) {
             instance().reset(new T);
+            SharedRegistry::add(&destroyShared); // after the constructor, which may make instances that T needs
+        }
         return *instance();
     }
 
     [[nodiscard]] static bool hasSharedInstance() { return instance() != nullptr; }
-    static void destroyShared() { instance().reset(); }
+
+    /// Ends this instance alone; without one, nothing happens.
+    static void destroyShared()
+    {
+        SharedRegistry::remove(&destroyShared);
+        instance().reset();
+    }
 
     Shared(const Shared &) = delete;
     Shared &operator=(const Shared &) = delete;

@@ -34,7 +34,7 @@ public:
     }
     ~TankSheetDriver()
     {
-        closeHelp();
+        HelpWindow::destroyShared();
         TankDataController::destroyShared();
         TankDataEntryController::destroyShared();
     }

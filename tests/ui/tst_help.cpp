@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void cleanup()
     {
-        closeHelp();
+        HelpWindow::destroyShared();
         QVERIFY(!window());
         desktop::setUrlHandler({});
     }

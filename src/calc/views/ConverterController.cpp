@@ -12,10 +12,7 @@ namespace brinemark
 
 ConverterController::ConverterController() = default;
 
-ConverterController::~ConverterController()
-{
-    delete m_panel;
-}
+ConverterController::~ConverterController() = default;
 
 ConverterPanel &ConverterController::panel()
 {

@@ -2,10 +2,10 @@
 
 #pragma once
 
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
 
 #include <QObject>
-#include <QPointer>
 
 namespace brinemark
 {
@@ -31,7 +31,7 @@ private:
     ConverterPanel &panel();
     void windowWillClose();
 
-    QPointer<ConverterPanel> m_panel;
+    OwnedWidget<ConverterPanel> m_panel;
 };
 
 } // namespace brinemark

@@ -31,10 +31,7 @@ namespace brinemark
 
 GraphController::GraphController() = default;
 
-GraphController::~GraphController()
-{
-    delete m_graphWindow;
-}
+GraphController::~GraphController() = default;
 
 void GraphController::makeWindow()
 {

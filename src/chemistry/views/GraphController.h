@@ -4,11 +4,11 @@
 
 #include "chemistry/ConditionSeries.h"
 #include "chemistry/views/graph/TestDatesModel.h"
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
 #include "ui/graph/TwoDGraph.h"
 
 #include <QObject>
-#include <QPointer>
 
 #include <memory>
 
@@ -72,13 +72,13 @@ private:
     [[nodiscard]] QString whyEmpty() const;
 
     TestDatesModel m_dates;
-    QPointer<GraphWindow> m_graphWindow;
     GraphDateForm *m_dateContentView = nullptr;
     GraphContentView *m_graphContentView = nullptr;
 
     std::shared_ptr<Tank> m_graphTank; ///< kept alive while the sheet shows it, even when its file is closed
     ConditionSeries m_series;
     double m_maxYValue = 0; ///< top of the Y axis: the series' maximum, reduced by the scale slider
+    OwnedWidget<GraphWindow> m_graphWindow;
 };
 
 } // namespace brinemark

@@ -44,10 +44,7 @@ TankDataController::TankDataController()
 {
 }
 
-TankDataController::~TankDataController()
-{
-    delete m_view;
-}
+TankDataController::~TankDataController() = default;
 
 QWidget *TankDataController::view()
 {

@@ -3,9 +3,8 @@
 #pragma once
 
 #include "ui/MainViewController.h"
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
-
-#include <QPointer>
 
 class QLabel;
 class QModelIndex;
@@ -46,7 +45,6 @@ private:
     void makeTable();
     void edit(const QModelIndex &row);
 
-    QPointer<QWidget> m_view;
     TargetTableModel *m_model;
     TitleLine *m_titleLine = nullptr;
     QLabel *m_nameField = nullptr;
@@ -56,6 +54,7 @@ private:
     QPushButton *m_editButton = nullptr;
     QStackedWidget *m_pages = nullptr;
     EmptyState *m_emptyState = nullptr;
+    OwnedWidget<QWidget> m_view;
 };
 
 } // namespace brinemark

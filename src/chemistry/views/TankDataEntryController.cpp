@@ -36,10 +36,7 @@ enum ReturnCode { Dismissed = 0, Confirmed = 1, Cancelled = 2 };
 
 TankDataEntryController::TankDataEntryController() = default;
 
-TankDataEntryController::~TankDataEntryController()
-{
-    delete m_infoPanel;
-}
+TankDataEntryController::~TankDataEntryController() = default;
 
 void TankDataEntryController::makeSheet()
 {

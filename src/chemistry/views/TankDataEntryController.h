@@ -3,10 +3,10 @@
 #pragma once
 
 #include "model/Parameters.h"
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
 
 #include <QObject>
-#include <QPointer>
 
 #include <memory>
 #include <optional>
@@ -77,7 +77,7 @@ private:
     std::shared_ptr<Tank> m_tank; ///< the tank that is being edited or made
     TankData *m_currentData = nullptr;
     bool m_targetsChanged = false; ///< since the sheet was opened
-    QPointer<TankSheet> m_infoPanel;
+    OwnedWidget<TankSheet> m_infoPanel;
 };
 
 } // namespace brinemark

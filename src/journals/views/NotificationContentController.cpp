@@ -30,10 +30,7 @@ NotificationContentController::NotificationContentController(std::shared_ptr<Sch
 {
 }
 
-NotificationContentController::~NotificationContentController()
-{
-    delete m_contentView;
-}
+NotificationContentController::~NotificationContentController() = default;
 
 QWidget *NotificationContentController::contentView()
 {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/ScheduleData.h"
+#include "ui/OwnedWidget.h"
 
 #include <QObject>
 #include <QPointer>
@@ -43,10 +44,10 @@ private:
 
     std::shared_ptr<ScheduleData> m_data;
     bool m_deleted = false;
-    QPointer<QWidget> m_contentView;
     QPointer<QCheckBox> m_noteComplete;
     QPointer<QToolButton> m_linkButton;
     QPointer<QAction> m_dockItem;
+    OwnedWidget<QWidget> m_contentView;
 };
 
 } // namespace brinemark

@@ -22,10 +22,7 @@ constexpr float firstHeight = 117; ///< pixels
 
 NotificationController::NotificationController() = default;
 
-NotificationController::~NotificationController()
-{
-    delete m_notePanel;
-}
+NotificationController::~NotificationController() = default;
 
 // ---- rows
 

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "model/ModelObserver.h"
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
 
 #include <QObject>
 #include <QPoint>
-#include <QPointer>
 
 #include <memory>
 #include <optional>
@@ -57,9 +57,9 @@ private:
     void windowWillClose();
 
     std::vector<std::unique_ptr<NotificationContentController>> m_contentArray;
-    QPointer<NotificationPanel> m_notePanel;
     std::optional<QPoint> m_topLeft;
     bool m_shouldShow = false;
+    OwnedWidget<NotificationPanel> m_notePanel;
 };
 
 } // namespace brinemark

@@ -13,10 +13,7 @@ namespace brinemark
 
 FishDataController::FishDataController() = default;
 
-FishDataController::~FishDataController()
-{
-    delete m_view;
-}
+FishDataController::~FishDataController() = default;
 
 QWidget *FishDataController::view()
 {

@@ -3,9 +3,8 @@
 #pragma once
 
 #include "ui/MainViewController.h"
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
-
-#include <QPointer>
 
 #include <memory>
 
@@ -37,7 +36,7 @@ private:
     FishDataController();
 
     std::weak_ptr<ItemData> m_currentItem;
-    QPointer<ProfileView> m_view;
+    OwnedWidget<ProfileView> m_view;
 };
 
 } // namespace brinemark

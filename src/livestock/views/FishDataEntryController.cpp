@@ -14,10 +14,7 @@ namespace brinemark
 
 FishDataEntryController::FishDataEntryController() = default;
 
-FishDataEntryController::~FishDataEntryController()
-{
-    delete m_infoPanel;
-}
+FishDataEntryController::~FishDataEntryController() = default;
 
 void FishDataEntryController::displayItemData(ItemData *item, ItemContext context)
 {

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "model/ItemContext.h"
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
 
 #include <QObject>
-#include <QPointer>
 
 #include <memory>
 
@@ -36,7 +36,7 @@ private:
     void closeEditSheet(int returnCode);
 
     std::shared_ptr<ItemData> m_itemData; ///< the record that the sheet edits
-    QPointer<ItemSheet> m_infoPanel;
+    OwnedWidget<ItemSheet> m_infoPanel;
 };
 
 } // namespace brinemark

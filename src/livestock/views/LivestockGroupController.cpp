@@ -18,10 +18,7 @@ namespace brinemark
 
 LivestockGroupController::LivestockGroupController() = default;
 
-LivestockGroupController::~LivestockGroupController()
-{
-    delete m_view;
-}
+LivestockGroupController::~LivestockGroupController() = default;
 
 void LivestockGroupController::setContainer(Container *container)
 {

@@ -4,9 +4,8 @@
 
 #include "model/ModelObserver.h"
 #include "ui/MainViewController.h"
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
-
-#include <QPointer>
 
 namespace brinemark
 {
@@ -43,9 +42,9 @@ private:
 
     std::weak_ptr<Tank> m_tank;
     ContainerKind m_kind = ContainerKind::Fish;
-    QPointer<QWidget> m_view;
     TitleLine *m_titleLine = nullptr;
     EmptyState *m_group = nullptr;
+    OwnedWidget<QWidget> m_view;
 };
 
 } // namespace brinemark

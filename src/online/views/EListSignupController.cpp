@@ -30,7 +30,7 @@ constexpr int signupTextWidth = 380;
 } // namespace
 
 EListSignupController::EListSignupController()
-    : m_window(std::make_unique<QDialog>(Shell::shared().mainWindow())) // the parent keeps it above the main window
+    : m_window(new QDialog(Shell::shared().mainWindow())) // the parent keeps it above the main window
 {
     m_window->setObjectName(QStringLiteral("signupWindow"));
     m_window->setWindowTitle(text("SignUpTitle"));
@@ -66,7 +66,7 @@ EListSignupController::EListSignupController()
     content->setSpacing(spacing::content);
     content->addWidget(picture, 0, Qt::AlignTop);
     content->addLayout(words);
-    auto *layout = new QVBoxLayout(m_window.get());
+    auto *layout = new QVBoxLayout(m_window);
     layout->setContentsMargins(spacing::aroundContent);
     layout->setSpacing(spacing::content);
     layout->addLayout(content);
@@ -74,7 +74,7 @@ EListSignupController::EListSignupController()
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
     connect(buttons, &QDialogButtonBox::accepted, this, &EListSignupController::join);
-    connect(buttons, &QDialogButtonBox::rejected, m_window.get(), &QDialog::reject);
+    connect(buttons, &QDialogButtonBox::rejected, m_window, &QDialog::reject);
 }
 
 EListSignupController::~EListSignupController() = default;
@@ -107,7 +107,7 @@ void EListSignupController::join()
         return;
     }
     const QUrl mail = desktop::mailUrl(QLatin1String(product::listAddress), QString::fromUtf16(mailSubject), address);
-    if (desktop::openUrlFrom(m_window.get(), mail))
+    if (desktop::openUrlFrom(m_window, mail))
         m_window->accept();
 }
 

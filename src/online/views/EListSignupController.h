@@ -2,11 +2,10 @@
 
 #pragma once
 
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
 
 #include <QObject>
-
-#include <memory>
 
 class QDialog;
 class QLineEdit;
@@ -35,8 +34,8 @@ private:
 
     void join(); ///< opens a mail with the address from the field; beeps when the field is empty
 
-    std::unique_ptr<QDialog> m_window;
     QLineEdit *m_addressField;
+    OwnedWidget<QDialog> m_window;
 };
 
 } // namespace brinemark

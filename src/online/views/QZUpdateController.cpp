@@ -40,10 +40,7 @@ QString lastCheckText()
 
 QZUpdateController::QZUpdateController() = default;
 
-QZUpdateController::~QZUpdateController()
-{
-    delete m_scheduleWindow;
-}
+QZUpdateController::~QZUpdateController() = default;
 
 void QZUpdateController::makeWindow()
 {

@@ -2,10 +2,10 @@
 
 #pragma once
 
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
 
 #include <QObject>
-#include <QPointer>
 
 class QCheckBox;
 class QComboBox;
@@ -36,10 +36,10 @@ private:
     void checkForUpdateWithInteraction(bool interaction);
     void makeWindow();
 
-    QPointer<QDialog> m_scheduleWindow;
     QCheckBox *m_autoUpdateCheck = nullptr;
     QComboBox *m_checkPopupButton = nullptr;
     QLabel *m_lastCheckField = nullptr;
+    OwnedWidget<QDialog> m_scheduleWindow;
 };
 
 } // namespace brinemark

@@ -55,11 +55,7 @@ QRect calendar::placeAt(const QRect &cell, QSize size, const QRect &screen, Qt::
 
 CalendarController::CalendarController() = default;
 
-CalendarController::~CalendarController()
-{
-    m_watch.reset();
-    delete m_popup;
-}
+CalendarController::~CalendarController() = default;
 
 void CalendarController::setCalendar(std::function<void(const QDateTime &)> target, QTableView *table,
                                      const QString &columnIdentifier, const QRect &cell, const QDateTime &date)
@@ -115,7 +111,7 @@ void CalendarController::watchTable()
 void CalendarController::closeAndSave(bool save, bool fade)
 {
     const auto target = std::exchange(m_target, {});
-    const QPointer<CalendarPopup> popup = std::exchange(m_popup, {});
+    const QPointer<CalendarPopup> popup = m_popup.release();
     const QPointer<QWidget> widget = std::exchange(m_table, {});
     const QPointer<QAbstractItemModel> model = std::exchange(m_model, {});
     m_columnIdentifier.clear();

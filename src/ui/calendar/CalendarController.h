@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
 
 #include <QAbstractItemModel>
@@ -64,14 +65,14 @@ private:
     void watchTable();
     void leave(QPoint globalPoint);
 
-    QPointer<CalendarPopup> m_popup; ///< belongs to the table
+    OwnedWidget<CalendarPopup> m_popup; ///< a child of the table
     /// A QWidget, because a table that is being destroyed cannot be cast to QTableView.
     QPointer<QWidget> m_table;
     QPointer<QAbstractItemModel> m_model;
-    std::unique_ptr<QObject> m_watch; ///< context object of the signal connections of one opening
     std::function<void(const QDateTime &)> m_target;
     QString m_columnIdentifier;
     QRect m_cell;
+    std::unique_ptr<QObject> m_watch; ///< holds the connections of one opening; destroyed before the pop-up
 };
 
 namespace calendar

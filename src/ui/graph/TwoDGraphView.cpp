@@ -58,10 +58,7 @@ TwoDGraphView::TwoDGraphView(QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-TwoDGraphView::~TwoDGraphView()
-{
-    delete m_plot; // it refers to the scene, which is destroyed before child widgets are
-}
+TwoDGraphView::~TwoDGraphView() = default;
 
 void TwoDGraphView::setDataSource(const TwoDGraphDataSource *source)
 {

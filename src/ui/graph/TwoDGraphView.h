@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "ui/OwnedWidget.h"
 #include "ui/graph/GraphBand.h"
 #include "ui/graph/GraphRange.h"
 #include "ui/graph/TwoDGraph.h"
@@ -127,7 +128,7 @@ private:
     QSet<int> m_hiddenLines;
     QString m_paperTitle;
     std::unique_ptr<GraphScene> m_scene;
-    GraphPlot *m_plot;
+    OwnedWidget<GraphPlot> m_plot;     ///< refers to the scene
     std::optional<QPointF> m_dragFrom; ///< where the last drag event was
 };
 
