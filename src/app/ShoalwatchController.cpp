@@ -3,27 +3,32 @@
 #include "app/ShoalwatchController.h"
 
 #include "app/ShoalwatchDelegate.h"
+#include "app/commands/CommandDispatch.h"
 #include "app/documents/DocumentCommands.h"
+#include "app/documents/MainDocumentHost.h"
+#include "app/documents/TankDocument.h"
+#include "app/menus/EditCommands.h"
 #include "app/menus/MainMenuBar.h"
-#include "app/preferences/PrefsController.h"
+#include "app/printing/PrintView.h"
 #include "app/toolbar/MainToolBar.h"
 #include "app/tree/TankListController.h"
+#include "app/window/MainSelection.h"
 #include "app/window/MainViews.h"
 #include "app/window/MainWindow.h"
 #include "base/text/Texts.h"
+#include "calc/views/ConverterController.h"
 #include "chemistry/views/TankDataEntryController.h"
 #include "journals/views/NotificationController.h"
-#include "livestock/views/FishDataController.h"
 #include "livestock/views/FishDataEntryController.h"
-#include "livestock/views/LivestockGroupController.h"
+#include "model/TankFile.h"
 #include "online/views/EListSignupController.h"
 #include "ui/Alerts.h"
-#include "ui/MainViewController.h"
 #include "ui/WindowPlacement.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QFileInfo>
+#include <QMenu>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <QToolButton>
 #include <QUndoStack>
@@ -34,12 +39,15 @@ namespace brinemark
 ShoalwatchController::ShoalwatchController()
     : m_tankListController(TankListController::sharedInstance())
     , m_window(std::make_unique<MainWindow>(m_tankListController.tankList()))
-    , m_document(m_tankListController.list(), *this)
-    , m_documents(std::make_unique<DocumentCommands>(
-          m_document, m_window.get(),
-          [](bool terminate) { ShoalwatchDelegate::sharedInstance().replyToApplicationShouldTerminate(terminate); }))
     , m_views(
           std::make_unique<MainViews>(m_window->mainView(), m_tankListController.tankList(), m_window->helpButton()))
+    , m_selection(std::make_unique<MainSelection>(m_tankListController, *m_views))
+    , m_documentHost(std::make_unique<MainDocumentHost>(*this))
+    , m_document(std::make_unique<TankDocument>(m_tankListController.list(), *m_documentHost))
+    , m_documents(std::make_unique<DocumentCommands>(
+          *m_document, m_window.get(),
+          [](bool terminate) { ShoalwatchDelegate::sharedInstance().replyToApplicationShouldTerminate(terminate); }))
+    , m_dispatch(std::make_unique<CommandDispatch>(*this))
 {
     Shell::setShared(this);
     awakeFromNib();
@@ -47,23 +55,64 @@ ShoalwatchController::ShoalwatchController()
 
 ShoalwatchController::~ShoalwatchController()
 {
-    // The window lets go of its focus while it is taken down; nobody is left to validate anything for.
+    // Destroying the window moves the focus, which must not lead to validate() any more.
     disconnect(qApp, nullptr, this, nullptr);
     disconnect(&undoManager(), nullptr, this, nullptr);
     Shell::setShared(nullptr);
 }
 
+// ---- what is connected
+
 void ShoalwatchController::awakeFromNib()
+{
+    connectTree();
+    m_window->restoreWidths();
+    m_documentHost->showDocumentTitle({});
+    connectWindow();
+    connect(m_views.get(), &MainViews::selectionChanged, this, &ShoalwatchController::validate);
+    connect(&undoManager(), &QUndoStack::indexChanged, this, &ShoalwatchController::validate);
+    connect(qApp, &QApplication::focusChanged, this, &ShoalwatchController::validate);
+}
+
+void ShoalwatchController::connectTree()
 {
     m_tankListController.setShell(*this);
     m_tankListController.openItemEditor = [](ItemData &item) {
         FishDataEntryController::sharedInstance().displayItemData(&item, item.itemContext());
     };
-    m_tankListController.resetDocument = [this] { m_document.readTankFileWithPath({}); };
+    m_tankListController.resetDocument = [this] { m_document->readTankFileWithPath({}); };
     m_tankListController.canDelete = [this] { return canDelete(); };
-    m_window->restoreWidths();
-    showDocumentTitle({});
-    connectWindow(); // in ShoalwatchCommands.cpp
+    m_tankListController.performCommand = [this](Command command) { performCommand(command); };
+}
+
+void ShoalwatchController::connectWindow()
+{
+    MainMenuBar &menus = m_window->menus();
+    menus.setStateProvider([this] { return menuState(); });
+    connect(&menus, &MainMenuBar::commandChosen, this, &ShoalwatchController::performCommand);
+    connect(&menus, &MainMenuBar::menuWillOpen, this, &ShoalwatchController::validate);
+    m_window->toolbarItemChosen = [this](const QString &identifier) { m_dispatch->performToolbarItem(identifier); };
+    const auto sends = [this](QToolButton *button, Command command) {
+        connect(button, &QToolButton::clicked, this, [this, command] { performCommand(command); });
+    };
+    sends(m_window->deleteButton(), Command::Delete);
+    sends(m_window->helpButton(), Command::Help);
+    buildNewMenu();
+
+    m_window->closeRequested = [this] { performCommand(Command::Quit); };
+    m_window->takesDroppedFile = &looksLikeTankFile;
+    m_window->openDroppedFile = [](const QString &path) {
+        return ShoalwatchDelegate::sharedInstance().applicationOpenFile(path);
+    };
+}
+
+void ShoalwatchController::buildNewMenu()
+{
+    auto *menu = new QMenu(m_window->newButton());
+    for (const Command command :
+         {Command::NewTank, Command::NewFish, Command::NewPlant, Command::NewInvert, Command::NewCoral})
+        menu->addAction(m_window->menus().action(command));
+    m_window->newButton()->setMenu(menu);
 }
 
 // ---- the window
@@ -77,7 +126,7 @@ void ShoalwatchController::display()
         m_tankListController.updateDisplay();
         tank->tankExpanded = true;
         m_tankListController.expandRows(*tank);
-        m_tankListController.select(TreeItem(*tank));
+        selectInTree(*tank);
         editFirstTank(tank);
     }
     QTimer::singleShot(0, this, [] { NotificationController::sharedInstance().showIfNeeded(); });
@@ -88,7 +137,7 @@ void ShoalwatchController::display()
 void ShoalwatchController::editFirstTank(const std::shared_ptr<Tank> &tank)
 {
     const auto edit = [tank] { TankDataEntryController::sharedInstance().displayTank(tank, false, {}); };
-    // On the first run the sign-up stands before everything else.
+    // On the first run the sign-up window comes first; the tank is edited when it is closed.
     EListSignupController &signup = EListSignupController::sharedInstance();
     if (!signup.isVisible()) {
         edit();
@@ -127,88 +176,114 @@ void ShoalwatchController::showWarningSheet(const QString &title, const QString 
                     [this](int) { m_window->activateWindow(); });
 }
 
-void ShoalwatchController::showPreferences()
+bool ShoalwatchController::printWindow(bool interaction)
 {
-    PrefsController::sharedInstance().display();
+    m_views->updateColumnInfo();
+    QWidget &view = *m_views->currentView();
+    if (!interaction)
+        return printViewWithoutDialog(view);
+    printView(m_window.get(), view);
+    return true;
 }
 
-// ---- the document
+// ---- what is enabled
+
+bool ShoalwatchController::canDelete() const
+{
+    return m_selection->canDelete();
+}
+
+void ShoalwatchController::setEnableDeleteButton(bool enable)
+{
+    // A list calls this after every change of its selection, on which menus and toolbar depend as well.
+    m_window->deleteButton()->setEnabled(enable);
+    validate();
+}
+
+bool ShoalwatchController::validateToolbarItem(const QString &identifier)
+{
+    return toolbarItemEnabled(identifier, currentTank() != nullptr, canDelete());
+}
+
+MenuState ShoalwatchController::menuState()
+{
+    MenuState state;
+    const TreeItem item = m_tankListController.currentSelectedItem();
+    state.view = currentView();
+    state.hasCurrentTank = currentTank() != nullptr;
+    state.windowEdited = m_document->isEdited();
+    state.documentHasPath = !m_document->representedFilename().isEmpty();
+    state.toolbarVisible = m_window->toolbar().isShown();
+    state.calculatorVisible =
+        ConverterController::hasSharedInstance() && ConverterController::sharedInstance().isVisible();
+    state.overdueNoticeVisible = NotificationController::sharedInstance().isVisible();
+    state.selectedRowExpandable = !item.isNone() && item.isExpandable();
+    state.selectedRowExpanded = state.selectedRowExpandable && m_tankListController.isExpanded(item);
+    for (qint32 view = 0; view < mainViewCount; ++view)
+        state.listHasSelectedRow[view] = m_views->hasSelectedRow(MainView(view));
+    state.canUndo = undoManager().canUndo();
+    state.canRedo = undoManager().canRedo();
+    state.treeHasFocus = m_window->menus().commandTarget() == m_tankListController.tankList();
+    return state;
+}
+
+void ShoalwatchController::validate()
+{
+    if (m_validating || m_ending) // disabling the focused control moves the focus, which calls this again
+        return;
+    const QScopedValueRollback validating(m_validating, true);
+    m_window->menus().validate();
+    validateEditCommands(m_window->menus(), m_tankListController, canDelete());
+    m_window->toolbar().validate([this](const QString &identifier) { return validateToolbarItem(identifier); });
+    m_window->deleteButton()->setEnabled(currentTank() && canDelete());
+}
+
+// ---- what its parts do
+
+void ShoalwatchController::performCommand(Command command)
+{
+    m_dispatch->perform(command);
+}
+void ShoalwatchController::deleteItem()
+{
+    performCommand(Command::Delete);
+}
+void ShoalwatchController::showPreferences()
+{
+    performCommand(Command::Preferences);
+}
 
 void ShoalwatchController::documentModifiedWithChange(bool made)
 {
-    m_document.documentModifiedWithChange(made);
+    m_document->documentModifiedWithChange(made);
     validate();
 }
 
-void ShoalwatchController::showDocumentTitle(const QString &path)
+void ShoalwatchController::changeView(MainView view)
 {
-    const QString name = path.isEmpty() ? text("UntitledFileName") : QFileInfo(path).fileName();
-    m_window->setWindowFilePath(path);
-    m_window->setWindowTitle(name + QStringLiteral("[*]"));
-}
-
-void ShoalwatchController::showEditedMark(bool edited)
-{
-    m_window->setWindowModified(edited);
+    m_selection->changeView(view);
     validate();
 }
-
-void ShoalwatchController::resetNotificationView()
+MainView ShoalwatchController::currentView() const
 {
-    NotificationController::sharedInstance().resetView();
+    return m_selection->currentView();
 }
-
-void ShoalwatchController::showNotificationIfOnScreen()
+void ShoalwatchController::appendTank(const std::shared_ptr<Tank> &tank)
 {
-    if (m_window->isVisible())
-        NotificationController::sharedInstance().showIfNeeded();
+    m_selection->appendTank(tank);
 }
-
-void ShoalwatchController::forgetUndo()
+void ShoalwatchController::selectInTree(Tank &tank)
 {
-    undoManager().clear();
+    m_selection->selectInTree(tank);
 }
-
-bool ShoalwatchController::askKeepBackupOfOlderFile()
+void ShoalwatchController::selectInTree(Container &container)
 {
-    beep();
-    const Alert alert{AlertStyle::Critical,     text("ConvertTitle"),    text("ConvertMessage"),
-                      text("ConvertDuplicate"), text("ConvertContinue"), {}};
-    return runAlertPanel(m_window.get(), alert) == AlertDefault;
+    m_selection->selectInTree(container);
 }
-
-DocumentHost::OverwriteAnswer ShoalwatchController::askBeforeOverwriting(const QString &path, OverwriteReason reason)
+void ShoalwatchController::selectInTree(Record &livestock)
 {
-    const bool changed = reason == OverwriteReason::ChangedOnDisk;
-    const Alert alert{AlertStyle::Critical,
-                      text(changed ? "ChangedOnDiskTitle"_key : "NotFullyReadTitle"_key),
-                      fillPlaceholders(text(changed ? "ChangedOnDiskMessage"_key : "NotFullyReadMessage"_key),
-                                       {QFileInfo(path).fileName()}),
-                      text("ChangedOnDiskSaveAs"),
-                      text("ChangedOnDiskOverwrite"),
-                      text("CancelLabel")};
-    switch (runAlertPanel(m_window.get(), alert)) {
-    case AlertDefault:
-        return OverwriteAnswer::SaveElsewhere;
-    case AlertAlternate:
-        return OverwriteAnswer::Overwrite;
-    default:
-        return OverwriteAnswer::Cancel;
-    }
+    m_selection->selectInTree(livestock);
 }
-
-void ShoalwatchController::reportReadError()
-{
-    beep();
-    runAlertPanel(m_window.get(), {AlertStyle::Critical, text("Error"), text("ReadErrorMessage"), {}, {}, {}});
-}
-
-void ShoalwatchController::reportSaveError(const QString &, const QString &)
-{
-    runAlertPanel(m_window.get(), {AlertStyle::Critical, text("Error"), text("SaveErrorMessage"), {}, {}, {}});
-}
-
-// ---- the tree
 
 TankList &ShoalwatchController::tankList()
 {
@@ -218,85 +293,14 @@ Tank *ShoalwatchController::currentTank()
 {
     return m_tankListController.currentTank();
 }
-void ShoalwatchController::forgetRows()
-{
-    m_tankListController.forgetRows();
-}
-void ShoalwatchController::reloadTree()
-{
-    m_tankListController.reload();
-}
-void ShoalwatchController::refreshTree()
-{
-    m_tankListController.updateDisplay();
-}
 void ShoalwatchController::updateTree()
 {
     m_tankListController.updateDisplay();
-}
-void ShoalwatchController::fitTreeColumn()
-{
-    m_tankListController.fitColumn();
-}
-void ShoalwatchController::selectTreeRow(int row)
-{
-    m_tankListController.selectRow(row);
-}
-int ShoalwatchController::selectedTreeRow() const
-{
-    return m_tankListController.selectedRow();
 }
 void ShoalwatchController::editNameInTree()
 {
     m_tankListController.editName();
 }
-
-void ShoalwatchController::appendTank(const std::shared_ptr<Tank> &tank)
-{
-    m_tankListController.list().append(tank);
-    m_tankListController.updateDisplay();
-    m_tankListController.select(TreeItem(*tank));
-}
-
-void ShoalwatchController::selectInTree(Tank &tank)
-{
-    m_tankListController.select(TreeItem(tank));
-}
-void ShoalwatchController::selectInTree(Container &container)
-{
-    m_tankListController.select(TreeItem(container));
-}
-
-void ShoalwatchController::selectInTree(Record &livestock)
-{
-    if (livestock.recordType() == RecordType::Item)
-        m_tankListController.select(TreeItem(static_cast<ItemData &>(livestock)));
-}
-
-// ---- the views
-
-void ShoalwatchController::changeView(MainView view)
-{
-    const TreeItem item = m_tankListController.currentSelectedItem();
-    if (view == MainView::LivestockGroup)
-        LivestockGroupController::sharedInstance().setContainer(item.container);
-    m_views->changeView(view);
-    if (view == MainView::LivestockItem)
-        FishDataController::sharedInstance().displayItemData(item.record);
-    validate();
-}
-
-MainView ShoalwatchController::currentView() const
-{
-    return m_views->currentViewConstant();
-}
-
-void ShoalwatchController::updateColumnInfo()
-{
-    m_views->updateColumnInfo();
-}
-
-// ---- what else the views see
 
 QUndoStack &ShoalwatchController::undoManager()
 {

@@ -2,9 +2,8 @@
 
 #pragma once
 
-#include "app/documents/TankDocument.h"
-#include "app/menus/MenuTable.h"
-#include "model/ItemContext.h"
+#include "app/commands/Command.h"
+#include "app/menus/MenuRules.h"
 #include "ui/Shared.h"
 #include "ui/Shell.h"
 
@@ -15,17 +14,19 @@
 namespace brinemark
 {
 
+class CommandDispatch;
 class DocumentCommands;
+class MainDocumentHost;
+class MainSelection;
 class MainViews;
 class MainWindow;
+class TankDocument;
 class TankListController;
 
-/// The main controller: holds the main window together. It owns the open document and its commands, switches the views,
-/// validates toolbar and menus, sends every command to whoever carries it out, and is the shell that the views see.
-class ShoalwatchController final : public QObject,
-                                   public Shell,
-                                   private DocumentHost,
-                                   public Shared<ShoalwatchController>
+/// The main controller: owns the main window and the parts around it (the open document with its host and commands, the
+/// views, the selection, the command dispatch), connects them, and enables menus, toolbar and delete button. It is the
+/// shell that the views see.
+class ShoalwatchController final : public QObject, public Shell, public Shared<ShoalwatchController>
 {
     Q_OBJECT
 
@@ -33,20 +34,22 @@ public:
     ~ShoalwatchController() override;
 
     [[nodiscard]] MainWindow &window() const { return *m_window; }
-    [[nodiscard]] TankDocument &document() { return m_document; }
-    [[nodiscard]] DocumentCommands &documents() { return *m_documents; }
+    [[nodiscard]] MainViews &views() const { return *m_views; }
+    [[nodiscard]] MainSelection &selection() const { return *m_selection; }
+    [[nodiscard]] TankDocument &document() const { return *m_document; }
+    [[nodiscard]] DocumentCommands &documents() const { return *m_documents; }
     [[nodiscard]] TankListController &tankListController() const { return m_tankListController; }
+
+    void display();         ///< brings the window to the front; an empty tree gets its first tank
+    void windowWillClose(); ///< stores what the window remembers
+    void programWillEnd(); ///< hides the window; from here on nothing is validated, since the controllers are destroyed
+    void validate();       ///< enables menus, toolbar and delete button for the present state
+    void performCommand(Command command);
+    bool printWindow(bool interaction); ///< prints the main view, after asking for a printer or at once
 
     [[nodiscard]] bool canDelete() const;
     [[nodiscard]] bool validateToolbarItem(const QString &identifier);
     [[nodiscard]] MenuState menuState();
-    void performCommand(Command command);
-    void performToolbarItem(const QString &identifier);
-    bool printWindow(bool interaction); ///< prints the main view, after asking for a printer or at once
-
-    void display() override; ///< brings the window to the front; an empty tree gets its first tank
-    void windowWillClose();  ///< stores what the window remembers
-    void programWillEnd(); ///< hides the window; nothing is validated any more, since what that looks at is about to go
 
     // Shell
     [[nodiscard]] QWidget *mainWindow() override;
@@ -74,36 +77,20 @@ private:
     friend class Shared<ShoalwatchController>;
     ShoalwatchController();
 
-    // DocumentHost
-    void showDocumentTitle(const QString &path) override;
-    void showEditedMark(bool edited) override;
-    void resetNotificationView() override;
-    void forgetRows() override;
-    void reloadTree() override;
-    void fitTreeColumn() override;
-    void selectTreeRow(int row) override;
-    [[nodiscard]] int selectedTreeRow() const override;
-    void refreshTree() override;
-    void showNotificationIfOnScreen() override;
-    void updateColumnInfo() override;
-    void forgetUndo() override;
-    bool askKeepBackupOfOlderFile() override;
-    OverwriteAnswer askBeforeOverwriting(const QString &path, OverwriteReason reason) override;
-    void reportReadError() override;
-    void reportSaveError(const QString &path, const QString &reason) override;
-
     void awakeFromNib();
-    void editFirstTank(const std::shared_ptr<Tank> &tank);
+    void connectTree();
     void connectWindow();
     void buildNewMenu();
-    void validate();
-    void newLivestock(ItemContext context);
+    void editFirstTank(const std::shared_ptr<Tank> &tank);
 
     TankListController &m_tankListController;
     std::unique_ptr<MainWindow> m_window;
-    TankDocument m_document;
-    std::unique_ptr<DocumentCommands> m_documents;
     std::unique_ptr<MainViews> m_views;
+    std::unique_ptr<MainSelection> m_selection;
+    std::unique_ptr<MainDocumentHost> m_documentHost;
+    std::unique_ptr<TankDocument> m_document;
+    std::unique_ptr<DocumentCommands> m_documents;
+    std::unique_ptr<CommandDispatch> m_dispatch;
     bool m_validating = false;
     bool m_ending = false;
 };

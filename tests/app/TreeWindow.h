@@ -34,6 +34,14 @@ public:
         tree.openItemEditor = [this](ItemData &item) { edited << item.name; };
         tree.resetDocument = [this] { document.readTankFileWithPath({}); };
         tree.canDelete = [this] { return brinemark::canDelete(currentView(), false); };
+        tree.performCommand = [this](Command command) {
+            if (command == Command::Copy)
+                tree.copy();
+            else if (command == Command::Paste)
+                tree.paste();
+            else if (command == Command::Delete)
+                deleteItem();
+        };
         window.setWindowTitle(QStringLiteral("[*]"));
         (new QVBoxLayout(&window))->addWidget(outline);
         window.resize(240, 700);
@@ -130,7 +138,7 @@ private:
         return OverwriteAnswer::Overwrite;
     }
     void reportReadError() override {}
-    void reportSaveError(const QString &, const QString &) override {}
+    void reportSaveError() override {}
 
     QString m_savePath;
 };

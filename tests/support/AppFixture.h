@@ -5,6 +5,7 @@
 #include "app/ShoalwatchController.h"
 #include "app/ShoalwatchDelegate.h"
 #include "app/documents/DocumentCommands.h"
+#include "app/documents/TankDocument.h"
 #include "app/startup/BrinemarkApp.h"
 #include "app/tree/TankListController.h"
 #include "app/window/MainWindow.h"

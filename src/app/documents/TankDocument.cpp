@@ -122,28 +122,25 @@ bool TankDocument::readTankFileWithPath(const QString &path)
     return true;
 }
 
-TankDocument::WriteOutcome TankDocument::askIfOverwritingLoses(const QString &path)
+DocumentHost::OverwriteAnswer TankDocument::askIfOverwritingLoses(const QString &path)
 {
-    using Answer = DocumentHost::OverwriteAnswer;
     using Reason = DocumentHost::OverwriteReason;
     // When the path is that of another file, the save panel has already asked about overwriting it.
     if (path != m_representedFilename || !(m_notFullyRead || changedOnDisk(path, m_lastKnown)))
-        return WriteOutcome::Written;
-    switch (m_host.askBeforeOverwriting(path, m_notFullyRead ? Reason::NotFullyRead : Reason::ChangedOnDisk)) {
-    case Answer::Overwrite:
-        return WriteOutcome::Written;
-    case Answer::SaveElsewhere:
-        return WriteOutcome::SaveElsewhere;
-    case Answer::Cancel:
-        break;
-    }
-    return WriteOutcome::Cancelled;
+        return DocumentHost::OverwriteAnswer::Overwrite;
+    return m_host.askBeforeOverwriting(path, m_notFullyRead ? Reason::NotFullyRead : Reason::ChangedOnDisk);
 }
 
 TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &path)
 {
-    if (const WriteOutcome answer = askIfOverwritingLoses(path); answer != WriteOutcome::Written)
-        return answer;
+    switch (askIfOverwritingLoses(path)) {
+    case DocumentHost::OverwriteAnswer::Cancel:
+        return WriteOutcome::Cancelled;
+    case DocumentHost::OverwriteAnswer::SaveElsewhere:
+        return WriteOutcome::SaveElsewhere;
+    case DocumentHost::OverwriteAnswer::Overwrite:
+        break;
+    }
     m_host.updateColumnInfo();
     plist::Dict root =
         tankFileDictionary(m_list, m_host.selectedTreeRow(), product::packedVersion(product::shortVersion()));
@@ -151,7 +148,7 @@ TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &pa
     const WriteResult written = writeTankDictionary(path, root);
     if (!written.ok) {
         qCWarning(logFile) << "cannot write" << path << written.error;
-        m_host.reportSaveError(path, written.error);
+        m_host.reportSaveError();
         return WriteOutcome::Failed;
     }
     m_lastKnown = written.stamp;

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "app/documents/DocumentHost.h"
 #include "base/SafeFile.h"
 #include "base/plist/Value.h"
 
@@ -12,36 +13,6 @@ namespace brinemark
 {
 
 class TankList;
-
-/// What TankDocument needs of the window around it.
-class DocumentHost
-{
-public:
-    virtual ~DocumentHost() = default;
-
-    virtual void showDocumentTitle(const QString &path) = 0; ///< an empty path means the untitled document
-    virtual void showEditedMark(bool edited) = 0;
-    virtual void resetNotificationView() = 0;
-    virtual void forgetRows() = 0; ///< called when all tanks are about to be deleted
-    virtual void reloadTree() = 0; ///< expands the rows as the tanks' own flags say
-    virtual void fitTreeColumn() = 0;
-    virtual void selectTreeRow(int row) = 0;
-    [[nodiscard]] virtual int selectedTreeRow() const = 0;
-    virtual void refreshTree() = 0;
-    virtual void display() = 0; ///< shows the window; adds a first tank when the tree is empty
-    virtual void showNotificationIfOnScreen() = 0;
-    /// Stores the layout of the water-test table in the tank, if the table is on screen.
-    virtual void updateColumnInfo() = 0;
-    virtual void forgetUndo() = 0; ///< drops the undo steps of the previous document
-
-    /// Questions and reports; each returns only when the user has answered.
-    virtual bool askKeepBackupOfOlderFile() = 0;
-    enum class OverwriteAnswer { Overwrite, SaveElsewhere, Cancel };
-    enum class OverwriteReason { ChangedOnDisk, NotFullyRead };
-    virtual OverwriteAnswer askBeforeOverwriting(const QString &path, OverwriteReason reason) = 0;
-    virtual void reportReadError() = 0;
-    virtual void reportSaveError(const QString &path, const QString &reason) = 0;
-};
 
 /// The open tank file: its path, its unsaved changes, and how it is read and written. The tanks themselves are in the
 /// tank tree's list.
@@ -79,7 +50,8 @@ public:
 
 private:
     void resetToUntitled();
-    WriteOutcome askIfOverwritingLoses(const QString &path);
+    /// Asks before a write loses tanks that are only in the file; Overwrite as well when nothing would be lost.
+    DocumentHost::OverwriteAnswer askIfOverwritingLoses(const QString &path);
     void setRepresentedFilename(const QString &path);
     void setEdited(bool edited);
     void markUnchanged();

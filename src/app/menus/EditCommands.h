@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "app/menus/MenuTable.h"
+#include "app/commands/Command.h"
 
 namespace brinemark
 {

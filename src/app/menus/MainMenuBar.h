@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "app/menus/MenuRules.h"
 #include "app/menus/MenuTable.h"
 
 #include <QMenuBar>

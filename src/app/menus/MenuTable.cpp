@@ -2,6 +2,7 @@
 
 #include "app/menus/MenuTable.h"
 
+#include "app/menus/MenuRules.h"
 #include "base/TableChecks.h"
 
 namespace brinemark

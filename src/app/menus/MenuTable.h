@@ -2,7 +2,8 @@
 
 #pragma once
 
-#include "app/menus/MenuRules.h"
+#include "app/commands/Command.h"
+#include "base/text/Texts.h"
 
 #include <QKeySequence>
 
@@ -10,48 +11,6 @@
 
 namespace brinemark
 {
-
-/// The commands of the menus.
-enum class Command {
-    NewFile,
-    OpenFile,
-    Save,
-    SaveAs,
-    Revert,
-    Print,
-    Quit,
-    Undo,
-    Redo,
-    Cut,
-    Copy,
-    Paste,
-    SelectAll,
-    Delete,
-    Preferences,
-    NewTank,
-    NewFish,
-    NewPlant,
-    NewInvert,
-    NewCoral,
-    NewWaterTest,
-    NewActivity,
-    NewInventory,
-    NewNote,
-    NewExpense,
-    Expand,
-    Collapse,
-    ConditionColumns,
-    ToggleToolbar,
-    CustomiseToolbar,
-    ToggleCalculator,
-    ToggleOverdue,
-    Help,
-    CheckForUpdates,
-    MailingList,
-    Feedback,
-    ProductPage,
-    About,
-};
 
 /// One menu item; a row without a title is a separator.
 struct MenuRow {

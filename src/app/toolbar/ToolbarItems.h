@@ -2,13 +2,15 @@
 
 #pragma once
 
-#include "app/menus/MenuTable.h"
+#include "app/commands/Command.h"
 #include "base/TableChecks.h"
+#include "base/text/Texts.h"
 
 #include <QLatin1String>
 #include <QStringView>
 
 #include <iterator>
+#include <optional>
 #include <string_view>
 
 namespace brinemark

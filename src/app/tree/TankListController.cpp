@@ -46,8 +46,6 @@ TankListController::TankListController()
 TankListController::~TankListController()
 {
     ModelContext::sharedInstance().setAppTankList(nullptr);
-    if (m_outline && !m_outline->parent())
-        delete m_outline.data();
 }
 
 void TankListController::connectOutline()
@@ -60,7 +58,7 @@ void TankListController::connectOutline()
     };
     m_outline->writeItem = [this](const TreeItem &item) { return writeItem(item); };
     m_outline->dragEnded = [this] { m_dragData = {}; };
-    connect(m_outline, &TankOutlineView::deleteKeyPressed, this, [this] { m_shell->deleteItem(); });
+    connect(m_outline, &TankOutlineView::deleteKeyPressed, this, [this] { performCommand(Command::Delete); });
     connect(m_outline, &TankOutlineView::contextMenuRequested, this, &TankListController::showContextMenu);
     connect(m_outline, &TankOutlineView::doubleClickedItem, this, &TankListController::doubleClickAction);
     connect(m_outline, &QTreeView::expanded, this, [this](const QModelIndex &index) { rowExpanded(index, true); });
@@ -343,6 +341,7 @@ void TankListController::showContextMenu(const QPoint &globalPosition)
     const TreeItem item = currentSelectedItem();
     if (!item.isTank() && !item.isRecord())
         return;
+    m_outline->setFocus(); // copy and paste act on the control with the focus
     auto *menu = new QMenu(m_outline);
     menu->setObjectName(QStringLiteral("tankListMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -350,11 +349,13 @@ void TankListController::showContextMenu(const QPoint &globalPosition)
         menu->addAction(text("Edit..."), this, [this, item] { doubleClickAction(item); });
     menu->addAction(text("MenuTreeRename"), this, &TankListController::editName);
     menu->addSeparator();
-    menu->addAction(text("MenuEditCopy"), this, &TankListController::copy)->setEnabled(canCopy());
-    menu->addAction(text("MenuEditPaste"), this, &TankListController::paste)->setEnabled(canPaste());
+    const auto addCommand = [&](TextKey title, Command command, bool enabled) {
+        menu->addAction(text(title), this, [this, command] { performCommand(command); })->setEnabled(enabled);
+    };
+    addCommand("MenuEditCopy"_key, Command::Copy, canCopy());
+    addCommand("MenuEditPaste"_key, Command::Paste, canPaste());
     menu->addSeparator();
-    menu->addAction(text("DeleteTitle"), this, [this] { m_shell->deleteItem(); })
-        ->setEnabled(!canDelete || canDelete());
+    addCommand("DeleteTitle"_key, Command::Delete, canDelete());
     menu->popup(globalPosition);
 }
 

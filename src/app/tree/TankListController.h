@@ -2,12 +2,12 @@
 
 #pragma once
 
+#include "app/commands/Command.h"
 #include "app/tree/TankOutlineView.h"
 #include "model/ModelObserver.h"
 #include "model/TankList.h"
+#include "ui/OwnedWidget.h"
 #include "ui/Shared.h"
-
-#include <QPointer>
 
 #include <variant>
 
@@ -67,6 +67,8 @@ public:
     /// Empties the document; called after its last tank was deleted.
     std::function<void()> resetDocument;
     std::function<bool()> canDelete;
+    /// Takes what the context menu and the delete key send.
+    std::function<void(Command)> performCommand;
 
 private:
     friend class Shared<TankListController>;
@@ -94,10 +96,10 @@ private:
     TankList m_list;
     std::weak_ptr<Tank> m_currentTank;
     TankTreeModel *m_model;
-    QPointer<TankOutlineView> m_outline;
     TreeItem m_selected; ///< the selection last shown; only compared, since it may have been deleted
     DragData m_dragData;
     bool m_rebuilding = false; ///< true while rows are rebuilt: expanding and selecting are then not the user's changes
+    OwnedWidget<TankOutlineView> m_outline;
 };
 
 } // namespace brinemark

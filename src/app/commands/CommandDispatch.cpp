@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/commands/CommandDispatch.h"
+
+#include "app/ShoalwatchController.h"
+#include "app/ShoalwatchDelegate.h"
+#include "app/documents/DocumentCommands.h"
+#include "app/menus/EditCommands.h"
+#include "app/preferences/PrefsController.h"
+#include "app/toolbar/MainToolBar.h"
+#include "app/toolbar/ToolbarItems.h"
+#include "app/tree/TankListController.h"
+#include "app/window/MainSelection.h"
+#include "app/window/MainWindow.h"
+#include "base/TableChecks.h"
+#include "calc/views/ConverterController.h"
+#include "chemistry/views/ConditionListController.h"
+#include "chemistry/views/TankDataEntryController.h"
+#include "journals/views/NotificationController.h"
+#include "livestock/views/FishDataEntryController.h"
+#include "ui/FinishTyping.h"
+
+namespace brinemark
+{
+
+namespace
+{
+
+template <void (DocumentCommands::*operation)()>
+void onDocument(ShoalwatchController &main)
+{
+    (main.documents().*operation)();
+}
+
+template <void (ShoalwatchDelegate::*operation)()>
+void onDelegate(ShoalwatchController &)
+{
+    (ShoalwatchDelegate::sharedInstance().*operation)();
+}
+
+template <void (TankListController::*operation)()>
+void onTree(ShoalwatchController &main)
+{
+    (main.tankListController().*operation)();
+}
+
+template <void (MainSelection::*operation)()>
+void onSelection(ShoalwatchController &main)
+{
+    (main.selection().*operation)();
+}
+
+template <void (MainToolBar::*operation)()>
+void onToolbar(ShoalwatchController &main)
+{
+    (main.window().toolbar().*operation)();
+}
+
+template <Command command>
+void edit(ShoalwatchController &main)
+{
+    performEditCommand(command, main.window().menus(), main.tankListController());
+}
+
+template <ItemContext context>
+void newLivestock(ShoalwatchController &main)
+{
+    if (main.currentTank())
+        FishDataEntryController::sharedInstance().displayItemData(nullptr, context);
+}
+
+void print(ShoalwatchController &main)
+{
+    finishTyping(main.mainWindow());
+    main.printWindow(true);
+}
+
+constexpr CommandRow commandRows[] = {
+    {Command::NewFile, &onDocument<&DocumentCommands::newDataFile>},
+    {Command::OpenFile, &onDocument<&DocumentCommands::openDataFile>},
+    {Command::Save, &onDocument<&DocumentCommands::saveCurrentFile>},
+    {Command::SaveAs, &onDocument<&DocumentCommands::saveAsCurrentFile>},
+    {Command::Revert, &onDocument<&DocumentCommands::revertFile>},
+    {Command::Print, &print},
+    {Command::Quit, &onDelegate<&ShoalwatchDelegate::terminate>},
+    {Command::Undo, &onDelegate<&ShoalwatchDelegate::undoChange>},
+    {Command::Redo, &onDelegate<&ShoalwatchDelegate::redoChange>},
+    {Command::Cut, &edit<Command::Cut>},
+    {Command::Copy, &edit<Command::Copy>},
+    {Command::Paste, &edit<Command::Paste>},
+    {Command::SelectAll, &edit<Command::SelectAll>},
+    {Command::Delete, &onSelection<&MainSelection::deleteItem>},
+    {Command::Preferences, [](ShoalwatchController &) { PrefsController::sharedInstance().display(); }},
+    {Command::NewTank,
+     [](ShoalwatchController &) { TankDataEntryController::sharedInstance().displayTank(nullptr, true, {}); }},
+    {Command::NewFish, &newLivestock<ItemContext::Fish>},
+    {Command::NewPlant, &newLivestock<ItemContext::Plant>},
+    {Command::NewInvert, &newLivestock<ItemContext::Invert>},
+    {Command::NewCoral, &newLivestock<ItemContext::Coral>},
+    // Each is enabled only in the view of the list that gets the entry.
+    {Command::NewWaterTest, &onSelection<&MainSelection::newEntry>},
+    {Command::NewActivity, &onSelection<&MainSelection::newEntry>},
+    {Command::NewInventory, &onSelection<&MainSelection::newEntry>},
+    {Command::NewNote, &onSelection<&MainSelection::newEntry>},
+    {Command::NewExpense, &onSelection<&MainSelection::newEntry>},
+    {Command::Expand, &onTree<&TankListController::expandTankItem>},
+    {Command::Collapse, &onTree<&TankListController::collapseTankItem>},
+    {Command::ConditionColumns,
+     [](ShoalwatchController &) { ConditionListController::sharedInstance().showCustomizeConditionColumns(); }},
+    {Command::ToggleToolbar, &onToolbar<&MainToolBar::toggle>},
+    {Command::CustomiseToolbar, &onToolbar<&MainToolBar::customise>},
+    {Command::ToggleCalculator,
+     [](ShoalwatchController &) { ConverterController::sharedInstance().toggleConverter(); }},
+    {Command::ToggleOverdue, [](ShoalwatchController &) { NotificationController::sharedInstance().showOverdue(); }},
+    {Command::Help, &onDelegate<&ShoalwatchDelegate::showHelp>},
+    {Command::CheckForUpdates, &onDelegate<&ShoalwatchDelegate::showUpdate>},
+    {Command::MailingList, &onDelegate<&ShoalwatchDelegate::displayEListSignUp>},
+    {Command::Feedback, &onDelegate<&ShoalwatchDelegate::sendFeedback>},
+    {Command::ProductPage, &onDelegate<&ShoalwatchDelegate::productPage>},
+    {Command::About, &onDelegate<&ShoalwatchDelegate::showAbout>},
+};
+
+static_assert(rowsFollow<Command>(commandRows, &CommandRow::command),
+              "commandRows needs one row for each Command, in its order");
+
+} // namespace
+
+CommandDispatch::CommandDispatch(ShoalwatchController &main)
+    : m_main(main)
+{
+}
+
+void CommandDispatch::perform(Command command)
+{
+    commandRows[std::size_t(command)].perform(m_main);
+    m_main.validate();
+}
+
+void CommandDispatch::performToolbarItem(QStringView identifier)
+{
+    const ToolbarItem *item = toolbarItem(identifier);
+    if (item && item->command)
+        perform(*item->command);
+}
+
+std::span<const CommandRow> CommandDispatch::table()
+{
+    return commandRows;
+}
+
+} // namespace brinemark
