@@ -4,6 +4,7 @@
 #include "base/Product.h"
 #include "base/text/Texts.h"
 #include "support/AppFixture.h"
+#include "support/DataRow.h"
 #include "support/Python.h"
 #include "ui/MainView.h"
 
@@ -157,6 +158,34 @@ private Q_SLOTS:
         if (!edited)
             program.commands().saveCurrentFile();
         QCOMPARE(script.titles.size(), 1);
+    }
+
+    void partlyReadFileIsNotOverwritten_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        row("no property list", QByteArray("garbage"));
+        row("a tank that cannot be built", bytesOf(QStringLiteral(BRINEMARK_TEST_DATA "/broken/tank-integer.xml")));
+    }
+
+    void partlyReadFileIsNotOverwritten()
+    {
+        QFETCH(QByteArray, content);
+        Program program;
+        program.start(testFile("three-tanks.xml"));
+        const QString path = program.filePath("partly.xml");
+        QVERIFY(writeFile(path, content));
+        {
+            const AlertScript report; // of the second file only
+            QVERIFY(!program.document().readTankFileWithPath(path));
+        }
+        AlertScript script{AlertOther, AlertAlternate};
+        program.commands().saveCurrentFile();
+        QCOMPARE(script.titles, QStringList{text("NotFullyReadTitle")});
+        QCOMPARE(bytesOf(path), content);
+        program.commands().saveCurrentFile(); // answered with overwrite
+        QVERIFY(bytesOf(path) != content);
+        program.commands().saveCurrentFile();
+        QCOMPARE(script.titles.size(), 2);
     }
 
     void changedByAnotherAndChosenAgain()

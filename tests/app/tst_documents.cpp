@@ -325,6 +325,19 @@ private Q_SLOTS:
         }));
     }
 
+    void quitIsAskedOnce()
+    {
+        Program program;
+        program.start(program.copyOf(testFile("minimal.xml")));
+        QVERIFY(program.renameFirstTank("Edited"));
+        program.delegate().terminate();
+        program.delegate().terminate(); // while the question is on screen
+        AlertScript script;
+        QTRY_COMPARE(script.titles.size(), 1);
+        QTest::qWait(50); // a second question would come up behind the first
+        QCOMPARE(script.titles, QStringList{text("SaveQuitTitle")});
+    }
+
     void changeCountWraps()
     {
         Program program;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "app/commands/CommandDispatch.h"
 #include "app/menus/MainMenuBar.h"
 #include "app/tree/TankOutlineView.h"
 #include "base/text/Texts.h"
 #include "support/AppFixture.h"
+#include "support/DataRow.h"
 
 #include <QClipboard>
 #include <QLineEdit>
@@ -18,37 +20,24 @@ using namespace brinemark::test;
 namespace
 {
 
-/// What a state sets beyond an empty window. Views by their constants.
-struct StateOf {
-    int view = 0;
-    int selectedIn = 0; ///< the view whose list has a selected row
-    QString flags;      ///< words: tank edited path toolbar calculator overdue open closed undo redo tree
-
-    [[nodiscard]] MenuState state() const
-    {
-        const auto has = [this](const char *word) { return flags.split(' ').contains(QLatin1String(word)); };
-        MenuState state;
-        state.view = MainView(view);
-        state.listHasSelectedRow[selectedIn] = selectedIn != 0;
-        state.hasCurrentTank = has("tank");
-        state.windowEdited = has("edited");
-        state.documentHasPath = has("path");
-        state.toolbarVisible = has("toolbar");
-        state.calculatorVisible = has("calculator");
-        state.overdueNoticeVisible = has("overdue");
-        state.selectedRowExpandable = has("open") || has("closed");
-        state.selectedRowExpanded = has("open");
-        state.canUndo = has("undo");
-        state.canRedo = has("redo");
-        state.treeHasFocus = has("tree");
-        return state;
-    }
-};
-
-const QList<int> &allTags()
+/// A state of the window in short form.
+MenuState stateOf(MainView view, MainView selectedIn, const QStringList &flags)
 {
-    static const QList<int> tags{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 36, 37, 38, 0, 99, -1};
-    return tags;
+    MenuState state;
+    state.view = view;
+    state.listHasSelectedRow[qint32(selectedIn)] = selectedIn != MainView::None;
+    state.hasCurrentTank = flags.contains("tank");
+    state.windowEdited = flags.contains("edited");
+    state.documentHasPath = flags.contains("path");
+    state.toolbarVisible = flags.contains("toolbar");
+    state.calculatorVisible = flags.contains("calculator");
+    state.overdueNoticeVisible = flags.contains("overdue");
+    state.selectedRowExpandable = flags.contains("open") || flags.contains("closed");
+    state.selectedRowExpanded = flags.contains("open");
+    state.canUndo = flags.contains("undo");
+    state.canRedo = flags.contains("redo");
+    state.treeHasFocus = flags.contains("tree");
+    return state;
 }
 
 QList<QAction *> itemsOf(const MainMenuBar &bar)
@@ -72,56 +61,84 @@ class TestMenus : public QObject
 private Q_SLOTS:
     void validation_data()
     {
-        QTest::addColumn<int>("view");
-        QTest::addColumn<int>("selectedIn");
-        QTest::addColumn<QString>("flags");
-        QTest::addColumn<QList<int>>("enabled"); // of those with a rule; the others always are
+        using namespace menutag;
+        using V = MainView;
         using Tags = QList<int>;
-        QTest::newRow("nothing open") << 0 << 0 << "" << Tags{};
-        QTest::newRow("current tank") << 1 << 0 << "tank" << Tags{5};
-        QTest::newRow("closed row") << 1 << 0 << "tank closed" << Tags{5, 3};
-        QTest::newRow("open row") << 2 << 0 << "tank open" << Tags{5, 4};
-        QTest::newRow("untitled, edited") << 0 << 0 << "edited" << Tags{10};
-        QTest::newRow("titled, clean") << 0 << 0 << "path" << Tags{};
-        QTest::newRow("titled, edited") << 0 << 0 << "path edited" << Tags{10, 15};
-        QTest::newRow("one fish") << 3 << 0 << "tank" << Tags{5};
-        QTest::newRow("schedule") << 4 << 0 << "tank" << Tags{5, 7};
-        QTest::newRow("schedule, selected") << 4 << 4 << "tank" << Tags{5, 7, 13};
-        QTest::newRow("notes") << 5 << 0 << "tank" << Tags{5, 9};
-        QTest::newRow("notes, selected") << 5 << 5 << "tank" << Tags{5, 9, 12};
-        QTest::newRow("conditions") << 6 << 0 << "tank" << Tags{5, 6, 38};
-        QTest::newRow("conditions, selected") << 6 << 6 << "tank" << Tags{5, 6, 38, 14};
-        QTest::newRow("inventory") << 7 << 0 << "tank" << Tags{5, 8};
-        QTest::newRow("inventory, selected") << 7 << 7 << "tank" << Tags{5, 8, 11};
-        QTest::newRow("expenses") << 8 << 0 << "tank" << Tags{5, 37};
-        QTest::newRow("expenses, selected") << 8 << 8 << "tank" << Tags{5, 37, 16};
-        // The rules of the tables look at them, not at the view on screen.
-        QTest::newRow("notes selected, elsewhere") << 1 << 5 << "tank" << Tags{5, 12};
-        QTest::newRow("undo") << 1 << 0 << "tank undo" << Tags{5, 17};
-        QTest::newRow("redo") << 1 << 0 << "tank redo" << Tags{5, 18};
-        QTest::newRow("undo in the tree") << 1 << 0 << "tank undo redo tree" << Tags{5, 18};
-        QTest::newRow("windows shown") << 0 << 0 << "toolbar calculator overdue" << Tags{};
+        QTest::addColumn<MainView>("view");
+        QTest::addColumn<MainView>("selectedIn"); // the view whose list has a selected row
+        QTest::addColumn<QString>("flags");
+        QTest::addColumn<QList<int>>("enabled"); // of the items with a rule; the others always are
+        row("nothing open", V::None, V::None, "", Tags{});
+        row("current tank", V::Tank, V::None, "tank", Tags{NeedsTank});
+        row("closed row", V::Tank, V::None, "tank closed", Tags{NeedsTank, Expand});
+        row("open row", V::LivestockGroup, V::None, "tank open", Tags{NeedsTank, Collapse});
+        row("untitled, edited", V::None, V::None, "edited", Tags{Save});
+        row("titled, clean", V::None, V::None, "path", Tags{});
+        row("titled, edited", V::None, V::None, "path edited", Tags{Save, Revert});
+        row("one fish", V::LivestockItem, V::None, "tank", Tags{NeedsTank});
+        struct {
+            const char *name;
+            MainView view;
+            Tags always;
+            int selected;
+        } const journals[] = {
+            {"schedule", V::Schedule, {NeedsTank, NewActivity}, ScheduleSelected},
+            {"notes", V::Notes, {NeedsTank, NewNote}, NoteSelected},
+            {"conditions", V::Conditions, {NeedsTank, NewWaterTest, ConditionColumns}, ConditionSelected},
+            {"inventory", V::Inventory, {NeedsTank, NewInventory}, InventorySelected},
+            {"expenses", V::Expenses, {NeedsTank, NewExpense}, ExpenseSelected}};
+        for (const auto &journal : journals) {
+            row(journal.name, journal.view, V::None, "tank", journal.always);
+            row(QByteArray(journal.name) + ", selected", journal.view, journal.view, "tank",
+                journal.always + Tags{journal.selected});
+        }
+        // The rules of the lists ask the list, not the view on screen.
+        row("notes selected, elsewhere", V::Tank, V::Notes, "tank", Tags{NeedsTank, NoteSelected});
+        row("undo", V::Tank, V::None, "tank undo", Tags{NeedsTank, Undo});
+        row("redo", V::Tank, V::None, "tank redo", Tags{NeedsTank, Redo});
+        row("undo in the tree", V::Tank, V::None, "tank undo redo tree", Tags{NeedsTank, Redo});
+        row("windows shown", V::None, V::None, "toolbar calculator overdue", Tags{});
     }
 
     void validation()
     {
-        QFETCH(int, view);
-        QFETCH(int, selectedIn);
+        using namespace menutag;
+        QFETCH(MainView, view);
+        QFETCH(MainView, selectedIn);
         QFETCH(QString, flags);
         QFETCH(QList<int>, enabled);
-        const MenuState state = StateOf{view, selectedIn, flags}.state();
-        static const QList<int> always{1, 2, 36, 0, 99, -1};
-        for (const int tag : allTags()) {
+        const MenuState state = stateOf(view, selectedIn, flags.split(' '));
+        const QList<int> withRule{Expand,
+                                  Collapse,
+                                  NeedsTank,
+                                  NewWaterTest,
+                                  NewActivity,
+                                  NewInventory,
+                                  NewNote,
+                                  Save,
+                                  InventorySelected,
+                                  NoteSelected,
+                                  ScheduleSelected,
+                                  ConditionSelected,
+                                  Revert,
+                                  ExpenseSelected,
+                                  Undo,
+                                  Redo,
+                                  NewExpense,
+                                  ConditionColumns};
+        for (const int tag : withRule)
+            QVERIFY2(menuItemState(tag, state).enabled == enabled.contains(tag), QByteArray::number(tag));
+        for (const int untagged : {0, 99, -1})
+            QVERIFY(menuItemState(untagged, state).enabled && !menuItemState(untagged, state).title);
+        const std::map<int, std::pair<const char *, const char *>> titled{
+            {Toolbar, {"toolbar", "Toolbar"}},
+            {Calculator, {"calculator", "CalculatorWindow"}},
+            {OverdueNotice, {"overdue", "NotificationWindow"}}};
+        for (const auto &[tag, title] : titled) {
             const MenuItemState item = menuItemState(tag, state);
-            QVERIFY2(item.enabled == (always.contains(tag) || enabled.contains(tag)), QByteArray::number(tag));
-            const std::map<int, std::pair<const char *, const char *>> titles{{1, {"toolbar", "Toolbar"}},
-                                                                              {2, {"calculator", "CalculatorWindow"}},
-                                                                              {36, {"overdue", "NotificationWindow"}}};
-            const auto title = titles.find(tag);
-            QCOMPARE(item.title.has_value(), title != titles.end());
-            if (title != titles.end())
-                QCOMPARE(QByteArray(item.title->key),
-                         QByteArray(flags.contains(title->second.first) ? "Hide" : "Show") + title->second.second);
+            QVERIFY(item.enabled && item.title);
+            QCOMPARE(QByteArray(item.title->key),
+                     QByteArray(flags.contains(title.first) ? "Hide" : "Show") + title.second);
         }
     }
 
@@ -135,11 +152,13 @@ private Q_SLOTS:
             QCOMPARE(toolbarItemEnabled(item, true, false), item != "delete");
         }
         for (const bool selected : {false, true}) {
-            for (const int view : {0, 1, 3, 9, -1})
-                QVERIFY(canDelete(MainView(view), selected));
+            for (const MainView view :
+                 {MainView::None, MainView::Tank, MainView::LivestockItem, MainView(mainViewCount), MainView(-1)})
+                QVERIFY(canDelete(view, selected));
             QVERIFY(!canDelete(MainView::LivestockGroup, selected));
-            for (const int view : {4, 5, 6, 7, 8})
-                QCOMPARE(canDelete(MainView(view), selected), selected);
+            for (const MainView view :
+                 {MainView::Schedule, MainView::Notes, MainView::Conditions, MainView::Inventory, MainView::Expenses})
+                QCOMPARE(canDelete(view, selected), selected);
         }
     }
 
@@ -153,7 +172,7 @@ private Q_SLOTS:
             QSet<QKeySequence> keys;
             for (const QAction *item : itemsOf(bar)) {
                 QVERIFY(!item->text().isEmpty());
-                // Texts of the menus are never their keys; one that is was not found.
+                // A text that equals its key was not found in the table.
                 QVERIFY2(item->text() != item->objectName() || item->objectName() == "Condition Columns...",
                          qPrintable(item->text()));
                 for (const QKeySequence &key : item->shortcuts()) {
@@ -162,7 +181,9 @@ private Q_SLOTS:
                 }
                 titles << item->text();
             }
-            QVERIFY(titles.size() > 35);
+            for (const CommandRow &row : CommandDispatch::table())
+                QVERIFY(titles.contains(bar.action(row.command)->text()));
+            QCOMPARE(std::size_t(titles.size()), CommandDispatch::table().size());
             QCOMPARE(QSet<QString>(titles.begin(), titles.end()).size(), titles.size());
             if (english.isEmpty())
                 english = titles;
@@ -217,7 +238,7 @@ private Q_SLOTS:
         QVERIFY(!enabled(Command::Expand) && enabled(Command::Collapse));
         QVERIFY(enabled(Command::Delete));
 
-        // By row below the tank: what it offers to add, and whether it can be deleted or opened.
+        // By row below the tank: the one new-entry command that is enabled.
         const std::vector<std::pair<int, std::optional<Command>>> rows{{1, {}},
                                                                        {2, {}},
                                                                        {3, {}},
@@ -299,7 +320,7 @@ private Q_SLOTS:
         menus.action(Command::Paste)->trigger();
         QCOMPARE(field.text(), "scallop");
 
-        // In the tree: only livestock can be copied, and pasted once it was.
+        // In the tree only livestock can be copied, and paste is enabled after that.
         const auto &tank = program.tree().list().at(0);
         program.tree().tankList()->setFocus();
         program.tree().select(TreeItem(*tank));

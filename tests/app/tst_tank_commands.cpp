@@ -321,7 +321,7 @@ private Q_SLOTS:
         const QByteArray fish = xml("TankFish");
         QTest::newRow("nothing in it") << QByteArray() << QByteArray();
         QTest::newRow("no context") << good << QByteArray();
-        QTest::newRow("a journal") << good << xml("TankNote");
+        QTest::newRow("a journal") << plist::writeXml(recordDict(NoteData())) << xml("TankNote");
         QTest::newRow("context is cut off") << good << fish.chopped(12);
         QTest::newRow("no record") << QByteArray() << fish;
         QTest::newRow("a text for a record") << xml("fish available") << fish;

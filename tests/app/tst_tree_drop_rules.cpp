@@ -200,6 +200,7 @@ private Q_SLOTS:
         row("the next tank", "A", "B", 2, "BAC");
         row("a fish of the next tank", "A", "B3", 2, "BAC");
         row("a group of the last tank", "B", "C/fish", 3, "ACB");
+        row("behind its predecessor", "B", "A", 1, "ABC");
         row("up, below the first", "C", "A/plant/0", 1, "ACB");
     }
 
