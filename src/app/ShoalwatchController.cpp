@@ -248,10 +248,6 @@ void ShoalwatchController::deleteItem()
 {
     performCommand(Command::Delete);
 }
-void ShoalwatchController::showPreferences()
-{
-    performCommand(Command::Preferences);
-}
 
 void ShoalwatchController::documentModifiedWithChange(bool made)
 {

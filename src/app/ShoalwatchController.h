@@ -25,7 +25,7 @@ class TankListController;
 
 /// The main controller: owns the main window and the parts around it (the open document with its host and commands, the
 /// views, the selection, the command dispatch), connects them, and enables menus, toolbar and delete button. It is the
-/// shell that the views see.
+/// `Shell` that the views see.
 class ShoalwatchController final : public QObject, public Shell, public Shared<ShoalwatchController>
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] TankListController &tankListController() const { return m_tankListController; }
 
     void display();         ///< brings the window to the front; an empty tree gets its first tank
-    void windowWillClose(); ///< stores what the window remembers
+    void windowWillClose(); ///< stores the widths of the panes
     void programWillEnd(); ///< hides the window; from here on nothing is validated, since the controllers are destroyed
     void validate();       ///< enables menus, toolbar and delete button for the present state
     void performCommand(Command command);
@@ -63,7 +63,6 @@ public:
     void deleteItem() override;
     void orderFrontAndCheckModified() override;
     void showWarningSheet(const QString &title, const QString &message) override;
-    void showPreferences() override;
     void changeView(MainView view) override;
     [[nodiscard]] MainView currentView() const override;
     void updateTree() override;

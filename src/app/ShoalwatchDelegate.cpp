@@ -5,6 +5,7 @@
 #include "app/ShoalwatchController.h"
 #include "app/documents/DocumentCommands.h"
 #include "app/documents/TankDocument.h"
+#include "app/preferences/PrefsController.h"
 #include "app/startup/DockMenu.h"
 #include "app/startup/StartupSteps.h"
 #include "app/tree/TankListController.h"
@@ -151,7 +152,7 @@ void ShoalwatchDelegate::buildDockMenu()
 void ShoalwatchDelegate::terminate()
 {
     if (m_terminating)
-        return; // the question is on screen already
+        return; // the question is already on screen
     m_terminating = true;
     if (applicationShouldTerminate() == TerminateReply::Now)
         replyToApplicationShouldTerminate(true);
@@ -197,6 +198,11 @@ void ShoalwatchDelegate::redoChange()
         return;
     const QScopedValueRollback undoing(m_undoing, true);
     m_undoManager->redo();
+}
+
+void ShoalwatchDelegate::showPreferences()
+{
+    PrefsController::sharedInstance().display();
 }
 
 void ShoalwatchDelegate::showHelp()

@@ -17,8 +17,8 @@ class FishDataEntryController;
 class NotificationController;
 class ShoalwatchController;
 
-/// The application delegate: runs the start-up, answers the desktop's requests to open files and to quit, owns the
-/// shared undo manager and the dock menu, and carries the small application-wide commands.
+/// The application delegate: runs the start-up, handles the desktop's requests to open files and to quit, owns the
+/// shared undo manager and the dock menu, and performs the small application-wide commands.
 class ShoalwatchDelegate : public QObject, public Shared<ShoalwatchDelegate>
 {
     Q_OBJECT
@@ -34,18 +34,19 @@ public:
     // Start-up
     void applicationWillFinishLaunching();
     void applicationDidFinishLaunching();
-    void openDefaultFile(); ///< unless a file is open already; without one an untitled document
+    void openDefaultFile(); ///< unless a file is open already; an untitled document when there is no default file
     void showConverterIfWanted();
 
     // The desktop's requests
-    bool applicationOpenFile(const QString &path); ///< false, without a message, for what is no tank file
+    bool applicationOpenFile(const QString &path); ///< false, without a message, for a file that is no tank file
     bool applicationPrintFile(const QString &path);
     void applicationWillBecomeActive();
+    // Only a desktop with a dock sends these two.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
-    [[nodiscard]] QMenu *applicationDockMenu() const; ///< null unless there is something worth showing
+    [[nodiscard]] QMenu *applicationDockMenu() const; ///< null while the menu has fewer than three items
 
     // Quitting
-    void terminate(); ///< asks whether the program may quit, and quits
+    void terminate(); ///< quits, after a question when there are unsaved changes
     void replyToApplicationShouldTerminate(bool terminate);
 
     [[nodiscard]] QMenu &dockMenu();
@@ -54,6 +55,7 @@ public:
     // Commands
     void undoChange();
     void redoChange();
+    void showPreferences();
     void showHelp();
     void showAbout();
     void showUpdate();

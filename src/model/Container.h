@@ -29,7 +29,6 @@ public:
     [[nodiscard]] Tank *tank() const { return m_tank; }
 
     [[nodiscard]] const QString &name() const { return m_name; }
-    void setName(const QString &name) { m_name = name; }
     [[nodiscard]] bool sortAscending() const { return m_sortAscending; }
     void setSortAscending(bool ascending) { m_sortAscending = ascending; }
     [[nodiscard]] const QString &sortIdentifier() const { return m_sortIdentifier; }

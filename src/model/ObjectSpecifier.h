@@ -13,7 +13,8 @@ namespace brinemark
 class Tank;
 struct Record;
 
-/// The address of an object for a scripting interface: an element or a property of its container.
+/// The address of an object for a scripting interface: an element or a property of its container. Kept for that
+/// interface, although nothing calls it yet.
 struct ObjectSpecifier {
     QString key;                             ///< "appTankList", a list key such as "fishListArray", or "tankData"
     std::optional<int> index;                ///< of the element; none for a property

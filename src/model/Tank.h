@@ -105,6 +105,9 @@ public:
     void createDefaultWarningValues();       ///< replaces all targets by the defaults of the parameter table
     void createDefaultMarineWarningValues(); ///< replaces only the last ten, salt to magnesium
 
+    // ---- changing the lists by key or name: kept complete for the scripting interface, also where nothing calls it
+    // yet
+
     /// Makes this the record's tank and inserts the record into the list of the key before `index`; past the end it is
     /// appended. Before that it may remove the record from the first tank's list, by an unusual rule (see Tank.cpp).
     void insertItemData(const std::shared_ptr<Record> &record, QStringView arrayKey, int index);

@@ -46,7 +46,6 @@ public:
     virtual void deleteItem() = 0; ///< the delete command: acts on the view's or the tree's selection
     virtual void orderFrontAndCheckModified() = 0;
     virtual void showWarningSheet(const QString &title, const QString &message) = 0;
-    virtual void showPreferences() = 0;
 
     virtual void changeView(MainView view) = 0;
     [[nodiscard]] virtual MainView currentView() const = 0;

@@ -56,7 +56,6 @@ public:
     void deleteItem() override { ++deletesAsked; }
     void orderFrontAndCheckModified() override { ++ordersFront; }
     void showWarningSheet(const QString &title, const QString &) override { warning = title; }
-    void showPreferences() override {}
     void changeView(MainView view) override { shown = view; }
     MainView currentView() const override { return shown; }
     void updateTree() override { ++treeUpdates; }

@@ -6,7 +6,6 @@
 #include "app/ShoalwatchDelegate.h"
 #include "app/documents/DocumentCommands.h"
 #include "app/menus/EditCommands.h"
-#include "app/preferences/PrefsController.h"
 #include "app/toolbar/MainToolBar.h"
 #include "app/toolbar/ToolbarItems.h"
 #include "app/tree/TankListController.h"
@@ -90,7 +89,7 @@ constexpr CommandRow commandRows[] = {
     {Command::Paste, &edit<Command::Paste>},
     {Command::SelectAll, &edit<Command::SelectAll>},
     {Command::Delete, &onSelection<&MainSelection::deleteItem>},
-    {Command::Preferences, [](ShoalwatchController &) { PrefsController::sharedInstance().display(); }},
+    {Command::Preferences, &onDelegate<&ShoalwatchDelegate::showPreferences>},
     {Command::NewTank,
      [](ShoalwatchController &) { TankDataEntryController::sharedInstance().displayTank(nullptr, true, {}); }},
     {Command::NewFish, &newLivestock<ItemContext::Fish>},

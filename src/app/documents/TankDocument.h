@@ -42,10 +42,11 @@ public:
     [[nodiscard]] bool isEdited() const { return m_edited; }
     void clearEditedMark() { setEdited(false); } ///< leaves the change count unchanged
 
-    /// The content of the file as last read or written.
+    /// The content of the file as last read or written. No caller yet.
     [[nodiscard]] const plist::Dict &documentDictionary() const { return m_documentDictionary; }
 
-    /// Whether the file's extension is to be hidden when it is written, on platforms that support this.
+    /// Whether the file's extension is to be hidden when it is written, on platforms that support this. None that we
+    /// build for does, so nothing reads it yet.
     bool hideExtensionWhenWriting = true;
 
 private:

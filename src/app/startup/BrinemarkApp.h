@@ -24,6 +24,7 @@ public:
     /// The application object of this process.
     static BrinemarkApp &sharedInstance();
 
+    // Kept for a scripting interface, which starts from the application object; no caller yet.
     [[nodiscard]] TankList *appTankList() const;
     void setAppTankList(TankList *list); ///< the tank tree's own list, not a copy
 

@@ -38,7 +38,7 @@ public:
     [[nodiscard]] int selectedRow() const; ///< counts the visible rows from 0; -1 when none is selected
     void selectRow(int row);               ///< selects the first row when there is no such row
     [[nodiscard]] TreeItem currentSelectedItem() const;
-    /// The livestock group of the selected record; for any other row the list of tanks.
+    /// The livestock group of the selected record; for any other row the list of tanks. No caller yet.
     [[nodiscard]] std::variant<Container *, TankList *> currentSelectedArray();
     void select(const TreeItem &item); ///< expands the rows above it first
 

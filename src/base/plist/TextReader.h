@@ -17,7 +17,7 @@ namespace brinemark::plist
 /// digits, a UTF-16 unit) and one to three octal digits (a Latin-1 character) are escapes; any other character after a
 /// backslash means itself. A comma may follow the last element of an array; every entry of a dictionary ends with a
 /// semicolon. The last value of a repeated key counts. Anything malformed, or nested deeper than `maximumDepth`, gives
-/// an error that names the line and no value.
+/// an error that names the line and no value. No caller yet: the update check will read its description in this form.
 ReadResult readText(const QByteArray &bytes);
 
 } // namespace brinemark::plist
