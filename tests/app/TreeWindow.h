@@ -18,8 +18,7 @@
 namespace brinemark::test
 {
 
-/// A window that holds the tank tree, its controller and the open document; the views that the program would put on
-/// screen are written down.
+/// A window that holds the tank tree, its controller and the open document. It records which views are requested.
 class TreeWindow : public RecordingShell, private DocumentHost
 {
 public:
@@ -52,7 +51,7 @@ public:
     ~TreeWindow() override { TankListController::destroyShared(); }
 
     [[nodiscard]] bool read(const QString &path) { return document.readTankFileWithPath(path); }
-    /// Saves, so that nothing counts as changed.
+    /// Saves the document, which resets the change count.
     [[nodiscard]] bool save()
     {
         return document.writeTankFileWithPath(m_savePath) == TankDocument::WriteOutcome::Written;
@@ -64,7 +63,7 @@ public:
         appendTank(std::make_shared<Tank>(name));
         return tree.list().at(tree.list().count() - 1);
     }
-    /// Adds a livestock record, without telling anybody but the tree.
+    /// Adds a livestock record and reloads the tree; no other observer is notified.
     template <class Kind>
     std::shared_ptr<Kind> add(Tank &tank, const QString &name)
     {
@@ -110,11 +109,11 @@ public:
     TankOutlineView *outline;
     TankTreeModel *model;
     TankDocument document;
-    QList<MainView> views; ///< every view that was asked for, in order
-    QStringList edited;    ///< the names of the records that the item editor was asked for
+    QList<MainView> views; ///< every requested view, in order
+    QStringList edited;    ///< the names of the records that the item editor was opened on
 
 private:
-    // DocumentHost, as the main controller does it
+    // DocumentHost, like MainDocumentHost
     void showDocumentTitle(const QString &) override {}
     void showEditedMark(bool isEdited) override { window.setWindowModified(isEdited); }
     void resetNotificationView() override {}

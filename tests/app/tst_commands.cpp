@@ -5,12 +5,14 @@
 #include "app/toolbar/MainToolBar.h"
 #include "app/tree/TankOutlineView.h"
 #include "base/text/Texts.h"
+#include "chemistry/views/ConditionListController.h"
 #include "journals/views/NoteListController.h"
 #include "model/LivestockData.h"
 #include "support/AppFixture.h"
 #include "support/DataRow.h"
 #include "ui/MainView.h"
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QTableView>
@@ -30,7 +32,7 @@ struct FullProgram : Program {
     {
         return static_cast<ItemData &>(*tank().container(kind)->recordAt(0));
     }
-    /// What the view on screen calls itself.
+    /// The title of the view on screen.
     static QString title() { return window().mainView().currentWidget()->findChild<QLabel *>("viewTitle")->text(); }
 };
 
@@ -99,7 +101,7 @@ private Q_SLOTS:
         Container &list = *program.tank().container(kind);
         program.controller().selectInTree(list);
         const int before = list.count();
-        const AlertScript script; // a new water test explains itself
+        const AlertScript script; // dismisses the explanation that a new water test shows
         program.controller().performCommand(command);
         QCOMPARE(list.count(), before + 1);
         QVERIFY(program.document().isEdited());
@@ -118,8 +120,29 @@ private Q_SLOTS:
             QCOMPARE(program.title(), program.tank().container(kind)->name());
         }
         const auto note = program.tank().noteListArray().at(0);
-        program.controller().selectInTree(*note); // no row of the tree
+        program.controller().selectInTree(*note); // journal records have no row in the tree
         QCOMPARE(program.controller().currentView(), MainView::LivestockGroup);
+    }
+
+    void aRecordOpensItsEditor()
+    {
+        FullProgram program;
+        program.controller().selectInTree(program.livestock(ContainerKind::Coral));
+        QTest::keyClick(program.tree().tankList(), Qt::Key_Return);
+        auto *sheet = awaitWindow("itemSheet");
+        QVERIFY(sheet);
+        sheet->reject();
+    }
+
+    void leavingTheLogStoresItsColumns()
+    {
+        FullProgram program;
+        Condition &log = *program.tank().condition();
+        program.controller().selectInTree(log);
+        QHeaderView &header = *ConditionListController::sharedInstance().table()->horizontalHeader();
+        header.resizeSection(header.logicalIndex(1), 333);
+        program.controller().selectInTree(program.tank());
+        QCOMPARE(log.columnInfoArray().at(1).width, 333.0);
     }
 
     void deleteActsOnTheSelection_data()

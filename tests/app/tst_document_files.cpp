@@ -15,7 +15,7 @@
 using namespace brinemark;
 using namespace brinemark::test;
 
-// The real document with files that are broken, old, changed by somebody else, or that cannot be written.
+// The document with files that are broken, old, changed by another program, or not writable.
 
 class TestDocumentFiles : public QObject
 {
@@ -44,7 +44,7 @@ private Q_SLOTS:
 
     void readErrorKeepsTheTanksBefore_data()
     {
-        QTest::addColumn<int>("view"); // that is on screen while the old tanks go
+        QTest::addColumn<int>("view"); // the view on screen while the file is read
         for (int view = 1; view < mainViewCount; ++view)
             QTest::addRow("view %d", view) << view;
     }
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(script.messages, QStringList{text("ReadErrorMessage")});
         QCOMPARE(program.beeps, 1);
         QCOMPARE(program.tankNames().size(), 1);
-        // Nothing of the old tanks is on screen or can be edited.
+        // The views show none of the old tanks.
         QCOMPARE(program.controller().currentView(), MainView::None);
         QVERIFY(!program.tree().currentTank());
         QVERIFY(!program.delegate().undoManager().canUndo());
@@ -90,13 +90,13 @@ private Q_SLOTS:
         program.settle();
         QVERIFY(open(AlertDefault));
         QCOMPARE(bytesOf(backup), bytesOf(testFile("older-six.xml")));
-        // The older copy stays when there is one already.
+        // An existing backup is not replaced.
         QVERIFY(writeFile(backup, "kept"));
         program.document().readTankFileWithPath({});
         program.settle();
         QVERIFY(open(AlertDefault));
         QCOMPARE(bytesOf(backup), QByteArray("kept"));
-        // Once saved it is of the current form, and nothing is asked.
+        // Saving writes the current form, so reading it again asks nothing.
         program.commands().saveCurrentFile();
         program.document().readTankFileWithPath({});
         program.settle();
@@ -127,7 +127,7 @@ private Q_SLOTS:
     void changedByAnother_data()
     {
         QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("theirFile"); // its tank afterwards
+        QTest::addColumn<QString>("theirFile"); // the tank in the other program's file afterwards
         QTest::addColumn<bool>("edited");
         QTest::newRow("overwrite") << int(AlertAlternate) << "Edited" << false;
         QTest::newRow("elsewhere") << int(AlertDefault) << "Theirs" << false;
@@ -154,7 +154,7 @@ private Q_SLOTS:
         }
         QCOMPARE(tankNamesIn(path), QStringList{theirFile});
         QCOMPARE(program.document().isEdited(), edited);
-        // What was just written is known: the next save asks nothing.
+        // The program knows what it has just written, so the next save asks nothing.
         if (!edited)
             program.commands().saveCurrentFile();
         QCOMPARE(script.titles.size(), 1);
@@ -175,7 +175,7 @@ private Q_SLOTS:
         const QString path = program.filePath("partly.xml");
         QVERIFY(writeFile(path, content));
         {
-            const AlertScript report; // of the second file only
+            const AlertScript report; // dismisses the report, which only the second file causes
             QVERIFY(!program.document().readTankFileWithPath(path));
         }
         AlertScript script{AlertOther, AlertAlternate};
@@ -200,7 +200,7 @@ private Q_SLOTS:
         auto *panel = awaitWindow<QFileDialog>("savePanel");
         QVERIFY(panel);
         panel->setOption(QFileDialog::DontConfirmOverwrite);
-        QVERIFY(!answerPanel("savePanel", path)); // asks once more where
+        QVERIFY(!answerPanel("savePanel", path)); // the save panel comes up again
         QCOMPARE(script.titles, QStringList{text("ChangedOnDiskTitle")});
         QVERIFY(answerPanel("savePanel", program.filePath("mine.XML")));
         QCOMPARE(tankNamesIn(program.filePath("mine.XML")), QStringList{"Edited"});
@@ -217,7 +217,7 @@ private Q_SLOTS:
         for (auto it = all.begin(); it != all.end(); ++it) {
             const QJsonObject expected = it.value().toObject();
             if (expected.contains(u"generate"))
-                continue; // made, and read, by the tests of the file reader
+                continue; // the tests of the file reader generate and read this file
             const QByteArray context = it.key().toUtf8();
             const QString outcome = expected.value(u"outcome").toString();
             program.document().readTankFileWithPath(testFile("minimal.xml"));

@@ -2,6 +2,7 @@
 
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
+#include "journals/views/NotificationController.h"
 #include "support/AppFixture.h"
 #include "ui/MainView.h"
 
@@ -39,7 +40,7 @@ bool panelShown()
     return shownWindow<QFileDialog>("openPanel") || shownWindow<QFileDialog>("savePanel");
 }
 
-/// Hands a file over by drag and drop; what the window made of the drag and of the drop.
+/// Drags files onto the window and drops them there; returns whether it accepted the drag and the drop.
 std::pair<bool, bool> dropOnWindow(MainWindow &window, const QList<QUrl> &urls)
 {
     QMimeData data;
@@ -66,7 +67,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("command"); // "new" or "open"
         QTest::addColumn<bool>("titled");
-        QTest::addColumn<QString>("answer"); // to the question; "clean": there is nothing to ask
+        QTest::addColumn<QString>("answer"); // to the question; "clean": no edits, so no question
         QTest::addColumn<QStringList>("panels");
         QTest::addColumn<QString>("endsAt"); // "" untitled, "old", "saved", "other"
         QTest::addColumn<bool>("keepsEdits");
@@ -163,7 +164,7 @@ private Q_SLOTS:
         QVERIFY(!program.window().isWindowModified());
         QCOMPARE(program.document().changeCount(), count);
         QCOMPARE(program.tankNames().first(), "Edited");
-        // The next edit marks it again.
+        // The next edit marks the window again.
         QVERIFY(program.renameFirstTank("Again"));
         QVERIFY(program.window().isWindowModified());
     }
@@ -218,7 +219,7 @@ private Q_SLOTS:
         program.commands().openDataFile();
         QVERIFY(!boxOf("openPanel"));
         QVERIFY(answerPanel("openPanel", {}));
-        // Without a default file the save panel ticks it, every time; unticked it stores nothing.
+        // Without a default file the save panel always ticks the box; unticked, it stores nothing.
         for (int i = 0; i < 2; ++i) {
             program.commands().saveAsCurrentFile();
             QVERIFY(boxOf("savePanel"));
@@ -228,7 +229,7 @@ private Q_SLOTS:
         program.commands().saveAsCurrentFile();
         QVERIFY(answerPanel("savePanel", program.filePath("default.xml")));
         QCOMPARE(preferences.value(preference::defaultFile), program.filePath("default.xml"));
-        // From now on it stays as it was left, in both panels.
+        // With a default file both panels keep the box as it was left.
         program.commands().saveAsCurrentFile();
         QVERIFY(boxOf("savePanel"));
         QVERIFY(answerPanel("savePanel", {}, false));
@@ -307,17 +308,17 @@ private Q_SLOTS:
         if (asks)
             script.answerWith(answerOf(answer));
         const bool ended = program.endsAfter([&] {
-            program.window().close(); // leads to the same question as the Quit command
+            program.window().close(); // asks the same question as the Quit command
             QTRY_COMPARE(script.titles, asks ? QStringList{text("SaveQuitTitle")} : QStringList{});
             QVERIFY(answerPanels(panels, saved, {}));
         });
         QCOMPARE(ended, ends);
-        QVERIFY(program.window().isVisible()); // it never closes by itself
+        QVERIFY(program.window().isVisible()); // closing it only asks to quit
         QCOMPARE(tankNamesIn(old).contains("Edited"), written == "old");
         QCOMPARE(tankNamesIn(saved).contains("Edited"), written == "saved");
         if (ends)
             return;
-        // A quit that was called off can be asked for again.
+        // After a cancelled quit, the next one asks again.
         script.answerWith(AlertAlternate);
         QVERIFY(program.endsAfter([&] {
             program.controller().performCommand(Command::Quit);
@@ -395,7 +396,44 @@ private Q_SLOTS:
         QVERIFY(!program.document().isEdited());
     }
 
-    void handedOverFileIsForgottenWhenCalledOff()
+    void anotherFileDropsUndoAndNotices()
+    {
+        Program program;
+        program.start(program.copyOf(testFile("minimal.xml")));
+        QVERIFY(program.renameFirstTank("Edited"));
+        program.commands().saveCurrentFile();
+        const auto activity = std::make_shared<ScheduleData>();
+        NotificationController::sharedInstance().setNotificationData(activity);
+        NotificationController::sharedInstance().notePanel()->show();
+        QVERIFY(program.delegate().undoManager().canUndo() && program.delegate().applicationDockMenu());
+        QVERIFY(program.document().readTankFileWithPath(testFile("three-tanks.xml")));
+        QVERIFY(!program.delegate().undoManager().canUndo());
+        QVERIFY(!NotificationController::sharedInstance().isVisible());
+        QVERIFY(!program.delegate().applicationDockMenu());
+        // Overdue activities of the new file are shown after reading it.
+        NotificationController::sharedInstance().setNotificationData(activity);
+        NotificationController::sharedInstance().shouldShowWindow(true);
+        QVERIFY(program.document().readTankFileWithPath(testFile("minimal.xml")));
+        QVERIFY(NotificationController::sharedInstance().isVisible());
+    }
+
+    void quitCancelledAtTheOverwriteQuestion()
+    {
+        Program program;
+        Preferences::shared().set(preference::autoSaveOnQuit, true);
+        const QString path = program.copyOf(testFile("minimal.xml"));
+        program.start(path);
+        QVERIFY(program.renameFirstTank("Edited"));
+        QVERIFY(writeFile(path, "theirs"));
+        AlertScript script{AlertOther, AlertOther};
+        for (int i = 1; i <= 2; ++i) { // the second quit asks again
+            QVERIFY(!program.endsAfter([&] { program.delegate().terminate(); }));
+            QCOMPARE(script.titles.size(), i);
+        }
+        QCOMPARE(bytesOf(path), "theirs");
+    }
+
+    void cancelledOpenRequestIsForgotten()
     {
         Program program;
         program.start();
@@ -404,7 +442,7 @@ private Q_SLOTS:
         QVERIFY(program.delegate().applicationOpenFile(testFile("minimal.xml")));
         QVERIFY(answerPanel("savePanel", {}));
         QCOMPARE(program.path(), QString());
-        // The Open command now asks for a file as ever.
+        // The Open command now shows its panel, instead of opening the file of the cancelled request.
         program.controller().performCommand(Command::OpenFile);
         QVERIFY(answerPanel("openPanel", testFile("three-tanks.xml")));
         QCOMPARE(program.path(), testFile("three-tanks.xml"));

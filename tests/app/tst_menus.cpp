@@ -20,7 +20,7 @@ using namespace brinemark::test;
 namespace
 {
 
-/// A state of the window in short form.
+/// The state of a window; each flag is a word, such as "tank" or "edited".
 MenuState stateOf(MainView view, MainView selectedIn, const QStringList &flags)
 {
     MenuState state;
@@ -328,7 +328,7 @@ private Q_SLOTS:
         const auto fish = tank->fishListArray().at(0);
         program.tree().select(TreeItem(*fish));
         QCOMPARE(enabled(), "c");
-        menus.setFocus(Qt::MenuBarFocusReason); // as opening a menu by keyboard does
+        menus.setFocus(Qt::MenuBarFocusReason); // opening a menu by keyboard does the same
         QTRY_VERIFY(menus.hasFocus());
         QCOMPARE(enabled(), "c");
         menus.action(Command::Copy)->trigger();

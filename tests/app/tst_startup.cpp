@@ -6,6 +6,7 @@
 #include "base/Product.h"
 #include "base/text/Texts.h"
 #include "calc/views/ConverterController.h"
+#include "journals/views/NotificationController.h"
 #include "online/views/EListSignupController.h"
 #include "support/AppFixture.h"
 #include "support/Python.h"
@@ -53,7 +54,7 @@ QPushButton *button(QWidget *window, const char *name)
     return window->findChild<QPushButton *>(QLatin1String(name));
 }
 
-/// Asks for another undo while it is being undone, and again while redone.
+/// Calls undo and redo again while it is being undone or redone.
 struct NestedCommand : QUndoCommand {
     void undo() override
     {
@@ -81,12 +82,13 @@ private Q_SLOTS:
             program.delegate().applicationDidFinishLaunching();
             QCOMPARE(preferencesOnDisk(), update + general + QStringList{"defaultFile str "});
             const auto *signUp = shownWindow<QDialog>("signupWindow");
-            QVERIFY(signUp && signUp->parentWidget() == &program.window()); // it stays above what it blocks
+            QVERIFY(signUp && signUp->parentWidget() == &program.window()); // so that it stays above the main window
+            QCOMPARE(NotificationController::sharedInstance().notePanel()->pos(), QPoint(20, 200));
             const QRect screen = program.window().screen()->availableGeometry();
             const QPoint off = program.window().frameGeometry().center() - screen.center();
             QVERIFY(std::abs(off.x()) <= 2 && (std::abs(off.y()) <= 2 || program.window().height() >= screen.height()));
 
-            // The rest of the start-up drops the default file that is none, and records the version.
+            // The rest of the start-up removes the empty default file and stores the version.
             QVERIFY(Preferences::shared().flush());
             const QString version = QString::number(product::packedVersion(product::shortVersion()));
             QStringList afterwards = update + general + QStringList{"bundleVersion int " + version};
@@ -106,7 +108,7 @@ private Q_SLOTS:
 
     void defaultFile_data()
     {
-        QTest::addColumn<QString>("stored"); // in the program's folder
+        QTest::addColumn<QString>("stored"); // a file name in the program's folder
         QTest::addColumn<bool>("kept");
         QTest::newRow("empty") << "" << false;
         QTest::newRow("missing") << "none.xml" << false;
@@ -133,7 +135,7 @@ private Q_SLOTS:
         if (stored == "good.xml") {
             QCOMPARE(program.tankNames().size(), 3);
         } else {
-            // An empty tree gets its first tank, selected and open, and the sheet that names it.
+            // An empty tree gets a first tank, selected and expanded, and the tank sheet opens.
             QCOMPARE(program.tankNames(), QStringList{text("NewTankName")});
             QVERIFY(program.tree().currentSelectedItem().isTank());
             QVERIFY(program.tree().isExpanded(program.tree().currentSelectedItem()));
@@ -184,7 +186,7 @@ private Q_SLOTS:
         QFile::remove(leftover);
     }
 
-    void converterComesBack()
+    void converterIsShownAgain()
     {
         Program program;
         Preferences::shared().set(preference::convertVisible, true);
@@ -225,7 +227,7 @@ private Q_SLOTS:
         QCOMPARE(delegate.dockMenu().actions().size(), 1);
     }
 
-    void wayOut()
+    void mailAndWebAddresses()
     {
         Program program;
         program.start(testFile("minimal.xml"));
@@ -245,6 +247,14 @@ private Q_SLOTS:
         program.window().showMinimized();
         QVERIFY(!program.delegate().applicationShouldHandleReopen(true));
         QVERIFY(!program.window().isMinimized());
+
+        // Becoming active reloads the tree and counts no change.
+        Tank &tank = *program.tree().list().at(0);
+        QVERIFY(!program.tree().isExpanded(TreeItem(tank)));
+        tank.tankExpanded = true;
+        program.delegate().applicationWillBecomeActive();
+        QVERIFY(program.tree().isExpanded(TreeItem(tank)));
+        QVERIFY(!program.document().isEdited());
     }
 
     void preferencesWindow()
@@ -279,7 +289,7 @@ private Q_SLOTS:
         QCOMPARE(path->text(), QDir::toNativeSeparators(testFile("three-tanks.xml")));
         QCOMPARE(program.path(), testFile("minimal.xml"));
 
-        // Shown again, it tells what is stored by then.
+        // When shown again, the window reads the stored values.
         window->close();
         stored.set(preference::activityOverdue, true);
         stored.set(preference::autoSaveOnQuit, true);
@@ -313,13 +323,13 @@ private Q_SLOTS:
         QVERIFY(shown() == expected(false, {}, {})); // no calendar application
         QVERIFY(writeFile(program.filePath("data/applications/mimeinfo.cache"),
                           "[MIME Cache]\ntext/calendar=calendar.desktop;\n"));
-        QVERIFY(shown() == expected(false, {}, {})); // no list
+        QVERIFY(shown() == expected(false, {}, {})); // an application, but no list of calendars
         const auto source = [&](const char *file, const char *name, const char *backend, const char *enabled = "true") {
             return writeFile(sources + file, QByteArray("[Data Source]\nDisplayName=") + name + "\nEnabled=" + enabled +
                                                  "\n[Calendar]\nBackendName=" + backend + "\n");
         };
         QVERIFY(source("c.source", "Subscribed", "webcal") && source("d.source", "Off", "local", "false"));
-        QVERIFY(shown() == expected(true, {}, {})); // nothing writable
+        QVERIFY(shown() == expected(true, {}, {})); // no writable calendar
         QVERIFY(source("a.source", "Home", "local") && source("b.source", "Aquarium", "local"));
         QVERIFY(shown() == expected(true, {"Home", "Aquarium"}, "Home"));
         QCOMPARE(Preferences::shared().value(preference::calName), "Home");
@@ -328,7 +338,8 @@ private Q_SLOTS:
         QCOMPARE(Preferences::shared().value(preference::calName), "Aquarium");
         QVERIFY(shown() == expected(true, {"Home", "Aquarium"}, "Aquarium"));
         QVERIFY(QFile::remove(sources + "a.source") && QFile::remove(sources + "b.source"));
-        QVERIFY(shown() == expected(true, {"Home", "Aquarium"}, "Aquarium")); // an empty list leaves it as it is
+        QVERIFY(shown() ==
+                expected(true, {"Home", "Aquarium"}, "Aquarium")); // an empty list leaves the pop-up unchanged
     }
 
     void calendarReaders()

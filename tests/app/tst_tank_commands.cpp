@@ -17,19 +17,19 @@ using namespace brinemark::test;
 namespace
 {
 
-/// Counts "ScheduleDataDeleted".
+/// Counts the notifications of deleted activities.
 struct DeletedActivities : ModelObserver {
     int count = 0;
     void scheduleDataDeleted(ScheduleData &) override { ++count; }
 };
 
-/// Answers the sheet on the screen; false when there is none.
+/// Presses a button of the alert on screen; false when there is none.
 bool answer(const char *button)
 {
     return pressAlertButton(button) && QTest::qWaitFor([] { return !shownAlert(); });
 }
 
-/// The containers of livestock, with the identifier on the pasteboard and the question before a record goes.
+/// The livestock containers, with their identifier on the pasteboard and the question before deleting a record.
 void livestockKinds()
 {
     QTest::addColumn<ContainerKind>("kind");
@@ -122,6 +122,11 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.second));
+        // Collapsing a row selects it if the selection was below it.
+        w.tree.select(TreeItem(*w.records[0]));
+        w.outline->collapse(w.indexOf(TreeItem(*w.first)));
+        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.first));
+        QCOMPARE(w.currentView(), MainView::Tank);
     }
 
     void openRowsComeBackFromTheFile()
@@ -142,7 +147,7 @@ private Q_SLOTS:
         for (const ContainerKind kind : {ContainerKind::Fish, ContainerKind::Plant, ContainerKind::Invert})
             QVERIFY(!w.tree.isExpanded(TreeItem(*w.tank(0).container(kind))));
         QVERIFY(w.tree.isExpanded(TreeItem(*w.tank(0).coral())));
-        QCOMPARE(w.tree.currentSelectedItem().name(), "coral"); // the selected row is in the file as well
+        QCOMPARE(w.tree.currentSelectedItem().name(), "coral"); // the file stores the selected row
         QCOMPARE(w.document.changeCount(), 0U);
     }
 
@@ -196,7 +201,7 @@ private Q_SLOTS:
         QVERIFY(answer("defaultButton"));
         QCOMPARE(w.tree.list().count(), 1);
         QCOMPARE(deleted.count, 2);
-        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.second)); // moved up into its place
+        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.second)); // the second tank is now in the first row
         QCOMPARE(w.currentTank(), w.second.get());
         QVERIFY(w.window.isWindowModified());
     }
@@ -214,7 +219,7 @@ private Q_SLOTS:
         QCOMPARE(w.currentTank(), &w.tank(0));
     }
 
-    /// Between question and answer the record or tank may have gone another way.
+    /// The record or tank is deleted by other means while the question is on screen.
     void deleteWhatIsGone()
     {
         TwoTanks w;
@@ -282,7 +287,7 @@ private Q_SLOTS:
         QVERIFY(pasted.get() != &source);
         QCOMPARE(pasted->name, source.name);
         QCOMPARE(pasted->itemContext(), source.itemContext());
-        QCOMPARE(pasted->reefSafe, reefsafe::yes); // as in a file
+        QCOMPARE(pasted->reefSafe, reefsafe::yes); // copied by its file form, which includes this field
         QCOMPARE(pasted->ph, 8.25F);
         QCOMPARE(pasted->itemImage.image().convertToFormat(picture.format()), picture);
         QCOMPARE(pasted->tank.get(), w.second.get());
@@ -308,7 +313,7 @@ private Q_SLOTS:
         QVERIFY(w.tree.canCopy());
         w.tree.copy();
         w.outline->setCurrentIndex({});
-        w.tree.paste(); // no tank to paste into
+        w.tree.paste(); // without a current tank, nothing is pasted
         QCOMPARE(w.fishOf(*w.first).size(), 4);
         QVERIFY(w.fishOf(*w.second).isEmpty());
     }
@@ -372,7 +377,7 @@ private Q_SLOTS:
         const QString remove = text("DeleteTitle");
         for (const TreeItem &item : {TreeItem(*w.first->fish()), TreeItem(*w.first->note())}) {
             QVERIFY(!menuAt(item));
-            QCOMPARE(w.tree.currentSelectedItem(), item); // the row under the mouse, all the same
+            QCOMPARE(w.tree.currentSelectedItem(), item); // the row under the mouse is selected, but has no menu
         }
         QMenu *menu = menuAt(TreeItem(*w.second));
         QVERIFY(menu);
@@ -407,7 +412,7 @@ private Q_SLOTS:
         doubleClick(TreeItem(*w.first));
         QVERIFY(w.first->tankExpanded);
         doubleClick(TreeItem(*w.first));
-        QVERIFY(w.first->tankExpanded); // a tank opens only
+        QVERIFY(w.first->tankExpanded); // a double click does not collapse a tank
         doubleClick(TreeItem(*w.first->invert()));
         QVERIFY(w.first->invertExpanded);
         doubleClick(TreeItem(w.record(ContainerKind::Invert)));
@@ -441,7 +446,7 @@ private Q_SLOTS:
         QTest::keyClick(w.outline, Qt::Key_End);
         QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.second));
         QTest::keyClicks(w.outline, "first");
-        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.first)); // typing finds a name
+        QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*w.first)); // typing selects the row whose name begins so
         w.outline->setCurrentIndex({});
         QTest::keyClick(w.outline, Qt::Key_Return);
     }

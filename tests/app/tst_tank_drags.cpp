@@ -13,9 +13,8 @@ using namespace brinemark::test;
 namespace
 {
 
-/// Drags a row to a place and drops it there, as the toolkit does it between the press and the release; answers what
-/// the tree said while the drag hovered. Holding the copy key is a keyboard modifier. `beforeDrop` runs over that
-/// place.
+/// Drags a row to a position and drops it there, with the events that the toolkit sends. Returns the drop action that
+/// the tree accepted while the drag hovered. `modifiers` can hold the copy key; `beforeDrop` runs before the drop.
 Qt::DropAction drag(TreeWindow &w, const TreeItem &item, QPoint to, Qt::KeyboardModifiers modifiers = {},
                     const std::function<void()> &beforeDrop = {})
 {
@@ -25,7 +24,7 @@ Qt::DropAction drag(TreeWindow &w, const TreeItem &item, QPoint to, Qt::Keyboard
     QApplication::sendEvent(w.outline->viewport(), &enter);
     QDragMoveEvent move(to, possible, data.get(), Qt::LeftButton, modifiers);
     QApplication::sendEvent(w.outline->viewport(), &move);
-    w.outline->repaint(); // with its mark
+    w.outline->repaint(); // draws the drop mark
     if (beforeDrop)
         beforeDrop();
     if (move.isAccepted()) {
@@ -40,7 +39,7 @@ Qt::DropAction drag(TreeWindow &w, const TreeItem &item, QPoint to, Qt::Keyboard
     return move.isAccepted() ? move.dropAction() : Qt::IgnoreAction;
 }
 
-/// The lower edge of a row: a drop between it and the next one.
+/// The lower edge of a row, where a drop goes between it and the next row.
 QPoint below(const TreeWindow &w, const TreeItem &item)
 {
     return w.rectOf(item).bottomLeft() + QPoint(20, -1);
@@ -55,7 +54,7 @@ class TestTankDrags : public QObject
 private Q_SLOTS:
     void dragRecord_data()
     {
-        QTest::addColumn<int>("row"); // of the fish that is dragged
+        QTest::addColumn<int>("row"); // the index of the dragged fish
         QTest::addColumn<QString>("to");
         QTest::addColumn<bool>("copies");
         QTest::addColumn<QString>("inFirst");
@@ -147,7 +146,8 @@ private Q_SLOTS:
         w.outline->dragEnded();
     }
 
-    /// What another program drags here may look the same; there is no record behind it. Files are not the tree's.
+    /// A drag from another program may have the same type, but no record in this program. The tree refuses dragged
+    /// files.
     void foreignDragIsRefused()
     {
         TwoTanks w;
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QCOMPARE(w.first->fishListArray().size(), 4U);
     }
 
-    /// A closed row opens below a drag that stays on it; an open one stays open.
+    /// A collapsed row expands when a drag stays over it; an expanded one stays expanded.
     void hoveringOpens()
     {
         TwoTanks w;
@@ -182,14 +182,14 @@ private Q_SLOTS:
         const TreeItem second(*w.second);
         const auto wait = [] { QTest::qWait(900); };
         drag(w, TreeItem(*w.first), w.rectOf(second).center() - QPoint(0, 1));
-        QVERIFY(!w.tree.isExpanded(second)); // dropped at once
+        QVERIFY(!w.tree.isExpanded(second)); // dropped before the row expands
         drag(w, TreeItem(*w.first), w.rectOf(second).center(), {}, wait);
         QVERIFY(w.tree.isExpanded(second));
         drag(w, TreeItem(*w.first), w.rectOf(second).center(), {}, wait);
         QVERIFY(w.tree.isExpanded(second));
     }
 
-    /// The tanks may be replaced under a drag, by an open-file request say.
+    /// A request of the desktop may open another file during a drag.
     void documentReplacedDuringADrag()
     {
         TwoTanks w;

@@ -6,6 +6,7 @@
 #include <QAbstractItemModelTester>
 #include <QDir>
 #include <QLineEdit>
+#include <QScrollBar>
 
 using namespace brinemark;
 using namespace brinemark::test;
@@ -66,7 +67,7 @@ private Q_SLOTS:
         QVERIFY(w.read(sampleFile));
         w.outline->expandAll();
         w.tree.updateDisplay();
-        QVERIFY(!w.read({})); // the untitled document is not one that was read
+        QVERIFY(!w.read({})); // returns false for the new untitled document
         QCOMPARE(w.model->rowCount(), 1);
         w.tree.list().clear();
         w.tree.reload();
@@ -146,8 +147,8 @@ private Q_SLOTS:
         QCOMPARE(name, "after");
         QCOMPARE(textOf(w.indexOf(item)), "after");
         QCOMPARE(w.document.changeCount(), 1U);
-        QVERIFY(w.views.contains(record ? MainView::LivestockItem : MainView::Tank)); // the view follows
-        QVERIFY(w.edited.isEmpty()); // Return ended the editing and did nothing else
+        QVERIFY(w.views.contains(record ? MainView::LivestockItem : MainView::Tank)); // the main view is shown afresh
+        QVERIFY(w.edited.isEmpty()); // Return does not also open the item editor
 
         w.views.clear();
         w.undo.undo();
@@ -160,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(w.tree.currentSelectedItem(), item);
     }
 
-    void renameThatIsNone_data()
+    void renameWithoutEffect_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<Qt::Key>("key");
@@ -169,7 +170,7 @@ private Q_SLOTS:
         QTest::newRow("given up") << "after" << Qt::Key_Escape;
     }
 
-    void renameThatIsNone()
+    void renameWithoutEffect()
     {
         QFETCH(QString, typed);
         QFETCH(Qt::Key, key);
@@ -182,8 +183,8 @@ private Q_SLOTS:
         QVERIFY(!w.undo.canUndo());
     }
 
-    /// A step of the undo stack may outlive what it renamed.
-    void renamesOfWhatIsGone()
+    /// An undo step keeps a deleted record alive and still renames it.
+    void renamesOfADeletedRecord()
     {
         TreeWindow w;
         Tank &tank = *w.addTank("A");
@@ -208,8 +209,8 @@ private Q_SLOTS:
         QVERIFY(!openEditor(w));
     }
 
-    /// Whatever happens to the tanks while a name is being edited, the editor goes without a trace.
-    void editorOverAReload()
+    /// Replacing the tanks closes the name editor without storing its text.
+    void replacedTanksCloseTheEditor()
     {
         TreeWindow w;
         w.addTank("A");
@@ -222,7 +223,7 @@ private Q_SLOTS:
         QVERIFY(!w.undo.canUndo());
     }
 
-    /// The row that was selected stays selected when rows come and go around it.
+    /// The selection stays on its record when rows are inserted or removed above it.
     void selectionOverAReload()
     {
         TreeWindow w;
@@ -234,9 +235,24 @@ private Q_SLOTS:
         QCOMPARE(w.indexOf(TreeItem(*fish)).row(), 1);
         tank.removeFromFishListArrayAtIndex(0);
         QCOMPARE(w.tree.currentSelectedItem().record, fish.get());
-        tank.removeFromFishListArrayAtIndex(0); // its place goes to the row that moves up
+        tank.removeFromFishListArrayAtIndex(0); // selects the row that is now in its place
         QCOMPARE(w.tree.currentSelectedItem(), TreeItem(*tank.plant()));
         QCOMPARE(w.views.last(), MainView::LivestockGroup);
+    }
+
+    void scrollPositionOverAReload()
+    {
+        TreeWindow w;
+        for (int i = 0; i < 60; ++i)
+            w.tree.list().append(std::make_shared<Tank>(QString::number(i)));
+        w.tree.updateDisplay();
+        QCoreApplication::processEvents(); // lays out the rows
+        QScrollBar &bar = *w.outline->verticalScrollBar();
+        bar.setValue(bar.maximum() / 2);
+        const int before = bar.value();
+        QVERIFY(before > 0);
+        w.tree.reload();
+        QCOMPARE(bar.value(), before);
     }
 };
 

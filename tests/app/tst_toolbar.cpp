@@ -98,7 +98,7 @@ void selectRow(QListView *list, int row)
     list->setCurrentIndex(list->model()->index(row, 0));
 }
 
-/// Drops row `from` of one list before row `before` of the same or the other list, as a view does it.
+/// Drops row `from` of `source` before row `before` of `target` by the same calls as a view.
 bool dropRow(QAbstractItemModel &source, int from, QAbstractItemModel &target, int before)
 {
     const std::unique_ptr<QMimeData> data(source.mimeData({source.index(from, 0)}));
@@ -132,10 +132,10 @@ private Q_SLOTS:
             QVERIFY2(button->toolTip() == action->toolTip() && action->toolTip() != action->text(),
                      qPrintable(action->toolTip()));
         }
-        QVERIFY(!stored().isValid()); // looking is no change
+        QVERIFY(!stored().isValid()); // showing the toolbar stores nothing
     }
 
-    void pressingAnItemNamesIt()
+    void pressingAnItemReportsItsIdentifier()
     {
         Window w;
         for (QAction *action : w.bar->actions()) {
@@ -155,7 +155,7 @@ private Q_SLOTS:
             asked << identifier;
             return identifier == "newTank" || identifier == "convert";
         });
-        QCOMPARE(asked.size(), 9); // neither the fillers nor the item that customises
+        QCOMPARE(asked.size(), 9); // separators, spaces and the customise item are not validated
         QStringList enabled;
         for (QAction *action : w.bar->toolbarDictionary()) {
             if (action->isEnabled())
@@ -182,11 +182,12 @@ private Q_SLOTS:
         row("list in place of a dictionary", QStringList{"newTank"}, defaultSet());
         row("identifiers with a number among them", identifiers(QVariantList{"newTank", 4}), defaultSet());
         row("only unknown identifiers", identifiers(QStringList{"rocket", ""}), defaultSet());
-        row("nothing at all is a wish", identifiers(QStringList()), {});
+        row("an empty list is kept", identifiers(QStringList()), {});
         row("unknown skipped", identifiers(QStringList{"delete", "rocket", "newTank"}), {"delete", "newTank"});
         row("a list of anything that holds texts", identifiers(QVariantList{"print", "customise"}),
             {"print", "customise"});
-        row("first of a double holds", identifiers(QStringList{"note", "newTank", "note"}), {"note", "newTank"});
+        row("of two equal ones the first is kept", identifiers(QStringList{"note", "newTank", "note"}),
+            {"note", "newTank"});
         const QStringList fillers{"space", "space", "separator", "note", "separator", "flexibleSpace", "flexibleSpace"};
         row("fillers repeat", identifiers(fillers), fillers);
         row("mode and visibility", QVariantMap{{"DisplayMode", "textOnly"}, {"Visible", false}}, defaultSet(),
@@ -208,7 +209,7 @@ private Q_SLOTS:
         QCOMPARE(w.bar->isShown(), shown);
     }
 
-    void remembersOverANewInstance()
+    void aNewInstanceReadsWhatWasStored()
     {
         const QStringList chosen{"newFish", "space", "space", "separator", "flexibleSpace", "customise"};
         {
@@ -222,12 +223,12 @@ private Q_SLOTS:
             QCOMPARE(visibleItems(*w.bar), chosen);
             QCOMPARE(w.bar->toolButtonStyle(), Qt::ToolButtonIconOnly);
             QVERIFY(!w.bar->isVisible());
-            w.bar->toggleViewAction()->trigger(); // as from the window's own menu
+            w.bar->toggleViewAction()->trigger(); // the toolkit's own action for showing the toolbar
             QVERIFY(w.bar->isVisible());
         }
         Window w;
         QVERIFY(w.bar->isVisible());
-        w.window.hide(); // hiding the window is not a wish to be without a toolbar
+        w.window.hide(); // hiding the window does not count as hiding the toolbar
         QVERIFY(w.bar->isShown());
         QCOMPARE(stored().toMap().value("Visible").toBool(), true);
     }
@@ -317,7 +318,7 @@ private Q_SLOTS:
         QVERIFY(available.identifiers().contains("space"));
         QCOMPARE(shown.identifiers(), QStringList({"separator", "newCoral", "separator", "note", "newTank", "space"}));
 
-        QVERIFY(dropRow(shown, 4, available, 2)); // away; its place there is its own
+        QVERIFY(dropRow(shown, 4, available, 2)); // removes it; the list of available items has a fixed order
         QCOMPARE(available.identifiers().first(), "newTank");
         QVERIFY(dropRow(shown, 2, available, -1));
         QCOMPARE(shown.identifiers(), QStringList({"separator", "newCoral", "note", "space"}));
@@ -330,7 +331,7 @@ private Q_SLOTS:
         QVERIFY(!shown.dropMimeData(&foreign, Qt::MoveAction, 0, 0, {}));
         QVERIFY(!available.dropMimeData(&foreign, Qt::MoveAction, 0, 0, {}));
 
-        // What the list was when the drag began need not be what it is at the drop.
+        // The list may change between the start of a drag and the drop.
         const std::unique_ptr<QMimeData> stale(shown.mimeData({shown.index(2)}));
         shown.remove(0);
         QVERIFY(!available.canDropMimeData(stale.get(), Qt::MoveAction, -1, -1, {}));

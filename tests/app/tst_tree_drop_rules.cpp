@@ -84,7 +84,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("dragged");
         QTest::addColumn<QString>("parent");
-        QTest::addColumn<int>("index"); // -1: on the row
+        QTest::addColumn<int>("index"); // -1: on the row itself
         QTest::addColumn<Qt::DropActions>("allowed");
         QTest::addColumn<DropOperation>("expected");
 
@@ -170,13 +170,13 @@ private Q_SLOTS:
         QTEST(fishOf(tanks.named('B')).join(' '), "inB");
         QVERIFY(landed);
         QCOMPARE(landed == fish, !copies);
-        QCOMPARE(landed->reefSafe, copies ? reefsafe::unknown : reefsafe::yes); // the rule of copying
+        QCOMPARE(landed->reefSafe, copies ? reefsafe::unknown : reefsafe::yes); // copying does not keep this field
         QCOMPARE(landed->tank.get(), proposal.parent.tank);
         QCOMPARE(fish->tank.get(), copies ? source : proposal.parent.tank);
         QVERIFY(landed->tank->fish()->contains(landed.get()));
     }
 
-    void refusedOrHomelessRecordStays()
+    void refusedDropsMoveNothing()
     {
         Tanks tanks;
         const auto fish = tanks.named('A').fishListArray()[0];

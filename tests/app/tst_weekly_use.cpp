@@ -37,7 +37,7 @@ QString typed(const char *number)
 
 } // namespace
 
-/// What a keeper does every week, through the real windows: enter a test, heed the warning, sort, export, look at the
+/// What a keeper does every week, with the real windows: enter a test, answer its warning, sort, export, draw the
 /// graph.
 class TestWeeklyUse : public QObject
 {
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QTRY_VERIFY(editor());
         QCOMPARE(reefLog().count(), before + 1);
 
-        // temperature, salinity, pH, then over the others to the ammonia
+        // temperature, salinity, pH; empty texts skip the columns up to ammonia
         for (const char *value : {"26.4", "1.025", "8.1", "", "", "", "", ""}) {
             QTest::keyClicks(editor(), typed(value));
             QTest::keyClick(editor(), Qt::Key_Tab);
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QVERIFY(shownAlert()->message().endsWith(text("AmmoniaTreatment")));
         QVERIFY(pressAlertButton("defaultButton"));
 
-        const int row = table()->currentIndex().row(); // the clock stands between the sample's dates
+        const int row = table()->currentIndex().row(); // the fixed clock lies between the dates of the sample
         const auto test = std::static_pointer_cast<ConditionData>(reefLog().recordAt(row));
         QCOMPARE(test->date, clock::now());
         QCOMPARE(test->temp, 26.4F);
@@ -99,14 +99,14 @@ private Q_SLOTS:
         m_program->controller().performCommand(Command::Redo);
         QCOMPARE(test->ph, 8.1F);
         QCOMPARE(test->ammonia, 0.5F);
-        QVERIFY(!shownAlert()); // taking back and making again warns of nothing
+        QVERIFY(!shownAlert()); // undo and redo show no warning
     }
 
     void whatIsBeingTypedIsSaved_data()
     {
         QTest::addColumn<int>("command");
         QTest::newRow("save") << int(Command::Save);
-        QTest::newRow("quit") << int(Command::Quit); // saves by itself
+        QTest::newRow("quit") << int(Command::Quit); // with the auto-save preference it saves without a question
     }
     void whatIsBeingTypedIsSaved()
     {
@@ -176,13 +176,13 @@ private Q_SLOTS:
         auto *graph = sheet->findChild<TwoDGraphView *>(QStringLiteral("graphView"));
         QTRY_VERIFY(graph->isVisible());
 
-        // Shown columns without the date and the temperature, in their order.
+        // The shown columns in their order, without date and temperature.
         const QStringList lines{"salt",    "ph",        "alkalinity", "calcium", "magnesium",
                                 "nitrate", "phosphate", "ammonia",    "nitrite", "iodine"};
         const TwoDGraphDataSource &source = GraphController::sharedInstance();
         QCOMPARE(source.numberOfLinesInTwoDGraphView(*graph), lines.size());
 
-        // Days between 19:14:21 on the 5th and each test, by hand.
+        // Days from 19:14:21 on the 5th to each test, computed by hand.
         const QList<double> days{0, 2.029525, 4.005694, 7.938414, 8.929421, 12.041204, 16.037407};
         const auto expect = [&](const char *line, const QList<double> &values) {
             const QList<QPointF> points = source.dataForLineIndex(*graph, int(lines.indexOf(QLatin1String(line))));
@@ -194,9 +194,10 @@ private Q_SLOTS:
             }
         };
         expect("ammonia", {1.15, 0.85, 0.5, 0.1, 0.05, 0, 0});
-        expect("magnesium", {1350, 1350, 1348, 1346, 1344, 1342, 1340}); // level before the 7th, bridged to the 21st
-        expect("nitrate", {3, 3, 13.0 / 3, 17.0 / 3, 7, 9, 11});         // bridged twice: 3 to 7 and 7 to 11
-        expect("iodine", {0.08, 0.08, 0.08, 0.08, 0.08, 0.08, 0.08});    // one reading only
+        expect("magnesium",
+               {1350, 1350, 1348, 1346, 1344, 1342, 1340});      // constant before the 7th, interpolated up to the 21st
+        expect("nitrate", {3, 3, 13.0 / 3, 17.0 / 3, 7, 9, 11}); // interpolated twice: 3 to 7 and 7 to 11
+        expect("iodine", {0.08, 0.08, 0.08, 0.08, 0.08, 0.08, 0.08}); // one reading only
         QCOMPARE(source.maximumValueForLineIndex(*graph, 0, GraphAxis::Y), 1350.0);
         QVERIFY(std::abs(source.maximumValueForLineIndex(*graph, 0, GraphAxis::X) - 16.037407) < 1e-5);
         sheet->reject();
@@ -216,7 +217,7 @@ private:
     }
     static QTableView *table() { return ConditionListController::sharedInstance().table(); }
     static QWidget *view() { return ConditionListController::sharedInstance().view(); }
-    /// The cell that is being typed into; null for none.
+    /// The editor of the cell with the focus; null for none.
     static QLineEdit *editor()
     {
         auto *focused = qobject_cast<QLineEdit *>(QApplication::focusWidget());
@@ -239,7 +240,7 @@ private:
                           {header.sectionViewportPosition(section) + 8, header.height() / 2});
     }
 
-    /// An item of the action button's menu, as its menu would trigger it.
+    /// Triggers an item of the action button's menu.
     static void chooseAction(const char *key)
     {
         auto *button = view()->findChild<QToolButton *>(QStringLiteral("actionButton"));

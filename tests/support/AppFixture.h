@@ -177,7 +177,7 @@ public:
 
     [[nodiscard]] QString filePath(const QString &name) const { return m_folder.filePath(name); }
 
-    /// A copy, in the program's own folder, of a file that a test may write to.
+    /// Copies a file into the program's folder, so that the test may write to it.
     QString copyOf(const QString &source, const QString &name = QStringLiteral("tanks.xml")) const
     {
         QFile::copy(source, filePath(name));
@@ -185,7 +185,7 @@ public:
         return filePath(name);
     }
 
-    QStringList openedUrls; ///< what was handed to the browser or mail program
+    QStringList openedUrls; ///< addresses passed to the browser or mail program
     int beeps = 0;
 
 private:
