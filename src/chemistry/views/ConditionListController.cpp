@@ -100,10 +100,7 @@ ConditionListController::ConditionListController()
         m_all.push_back({&column, parameterFromIdentifier(column.identifier), conditionFormatter(column)});
 }
 
-ConditionListController::~ConditionListController()
-{
-    delete m_columnWindow;
-}
+ConditionListController::~ConditionListController() = default;
 
 void ConditionListController::viewMade()
 {

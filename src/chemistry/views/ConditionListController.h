@@ -70,7 +70,7 @@ private:
     void showColumnChecks();
 
     std::vector<Column> m_all; ///< in the order of the table of columns
-    QPointer<ConditionColumnWindow> m_columnWindow;
+    OwnedWidget<ConditionColumnWindow> m_columnWindow;
 };
 
 } // namespace brinemark

@@ -29,11 +29,7 @@ RecordListController::RecordListController(const RecordListTraits &traits, std::
     m_columns = std::make_unique<RecordTableColumns>(traits.columns, std::move(layout), *m_model);
 }
 
-RecordListController::~RecordListController()
-{
-    m_columns.reset(); // stores a layout that waits to be stored, while there is a table
-    delete m_page;
-}
+RecordListController::~RecordListController() = default;
 
 Tank *RecordListController::currentTank()
 {

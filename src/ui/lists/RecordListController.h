@@ -4,6 +4,7 @@
 
 #include "model/ModelObserver.h"
 #include "ui/MainViewController.h"
+#include "ui/OwnedWidget.h"
 #include "ui/lists/ListMenu.h"
 #include "ui/lists/RecordCells.h"
 #include "ui/lists/RecordListPage.h"
@@ -134,11 +135,11 @@ private:
 
     RecordListTraits m_traits;
     RecordTableModel *m_model;
-    std::unique_ptr<RecordTableColumns> m_columns;
-    QPointer<RecordListPage> m_page;
     RecordTableView *m_table = nullptr;
     RecordSelectionModel *m_selection = nullptr;
     qint32 m_rowNeedsSort = -1;
+    OwnedWidget<RecordListPage> m_page;
+    std::unique_ptr<RecordTableColumns> m_columns; ///< stores a waiting layout at its end, while there is a table
 };
 
 } // namespace brinemark
