@@ -10,15 +10,22 @@ namespace brinemark
 
 void finishTyping(const QWidget *window)
 {
-    QWidget *focused = QApplication::focusWidget();
+    const QWidget *focused = QApplication::focusWidget();
     if (!focused || !window || focused->window() != window)
         return;
     for (QWidget *parent = focused->parentWidget(); parent; parent = parent->parentWidget()) {
         if (auto *view = qobject_cast<QAbstractItemView *>(parent)) {
-            view->setFocus(); // losing the focus makes the view's delegate store what is in the editor
+            finishTypingIn(*view);
             return;
         }
     }
+}
+
+void finishTypingIn(QAbstractItemView &view)
+{
+    const QWidget *focused = QApplication::focusWidget();
+    if (focused && focused != view.viewport() && view.viewport()->isAncestorOf(focused))
+        view.setFocus(); // the delegate stores the text of an editor that loses the focus
 }
 
 } // namespace brinemark

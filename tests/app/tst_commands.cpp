@@ -14,8 +14,10 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStackedWidget>
 #include <QTableView>
+#include <QTimer>
 #include <QToolButton>
 
 using namespace brinemark;
@@ -26,7 +28,7 @@ namespace
 
 /// The program with a tank that holds a record of every kind.
 struct FullProgram : Program {
-    FullProgram() { start(testFile("every-field.xml")); }
+    FullProgram() { start(copyOf(testFile("every-field.xml"))); }
     static Tank &tank() { return *tree().list().at(0); }
     static ItemData &livestock(ContainerKind kind)
     {
@@ -192,6 +194,64 @@ private Q_SLOTS:
         question.replace("^0", view == MainView::Tank ? program.tank().name : fish.name);
         QCOMPARE(shownAlert()->title(), question);
         QVERIFY(pressAlertButton("alternateButton"));
+    }
+
+    void everyCommandFirstStoresWhatIsTyped_data()
+    {
+        QTest::addColumn<Command>("command");
+        QTest::addColumn<bool>("inTheTree");
+        QTest::addColumn<bool>("stores");
+        for (const MenuTitle &menu : mainMenus()) {
+            for (const MenuRow &item : menu.rows) {
+                if (item.title.isEmpty())
+                    continue;
+                const bool stores = !CommandDispatch::table()[std::size_t(item.command)].actsOnTyping;
+                for (const bool inTheTree : {true, false})
+                    QTest::addRow("%s, %s", item.title.key, inTheTree ? "tree" : "log")
+                        << item.command << inTheTree << stores;
+            }
+        }
+    }
+
+    /// A name in the tree or a value in the log is being typed when the command comes.
+    void everyCommandFirstStoresWhatIsTyped()
+    {
+        QFETCH(Command, command);
+        QFETCH(bool, inTheTree);
+        FullProgram program;
+        const auto tank = program.tank().shared_from_this(); // survives New and Revert
+        QTableView *log = nullptr;
+        if (inTheTree) {
+            program.controller().selectInTree(*tank);
+            program.window().activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&program.window()));
+            program.controller().editNameInTree();
+        } else {
+            tank->condition()->setColumnInfoArray({{"ph", 0}});
+            program.controller().selectInTree(*tank->condition());
+            program.window().activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&program.window()));
+            log = ConditionListController::sharedInstance().table();
+            log->setFocus();
+            log->setCurrentIndex(log->model()->index(0, 0));
+            QTest::keyClick(log, Qt::Key_F2);
+        }
+        const auto test = std::static_pointer_cast<ConditionData>(tank->condition()->recordAt(0));
+        QVERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+        QTest::keyClicks(QApplication::focusWidget(), "3");
+        const AlertScript script; // cancels every question
+        QTimer closeWindows;
+        connect(&closeWindows, &QTimer::timeout, [] {
+            if (QWidget *modal = QApplication::activeModalWidget())
+                modal->close();
+        });
+        closeWindows.start(5);
+        program.controller().performCommand(command);
+        const bool undone = command == Command::Undo; // stored, and taken back
+        QFETCH(bool, stores);
+        const bool stored = inTheTree ? tank->name == "3" : test->ph == 3.0F;
+        QCOMPARE(stored, stores && !undone);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
     }
 
     void whatACommandChangesIsShown()

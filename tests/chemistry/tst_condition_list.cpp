@@ -133,6 +133,7 @@ private Q_SLOTS:
         QCOMPARE(test::selectedRows(controller.table()), QList<int>{2});
         window->findChild<QCheckBox *>(QStringLiteral("column.date"))->click();
         QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
+        QCOMPARE(m_shell->changes, 2); // the two clicks: a shown or hidden column has to be saved
         controller.toogleConditionColumn(36); // no such column
         QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
     }

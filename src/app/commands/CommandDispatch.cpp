@@ -70,7 +70,6 @@ void newLivestock(ShoalwatchController &main)
 
 void print(ShoalwatchController &main)
 {
-    finishTyping(main.mainWindow());
     main.printWindow(true);
 }
 
@@ -84,10 +83,10 @@ constexpr CommandRow commandRows[] = {
     {Command::Quit, &onDelegate<&ShoalwatchDelegate::terminate>},
     {Command::Undo, &onDelegate<&ShoalwatchDelegate::undoChange>},
     {Command::Redo, &onDelegate<&ShoalwatchDelegate::redoChange>},
-    {Command::Cut, &edit<Command::Cut>},
-    {Command::Copy, &edit<Command::Copy>},
-    {Command::Paste, &edit<Command::Paste>},
-    {Command::SelectAll, &edit<Command::SelectAll>},
+    {Command::Cut, &edit<Command::Cut>, true},
+    {Command::Copy, &edit<Command::Copy>, true},
+    {Command::Paste, &edit<Command::Paste>, true},
+    {Command::SelectAll, &edit<Command::SelectAll>, true},
     {Command::Delete, &onSelection<&MainSelection::deleteItem>},
     {Command::Preferences, &onDelegate<&ShoalwatchDelegate::showPreferences>},
     {Command::NewTank,
@@ -131,7 +130,10 @@ CommandDispatch::CommandDispatch(ShoalwatchController &main)
 
 void CommandDispatch::perform(Command command)
 {
-    commandRows[std::size_t(command)].perform(m_main);
+    const CommandRow &row = commandRows[std::size_t(command)];
+    if (!row.actsOnTyping)
+        finishTyping(m_main.mainWindow());
+    row.perform(m_main);
     m_main.validate();
 }
 

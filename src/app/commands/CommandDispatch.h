@@ -17,6 +17,7 @@ class ShoalwatchController;
 struct CommandRow {
     Command command;
     void (*perform)(ShoalwatchController &main);
+    bool actsOnTyping = false; ///< cuts, copies, pastes or selects in the text that is being typed
 };
 
 /// The one entrance through which every command passes, whether a menu, a shortcut, the toolbar, the tree's context
@@ -26,6 +27,7 @@ class CommandDispatch
 public:
     explicit CommandDispatch(ShoalwatchController &main);
 
+    /// First stores what is being typed into a row or a cell, unless the command acts on that text.
     void perform(Command command);
     void performToolbarItem(QStringView identifier); ///< items that send no command do nothing
 

@@ -8,6 +8,7 @@
 #include "model/ModelContext.h"
 #include "ui/Alerts.h"
 #include "ui/ContainerRooms.h"
+#include "ui/FinishTyping.h"
 #include "ui/Shell.h"
 #include "ui/UndoStep.h"
 
@@ -142,8 +143,15 @@ void TankListController::forgetRows()
     m_dragData = {};
 }
 
+bool TankListController::holds(const TreeItem &item) const
+{
+    return m_list.indexOf(item.tank) >= 0 && (!item.record || item.container->contains(item.record));
+}
+
 void TankListController::reload()
 {
+    if (holds(m_selected)) // otherwise the name belongs to an item that was removed
+        finishTypingIn(*m_outline);
     // The list may have changed already, so the selected item cannot be found through the rows of the model.
     int row = selectedRow();
     const TreeItem selected = m_selected.tank == currentTank() ? m_selected : TreeItem();

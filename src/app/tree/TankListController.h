@@ -71,6 +71,7 @@ public:
     std::function<void(Command)> performCommand;
 
 private:
+    [[nodiscard]] bool holds(const TreeItem &item) const; ///< whether it is still in the list of tanks
     friend class Shared<TankListController>;
     TankListController();
 

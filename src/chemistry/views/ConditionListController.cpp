@@ -12,6 +12,7 @@
 #include "model/Tank.h"
 #include "ui/AlertPanelDontAskAgain.h"
 #include "ui/Alerts.h"
+#include "ui/FinishTyping.h"
 #include "ui/Shell.h"
 #include "ui/WindowPlacement.h"
 #include "ui/lists/HeaderCornerButton.h"
@@ -222,7 +223,7 @@ void ConditionListController::graphButtonAction()
 {
     if (!table())
         return;
-    table()->finishEditing();
+    finishTyping(table()->window());
     updateColumnInfo(); // the graph draws a line for each column of the stored layout
     GraphController::sharedInstance().display();
 }
@@ -232,7 +233,7 @@ void ConditionListController::exportAction()
     Tank *tank = currentTank();
     if (!tank || !table())
         return;
-    table()->finishEditing();
+    finishTyping(table()->window());
     std::vector<CsvColumn> exported;
     for (const int column : columns().inDisplayOrder()) {
         const ConditionColumnTraits &traits = *columnAt(column).traits;
@@ -269,13 +270,14 @@ void ConditionListController::toogleConditionColumn(int tag)
     const ConditionColumnTraits *column = conditionColumnFromTag(tag);
     if (!column || !table() || !model().container())
         return;
-    table()->finishEditing();
+    finishTyping(table()->window());
     columns().toggleColumn(column->identifier);
     // A column that appears belongs to the selected rows as well.
     QItemSelectionModel &selection = *table()->selectionModel();
     selection.select(selection.selection(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     updateColumnInfo();
     updateDisplay();
+    Shell::shared().documentModifiedWithChange(true); // unlike a moved or resized column
 }
 
 void ConditionListController::showCustomizeConditionColumns()

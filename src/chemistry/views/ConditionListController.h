@@ -29,8 +29,8 @@ public:
     /// and hide their columns at once.
     void showCustomizeConditionColumns();
 
-    /// Shows a hidden column at the right, or hides a shown one, and stores the layout. A tag that names no column does
-    /// nothing.
+    /// Shows a hidden column at the right, or hides a shown one, stores the layout and counts a change. A tag that names
+    /// no column does nothing.
     void toogleConditionColumn(int tag);
     [[nodiscard]] bool isColumnVisible(int tag) const;
     /// The table's column of a tag, -1 when it is not shown.

@@ -12,6 +12,7 @@
 #include "chemistry/views/targets/TargetNumberEdit.h"
 #include "model/Tank.h"
 #include "model/TankList.h"
+#include "ui/FinishTyping.h"
 #include "ui/HelpWindow.h"
 #include "ui/Sheets.h"
 #include "ui/Shell.h"
@@ -66,6 +67,7 @@ void TankDataEntryController::makeSheet()
 
 void TankDataEntryController::displayTank(std::shared_ptr<Tank> tank, bool withCancel, const QString &title)
 {
+    finishTyping(Shell::shared().mainWindow());
     if (!m_infoPanel)
         makeSheet();
     else if (m_tank)

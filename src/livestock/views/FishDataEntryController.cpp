@@ -6,6 +6,7 @@
 #include "livestock/views/FishDataController.h"
 #include "livestock/views/ItemSheet.h"
 #include "model/Tank.h"
+#include "ui/FinishTyping.h"
 #include "ui/Sheets.h"
 #include "ui/Shell.h"
 
@@ -18,6 +19,7 @@ FishDataEntryController::~FishDataEntryController() = default;
 
 void FishDataEntryController::displayItemData(ItemData *item, ItemContext context)
 {
+    finishTyping(Shell::shared().mainWindow());
     if (!item) {
         addNewItem(context);
         return;

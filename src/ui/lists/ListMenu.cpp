@@ -2,6 +2,7 @@
 
 #include "ui/lists/ListMenu.h"
 
+#include "ui/FinishTyping.h"
 #include "ui/lists/RecordListController.h"
 
 #include <QMenu>
@@ -19,7 +20,10 @@ QMenu *makeListMenu(std::span<const ListMenuItem> items, RecordListController &l
         }
         QAction *action = menu->addAction(text(item.title));
         action->setData(item.tag);
-        QObject::connect(action, &QAction::triggered, &list, [&list, perform = item.perform] { perform(list); });
+        QObject::connect(action, &QAction::triggered, &list, [&list, parent, perform = item.perform] {
+            finishTyping(parent->window());
+            perform(list);
+        });
     }
     QObject::connect(menu, &QMenu::aboutToShow, &list, [menu, &list] {
         for (QAction *action : menu->actions()) {

@@ -6,6 +6,7 @@
 #include "model/Tank.h"
 #include "model/TankList.h"
 #include "ui/Alerts.h"
+#include "ui/FinishTyping.h"
 #include "ui/Shell.h"
 #include "ui/UndoStep.h"
 #include "ui/calendar/CalendarController.h"
@@ -83,6 +84,7 @@ void RecordListController::watchModel()
         connect(m_model, signal, m_page, forget);
         connect(m_model, signal, m_page, [this] { showEmptyState(); });
     }
+    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, m_page, [this] { finishTypingIn(*m_table); });
     connect(m_model, &QAbstractItemModel::modelReset, m_page, [this] {
         setRowNeedsSort(-1);
         showEmptyState();
@@ -97,7 +99,7 @@ void RecordListController::makeMenus()
     QMenu *contextMenu = makeListMenu(m_traits.menu, *this, m_table);
     contextMenu->setObjectName(QLatin1String(m_traits.menuName));
     m_table->menuAsked = [this, contextMenu](const QPoint &place) {
-        m_table->finishEditing();
+        finishTyping(m_table->window());
         contextMenu->popup(place);
     };
     m_page->addActionMenu(makeListMenu(m_traits.menu, *this, m_page));
@@ -184,7 +186,7 @@ void RecordListController::headerClicked(int section)
     Container *list = m_model->container();
     if (!list)
         return;
-    m_table->finishEditing();
+    finishTyping(m_table->window());
     const QString identifier = m_model->columns()[std::size_t(section)].identifier.toString();
     if (identifier == list->sortIdentifier())
         list->setSortAscending(!list->sortAscending());
@@ -352,8 +354,8 @@ void RecordListController::newEntry()
     Tank *tank = currentTank();
     if (!tank)
         return;
+    finishTyping(Shell::shared().mainWindow());
     view();
-    m_table->finishEditing();
     showTank(tank);
     const std::shared_ptr<Record> record = m_traits.makeRecord(*tank);
     m_model->append(record);
@@ -374,7 +376,7 @@ void RecordListController::deleteSelected()
 {
     if (!hasSelectedRow())
         return;
-    m_table->finishEditing();
+    finishTyping(Shell::shared().mainWindow());
     const Alert question = deletionAlert(formatText(text("StandardWarning"), {text(m_traits.itemKey)}));
     beginAlertSheet(Shell::shared().mainWindow(), question, [this](int answer) {
         if (answer == AlertDefault)
