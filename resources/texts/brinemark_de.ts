@@ -1510,8 +1510,12 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     </message>
     <message>
         <source>NotATankFileMessage</source>
-        <extracomment>^0 is the file&apos;s name.</extracomment>
-        <translation>„^0“ ist keine Aquariendatei oder ist beschädigt. Die Datei wurde nicht geöffnet und nicht verändert; Ihre bisher geöffneten Aquarien sind weiterhin geöffnet.</translation>
+        <translation>Wählen Sie eine Datei, die mit diesem Programm gesichert wurde.</translation>
+    </message>
+    <message>
+        <source>NotATankFileTitle</source>
+        <extracomment>^0 is the name of the file</extracomment>
+        <translation>„^0“ ist keine Tankdatei.</translation>
     </message>
     <message>
         <source>NotFullyReadMessage</source>

@@ -1510,8 +1510,12 @@ Test every day and repeat the water change until the value is zero. Meanwhile ad
     </message>
     <message>
         <source>NotATankFileMessage</source>
-        <extracomment>^0 is the file&apos;s name.</extracomment>
-        <translation>“^0” is not a tank file, or it is damaged. It was not opened and has not been changed; the tanks you had open are still open.</translation>
+        <translation>Choose a file that was saved by this program.</translation>
+    </message>
+    <message>
+        <source>NotATankFileTitle</source>
+        <extracomment>^0 is the name of the file</extracomment>
+        <translation>“^0” is not a tank file.</translation>
     </message>
     <message>
         <source>NotFullyReadMessage</source>

@@ -50,10 +50,12 @@ std::pair<bool, bool> dropOnWindow(MainWindow &window, const QList<QUrl> &urls)
     QCoreApplication::sendEvent(&window, &enter);
     if (!enter.isAccepted())
         return {false, false};
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    // The source proposes a move, as file managers do on one disk.
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::ShiftModifier);
+    drop.setDropAction(Qt::MoveAction);
     drop.ignore();
     QCoreApplication::sendEvent(&window, &drop);
-    return {true, drop.isAccepted()};
+    return {true, drop.isAccepted() && drop.dropAction() == Qt::CopyAction};
 }
 
 } // namespace
@@ -235,6 +237,11 @@ private Q_SLOTS:
         QVERIFY(answerPanel("savePanel", {}, false));
         program.commands().openDataFile();
         QVERIFY(!boxOf("openPanel"));
+        for (const char *noTankFile : {"/broken/expected.json", "/preferences/written-by-python.plist"}) {
+            AlertScript told;
+            QVERIFY(!answerPanel("openPanel", QStringLiteral(BRINEMARK_TEST_DATA) + noTankFile));
+            QTRY_COMPARE(told.messages, QStringList{text("NotATankFileMessage")});
+        }
         QVERIFY(answerPanel("openPanel", testFile("minimal.xml"), false));
         QCOMPARE(preferences.value(preference::defaultFile), program.filePath("default.xml"));
         program.commands().openDataFile();

@@ -4,10 +4,12 @@
 
 #include "base/text/Texts.h"
 #include "model/TankFile.h"
+#include "ui/Alerts.h"
 #include "ui/SavePanel.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QHash>
 #include <QSortFilterProxyModel>
@@ -44,6 +46,25 @@ private:
     mutable QHash<QString, bool> m_known;
 };
 
+/// Chooses a tank file. A name that was typed can name any file, so the choice is checked as well as the rows.
+class TankFilePanel : public QFileDialog
+{
+public:
+    using QFileDialog::QFileDialog;
+
+    void accept() override
+    {
+        const QFileInfo chosen(selectedFiles().value(0));
+        if (chosen.exists() && !chosen.isDir() && !looksLikeTankFile(chosen.filePath())) {
+            beep();
+            const QString title = fillPlaceholders(text("NotATankFileTitle"), {chosen.fileName()});
+            beginAlertSheet(this, {.title = title, .message = text("NotATankFileMessage")}, [](int) {});
+            return;
+        }
+        QFileDialog::accept();
+    }
+};
+
 QCheckBox *addAccessoryView(QFileDialog &panel, bool makeDefault)
 {
     auto *check = new QCheckBox(text("MakeDefaultCheck"), &panel);
@@ -69,7 +90,7 @@ void openWith(QWidget *window, QFileDialog *panel, QCheckBox *check, FilePanelCo
 
 void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelCompletion completion)
 {
-    auto *panel = new QFileDialog(window);
+    auto *panel = new TankFilePanel(window);
     panel->setObjectName(QStringLiteral("openPanel"));
     panel->setOption(QFileDialog::DontUseNativeDialog); // the check box can be added only to the toolkit's own panel
     panel->setAcceptMode(QFileDialog::AcceptOpen);
