@@ -85,7 +85,9 @@ void moveOver(QWidget *window, QDialog *dialog)
 {
     if (!window)
         return;
-    const QWidget *top = window->window();
+    QWidget *top = window->window();
+    if (top->isMinimized()) // a question over a minimised window cannot be seen
+        top->setWindowState(top->windowState() & ~Qt::WindowMinimized);
     const QRect screen = top->screen()->availableGeometry();
     const QSize size = dialog->size();
     QPoint corner = top->frameGeometry().center() - QPoint(size.width() / 2, size.height() / 2);

@@ -13,7 +13,7 @@ namespace brinemark
 void openSheet(QWidget *window, QDialog *sheet);
 
 /// Centres `dialog`, which must not be shown yet, over the window that holds `window`, within the screen. The dialog is
-/// first given its preferred size.
+/// first given its preferred size, and a minimised window is brought back.
 void centreOver(QWidget *window, QDialog *dialog);
 
 /// The same, but the dialog keeps its size.

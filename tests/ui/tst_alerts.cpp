@@ -91,6 +91,18 @@ private Q_SLOTS:
         QCOMPARE(runAlertPanel(m_window.get(), {AlertStyle::Critical, "t", "m", "Yes", "No", "Cancel"}), -1);
     }
 
+    void aQuestionBringsItsWindowBack()
+    {
+        m_window->showMinimized();
+        beginAlertSheet(m_window.get(), {.title = "title"}, [](int) {});
+        QTRY_VERIFY(!m_window->isMinimized());
+        shownAlert()->accept();
+        m_window->showMinimized();
+        QTimer::singleShot(0, m_window.get(), [] { press("Return"); });
+        runAlertPanel(m_window.get(), {.title = "title"});
+        QVERIFY(!m_window->isMinimized());
+    }
+
     void sheetsOfAWindowWaitTheirTurn()
     {
         QWidget elsewhere;

@@ -37,6 +37,15 @@ QString droppedFile(const QDropEvent &event)
     return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
 }
 
+/// After a move the source may delete its file, which is the one that the program has opened.
+void acceptAsCopy(QDropEvent &event)
+{
+    if (!event.possibleActions().testFlag(Qt::CopyAction))
+        return;
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 } // namespace
 
 MainWindow::MainWindow(TankOutlineView *tankList)
@@ -133,14 +142,14 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
     const QString path = droppedFile(*event);
     if (!path.isEmpty() && takesDroppedFile && takesDroppedFile(path))
-        event->acceptProposedAction();
+        acceptAsCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
     const QString path = droppedFile(*event);
     if (!path.isEmpty() && openDroppedFile && openDroppedFile(path))
-        event->acceptProposedAction();
+        acceptAsCopy(*event);
 }
 
 } // namespace brinemark

@@ -101,7 +101,7 @@ bool EListSignupController::isVisible() const
 
 void EListSignupController::join()
 {
-    const QString address = m_addressField->text();
+    const QString address = m_addressField->text().trimmed();
     if (address.isEmpty()) {
         beep();
         return;
