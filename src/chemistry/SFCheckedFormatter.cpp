@@ -169,7 +169,7 @@ QString SFCheckedFormatter::stringForObjectValue(const QVariant &value) const
         return text("NotTested"_key);
     // Only the decimal separator follows the locale: getBestDoubleFromString() cannot read a locale's own digits and
     // sign.
-    return QString::number(number, 'f', std::clamp(m_precision, 0, 300)).replace(u'.', separators().decimal);
+    return fixedText(number, std::clamp(m_precision, 0, 300)).replace(u'.', separators().decimal);
 }
 
 VettedEdit SFCheckedFormatter::isPartialStringValid(const QString &proposed, const TextSelection &proposedSelection,

@@ -78,6 +78,8 @@ private Q_SLOTS:
     {
         const auto tested = formatter(-1, 99, 2, 1, true, true);
         QCOMPARE(tested.stringForObjectValue(7.5), QString("7,50"));
+        QCOMPARE(tested.stringForObjectValue(7.125), QString("7,12")); // halves go to the even digit
+        QCOMPARE(tested.stringForObjectValue(7.375F), QString("7,38"));
         QCOMPARE(tested.stringForObjectValue(-0.5), text("NotTested"_key));
         QVERIFY(!tested.stringForObjectValue(qQNaN()).isEmpty());
         QCOMPARE(formatter(-9, 9, 1, 1, false, false).stringForObjectValue(-2.0), QString("-2.0"));

@@ -178,9 +178,18 @@ QString shownNumber(double value, int digits)
     return locale.toString(value, 'g', digits);
 }
 
+QString fixedText(double value, int decimals)
+{
+    constexpr int longestWholePart = std::numeric_limits<double>::max_exponent10 + 3; // sign and point included
+    QByteArray digits(longestWholePart + decimals, '\0');
+    char *const begin = digits.data();
+    const auto [end, error] = std::to_chars(begin, begin + digits.size(), value, std::chars_format::fixed, decimals);
+    return QString::fromLatin1(begin, end - begin);
+}
+
 QString localizeAndTrimZeros(float value)
 {
-    QString text = QString::number(double(value), 'f', 3);
+    QString text = fixedText(double(value), 3);
     const qsizetype point = text.indexOf(QLatin1Char('.'));
     if (point < 0)
         return text;

@@ -5,8 +5,8 @@
 #include <QString>
 #include <QStringView>
 
-/// Numbers as text. The `leading` functions and floatText are for files and never depend on the locale; the other
-/// functions use the user's locale.
+/// Numbers as text. The `leading` functions, floatText and fixedText never depend on the locale; the other functions
+/// use the user's locale.
 namespace brinemark
 {
 
@@ -31,6 +31,11 @@ namespace brinemark
 
 /// A number for an editable field: the user's decimal separator, no grouping, at most `digits` significant digits.
 [[nodiscard]] QString shownNumber(double value, int digits);
+
+/// A number with this many decimals (0 or more) and a full stop. Exact halves are rounded to the even digit, as the
+/// format
+/// "%.2f" does and Qt does not (7.125 -> "7.12").
+[[nodiscard]] QString fixedText(double value, int decimals);
 
 /// A number for display: three decimals, the user's decimal separator, trailing zeros removed down to one decimal.
 [[nodiscard]] QString localizeAndTrimZeros(float value);
