@@ -167,6 +167,19 @@ private Q_SLOTS:
             QCOMPARE(before.preferredValue, 1.0F);
     }
 
+    void aTankHasAName()
+    {
+        m_driver->open();
+        for (const char *name : {"", "  "}) {
+            m_driver->control<QLineEdit>("nameField")->setText(QLatin1String(name));
+            m_driver->click("okButton");
+            QVERIFY(m_driver->isUp() && m_driver->control<QLineEdit>("nameField")->hasFocus());
+        }
+        QCOMPARE(m_driver->shell.beeps, 2);
+        m_driver->press(Qt::Key_Escape);
+        QCOMPARE(m_driver->tank().name, QStringLiteral("Cube"));
+    }
+
     void oneSheetAtATime()
     {
         m_driver->open();

@@ -12,6 +12,7 @@
 #include "chemistry/views/targets/TargetNumberEdit.h"
 #include "model/Tank.h"
 #include "model/TankList.h"
+#include "ui/Alerts.h"
 #include "ui/FinishTyping.h"
 #include "ui/HelpWindow.h"
 #include "ui/Sheets.h"
@@ -271,6 +272,11 @@ void TankDataEntryController::okAction()
 {
     if (!m_infoPanel)
         return;
+    if (m_infoPanel->nameField->text().trimmed().isEmpty()) {
+        beep();
+        m_infoPanel->nameField->setFocus();
+        return;
+    }
     storeNumbers();
     endSheet(Confirmed);
 }
