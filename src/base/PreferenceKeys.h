@@ -18,8 +18,9 @@ inline constexpr PreferenceKey<bool> updateAuto{"UpdateAuto"};
 inline constexpr PreferenceKey<int> updateFrequency{"UpdateFrequency"}; ///< seconds; -1: check at every start-up
 inline constexpr PreferenceKey<QDateTime> updateLastChecked{"UpdateLastChecked"};
 inline constexpr PreferenceKey<float> notificationWindowHeight{"NotificationWindowHeight"}; ///< points
-inline constexpr PreferenceKey<QString> mainViewWidth{"mainViewWidth"};         ///< a whole number of points as text
-inline constexpr PreferenceKey<QString> tankListViewWidth{"tankListViewWidth"}; ///< a whole number of points as text
+inline constexpr PreferenceKey<QString> mainViewWidth{"mainViewWidth"};           ///< a whole number of points as text
+inline constexpr PreferenceKey<QString> tankListViewWidth{"tankListViewWidth"};   ///< a whole number of points as text
+inline constexpr PreferenceKey<QString> mainWindowGeometry{"mainWindowGeometry"}; ///< QWidget::saveGeometry() in base64
 inline constexpr PreferenceKey<QVariantMap> convertWindowState{"ConvertWindowState"};
 inline constexpr PreferenceKey<QVariantMap> toolbarConfiguration{"ToolbarConfiguration fishWindowToolbar2"};
 

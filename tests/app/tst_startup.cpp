@@ -424,7 +424,7 @@ private Q_SLOTS:
             Program program;
             program.start(testFile("minimal.xml"));
             auto *splitter = program.window().findChild<QSplitter *>("splitView");
-            program.window().resize(760, 600);
+            program.window().setGeometry(20, 30, 760, 500);
             splitter->setSizes({10, 750});
             QCOMPARE(program.window().tankListView()->width(), 142);
             splitter->setSizes({750, 10});
@@ -439,6 +439,7 @@ private Q_SLOTS:
         program.start(testFile("minimal.xml"));
         QCOMPARE(program.window().tankListView()->width(), 333);
         QCOMPARE(program.window().mainView().width(), mainWidth);
+        QCOMPARE(program.window().geometry(), QRect(20, 30, 760, 500));
     }
 };
 

@@ -27,6 +27,7 @@ namespace
 {
 
 constexpr QSize openingSize(1080, 720);
+constexpr QSize roomForFrame(16, 48); ///< borders and title bar of the window system
 constexpr int openingTreeWidth = 220;
 constexpr int smallestTreeWidth = 142;
 constexpr int smallestMainViewWidth = 320;
@@ -106,18 +107,24 @@ void MainWindow::storeWidths() const
     Preferences &preferences = Preferences::shared();
     preferences.set(preference::mainViewWidth, QString::number(m_mainView->width()));
     preferences.set(preference::tankListViewWidth, QString::number(m_tankListView->width()));
+    preferences.set(preference::mainWindowGeometry, QString::fromLatin1(saveGeometry().toBase64()));
 }
 
 void MainWindow::restoreWidths()
 {
     const Preferences &preferences = Preferences::shared();
+    const QRect room = screen()->availableGeometry();
+    resize(openingSize.boundedTo(room.size() - roomForFrame));
+    const bool restored = restoreGeometry(
+        QByteArray::fromBase64(preferences.value(preference::mainWindowGeometry, QString()).toLatin1()));
     const std::optional<QString> mainWidth = preferences.value(preference::mainViewWidth);
     if (!mainWidth)
         return;
     const int treeWidth = preferences.value(preference::tankListViewWidth, QString()).toInt();
     // Size the window for both stored pane widths, as far as the current screen allows.
     const int together = qBound(0, treeWidth, maximumWidth()) + qBound(0, mainWidth->toInt(), maximumWidth());
-    resize(qMin(together + m_splitView->handleWidth(), screen()->availableGeometry().width()), height());
+    if (!restored)
+        resize(qMin(together + m_splitView->handleWidth(), room.width()), height());
     m_splitView->setSizes({treeWidth, mainWidth->toInt()});
 }
 

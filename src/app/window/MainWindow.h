@@ -35,6 +35,8 @@ public:
     [[nodiscard]] QToolButton *deleteButton() const { return m_deleteButton; }
 
     /// Stores the widths of the two panes in the preferences as whole numbers.
+    /// Size, position and the maximised state are kept beside them. Without them the window opens in its usual size, as
+    /// far as the screen has room.
     void storeWidths() const;
     void restoreWidths();
 
