@@ -3,6 +3,7 @@
 #include "chemistry/HighValue.h"
 
 #include "base/TableChecks.h"
+#include "chemistry/TargetCheck.h"
 
 #include <algorithm>
 #include <array>
@@ -45,7 +46,7 @@ std::optional<double> highValueThreshold(Parameter parameter, bool freshwater)
 bool isHighValue(Parameter parameter, bool freshwater, double value)
 {
     const std::optional<double> threshold = highValueThreshold(parameter, freshwater);
-    return threshold && float(value) > float(*threshold);
+    return threshold && isAbove(float(value), float(*threshold));
 }
 
 } // namespace brinemark

@@ -26,8 +26,7 @@ struct HighValueAdvice {
 /// The highest value that passes without advice, in the parameter's unit; none where there is no threshold.
 [[nodiscard]] std::optional<double> highValueThreshold(Parameter parameter, bool freshwater);
 
-/// Compares in single precision, as targets are stored, so that a value with the same digits as the threshold is not
-/// above it.
+/// A value that agrees with the threshold to seven significant digits is not above it.
 [[nodiscard]] bool isHighValue(Parameter parameter, bool freshwater, double value);
 
 } // namespace brinemark

@@ -7,13 +7,33 @@
 #include "model/Parameters.h"
 #include "model/Tank.h"
 
+#include <cmath>
+
 namespace brinemark
 {
 
+namespace
+{
+
+/// The decimal number that a float stands for: 7.2 for 7.2F, which is 7.19999981 in double precision.
+double decimalNumber(float value)
+{
+    return std::isfinite(value) ? leadingNumber(floatText(value)) : double(value);
+}
+
+} // namespace
+
+bool isAbove(float value, float limit)
+{
+    return value > limit && decimalNumber(value) > decimalNumber(limit);
+}
+
 TargetBand targetBand(const TankData &target)
 {
-    const float deviation = target.deviationOn ? target.deviationValue : 0;
-    return {target.preferredValue - deviation, target.preferredValue + deviation};
+    // 7.2F + 0.2F is less than 7.4F; 25F - 24.9F differs from 0.1F in the fifth digit.
+    const double preferred = decimalNumber(target.preferredValue);
+    const double deviation = target.deviationOn ? decimalNumber(target.deviationValue) : 0;
+    return {float(preferred - deviation), float(preferred + deviation)};
 }
 
 TargetState targetState(const TankData *target, double value)
@@ -24,9 +44,9 @@ TargetState targetState(const TankData *target, double value)
     const auto measured = float(value);
     // A negative deviation makes `low` exceed `high`. The upper limit is tested first, so a value between the two is
     // High.
-    if (measured > band.high)
+    if (isAbove(measured, band.high))
         return TargetState::High;
-    return measured < band.low ? TargetState::Low : TargetState::Within;
+    return isAbove(band.low, measured) ? TargetState::Low : TargetState::Within;
 }
 
 std::optional<TargetWarning> targetWarning(const Tank &tank, QStringView identifier, double value,

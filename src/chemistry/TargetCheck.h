@@ -13,6 +13,10 @@ namespace brinemark
 class Tank;
 struct TankData;
 
+/// Whether a value is above a limit after both have been rounded to seven significant digits, the resolution of a float
+/// and of the tank file. False for NaN.
+[[nodiscard]] bool isAbove(float value, float limit);
+
 /// The values that a target accepts, both limits included; without a band both are the preferred value.
 struct TargetBand {
     float low = 0;
@@ -21,6 +25,7 @@ struct TargetBand {
     [[nodiscard]] bool isSingleValue() const { return low == high; }
 };
 
+/// The floats nearest to the decimal sum and difference, so that a limit equals the same number when it is typed.
 [[nodiscard]] TargetBand targetBand(const TankData &target);
 
 /// Where a measured value lies relative to the target.
@@ -31,7 +36,7 @@ enum class TargetState {
     High,
 };
 
-/// Compares in single precision, so that a value with the same digits as a limit is within. `target` may be null.
+/// A value that agrees with a limit to seven significant digits is within. `target` may be null.
 [[nodiscard]] TargetState targetState(const TankData *target, double value);
 
 /// The texts of a warning. The message ends with the treatment.

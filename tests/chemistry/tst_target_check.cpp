@@ -4,6 +4,7 @@
 
 #include "base/text/NumberText.h"
 #include "base/text/Texts.h"
+#include "chemistry/ConditionColumns.h"
 #include "model/Parameters.h"
 #include "model/Tank.h"
 #include "support/DataRow.h"
@@ -36,9 +37,9 @@ private Q_SLOTS:
         row("below the band", 7.0, 0.2, 6.7, low, QStringLiteral("LowValueMessage"), 6.8F);
         row("above the band", 7.0, 0.2, 7.3, high, QStringLiteral("HighValueMessage"), 7.2F);
         row("on the lower limit", 7.0, 0.2, 6.8, none, none, 0.0F);
-        row("the next number above it", 7.0, 0.2, double(std::nextafter(7.2F, 8.0F)), high,
-            QStringLiteral("HighValueMessage"), 7.2F);
-        row("beyond it in double precision only", 7.0, 0.2, 7.20000001, none, none, 0.0F);
+        row("the next float above it", 7.0, 0.2, double(std::nextafter(7.2F, 8.0F)), none, none, 0.0F);
+        row("the seventh digit above it", 7.0, 0.2, 7.200001, high, QStringLiteral("HighValueMessage"), 7.2F);
+        row("the seventh digit below", 7.0, 0.2, 6.799999, low, QStringLiteral("LowValueMessage"), 6.8F);
         row("above a single value", 25.0, -1.0, 25.5, high, equal, 25.0F);
         row("on a single value", 25.0, -1.0, 25.0, none, none, 0.0F);
         row("a band of width 0", 25.0, 0.0, 24.0, low, equal, 25.0F);
@@ -73,6 +74,65 @@ private Q_SLOTS:
         QVERIFY(!targetWarning(*tank, u"ph", value, QString()));
         QCOMPARE(targetState(&target, value), TargetState::NotChecked);
         QCOMPARE(targetState(nullptr, value), TargetState::NotChecked);
+    }
+
+    void limitsAsTheyAreWritten_data()
+    {
+        QTest::addColumn<Parameter>("parameter");
+        QTest::addColumn<QStringList>("preferred"); ///< usual targets
+        QTest::addColumn<QStringList>("deviations");
+        const auto add = [](Parameter parameter, const char *preferred, const char *deviations) {
+            QTest::newRow(qPrintable(traitsOf(parameter).identifier.toString()))
+                << parameter << QString::fromLatin1(preferred).split(u' ')
+                << QString::fromLatin1(deviations).split(u' ');
+        };
+        add(Parameter::Temp, "18 22.5 24 25 26.5 28 75 77 78.8 80.1", "0.5 1 1.1 1.5 2 3.3");
+        add(Parameter::Ph, "5.8 6.2 6.5 6.8 7 7.2 7.6 8 8.2 8.35", "0.05 0.1 0.2 0.25 0.3 0.5");
+        add(Parameter::Ammonia, "0 0.02 0.05 2 4", "0 0.02 0.05 0.1 0.25 0.5");
+        add(Parameter::Nitrate, "0 2 5 7.5 10 20 50", "1 2.5 5 9.95 10 25 40");
+        add(Parameter::Nitrite, "0 0.02 0.05 1", "0 0.02 0.05 0.1 0.2 0.25 0.3");
+        add(Parameter::GH, "3 4.5 6 8 12.4 18", "0.5 1 1.6 2 4.2");
+        add(Parameter::KH, "2 3.5 4 6 7.7 9 12", "0.5 0.7 1 1.5 2.1");
+        add(Parameter::Salt, "1.005 1.02 1.022 1.023 1.025 1.026 3.5", "0.001 0.002 0.003 0.004 0.015");
+        add(Parameter::Alkalinity, "2.5 3.2 7.7 8 8.3 9.1 11 125", "0.1 0.3 0.5 1 1.2 20");
+        add(Parameter::Phosphate, "0 0.1 0.5 1", "0.1 0.2 0.3 0.5 1.1");
+        add(Parameter::Calcium, "20 400 420 435", "5 10 15 30");
+        add(Parameter::Iodine, "0.05 0.06 0.07 0.1", "0.01 0.02 0.03 0.05");
+        add(Parameter::Oxygen, "6 7.2 7.8 8.3", "0.5 0.9 1 1.4 2.2");
+        add(Parameter::Copper, "0 0.15 0.18 0.2 0.5", "0.01 0.02 0.03 0.05");
+        add(Parameter::Iron, "0.1 0.2 0.5", "0.1 0.3");
+        add(Parameter::Dioxide, "10 20 25 30", "3 5 10");
+        add(Parameter::Magnesium, "10 1280 1300 1350 1400", "10 30 50 70 100");
+    }
+    /// The limits are summed in whole units of the column's last decimal, then typed, as are their neighbours outside.
+    void limitsAsTheyAreWritten()
+    {
+        QFETCH(Parameter, parameter);
+        QFETCH(QStringList, preferred);
+        QFETCH(QStringList, deviations);
+        const auto &column = *conditionColumnFromIdentifier(traitsOf(parameter).identifier);
+        const double unit = std::pow(10, column.decimals);
+        TankData target(Blank{});
+        target.warningOn = target.deviationOn = true;
+        for (const QString &aim : preferred) {
+            for (const QString &deviation : deviations) {
+                target.preferredValue = aim.toFloat();
+                target.deviationValue = deviation.toFloat();
+                const qint64 middle = qRound64(aim.toDouble() * unit);
+                const qint64 width = qRound64(deviation.toDouble() * unit);
+                const auto stateAt = [&](qint64 units) {
+                    const QString typed = QString::number(double(units) / unit, 'f', column.decimals);
+                    return units < 0 ? TargetState::NotChecked : targetState(&target, double(typed.toFloat()));
+                };
+                const QString where = aim + QStringLiteral(" \u00B1 ") + deviation;
+                QVERIFY2(stateAt(middle + width) == TargetState::Within, qPrintable(where));
+                QVERIFY2(stateAt(middle + width + 1) == TargetState::High, qPrintable(where));
+                if (middle >= width)
+                    QVERIFY2(stateAt(middle - width) == TargetState::Within, qPrintable(where));
+                if (middle > width)
+                    QVERIFY2(stateAt(middle - width - 1) == TargetState::Low, qPrintable(where));
+            }
+        }
     }
 
     void unknownIdentifiersAreNotChecked()

@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QTextBrowser>
 
+#include <cmath>
+
 using namespace brinemark;
 using brinemark::test::local;
 using brinemark::test::row;
@@ -80,6 +82,7 @@ private Q_SLOTS:
     {
         QVERIFY(0.1F > 0.1); // the number that a target of 0.1 stores
         QVERIFY(!isHighValue(Parameter::Ammonia, false, 0.1F));
+        QVERIFY(!isHighValue(Parameter::Ammonia, false, double(std::nextafter(0.1F, 1.0F)))); // a sum of two floats
         QVERIFY(isHighValue(Parameter::Ammonia, false, 0.100001));
     }
 
