@@ -7,6 +7,7 @@
 #include "model/Parameters.h"
 #include "model/Tank.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace brinemark
@@ -19,6 +20,12 @@ namespace
 double decimalNumber(float value)
 {
     return std::isfinite(value) ? leadingNumber(floatText(value)) : double(value);
+}
+
+/// A target of 0 with a tolerance has a lower limit below 0, which no parameter can have.
+QString shownLimit(float limit)
+{
+    return localizeAndTrimZeros(std::max(limit, 0.0F));
 }
 
 } // namespace
@@ -63,7 +70,7 @@ std::optional<TargetWarning> targetWarning(const Tank &tank, QStringView identif
     const QString message = band.isSingleValue() ? text("EqualValueMessage")
                             : low                ? text("LowValueMessage")
                                                  : text("HighValueMessage");
-    const QString limit = localizeAndTrimZeros(low ? band.low : band.high);
+    const QString limit = shownLimit(low ? band.low : band.high);
     return TargetWarning{fillPlaceholders(title, {columnTitle}),
                          fillPlaceholders(message, {limit}) + text(traitsOf(*parameter).treatmentKey)};
 }
@@ -76,7 +83,15 @@ QString targetStateText(const TankData &target, TargetState state)
     const TargetBand band = targetBand(target);
     const QString sentence = band.isSingleValue() ? (low ? text("BelowTargetToolTip") : text("AboveTargetToolTip"))
                                                   : (low ? text("BelowLimitToolTip") : text("AboveLimitToolTip"));
-    return fillPlaceholders(sentence, {localizeAndTrimZeros(low ? band.low : band.high)});
+    return fillPlaceholders(sentence, {shownLimit(low ? band.low : band.high)});
+}
+
+QString targetRangeText(const TankData &target)
+{
+    const TargetBand band = targetBand(target);
+    return band.isSingleValue()
+               ? fillPlaceholders(text("GraphLegendValue"), {shownLimit(band.low)})
+               : fillPlaceholders(text("GraphLegendBand"), {shownLimit(band.low), shownLimit(band.high)});
 }
 
 } // namespace brinemark

@@ -53,4 +53,7 @@ struct TargetWarning {
 /// One sentence that says which limit a value crossed, if it is too low or too high. Empty for the other states.
 [[nodiscard]] QString targetStateText(const TankData &target, TargetState state);
 
+/// The target or its two limits, such as "Target: 0.0 to 0.1". Limits below 0 are shown as 0.
+[[nodiscard]] QString targetRangeText(const TankData &target);
+
 } // namespace brinemark

@@ -135,6 +135,23 @@ private Q_SLOTS:
         }
     }
 
+    void rangesBeginAtZero()
+    {
+        TankData target(Blank{});
+        target.deviationValue = 0.1F;
+        const QString zero = localizeAndTrimZeros(0);
+        QCOMPARE(targetRangeText(target), fillPlaceholders(text("GraphLegendValue"), {zero}));
+        target.deviationOn = true;
+        const QString high = localizeAndTrimZeros(0.1F);
+        QCOMPARE(targetRangeText(target), fillPlaceholders(text("GraphLegendBand"), {zero, high}));
+        target.preferredValue = 7;
+        QCOMPARE(targetRangeText(target),
+                 fillPlaceholders(text("GraphLegendBand"), {localizeAndTrimZeros(6.9F), localizeAndTrimZeros(7.1F)}));
+        target.preferredValue = -5; // only a file can contain this
+        target.warningOn = true;
+        QVERIFY(targetStateText(target, targetState(&target, 0)).endsWith(zero));
+    }
+
     void unknownIdentifiersAreNotChecked()
     {
         const auto tank = std::make_shared<Tank>(QStringLiteral("Tank"));

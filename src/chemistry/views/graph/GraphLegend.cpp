@@ -2,7 +2,6 @@
 
 #include "chemistry/views/graph/GraphLegend.h"
 
-#include "base/text/NumberText.h"
 #include "chemistry/ConditionSeries.h"
 #include "chemistry/TargetCheck.h"
 #include "chemistry/views/graph/LegendEntry.h"
@@ -23,12 +22,7 @@ QString toolTipOf(const TankData &target)
 {
     if (!target.warningOn)
         return text("GraphLegendToolTip");
-    const TargetBand band = targetBand(target);
-    const QString range = band.isSingleValue()
-                              ? fillPlaceholders(text("GraphLegendValue"), {localizeAndTrimZeros(band.low)})
-                              : fillPlaceholders(text("GraphLegendBand"),
-                                                 {localizeAndTrimZeros(band.low), localizeAndTrimZeros(band.high)});
-    return text("GraphLegendToolTip") + u'\n' + range;
+    return text("GraphLegendToolTip") + u'\n' + targetRangeText(target);
 }
 
 } // namespace
