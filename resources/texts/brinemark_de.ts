@@ -54,7 +54,7 @@
     <message>
         <source>AmmoniaFreshValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated ammonia in fresh water, mg/l.</extracomment>
-        <translation>0.25</translation>
+        <translation>0.1</translation>
     </message>
     <message>
         <source>AmmoniaSaltValue</source>
@@ -1051,7 +1051,7 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     <message>
         <source>HighAmmoniaReason</source>
         <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
-        <translation>Über ^0 schädigt Ammoniak die Kiemen. Je höher der pH-Wert, desto giftiger ist es.</translation>
+        <translation>Über ^0 kann Ammoniak die Kiemen schädigen. Je höher der pH-Wert, desto mehr davon ist giftig.</translation>
     </message>
     <message>
         <source>HighNitrateReason</source>
@@ -1061,7 +1061,12 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     <message>
         <source>HighNitriteReason</source>
         <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
-        <translation>Über ^0 kann das Blut der Fische wegen Nitrit kaum noch Sauerstoff tragen.</translation>
+        <translation>Über ^0 kann Nitrit das Blut am Sauerstofftransport hindern, am meisten in weichem Wasser.</translation>
+    </message>
+    <message>
+        <source>HighNitriteSaltReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Meerwasser schützt Fische, doch über ^0 kommt der Filter nicht nach: Ammoniak testen.</translation>
     </message>
     <message>
         <source>HighValueMessage</source>
@@ -1076,7 +1081,7 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     <message>
         <source>HighValueWarning</source>
         <extracomment>Shown in the target editor for ammonia, nitrate and nitrite. ^0 is the highest value that the target accepts.</extracomment>
-        <translation>Ein Wert von ^0 ist mehr, als die meisten Tiere auf Dauer vertragen.</translation>
+        <translation>Ein Wert von ^0 ist mehr, als einem Becken guttut.</translation>
     </message>
     <message>
         <source>InventoryDataCount</source>
@@ -1451,12 +1456,12 @@ Zu niedrig für Pflanzen oder Korallen: etwas mehr füttern oder einen Nitratdü
     <message>
         <source>NitriteFreshValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrite in fresh water, mg/l.</extracomment>
-        <translation>0.25</translation>
+        <translation>0.1</translation>
     </message>
     <message>
         <source>NitriteSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrite in sea water, mg/l.</extracomment>
-        <translation>0.1</translation>
+        <translation>0.5</translation>
     </message>
     <message>
         <source>NitriteTreatment</source>

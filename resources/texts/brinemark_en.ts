@@ -54,7 +54,7 @@
     <message>
         <source>AmmoniaFreshValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated ammonia in fresh water, mg/l.</extracomment>
-        <translation>0.25</translation>
+        <translation>0.1</translation>
     </message>
     <message>
         <source>AmmoniaSaltValue</source>
@@ -1051,7 +1051,7 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
     <message>
         <source>HighAmmoniaReason</source>
         <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
-        <translation>Above ^0, ammonia damages the gills. The higher the pH, the more of it is toxic.</translation>
+        <translation>Above ^0, ammonia can damage the gills. The higher the pH, the more of it is toxic.</translation>
     </message>
     <message>
         <source>HighNitrateReason</source>
@@ -1061,7 +1061,12 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
     <message>
         <source>HighNitriteReason</source>
         <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
-        <translation>Above ^0, nitrite keeps the blood from carrying oxygen, and fish suffocate.</translation>
+        <translation>Above ^0, nitrite can keep the blood from carrying oxygen, most of all in soft water.</translation>
+    </message>
+    <message>
+        <source>HighNitriteSaltReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Sea water protects fish, but above ^0 the filter cannot keep up: test for ammonia.</translation>
     </message>
     <message>
         <source>HighValueMessage</source>
@@ -1076,7 +1081,7 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
     <message>
         <source>HighValueWarning</source>
         <extracomment>Shown in the target editor for ammonia, nitrate and nitrite. ^0 is the highest value that the target accepts.</extracomment>
-        <translation>A value of ^0 is more than most animals bear for long.</translation>
+        <translation>A value of ^0 is more than is good for a tank.</translation>
     </message>
     <message>
         <source>InventoryDataCount</source>
@@ -1451,12 +1456,12 @@ Too low for plants or corals: feed a little more, or add a nitrate fertiliser in
     <message>
         <source>NitriteFreshValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrite in fresh water, mg/l.</extracomment>
-        <translation>0.25</translation>
+        <translation>0.1</translation>
     </message>
     <message>
         <source>NitriteSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrite in sea water, mg/l.</extracomment>
-        <translation>0.1</translation>
+        <translation>0.5</translation>
     </message>
     <message>
         <source>NitriteTreatment</source>

@@ -21,6 +21,11 @@
         <translation>US gallons per hour to liters per hour, Liters per hour to US gallons per hour, Liters per hour to liters per second</translation>
     </message>
     <message>
+        <source>HighNitriteSaltReason</source>
+        <extracomment>Shown in the target editor: two lines at most. ^0 is the number above which a target is too high.</extracomment>
+        <translation>Salt water protects fish, but above ^0 the filter cannot keep up: test for ammonia.</translation>
+    </message>
+    <message>
         <source>LengthMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>Inches to centimeters, Centimeters to inches, Decimeters to yards, Centimeters to feet, Feet to meters, Meters to yards, Yards to meters</translation>

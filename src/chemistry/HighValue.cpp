@@ -14,11 +14,19 @@ namespace brinemark
 namespace
 {
 
+// clang-format off
 constexpr std::array<HighValueAdvice, 3> advices{{
-    {Parameter::Ammonia, "AmmoniaFreshValue"_key, "AmmoniaSaltValue"_key, "HighAmmoniaReason"_key},
-    {Parameter::Nitrate, "NitrateFreshValue"_key, "NitrateSaltValue"_key, "HighNitrateReason"_key},
-    {Parameter::Nitrite, "NitriteFreshValue"_key, "NitriteSaltValue"_key, "HighNitriteReason"_key},
+    // At or below the first step of common colour tests. At pH 8.5 and 25 degrees Celsius, a seventh of 0.1 mg/l is
+    // toxic: less than the 0.025 mg/l that EIFAC (1970, report on ammonia) gives as the limit for fish.
+    {Parameter::Ammonia, {"AmmoniaFreshValue"_key, "HighAmmoniaReason"_key}, {"AmmoniaSaltValue"_key, "HighAmmoniaReason"_key}},
+    // Common hobby guidance, for reef corals in the case of sea water.
+    {Parameter::Nitrate, {"NitrateFreshValue"_key, "HighNitrateReason"_key}, {"NitrateSaltValue"_key, "HighNitrateReason"_key}},
+    // 0.1 mg/l is 0.03 mg/l of nitrogen, about the limit for fish other than salmonids in water with hardly any chloride
+    // (EIFAC 1984, report on nitrite). Sea water has 19 g/l of chloride, which keeps nitrite out of the gills; above
+    // 0.5 mg/l (common hobby guidance) it only shows that the filter is too weak.
+    {Parameter::Nitrite, {"NitriteFreshValue"_key, "HighNitriteReason"_key}, {"NitriteSaltValue"_key, "HighNitriteSaltReason"_key}},
 }};
+// clang-format on
 static_assert(noneHasTwoRows<Parameter>(advices, &HighValueAdvice::parameter));
 
 } // namespace
@@ -40,7 +48,7 @@ std::optional<double> highValueThreshold(Parameter parameter, bool freshwater)
     const HighValueAdvice *advice = highValueAdviceOf(parameter);
     if (!advice)
         return std::nullopt;
-    return numberOfText(freshwater ? advice->freshwaterKey : advice->marineKey);
+    return numberOfText(advice->of(freshwater).thresholdKey);
 }
 
 bool isHighValue(Parameter parameter, bool freshwater, double value)

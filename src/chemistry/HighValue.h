@@ -12,10 +12,16 @@ namespace brinemark
 
 /// The advice on a parameter for which a target can be set too high to be good for the animals.
 struct HighValueAdvice {
+    struct Water {
+        TextKey thresholdKey; ///< of the number above which a target is too high
+        TextKey reasonKey;    ///< of the text that gives the reason; "^0" is replaced by that number
+    };
+
     Parameter parameter;
-    TextKey freshwaterKey; ///< of the number above which a target is too high, in fresh water
-    TextKey marineKey;     ///< the same in sea water
-    TextKey reasonKey;     ///< of the text that gives the reason; "^0" is replaced by that number
+    Water fresh;
+    Water marine;
+
+    [[nodiscard]] constexpr const Water &of(bool freshwater) const { return freshwater ? fresh : marine; }
 };
 
 [[nodiscard]] std::span<const HighValueAdvice> highValueAdvices();

@@ -3,6 +3,7 @@
 #include "base/text/NumberText.h"
 #include "chemistry/HighValue.h"
 #include "chemistry/TankSheetDriver.h"
+#include "chemistry/TargetCheck.h"
 #include "support/DataRow.h"
 #include "support/TestProgram.h"
 
@@ -88,14 +89,14 @@ private Q_SLOTS:
 
     void adviceFollowsTheControls()
     {
-        TankData &ammonia = *m_driver->tank().ammoniaData(); // 0 ± the threshold of fresh water
-        QVERIFY(ammonia.warningOn && ammonia.deviationOn);
-        m_driver->open(ammonia.name);
+        TankData &nitrate = *m_driver->tank().nitrateData(); // 0 ± the threshold of fresh water
+        QVERIFY(nitrate.warningOn && nitrate.deviationOn);
+        m_driver->open(nitrate.name);
         QVERIFY(!box()->isVisible());
         m_driver->click("marineButton");
         QVERIFY(box()->isVisible());
         const auto reason = [this] { return box()->findChild<QLabel *>("warningReason")->text(); };
-        QVERIFY(reason().contains(shownNumber(numberOfText("AmmoniaSaltValue"), 7)));
+        QVERIFY(reason().contains(shownNumber(numberOfText("NitrateSaltValue"), 7)));
         m_driver->click("deviationCheckbox");
         QVERIFY(!box()->isVisible());
         m_driver->click("deviationCheckbox");
@@ -105,12 +106,36 @@ private Q_SLOTS:
         QVERIFY(box()->isVisible());
         m_driver->choose("phData");
         QVERIFY(!box()->isVisible());
-        m_driver->choose("ammoniaData");
+        m_driver->choose("nitrateData");
         QVERIFY(box()->isVisible());
         m_driver->click("freshwaterButton");
         QVERIFY(!box()->isVisible());
         m_driver->pressIn("deviationField", Qt::Key_Up);
         QVERIFY(box()->isVisible());
+    }
+
+    /// A default target shows no advice in fresh water. Marine nitrite has its own threshold and reason.
+    void thresholdsSuitDefaultsAndWater()
+    {
+        for (const char *language : {"en", "en_US", "de"}) {
+            setTextLanguages({QString::fromLatin1(language)});
+            const Tank tank(QStringLiteral("Tank"));
+            for (const HighValueAdvice &advice : highValueAdvices()) {
+                const TankData &target = *tank.target(advice.parameter);
+                QVERIFY(!isHighValue(advice.parameter, true, double(targetBand(target).high)));
+                QVERIFY(targetBand(target).high > 0);
+            }
+            for (const TankData *target : {tank.ammoniaData(), tank.nitriteData()})
+                QVERIFY(targetBand(*target).high <= 0.1F); // common tests begin at 0.25
+            QVERIFY(*highValueThreshold(Parameter::Nitrite, false) >= *highValueThreshold(Parameter::Nitrite, true));
+        }
+        setTextLanguages({QStringLiteral("en")});
+        m_driver->open(m_driver->tank().nitriteData()->name);
+        m_driver->type("preferredField", QStringLiteral("5"));
+        const auto reason = [this] { return box()->findChild<QLabel *>("warningReason")->text(); };
+        QVERIFY(reason().contains(QStringLiteral("blood")));
+        m_driver->click("marineButton");
+        QVERIFY(box()->isVisible() && !reason().contains(QStringLiteral("blood")));
     }
 
     // ---- closing

@@ -76,7 +76,7 @@ void HighValueBox::setAdvice(Parameter parameter, bool freshwater, double value)
         return;
     const double threshold = *highValueThreshold(parameter, freshwater);
     m_title->setText(titleText(shownNumber(value, significant)));
-    m_reason->setText(fillPlaceholders(text(advice->reasonKey), {shownNumber(threshold, significant)}));
+    m_reason->setText(fillPlaceholders(text(advice->of(freshwater).reasonKey), {shownNumber(threshold, significant)}));
     setAccessibleName(title());
     setAccessibleDescription(reason());
 }
@@ -118,8 +118,9 @@ void HighValueBox::reserveRoom()
     int height = markSide;
     for (const HighValueAdvice &advice : highValueAdvices()) {
         const QString longest = shownNumber(targetInputOf(advice.parameter).preferred.maximum + 0.99, significant);
-        height = std::max(height, heightOf(m_title, titleText(longest)) + 4 +
-                                      heightOf(m_reason, fillPlaceholders(text(advice.reasonKey), {longest})));
+        for (const TextKey reason : {advice.fresh.reasonKey, advice.marine.reasonKey})
+            height = std::max(height, heightOf(m_title, titleText(longest)) + 4 +
+                                          heightOf(m_reason, fillPlaceholders(text(reason), {longest})));
     }
     m_title->setMinimumWidth(width);
     m_reason->setMinimumWidth(width);
