@@ -43,6 +43,16 @@
         <translation>Alkalinität</translation>
     </message>
     <message>
+        <source>AlkalinityHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Geben Sie keinen Puffer und kein Kalkwasser mehr zu. Über etwa 12 °dKH (4,3 mmol/l) beginnt Calcium als Kalk auszufallen, und Korallen verlieren Gewebe an ihren Spitzen, wenn Nitrat und Phosphat niedrig sind.</translation>
+    </message>
+    <message>
+        <source>AlkalinityLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Riffbecken hält man gewöhnlich bei 7 bis 11 °dKH (2,5 bis 4 mmol/l). Ist Magnesium niedrig, heben Sie es zuerst, denn ohne Magnesium hält sich die Alkalinität nicht. Geben Sie Puffer nie zusammen mit Calcium zu: Beide fallen als Kalk aus.</translation>
+    </message>
+    <message>
         <source>AllFilesFilter</source>
         <extracomment>Kind of file in the open and save dialogs; the pattern in brackets stays as it is.</extracomment>
         <translation>Alle Dateien (*)</translation>
@@ -57,6 +67,21 @@
         <translation>0.1</translation>
     </message>
     <message>
+        <source>AmmoniaHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Unter pH 7 ist fast alles davon Ammonium, das weit weniger schadet, und jede pH-Stufe macht daraus etwa zehnmal so viel Ammoniak. Würde das neue Wasser einen so niedrigen pH-Wert heben, wechseln Sie jeweils nur ein Zehntel.</translation>
+    </message>
+    <message>
+        <source>AmmoniaHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Bei pH 8,2, wie in einem Riffbecken, ist davon etwa zehnmal so viel giftig wie bei pH 7. Verwenden Sie Salzwasser gleicher Salinität, das vorher angesetzt und belüftet wurde, und suchen Sie zwischen den Steinen nach toten Tieren.</translation>
+    </message>
+    <message>
+        <source>AmmoniaLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Zu niedrig ist kein Mangel: Ein Becken mit Tieren soll kein Ammoniak zeigen. Geben Sie keines zu und setzen Sie den Zielwert auf 0. Zugegeben wird Ammoniak nur, um einen Filter einzufahren, solange noch keine Tiere im Becken sind.</translation>
+    </message>
+    <message>
         <source>AmmoniaSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated ammonia in sea water, mg/l.</extracomment>
         <translation>0.1</translation>
@@ -66,11 +91,11 @@
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Ammoniak verätzt die Kiemen. Jede nachweisbare Menge ist eine Gefahr, und je höher pH-Wert und Temperatur, desto mehr davon ist giftig. Heben Sie den pH-Wert niemals an, solange Ammoniak nachweisbar ist.
+Ammoniak verätzt die Kiemen, und je höher pH-Wert und Temperatur, desto mehr davon ist giftig. Heben Sie den pH-Wert niemals an, solange ein Test Ammoniak anzeigt.
 
-Ersetzen Sie jetzt ein Drittel bis die Hälfte des Wassers durch aufbereitetes Wasser gleicher Temperatur und möglichst ohne höheren pH-Wert. Füttern Sie ein bis zwei Tage nicht, entfernen Sie tote Tiere und faulende Pflanzen und belüften Sie kräftig.
+Zu hoch: Ersetzen Sie jetzt ein Drittel bis die Hälfte des Wassers durch aufbereitetes Wasser gleicher Temperatur und möglichst ohne höheren pH-Wert. Füttern Sie ein bis zwei Tage nicht, entfernen Sie tote Tiere und faulende Pflanzen und belüften Sie kräftig.
 
-Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist. Prüfen Sie bis dahin, ob der Filter läuft, spülen Sie sein Material nur in Aquarienwasser und setzen Sie keine Tiere ein.</translation>
+Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im Rahmen liegt. Prüfen Sie bis dahin, ob der Filter läuft, spülen Sie sein Material nur in Aquarienwasser und setzen Sie keine Tiere ein.</translation>
     </message>
     <message>
         <source>Analyze</source>
@@ -98,6 +123,16 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     <message>
         <source>Calcium</source>
         <translation>Calcium</translation>
+    </message>
+    <message>
+        <source>CalciumHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Prüfen Sie zuerst die Salinität, denn Calcium steigt mit ihr. Geben Sie keines mehr zu, und lassen Sie den Wert durch Korallen und gewöhnliche Wasserwechsel sinken. Über etwa 500 mg/l fällt es als Kalk aus und nimmt Alkalinität mit.</translation>
+    </message>
+    <message>
+        <source>CalciumLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Riffbecken hält man gewöhnlich bei 400 bis 450 mg/l. Prüfen Sie zuerst Salinität, Magnesium und Alkalinität: Ist Magnesium niedrig, fällt Calcium als Kalk aus. Geben Sie ein gelöstes Calciumsalz zu, höchstens 20 mg/l Calcium am Tag und nie zusammen mit einem Karbonatpuffer.</translation>
     </message>
     <message>
         <source>CalendarChosenDay</source>
@@ -437,6 +472,21 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>Kupfer</translation>
     </message>
     <message>
+        <source>CopperHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>Sofort, falls Sie nicht Fische mit Kupfer behandeln: Wechseln Sie ein Drittel bis die Hälfte des Wassers gegen Wasser, das selbst kein Kupfer enthält, filtern Sie über frische Aktivkohle, und setzen Sie jedes kupferhaltige Mittel ab. Wenige Hundertstel mg/l töten Wirbellose und schaden in weichem Wasser auch Fischen. In einem Quarantänebecken wechseln Sie nur so viel, dass der Wert in den Bereich des Mittels zurückkehrt.</translation>
+    </message>
+    <message>
+        <source>CopperHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>Sofort, falls Sie nicht Fische mit Kupfer behandeln: Wechseln Sie ein Drittel bis die Hälfte des Wassers gegen Wasser, das selbst kein Kupfer enthält, filtern Sie über frische Aktivkohle, und setzen Sie jedes kupferhaltige Mittel ab. Wenige Hundertstel mg/l töten Korallen und andere Wirbellose, und Gestein und Sand geben Kupfer später wieder ab. In einem Quarantänebecken wechseln Sie nur so viel, dass der Wert in den Bereich des Mittels zurückkehrt.</translation>
+    </message>
+    <message>
+        <source>CopperLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Nur Fische, die in einem Quarantänebecken behandelt werden, brauchen Kupfer; unter dem Bereich des Mittels leben die Parasiten weiter. Geben Sie dort nach Anweisung des Herstellers in kleinen Mengen nach, testen Sie vor jeder Gabe, und entfernen Sie Kohle, Sand und Gestein, die es binden. In jedem anderen Becken geben Sie keines zu, denn Kupfer tötet Wirbellose, und setzen den Zielwert auf 0.</translation>
+    </message>
+    <message>
         <source>CoralBreedingMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
         <translation>Unbekannt, Leicht, Mittel, Schwierig, Noch nicht gelungen</translation>
@@ -526,6 +576,26 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     <message>
         <source>DeviationToolTip</source>
         <translation>Wie weit ein Wert über oder unter dem Ziel liegen darf</translation>
+    </message>
+    <message>
+        <source>DioxideHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>Sofort: Stellen Sie die Kohlendioxidzufuhr ab und belüften Sie kräftig, bis die Fische ruhig atmen. Über etwa 30 mg/l leiden viele Fische. Prüfen Sie dann Ventil und Zeitschaltuhr, und beginnen Sie mit geringerer Zufuhr von Neuem.</translation>
+    </message>
+    <message>
+        <source>DioxideHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>Sofort: Belüften Sie kräftig, lüften Sie den Raum und stellen Sie ab, was Kohlendioxid abgibt, etwa einen Kalkreaktor. Über etwa 30 mg/l leiden viele Fische. Prüfen Sie dann, ob Pumpen und Abschäumer laufen und Luft an die Oberfläche kommt.</translation>
+    </message>
+    <message>
+        <source>DioxideLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Tiere brauchen kein Kohlendioxid; ohne Pflanzen schalten Sie die Warnung dieses Zielwerts aus. Für Pflanzen erhöhen Sie die Zufuhr alle paar Tage ein wenig, bleiben unter etwa 30 mg/l und achten darauf, dass die Fische ruhig atmen. Der pH-Wert sinkt, wenn der Wert steigt.</translation>
+    </message>
+    <message>
+        <source>DioxideLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Hier ist nichts zu tun: Die Tiere des Salzwassers brauchen kein Kohlendioxid. Schalten Sie die Warnung dieses Zielwerts aus.</translation>
     </message>
     <message>
         <source>DisplayWarningCheckboxLabel</source>
@@ -839,6 +909,11 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>GH</translation>
     </message>
     <message>
+        <source>GHSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Salzwasser hat eine Gesamthärte von mehr als 300 Grad, weit mehr, als diese Tests messen können. Testen Sie stattdessen Calcium und Magnesium, und schalten Sie die Warnung dieses Zielwerts aus.</translation>
+    </message>
+    <message>
         <source>Graph</source>
         <translation>Diagramm …</translation>
     </message>
@@ -995,6 +1070,16 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>Tiere und Pflanzen: </translation>
     </message>
     <message>
+        <source>HardnessHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Calcium und Magnesium bilden zusammen die Gesamthärte (GH). Ersetzen Sie täglich ein Zehntel des Wassers durch eine Mischung mit Umkehrosmose- oder destilliertem Wasser, und suchen Sie nach Kalkstein, Muscheln oder Korallensand im Becken. Ein Enthärter im Haus ersetzt die Härte nur durch Natrium.</translation>
+    </message>
+    <message>
+        <source>HardnessLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Calcium und Magnesium bilden zusammen die Gesamthärte (GH). Heben Sie sie um etwa 1 Grad am Tag mit einem zuvor gelösten Mineralsalz aus beiden oder mit härterem Wasser; Kochsalz hebt sie nicht. Härteres Wasser hebt oft auch KH und pH-Wert, testen Sie deshalb vorher Ammoniak.</translation>
+    </message>
+    <message>
         <source>HelpBack</source>
         <translation>Zurück</translation>
     </message>
@@ -1128,13 +1213,63 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>Jod</translation>
     </message>
     <message>
+        <source>IodineHighAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Geben Sie kein Jod mehr zu. Wechseln Sie täglich ein Zehntel bis ein Fünftel des Wassers, und filtern Sie über frische Aktivkohle, die Jod bindet. Auch manche Heil- und Desinfektionsmittel enthalten es.</translation>
+    </message>
+    <message>
+        <source>IodineLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Im Süßwasser bekommen Tiere mit dem Futter genug Jod. Geben Sie keines zu, und schalten Sie die Warnung dieses Zielwerts aus.</translation>
+    </message>
+    <message>
+        <source>IodineLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Das Meer enthält etwa 0,06 mg/l, und wenig mehr ist für viele Tiere schon giftig. Geben Sie Jod nur nach Test zu, in kleineren Mengen, als der Hersteller erlaubt, und streben Sie nie mehr als diesen Wert an.</translation>
+    </message>
+    <message>
         <source>Iron</source>
         <translation>Eisen</translation>
+    </message>
+    <message>
+        <source>IronHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Geben Sie eine Weile keinen Eisendünger, wechseln Sie ein Zehntel bis ein Fünftel des Wassers, und testen Sie das Leitungswasser. Mehr als etwa 0,5 mg/l nähren nur Algen.</translation>
+    </message>
+    <message>
+        <source>IronHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Geben Sie kein Eisen mehr zu, und suchen Sie nach Rost an Pumpen, Magneten, Klemmen und Schrauben, die das Wasser berühren. Wechseln Sie ein Zehntel bis ein Fünftel des Wassers.</translation>
+    </message>
+    <message>
+        <source>IronLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Tiere brauchen kein Eisen im Wasser. Werden die jüngsten Blätter der Pflanzen blass, geben Sie Eisendünger in kleinen Gaben; 0,1 mg/l sind reichlich.</translation>
+    </message>
+    <message>
+        <source>IronLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Salzwasser enthält weniger Eisen, als diese Tests messen können, und Futter bringt genug davon mit. Geben Sie nach einem niedrigen Test keines zu, und setzen Sie den Zielwert auf 0.</translation>
     </message>
     <message>
         <source>KH</source>
         <extracomment>Carbonate hardness; the column is 40 pixels wide.</extracomment>
         <translation>KH</translation>
+    </message>
+    <message>
+        <source>KHHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Ersetzen Sie täglich ein Zehntel des Wassers durch eine Mischung mit Umkehrosmose- oder destilliertem Wasser, und suchen Sie nach Kalkstein, Muscheln oder Korallensand im Becken. Gießen Sie niemals Säure hinein: Sie verwandelt die Härte schlagartig in Kohlendioxid, und zu viel davon lässt den pH-Wert abstürzen.</translation>
+    </message>
+    <message>
+        <source>KHLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Testen Sie Ammoniak, bevor Sie den Wert heben: Der pH-Wert steigt mit der KH, und von pH 6 auf 7 wird zehnmal so viel Ammonium zu Ammoniak. Solange ein Test welches zeigt, wechseln Sie zuerst täglich ein Zehntel mit Wasser von etwa gleichem pH-Wert. Heben Sie die KH dann um höchstens 1 Grad am Tag: Dazu braucht es 3 Gramm Natriumhydrogencarbonat auf 100 Liter, in Wasser gelöst.</translation>
+    </message>
+    <message>
+        <source>KHLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>In Salzwasser ist das die Alkalinität. Heben Sie sie mit einem gelösten Puffer für Riffbecken um höchstens 1 Grad am Tag, und testen Sie auch Calcium und Magnesium. Solange ein Test Ammoniak zeigt, warten Sie damit, denn ein Puffer hebt den pH-Wert.</translation>
     </message>
     <message>
         <source>LengthMenu</source>
@@ -1158,6 +1293,16 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     <message>
         <source>Magnesium</source>
         <translation>Magnesium</translation>
+    </message>
+    <message>
+        <source>MagnesiumHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Prüfen Sie zuerst die Salinität, denn Magnesium steigt mit ihr. Geben Sie keines mehr zu, und lassen Sie den Wert durch gewöhnliche Wasserwechsel sinken; bis etwa 1500 mg/l eilt es nicht.</translation>
+    </message>
+    <message>
+        <source>MagnesiumLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Riffbecken hält man gewöhnlich bei 1250 bis 1400 mg/l. Prüfen Sie zuerst die Salinität, denn Magnesium sinkt mit ihr. Heben Sie Magnesium mit einem gelösten Salz um höchstens 50 mg/l am Tag, bevor Sie Calcium oder Alkalinität korrigieren, die sich ohne Magnesium nicht halten.</translation>
     </message>
     <message>
         <source>MainViewTitle</source>
@@ -1434,6 +1579,26 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>40</translation>
     </message>
     <message>
+        <source>NitrateHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Gibt Ihr Test Stickstoff an (NO₃-N), multiplizieren Sie seinen Wert mit 4,4, um Nitrat zu erhalten, und vergleichen Sie das mit dem Zielwert.</translation>
+    </message>
+    <message>
+        <source>NitrateHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Korallen und andere Wirbellose vertragen weniger als Fische, etwa 20 mg/l. Gibt Ihr Test Stickstoff an (NO₃-N), multiplizieren Sie seinen Wert mit 4,4, um Nitrat zu erhalten, und vergleichen Sie das mit dem Zielwert.</translation>
+    </message>
+    <message>
+        <source>NitrateLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Fische brauchen kein Nitrat. Pflanzen gedeihen gewöhnlich bei 10 bis 20 mg/l; in einem Becken ohne Pflanzen setzen Sie den Zielwert auf 0.</translation>
+    </message>
+    <message>
+        <source>NitrateLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Fische brauchen kein Nitrat, aber Korallen hungern, wenn Nitrat und Phosphat beide null sind. Üblich sind im Riffbecken 2 bis 10 mg/l.</translation>
+    </message>
+    <message>
         <source>NitrateSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrate in sea water, mg/l.</extracomment>
         <translation>20</translation>
@@ -1443,9 +1608,9 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrat ist, was von Futter und Ausscheidungen bleibt, wenn der Filter seine Arbeit getan hat. Es schadet langsam, Sie haben also Zeit: Wechseln Sie jetzt und dann alle paar Tage ein Fünftel bis ein Drittel des Wassers, bis der Wert im Rahmen liegt. Wechseln Sie nicht alles auf einmal, denn Tiere, die an viel Nitrat gewöhnt sind, vertragen ein plötzliches Absinken schlecht. Testen Sie auch das Leitungswasser, es kann selbst Nitrat enthalten.
+Nitrat ist, was von Futter und Ausscheidungen bleibt, wenn der Filter seine Arbeit getan hat. Es wirkt langsam, Sie haben also Zeit.
 
-Damit der Wert niedrig bleibt: weniger füttern, den Boden reinigen, den Filter in Aquarienwasser ausspülen, den Besatz gering halten und Pflanzen wachsen lassen, im Meerwasser Makroalgen bei guter Abschäumung.
+Zu hoch: Wechseln Sie jetzt und dann alle paar Tage ein Fünftel bis ein Drittel des Wassers, bis der Wert im Rahmen liegt, aber nie alles auf einmal, denn an viel Nitrat gewöhnte Tiere vertragen ein plötzliches Absinken schlecht. Testen Sie auch das Leitungswasser. Damit der Wert niedrig bleibt: weniger füttern, den Boden reinigen, den Filter in Aquarienwasser ausspülen, wenige Tiere halten und Pflanzen wachsen lassen, im Meerwasser Makroalgen bei guter Abschäumung.
 
 Zu niedrig für Pflanzen oder Korallen: etwas mehr füttern oder einen Nitratdünger in kleinen Mengen zugeben und vor jeder Gabe testen.</translation>
     </message>
@@ -1459,6 +1624,21 @@ Zu niedrig für Pflanzen oder Korallen: etwas mehr füttern oder einen Nitratdü
         <translation>0.1</translation>
     </message>
     <message>
+        <source>NitriteHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>Sofort: Ersetzen Sie ein Drittel bis die Hälfte des Wassers durch aufbereitetes Wasser gleicher Temperatur, und das täglich, bis der Wert im Rahmen liegt, denn Nitrit hindert das Blut am Sauerstofftransport. Chlorid schützt Fische: Fast alle, und die meisten Pflanzen, vertragen etwa 1 Gramm reines Salz (Natriumchlorid ohne Zusätze) auf 10 Liter, in Aquarienwasser gelöst und über mehrere Stunden zugegeben.</translation>
+    </message>
+    <message>
+        <source>NitriteHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Salzwasser enthält etwa 19 g/l Chlorid, das Nitrit von den Kiemen fernhält: Fische vertragen ein Vielfaches dessen, was ihnen im Süßwasser schaden würde. Nitrit allein verlangt hier keinen großen Wasserwechsel. Warten Sie auf den Filter, und handeln Sie, wenn ein Test Ammoniak zeigt.</translation>
+    </message>
+    <message>
+        <source>NitriteLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Zu niedrig ist kein Mangel: Ein eingefahrenes Becken zeigt kein Nitrit. Geben Sie keines zu und setzen Sie den Zielwert auf 0.</translation>
+    </message>
+    <message>
         <source>NitriteSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrite in sea water, mg/l.</extracomment>
         <translation>0.5</translation>
@@ -1468,11 +1648,9 @@ Zu niedrig für Pflanzen oder Korallen: etwas mehr füttern oder einen Nitratdü
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Die Bakterien des Filters kommen nicht nach, wie oft in einem neuen Becken. Nitrit hindert das Blut daran, Sauerstoff zu transportieren; handeln Sie deshalb noch heute: Ersetzen Sie ein Drittel bis die Hälfte des Wassers durch aufbereitetes Wasser gleicher Temperatur, füttern Sie ein bis zwei Tage nicht und belüften Sie kräftig.
+Beginnt der letzte Absatz mit „Sofort“, tun Sie das zuerst. Nitrit im Wasser zeigt, dass die Bakterien des Filters nicht nachkommen, wie oft in einem neuen Becken. Testen Sie auch Ammoniak, das gefährlicher ist.
 
-Im Süßwasser schützt Chlorid die Fische vor Nitrit: Etwa 1 Gramm reines Salz (Natriumchlorid ohne Zusätze) auf 10 Liter, in Aquarienwasser gelöst und über mehrere Stunden zugegeben, vertragen fast alle Fische und Pflanzen. Meerwasser enthält bereits genug Chlorid.
-
-Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist. Setzen Sie bis dahin keine Tiere ein und spülen Sie Filtermaterial nur in Aquarienwasser.</translation>
+Bis der Wert im Rahmen liegt, testen Sie täglich, füttern wenig, belüften kräftig, setzen keine Tiere ein und spülen Filtermaterial nur in Aquarienwasser.</translation>
     </message>
     <message>
         <source>NoBrowserMessage</source>
@@ -1609,6 +1787,16 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
         <translation>Sauerstoff</translation>
     </message>
     <message>
+        <source>OxygenHighAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>In hellem Licht heben Pflanzen und Algen den Wert über das, was Luft allein geben kann: etwa 8 mg/l in warmem Süßwasser und 7 mg/l in warmem Salzwasser. Das ist harmlos. Bleiben kleine Blasen an den Tieren, suchen Sie nach einer Pumpe, die Luft ansaugt, und bewegen Sie die Oberfläche.</translation>
+    </message>
+    <message>
+        <source>OxygenLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>Sofort: Belüften Sie kräftig, lassen Sie den Filter die Oberfläche bewegen und stellen Sie jede Kohlendioxidzufuhr ab. Unter 5 mg/l leiden Jungfische, unter 3 mg/l auch ausgewachsene. Füttern Sie dann einen Tag nicht, entfernen Sie Totes und Faulendes und kühlen Sie zu warmes Wasser langsam. Testen Sie wieder am frühen Morgen, wenn der Sauerstoff am niedrigsten ist.</translation>
+    </message>
+    <message>
         <source>OxygenShort</source>
         <extracomment>Column title: keep it short.</extracomment>
         <translation>O₂</translation>
@@ -1616,6 +1804,26 @@ Testen Sie täglich und wiederholen Sie den Wasserwechsel, bis der Wert null ist
     <message>
         <source>Ph</source>
         <translation>pH</translation>
+    </message>
+    <message>
+        <source>PhHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Pflanzen verbrauchen Kohlendioxid und heben tagsüber den pH-Wert; vergleichen Sie also Tests der gleichen Stunde. Zeigt ein Test Ammoniak, behandeln Sie das zuerst: Ein Teil von 19 ist giftig bei pH 8, einer von 180 bei pH 7.</translation>
+    </message>
+    <message>
+        <source>PhHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Über etwa pH 8,6 geben Sie kein Kalkwasser und keinen Puffer mehr zu und belüften: Kohlendioxid aus der Luft senkt den pH-Wert. Zeigt ein Test Ammoniak, behandeln Sie das zuerst.</translation>
+    </message>
+    <message>
+        <source>PhLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Unter etwa pH 6 arbeiten die Filterbakterien kaum, und Ammonium kann sich unbemerkt angesammelt haben. Testen Sie vor jedem Wasserwechsel oder Puffer Ammoniak: Von pH 6 auf 7 wird zehnmal so viel davon giftig.</translation>
+    </message>
+    <message>
+        <source>PhLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>In einem Riffbecken ist der pH-Wert am frühen Morgen am niedrigsten; vergleichen Sie also Tests der gleichen Stunde. Lüften Sie den Raum, testen Sie dann die Alkalinität, und puffern Sie nur, wenn auch sie niedrig ist.</translation>
     </message>
     <message>
         <source>PhTreatment</source>
@@ -1631,6 +1839,26 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>Phosphate</source>
         <translation>Phosphat</translation>
+    </message>
+    <message>
+        <source>PhosphateHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Phosphat schadet Tieren kaum, nährt aber Algen. Füttern Sie weniger, wechseln Sie jeweils ein Zehntel bis ein Fünftel des Wassers, testen Sie das Leitungswasser, und verwenden Sie einen Phosphatentferner, wenn das nicht reicht. Gibt Ihr Test Phosphor an (PO₄-P), multiplizieren Sie seinen Wert mit 3,1, um Phosphat zu erhalten.</translation>
+    </message>
+    <message>
+        <source>PhosphateHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Über etwa 0,1 mg/l wachsen Korallen langsamer. Füttern Sie weniger, und verwenden Sie einen Phosphatentferner in kleinen Mengen: Ein plötzliches Absinken schadet Korallen mehr als der Wert selbst. Gibt Ihr Test Phosphor an (PO₄-P), multiplizieren Sie seinen Wert mit 3,1, um Phosphat zu erhalten.</translation>
+    </message>
+    <message>
+        <source>PhosphateLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Tiere brauchen kein Phosphat im Wasser. Pflanzen gedeihen bei 0,1 bis 1 mg/l, aus Dünger in kleinen Gaben; in einem Becken ohne Pflanzen setzen Sie den Zielwert auf 0.</translation>
+    </message>
+    <message>
+        <source>PhosphateLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Korallen brauchen eine Spur, gewöhnlich 0,02 bis 0,1 mg/l. Nehmen Sie etwas vom Phosphatentferner heraus, oder füttern Sie ein wenig mehr.</translation>
     </message>
     <message>
         <source>PictureChoose</source>
@@ -1778,6 +2006,16 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>Salinity</source>
         <translation>Salinität</translation>
+    </message>
+    <message>
+        <source>SaltHighAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Ersetzen Sie Beckenwasser in mehreren kleinen Mengen durch aufbereitetes Süßwasser, sodass die relative Dichte um höchstens 0,001 am Tag sinkt. Füllen Sie Verdunstetes nur mit Süßwasser nach, denn das Salz bleibt zurück.</translation>
+    </message>
+    <message>
+        <source>SaltLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Geben Sie niemals trockenes Salz ins Becken, denn es verätzt die Tiere, die es berührt. Lösen Sie es vorher in anderem Wasser, und gießen Sie dieses in mehreren kleinen Mengen langsam hinein, sodass die relative Dichte um höchstens 0,001 am Tag steigt.</translation>
     </message>
     <message>
         <source>SaveErrorMessage</source>
@@ -2270,13 +2508,9 @@ Zu hoch: nichts mehr zugeben und den Wert durch Verbrauch und gewöhnliche Wasse
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Ein einzelner Test kann falsch sein: Wiederholen Sie ihn, bevor Sie eingreifen, und prüfen Sie, ob Test und Zielwert dieselbe Einheit haben. Ändern Sie den Wert dann langsam, die Härte um etwa 1 Grad am Tag, die Salinität um höchstens 0,001 der relativen Dichte am Tag.
+Beginnt der letzte Absatz mit „Sofort“, tun Sie das zuerst. In allen anderen Fällen ist Zeit: Wiederholen Sie den Test, denn ein einzelnes Ergebnis kann falsch sein, und prüfen Sie, ob Test und Zielwert dieselbe Einheit haben.
 
-Zu hoch: täglich ein Zehntel bis ein Fünftel des Wassers durch Wasser mit bekannten Werten ersetzen und die Ursache suchen, etwa Futter, Leitungswasser oder Zusätze. Bei der Salinität Verdunstetes nur mit Süßwasser nachfüllen.
-
-Zu niedrig: das Fehlende in kleinen Mengen nach Anweisung des Herstellers zugeben und vor jeder Gabe testen.
-
-Zwei Fälle dulden keinen Aufschub. Bei zu wenig Sauerstoff oder zu viel Kohlendioxid sofort kräftig belüften und die Kohlendioxidzufuhr abstellen. Kupfer tötet Wirbellose schon in Spuren: ein Drittel bis die Hälfte des Wassers wechseln, über frische Aktivkohle filtern und jedes kupferhaltige Mittel absetzen.</translation>
+Suchen Sie dann die Ursache, etwa Leitungswasser, Verdunstung, Futter, Zusätze oder ein Heilmittel. In der Regel führen Sie den Wert in kleinen Schritten über Tage zurück und testen vor jedem Schritt.</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,16 @@
         <translation>Alkalinity</translation>
     </message>
     <message>
+        <source>AlkalinityHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Stop dosing buffers and limewater. Above about 12 dKH (4.3 meq/l) calcium begins to fall out as lime, and corals lose tissue at their tips if nitrate and phosphate are low.</translation>
+    </message>
+    <message>
+        <source>AlkalinityLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Reef tanks are usually kept at 7 to 11 dKH (2.5 to 4 meq/l). If magnesium is low, raise that first, because alkalinity does not hold without it. Never add a buffer together with calcium: the two fall out as lime.</translation>
+    </message>
+    <message>
         <source>AllFilesFilter</source>
         <extracomment>Kind of file in the open and save dialogs; the pattern in brackets stays as it is.</extracomment>
         <translation>All files (*)</translation>
@@ -57,6 +67,21 @@
         <translation>0.1</translation>
     </message>
     <message>
+        <source>AmmoniaHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Below pH 7 nearly all of it is ammonium, which does far less harm, and each step of pH makes about ten times as much ammonia of it. If the new water would raise such a low pH, change only a tenth of the water at a time.</translation>
+    </message>
+    <message>
+        <source>AmmoniaHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>At pH 8.2, as in a reef tank, about ten times as much of it is toxic as at pH 7. Use salt water of the same salinity that was mixed and aerated beforehand, and look for animals that died among the rocks.</translation>
+    </message>
+    <message>
+        <source>AmmoniaLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Too low is no fault: a tank with animals should show no ammonia. Add none, and set the target to 0. Ammonia is added only to start a filter while the tank has no animals yet.</translation>
+    </message>
+    <message>
         <source>AmmoniaSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated ammonia in sea water, mg/l.</extracomment>
         <translation>0.1</translation>
@@ -66,11 +91,11 @@
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Ammonia burns the gills. Any amount that a test can show is a danger, and the higher the pH and the temperature, the more of it is toxic. Never raise the pH while ammonia is present.
+Ammonia burns the gills, and the higher the pH and the temperature, the more of it is toxic. Never raise the pH while a test shows any.
 
-Replace a third to a half of the water now with conditioned water of the same temperature and, if you can, of no higher pH. Stop feeding for a day or two, take out dead animals and rotting plants, and aerate strongly.
+Too high: replace a third to a half of the water now with conditioned water of the same temperature and, if you can, of no higher pH. Stop feeding for a day or two, take out dead animals and rotting plants, and aerate strongly.
 
-Test every day and repeat the water change until the value is zero. Meanwhile see that the filter runs, rinse its media only in tank water, and add no animals.</translation>
+Then test every day and repeat the water change until the value is in range. Meanwhile see that the filter runs, rinse its media only in tank water, and add no animals.</translation>
     </message>
     <message>
         <source>Analyze</source>
@@ -98,6 +123,16 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
     <message>
         <source>Calcium</source>
         <translation>Calcium</translation>
+    </message>
+    <message>
+        <source>CalciumHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Check the salinity first, because calcium rises with it. Stop dosing, and let corals and ordinary water changes bring the value down. Above about 500 mg/l it falls out as lime and takes alkalinity with it.</translation>
+    </message>
+    <message>
+        <source>CalciumLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Reef tanks are usually kept at 400 to 450 mg/l. Check salinity, magnesium and alkalinity first: if magnesium is low, calcium falls out as lime. Add a dissolved calcium salt, at most 20 mg/l of calcium a day, and never together with a carbonate buffer.</translation>
     </message>
     <message>
         <source>CalendarChosenDay</source>
@@ -437,6 +472,21 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>Copper</translation>
     </message>
     <message>
+        <source>CopperHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>At once, unless you are treating fish with copper: change a third to a half of the water, using water that has no copper itself, filter over fresh activated carbon, and stop every remedy that holds copper. A few hundredths of a mg/l kill invertebrates, and in soft water harm fish too. In a hospital tank change only enough water to come back into the remedy’s range.</translation>
+    </message>
+    <message>
+        <source>CopperHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>At once, unless you are treating fish with copper: change a third to a half of the water, using water that has no copper itself, filter over fresh activated carbon, and stop every remedy that holds copper. A few hundredths of a mg/l kill corals and other invertebrates, and rock and sand give copper off again later. In a hospital tank change only enough water to come back into the remedy’s range.</translation>
+    </message>
+    <message>
+        <source>CopperLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Only fish under treatment in a hospital tank need copper; below the remedy’s range the parasites live on. Add more of it there as its maker directs, in small portions, testing before each one, and take out carbon, sand and rock, which bind it. In any other tank add none, because copper kills invertebrates, and set the target to 0.</translation>
+    </message>
+    <message>
         <source>CoralBreedingMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. How hard it is to breed, from 0 (unknown); profiles refer to the items by their number. Two letters or more each.</extracomment>
         <translation>Unknown, Easy, Moderate, Difficult, Not yet propagated</translation>
@@ -526,6 +576,26 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
     <message>
         <source>DeviationToolTip</source>
         <translation>How far a value may lie above or below the target</translation>
+    </message>
+    <message>
+        <source>DioxideHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>At once: turn off the carbon dioxide supply and aerate strongly until the fish breathe calmly. Above about 30 mg/l many fish suffer. Then check valve and timer, and start again with a lower supply.</translation>
+    </message>
+    <message>
+        <source>DioxideHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>At once: aerate strongly, air the room, and turn off what gives carbon dioxide, such as a calcium reactor. Above about 30 mg/l many fish suffer. Then see that pumps and skimmer run and that air reaches the surface.</translation>
+    </message>
+    <message>
+        <source>DioxideLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Animals need no carbon dioxide; without plants switch off the warning of this target. For plants raise the supply a little every few days, stay below about 30 mg/l, and watch whether the fish breathe calmly. The pH falls as the value rises.</translation>
+    </message>
+    <message>
+        <source>DioxideLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>There is nothing to do: the animals of salt water need no carbon dioxide. Switch off the warning of this target.</translation>
     </message>
     <message>
         <source>DisplayWarningCheckboxLabel</source>
@@ -839,6 +909,11 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>GH</translation>
     </message>
     <message>
+        <source>GHSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Salt water has a general hardness of more than 300 degrees, far beyond what these kits can measure. Test calcium and magnesium instead, and switch off the warning of this target.</translation>
+    </message>
+    <message>
         <source>Graph</source>
         <translation>Graph…</translation>
     </message>
@@ -995,6 +1070,16 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>Specimens: </translation>
     </message>
     <message>
+        <source>HardnessHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Calcium and magnesium together make up the general hardness (GH). Each day replace a tenth of the water with a mixture that contains reverse-osmosis or distilled water, and look for limestone, shells or coral sand in the tank. A household softener only puts sodium in place of the hardness.</translation>
+    </message>
+    <message>
+        <source>HardnessLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Calcium and magnesium together make up the general hardness (GH). Raise it by about 1 degree a day with a mineral salt of both, dissolved first, or with harder water; table salt does not raise it. Harder water often raises KH and pH too, so test for ammonia before you use it.</translation>
+    </message>
+    <message>
         <source>HelpBack</source>
         <translation>Back</translation>
     </message>
@@ -1128,13 +1213,63 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>Iodine</translation>
     </message>
     <message>
+        <source>IodineHighAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Add no more iodine. Change a tenth to a fifth of the water a day, and filter over fresh activated carbon, which takes iodine up. Some remedies and disinfectants contain it too.</translation>
+    </message>
+    <message>
+        <source>IodineLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>In fresh water, animals get enough iodine with their food. Add none, and switch off the warning of this target.</translation>
+    </message>
+    <message>
+        <source>IodineLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>The sea contains about 0.06 mg/l, and a little more is already toxic to many animals. Add iodine only by the test, in smaller doses than its maker allows, and never aim higher than this value.</translation>
+    </message>
+    <message>
         <source>Iron</source>
         <translation>Iron</translation>
+    </message>
+    <message>
+        <source>IronHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Give no plant food with iron for a while, change a tenth to a fifth of the water, and test the tap water. More than about 0.5 mg/l only feeds algae.</translation>
+    </message>
+    <message>
+        <source>IronHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Add no more iron, and look for rust on pumps, magnets, clamps and screws that touch the water. Change a tenth to a fifth of the water.</translation>
+    </message>
+    <message>
+        <source>IronLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Animals need no iron in the water. If the youngest leaves of the plants turn pale, give plant food with iron in small doses; 0.1 mg/l is plenty.</translation>
+    </message>
+    <message>
+        <source>IronLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Salt water holds less iron than these kits can measure, and food brings enough of it. Add none because of a low test, and set the target to 0.</translation>
     </message>
     <message>
         <source>KH</source>
         <extracomment>Carbonate hardness; the column is 40 pixels wide.</extracomment>
         <translation>KH</translation>
+    </message>
+    <message>
+        <source>KHHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Each day replace a tenth of the water with a mixture that contains reverse-osmosis or distilled water, and look for limestone, shells or coral sand in the tank. Never pour in acid: it turns the hardness into carbon dioxide at once, and too much of it makes the pH collapse.</translation>
+    </message>
+    <message>
+        <source>KHLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Test for ammonia before you raise it: the pH rises with the KH, and from pH 6 to 7 ten times as much ammonium becomes ammonia. While a test shows any, first change a tenth of the water a day with water of about the same pH. Then raise the KH by at most 1 degree a day: that takes 3 grams of sodium bicarbonate to 100 litres, dissolved in water.</translation>
+    </message>
+    <message>
+        <source>KHLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>In salt water this is the alkalinity. Raise it with a dissolved buffer for reef tanks by at most 1 degree a day, and test calcium and magnesium too. While a test shows ammonia, wait, because a buffer raises the pH.</translation>
     </message>
     <message>
         <source>LengthMenu</source>
@@ -1158,6 +1293,16 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
     <message>
         <source>Magnesium</source>
         <translation>Magnesium</translation>
+    </message>
+    <message>
+        <source>MagnesiumHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Check the salinity first, because magnesium rises with it. Stop dosing, and let ordinary water changes bring the value down; up to about 1500 mg/l there is no hurry.</translation>
+    </message>
+    <message>
+        <source>MagnesiumLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Reef tanks are usually kept at 1250 to 1400 mg/l. Check the salinity first, because magnesium falls with it. Raise magnesium with a dissolved salt by at most 50 mg/l a day, before you correct calcium or alkalinity, which do not hold without it.</translation>
     </message>
     <message>
         <source>MainViewTitle</source>
@@ -1434,6 +1579,26 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <translation>40</translation>
     </message>
     <message>
+        <source>NitrateHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>If your kit states nitrogen (NO₃-N), multiply its value by 4.4 to get nitrate, and compare that with the target.</translation>
+    </message>
+    <message>
+        <source>NitrateHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Corals and other invertebrates bear less than fish, about 20 mg/l. If your kit states nitrogen (NO₃-N), multiply its value by 4.4 to get nitrate, and compare that with the target.</translation>
+    </message>
+    <message>
+        <source>NitrateLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Fish need no nitrate. Plants usually do well with 10 to 20 mg/l; in a tank without plants set the target to 0.</translation>
+    </message>
+    <message>
+        <source>NitrateLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Fish need no nitrate, but corals starve when both nitrate and phosphate are at zero. From 2 to 10 mg/l is usual in a reef tank.</translation>
+    </message>
+    <message>
         <source>NitrateSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrate in sea water, mg/l.</extracomment>
         <translation>20</translation>
@@ -1443,9 +1608,9 @@ Test every day and repeat the water change until the value is zero. Meanwhile se
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrate is what remains of food and waste when the filter has done its work. It harms slowly, so there is time: change a fifth to a third of the water now and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it.
+Nitrate is what remains of food and waste when the filter has done its work. Its effect is slow, so there is time.
 
-To keep it down, feed less, clean the bottom, rinse the filter in tank water, stock lightly and grow plants, or in a marine tank macroalgae beside a good skimmer.
+Too high: change a fifth to a third of the water now and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it. To keep the value down, feed less, clean the bottom, rinse the filter in tank water, stock lightly and grow plants, or in a marine tank macroalgae beside a good skimmer.
 
 Too low for plants or corals: feed a little more, or add a nitrate fertiliser in small doses, testing before each one.</translation>
     </message>
@@ -1459,6 +1624,21 @@ Too low for plants or corals: feed a little more, or add a nitrate fertiliser in
         <translation>0.1</translation>
     </message>
     <message>
+        <source>NitriteHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>At once: replace a third to a half of the water with conditioned water of the same temperature, and again every day until the value is in range, because nitrite keeps the blood from carrying oxygen. Chloride protects fish: nearly all of them, and most plants, tolerate about 1 gram of pure salt (sodium chloride without additives) to 10 litres, dissolved in tank water and added over several hours.</translation>
+    </message>
+    <message>
+        <source>NitriteHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Salt water holds about 19 g/l of chloride, which keeps nitrite out of the gills: fish bear many times what would harm them in fresh water. Nitrite alone calls for no large water change here. Wait for the filter, and act on ammonia if a test shows any.</translation>
+    </message>
+    <message>
+        <source>NitriteLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Too low is no fault: a settled tank shows no nitrite. Add none, and set the target to 0.</translation>
+    </message>
+    <message>
         <source>NitriteSaltValue</source>
         <extracomment>A number, always written with a full stop: it is read without regard to the language. Tolerated nitrite in sea water, mg/l.</extracomment>
         <translation>0.5</translation>
@@ -1468,11 +1648,9 @@ Too low for plants or corals: feed a little more, or add a nitrate fertiliser in
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-The bacteria of the filter are not keeping up, as often in a new tank. Nitrite keeps the blood from carrying oxygen, so act today: replace a third to a half of the water with conditioned water of the same temperature, stop feeding for a day or two, and aerate strongly.
+If the last paragraph begins with “At once”, do that first. Nitrite in the water shows that the bacteria of the filter are not keeping up, as often in a new tank. Test for ammonia as well, which is more dangerous.
 
-In fresh water chloride protects fish from nitrite: nearly all fish and plants tolerate about 1 gram of pure salt (sodium chloride without additives) to 10 litres, dissolved in tank water and added over several hours. Sea water already holds enough chloride.
-
-Test every day and repeat the water change until the value is zero. Meanwhile add no animals, and rinse filter media only in tank water.</translation>
+Until the value is in range, test every day, feed little, aerate strongly, add no animals, and rinse filter media only in tank water.</translation>
     </message>
     <message>
         <source>NoBrowserMessage</source>
@@ -1609,6 +1787,16 @@ Test every day and repeat the water change until the value is zero. Meanwhile ad
         <translation>Oxygen</translation>
     </message>
     <message>
+        <source>OxygenHighAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>In bright light plants and algae lift the value above what air alone can give, about 8 mg/l in warm fresh water and 7 mg/l in warm salt water. That is harmless. If small bubbles stay on the animals, look for a pump that draws in air, and stir the surface.</translation>
+    </message>
+    <message>
+        <source>OxygenLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>At once: aerate strongly, let the filter stir the surface, and turn off any carbon dioxide supply. Below 5 mg/l young fish suffer, below 3 mg/l grown ones too. Then stop feeding for a day, take out what has died or rots, and cool the water slowly if it is too warm. Test again early in the morning, when oxygen is lowest.</translation>
+    </message>
+    <message>
         <source>OxygenShort</source>
         <extracomment>Column title: keep it short.</extracomment>
         <translation>O₂</translation>
@@ -1616,6 +1804,26 @@ Test every day and repeat the water change until the value is zero. Meanwhile ad
     <message>
         <source>Ph</source>
         <translation>pH</translation>
+    </message>
+    <message>
+        <source>PhHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Plants use up carbon dioxide and lift the pH by day, so compare tests of the same hour. If a test shows ammonia, treat that first: one part in 19 of it is toxic at pH 8, one in 180 at pH 7.</translation>
+    </message>
+    <message>
+        <source>PhHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Above about pH 8.6, stop dosing limewater and buffers and aerate: carbon dioxide from the air brings the pH down. If a test shows ammonia, treat that first.</translation>
+    </message>
+    <message>
+        <source>PhLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Below about pH 6 the filter bacteria hardly work, so ammonium may have gathered unseen. Test for ammonia before any water change or buffer: from pH 6 to 7, ten times as much of it becomes toxic.</translation>
+    </message>
+    <message>
+        <source>PhLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>In a reef tank the pH is lowest in the early morning, so compare tests of the same hour. Air the room, then test the alkalinity, and add a buffer only if that is low too.</translation>
     </message>
     <message>
         <source>PhTreatment</source>
@@ -1631,6 +1839,26 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>Phosphate</source>
         <translation>Phosphate</translation>
+    </message>
+    <message>
+        <source>PhosphateHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Phosphate hardly harms animals, but it feeds algae. Feed less, change a tenth to a fifth of the water at a time, test the tap water, and use a phosphate remover if that is not enough. If your kit states phosphorus (PO₄-P), multiply its value by 3.1 to get phosphate.</translation>
+    </message>
+    <message>
+        <source>PhosphateHighSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Above about 0.1 mg/l corals grow more slowly. Feed less, and use a phosphate remover in small amounts: a sudden drop harms corals more than the value does. If your kit states phosphorus (PO₄-P), multiply its value by 3.1 to get phosphate.</translation>
+    </message>
+    <message>
+        <source>PhosphateLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Animals need no phosphate in the water. Plants do well with 0.1 to 1 mg/l, from plant food in small doses; in a tank without plants set the target to 0.</translation>
+    </message>
+    <message>
+        <source>PhosphateLowSaltAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Corals need a trace, usually 0.02 to 0.1 mg/l. Take out some of the phosphate remover, or feed a little more.</translation>
     </message>
     <message>
         <source>PictureChoose</source>
@@ -1778,6 +2006,16 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>Salinity</source>
         <translation>Salinity</translation>
+    </message>
+    <message>
+        <source>SaltHighAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Replace tank water with conditioned fresh water in several small portions, so that the specific gravity falls by at most 0.001 a day. Make up what evaporates with fresh water only, because the salt stays behind.</translation>
+    </message>
+    <message>
+        <source>SaltLowAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Never put dry salt into the tank, because it burns the animals that it touches. Dissolve it in other water first, and pour that in slowly in several small portions, so that the specific gravity rises by at most 0.001 a day.</translation>
     </message>
     <message>
         <source>SaveErrorMessage</source>
@@ -2270,13 +2508,9 @@ Too high: stop dosing, and let use and ordinary water changes bring it down.</tr
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-One test can be wrong: repeat it before you act, and check that test and target use the same unit. Then move the value slowly, hardness by about 1 degree a day, salinity by no more than 0.001 of specific gravity a day.
+If the last paragraph begins with “At once”, do that first. In all other cases there is time: repeat the test, because one result can be wrong, and check that test and target use the same unit.
 
-Too high: replace a tenth to a fifth of the water a day with water whose values you know, and look for the source, such as food, tap water or dosing. For salinity, make up what has evaporated with fresh water only.
-
-Too low: add what is missing in small doses as its maker directs, testing before each one.
-
-Two cases cannot wait. When oxygen is short or carbon dioxide too high, aerate strongly and turn off the carbon dioxide supply at once. Copper kills invertebrates even in traces: change a third to a half of the water, filter over fresh activated carbon, and stop every remedy that holds copper.</translation>
+Then look for the cause, such as tap water, evaporation, food, dosing or a remedy. As a rule bring the value back in small steps over days, and test before each one.</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,11 @@
         <translation>Salt water protects fish, but above ^0 the filter cannot keep up: test for ammonia.</translation>
     </message>
     <message>
+        <source>KHLowFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Test for ammonia before you raise it: the pH rises with the KH, and from pH 6 to 7 ten times as much ammonium becomes ammonia. While a test shows any, first change a tenth of the water a day with water of about the same pH. Then raise the KH by at most 1 degree a day: that takes about 1.1 grams (a quarter of a teaspoon) of sodium bicarbonate to 10 gallons, dissolved in water.</translation>
+    </message>
+    <message>
         <source>LengthMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>Inches to centimeters, Centimeters to inches, Decimeters to yards, Centimeters to feet, Feet to meters, Meters to yards, Yards to meters</translation>
@@ -48,22 +53,16 @@
         <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
         <translation>
 
-Nitrate is what remains of food and waste when the filter has done its work. It harms slowly, so there is time: change a fifth to a third of the water now and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it.
+Nitrate is what remains of food and waste when the filter has done its work. Its effect is slow, so there is time.
 
-To keep it down, feed less, clean the substrate, rinse the filter in tank water, stock lightly and grow plants, or in a saltwater tank macroalgae beside a good skimmer.
+Too high: change a fifth to a third of the water now and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it. To keep the value down, feed less, clean the substrate, rinse the filter in tank water, stock lightly and grow plants, or in a saltwater tank macroalgae beside a good skimmer.
 
 Too low for plants or corals: feed a little more, or add a nitrate fertilizer in small doses, testing before each one.</translation>
     </message>
     <message>
-        <source>NitriteTreatment</source>
-        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
-        <translation>
-
-The bacteria of the filter are not keeping up, as often in a new tank. Nitrite keeps the blood from carrying oxygen, so act today: replace a third to a half of the water with conditioned water of the same temperature, stop feeding for a day or two, and aerate strongly.
-
-In fresh water chloride protects fish from nitrite: nearly all fish and plants tolerate about 4 grams (two thirds of a teaspoon) of pure salt (sodium chloride without additives) to 10 gallons, dissolved in tank water and added over several hours. Salt water already holds enough chloride.
-
-Test every day and repeat the water change until the value is zero. Meanwhile add no animals, and rinse filter media only in tank water.</translation>
+        <source>NitriteHighFreshAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
+        <translation>At once: replace a third to a half of the water with conditioned water of the same temperature, and again every day until the value is in range, because nitrite keeps the blood from carrying oxygen. Chloride protects fish: nearly all of them, and most plants, tolerate about 4 grams (two thirds of a teaspoon) of pure salt (sodium chloride without additives) to 10 gallons, dissolved in tank water and added over several hours.</translation>
     </message>
     <message>
         <source>SurfaceMenu</source>

@@ -21,9 +21,9 @@ constexpr std::array<HighValueAdvice, 3> advices{{
     {Parameter::Ammonia, {"AmmoniaFreshValue"_key, "HighAmmoniaReason"_key}, {"AmmoniaSaltValue"_key, "HighAmmoniaReason"_key}},
     // Common hobby guidance, for reef corals in the case of sea water.
     {Parameter::Nitrate, {"NitrateFreshValue"_key, "HighNitrateReason"_key}, {"NitrateSaltValue"_key, "HighNitrateReason"_key}},
-    // 0.1 mg/l is 0.03 mg/l of nitrogen, about the limit for fish other than salmonids in water with hardly any chloride
-    // (EIFAC 1984, report on nitrite). Sea water has 19 g/l of chloride, which keeps nitrite out of the gills; above
-    // 0.5 mg/l (common hobby guidance) it only shows that the filter is too weak.
+    // 0.1 mg/l is 0.03 mg/l of nitrogen, about the limit for fish other than salmonids in water with hardly any
+    // chloride (EIFAC 1984, report on nitrite). Sea water has 19 g/l of chloride, which keeps nitrite out of the gills;
+    // above 0.5 mg/l (common hobby guidance) it only shows that the filter is too weak.
     {Parameter::Nitrite, {"NitriteFreshValue"_key, "HighNitriteReason"_key}, {"NitriteSaltValue"_key, "HighNitriteSaltReason"_key}},
 }};
 // clang-format on

@@ -4,6 +4,7 @@
 
 #include "base/text/NumberText.h"
 #include "base/text/Texts.h"
+#include "chemistry/TargetAdvice.h"
 #include "model/Parameters.h"
 #include "model/Tank.h"
 
@@ -71,8 +72,11 @@ std::optional<TargetWarning> targetWarning(const Tank &tank, QStringView identif
                             : low                ? text("LowValueMessage")
                                                  : text("HighValueMessage");
     const QString limit = shownLimit(low ? band.low : band.high);
-    return TargetWarning{fillPlaceholders(title, {columnTitle}),
-                         fillPlaceholders(message, {limit}) + text(traitsOf(*parameter).treatmentKey)};
+    QString advice = text(traitsOf(*parameter).treatmentKey);
+    const TextKey particular = targetAdviceKey(*parameter, state, tank.freshwater);
+    if (!particular.isEmpty())
+        advice += QStringLiteral("\n\n") + text(particular);
+    return TargetWarning{fillPlaceholders(title, {columnTitle}), fillPlaceholders(message, {limit}) + advice};
 }
 
 QString targetStateText(const TankData &target, TargetState state)

@@ -39,7 +39,8 @@ enum class TargetState {
 /// A value that agrees with a limit to seven significant digits is within. `target` may be null.
 [[nodiscard]] TargetState targetState(const TankData *target, double value);
 
-/// The texts of a warning. The message ends with the treatment.
+/// The texts of a warning. The message ends with the parameter's treatment and, where there is more to say, a paragraph
+/// about this direction in this kind of water (targetAdviceKey).
 struct TargetWarning {
     QString title;
     QString message;
