@@ -77,7 +77,7 @@ struct ConversionKind {
     std::span<const Conversion> conversions;
 };
 
-inline constexpr std::array<ConversionKind, 7> conversionKinds{{
+inline constexpr auto conversionKinds = std::to_array<ConversionKind>({
     {"TempMenu"_key, conversion::temperature},
     {"MeasurementMenu"_key, conversion::measurement},
     {"LengthMenu"_key, conversion::length},
@@ -85,7 +85,7 @@ inline constexpr std::array<ConversionKind, 7> conversionKinds{{
     {"FlowMenu"_key, conversion::flow},
     {"VolumeMenu"_key, conversion::volume},
     {"PollutantMenu"_key, conversion::pollutant},
-}};
+});
 
 /// Converts by kind and item index. An unknown item returns the value unchanged, an unknown kind returns 0.
 [[nodiscard]] float convertUnits(int kind, int item, float value);

@@ -15,7 +15,7 @@ namespace
 {
 
 // clang-format off
-constexpr std::array<HighValueAdvice, 3> advices{{
+constexpr auto advices = std::to_array<HighValueAdvice>({
     // At or below the first step of common colour tests. At pH 8.5 and 25 degrees Celsius, a seventh of 0.1 mg/l is
     // toxic: less than the 0.025 mg/l that EIFAC (1970, report on ammonia) gives as the limit for fish.
     {Parameter::Ammonia, {"AmmoniaFreshValue"_key, "HighAmmoniaReason"_key}, {"AmmoniaSaltValue"_key, "HighAmmoniaReason"_key}},
@@ -25,9 +25,9 @@ constexpr std::array<HighValueAdvice, 3> advices{{
     // chloride (EIFAC 1984, report on nitrite). Sea water has 19 g/l of chloride, which keeps nitrite out of the gills;
     // above 0.5 mg/l (common hobby guidance) it only shows that the filter is too weak.
     {Parameter::Nitrite, {"NitriteFreshValue"_key, "HighNitriteReason"_key}, {"NitriteSaltValue"_key, "HighNitriteSaltReason"_key}},
-}};
+});
 // clang-format on
-static_assert(noneHasTwoRows<Parameter>(advices, &HighValueAdvice::parameter));
+static_assert(noneHasTwoRows<Parameter>(advices, &HighValueAdvice::parameter), "advices has two rows for a Parameter");
 
 } // namespace
 

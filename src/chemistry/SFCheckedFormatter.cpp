@@ -26,13 +26,13 @@ double asParsed(double value)
 }
 
 /// Indexed by rounding code.
-constexpr std::array<double (*)(double), 5> roundings{
+constexpr auto roundings = std::to_array<double (*)(double)>({
     asParsed,
     [](double value) { return std::round(value); },
     [](double value) { return std::trunc(value); },
     [](double value) { return std::floor(value); },
     [](double value) { return std::ceil(value); },
-};
+});
 
 bool isDigit(QChar c)
 {

@@ -23,12 +23,12 @@ struct LivestockGroupTraits {
 };
 
 // clang-format off
-inline constexpr std::array<LivestockGroupTraits, 4> livestockGroupTable{{
+inline constexpr auto livestockGroupTable = std::to_array<LivestockGroupTraits>({
     {ContainerKind::Fish,   "FishBig",       "EmptyFish"_key,   "ToolbarNewFish"_key,   "NewFishName"_key,   "DeleteFishWarning"_key},
     {ContainerKind::Plant,  "Plant",         "EmptyPlant"_key,  "ToolbarNewPlant"_key,  "NewPlantName"_key,  "DeletePlantWarning"_key},
     {ContainerKind::Invert, "Invertebrates", "EmptyInvert"_key, "ToolbarNewInvert"_key, "NewInvertName"_key, "DeleteInvertWarning"_key},
     {ContainerKind::Coral,  "Coral",         "EmptyCoral"_key,  "ToolbarNewCoral"_key,  "NewCoralName"_key,  "DeleteCoralWarning"_key},
-}};
+});
 // clang-format on
 
 /// Whether each livestock kind, and no journal, has one row.

@@ -26,7 +26,7 @@ struct ProfileField {
 };
 
 // clang-format off
-inline constexpr std::array<ProfileField, 14> profileFields{{
+inline constexpr auto profileFields = std::to_array<ProfileField>({
     {u"tankLevel",   "FishDataTankLevel"_key, ProfileKind::Text,     0, 0},
     {u"ph",          "FishDataPh"_key,        ProfileKind::Number,   0, 1},
     {u"size",        "FishDataSize"_key,      ProfileKind::Text,     1, 0},
@@ -41,7 +41,7 @@ inline constexpr std::array<ProfileField, 14> profileFields{{
     {u"reefSafe",    "FishDataReef"_key,      ProfileKind::ReefSafe, 6, 0},
     {u"socialLevel", "FishDataTraits"_key,    ProfileKind::Text,     7, 0},
     {u"diet",        "FishDataDiet"_key,      ProfileKind::Text,     8, 0},
-}};
+});
 // clang-format on
 
 /// The field's value as shown to the user; numbers are in the locale's notation with up to seven digits.

@@ -36,7 +36,7 @@ constexpr Field<ConditionData> withAlkalinity(Parameter parameter, Field<Conditi
 template <>
 struct FieldTable<ItemData> {
     using R = ItemData;
-    static constexpr std::array<Field<R>, 19> fields{{
+    static constexpr auto fields = std::to_array<Field<R>>({
         {u"ph",          u"ph",          &R::ph,          SortKind::None, Encoding::FloatText},
         {u"KH",          u"KH",          &R::KH,          SortKind::None, Encoding::FloatText},
         {u"temp",        u"Temp",        &R::temp,        SortKind::None, Encoding::Text,        Missing::ReadFails},
@@ -56,7 +56,7 @@ struct FieldTable<ItemData> {
         {u"count",       u"Count",       &R::count,       SortKind::None, Encoding::IntegerText},
         {u"reefSafe",    u"ReefSafe",    &R::reefSafe,    SortKind::None, Encoding::Integer,     Missing::Keep, Copied::No},
         {u"itemImage",   u"FishImage",   &R::itemImage,   SortKind::None, Encoding::Picture,     Missing::Keep},
-    }};
+    });
 };
 
 template <>
@@ -102,55 +102,55 @@ static_assert(conditionFieldsFollowParameters(),
 template <>
 struct FieldTable<ExpenseData> {
     using R = ExpenseData;
-    static constexpr std::array<Field<R>, 4> fields{{
+    static constexpr auto fields = std::to_array<Field<R>>({
         {u"date",    u"Date",    &R::date,    SortKind::Date,   Encoding::DateText, Missing::Keep},
         {u"expense", u"Expense", &R::expense, SortKind::Text,   Encoding::Text,     Missing::ReadFails},
         {u"amount",  u"Amount",  &R::amount,  SortKind::Number, Encoding::Number,   Missing::Keep},
         {u"type",    u"Type",    &R::type,    SortKind::Text,   Encoding::Text,     Missing::ReadFails},
-    }};
+    });
 };
 
 template <>
 struct FieldTable<InventoryData> {
     using R = InventoryData;
-    static constexpr std::array<Field<R>, 2> fields{{
+    static constexpr auto fields = std::to_array<Field<R>>({
         {u"item",  u"Item",  &R::item,  SortKind::Text,   Encoding::Text, Missing::ReadFails},
         {u"count", u"Count", &R::count, SortKind::Number, Encoding::IntegerText},
-    }};
+    });
 };
 
 template <>
 struct FieldTable<NoteData> {
     using R = NoteData;
-    static constexpr std::array<Field<R>, 2> fields{{
+    static constexpr auto fields = std::to_array<Field<R>>({
         {u"date", u"Date", &R::date, SortKind::Date, Encoding::DateText, Missing::Keep},
         {u"note", u"Note", &R::note, SortKind::Text, Encoding::Text,     Missing::ReadFails},
-    }};
+    });
 };
 
 template <>
 struct FieldTable<ScheduleData> {
     using R = ScheduleData;
     // The interval to the next date sorts as a flag: activities without one come before all others.
-    static constexpr std::array<Field<R>, 5> fields{{
+    static constexpr auto fields = std::to_array<Field<R>>({
         {u"date",           u"Date",           &R::date,             SortKind::Date, Encoding::DateText,  Missing::Keep},
         {u"activity",       u"Activity",       &R::activity,         SortKind::Text, Encoding::Text,      Missing::ReadFails},
         {u"complete",       u"Complete",       &R::m_complete,       SortKind::Flag, Encoding::FlagText,  Missing::Zero, Copied::Yes, {}, &R::setComplete},
         {u"nextDate",       u"NextDate",       &R::nextDate,         SortKind::Flag, Encoding::FloatText},
         {u"autoReschedule", u"AutoReschedule", &R::m_autoReschedule, SortKind::Flag, Encoding::FlagText,  Missing::Zero, Copied::Yes, {}, &R::setAutoReschedule},
-    }};
+    });
 };
 
 template <>
 struct FieldTable<TankData> {
     using R = TankData;
-    static constexpr std::array<Field<R>, 5> fields{{
+    static constexpr auto fields = std::to_array<Field<R>>({
         {u"name",           u"name",        &R::name,           SortKind::None, Encoding::Text, Missing::Keep},
         {u"preferredValue", u"preferred",   &R::preferredValue, SortKind::None, Encoding::Real},
         {u"warningOn",      u"warningOn",   &R::warningOn,      SortKind::None, Encoding::Flag},
         {u"deviationOn",    u"deviationOn", &R::deviationOn,    SortKind::None, Encoding::Flag},
         {u"deviationValue", u"deviation",   &R::deviationValue, SortKind::None, Encoding::Real},
-    }};
+    });
 };
 
 // clang-format on

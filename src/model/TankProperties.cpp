@@ -17,14 +17,14 @@ struct FlagProperty {
     bool Tank::*member;
 };
 
-constexpr std::array<FlagProperty, 6> flagProperties{{
+constexpr auto flagProperties = std::to_array<FlagProperty>({
     {u"Freshwater", &Tank::freshwater},
     {u"TankExpanded", &Tank::tankExpanded},
     {u"FishExpanded", &Tank::fishExpanded},
     {u"PlantExpanded", &Tank::plantExpanded},
     {u"InvertExpanded", &Tank::invertExpanded},
     {u"CoralExpanded", &Tank::coralExpanded},
-}};
+});
 
 const auto nameKey = QStringLiteral("Name");
 const auto sizeKey = QStringLiteral("Size");

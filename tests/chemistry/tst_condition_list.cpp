@@ -133,9 +133,12 @@ private Q_SLOTS:
         QCOMPARE(test::selectedRows(controller.table()), QList<int>{2});
         window->findChild<QCheckBox *>(QStringLiteral("column.date"))->click();
         QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
-        QCOMPARE(m_shell->changes, 2); // the two clicks: a shown or hidden column has to be saved
+        QCOMPARE(m_shell->changes, 2);        // the two clicks: a shown or hidden column has to be saved
         controller.toogleConditionColumn(36); // no such column
         QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
+        for (const char *last : {"column.ph", "column.iron"})
+            window->findChild<QCheckBox *>(QLatin1String(last))->click();
+        QCOMPARE(storedIdentifiers(controller), QStringList()); // hiding all of them is a layout as well
     }
 
 private:

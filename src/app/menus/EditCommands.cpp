@@ -25,9 +25,9 @@ constexpr EditRow editRows[] = {
     {Command::Paste, "paste"},
     {Command::SelectAll, "selectAll"},
 };
-static_assert(noneHasTwoRows<Command>(editRows, &EditRow::command));
+static_assert(noneHasTwoRows<Command>(editRows, &EditRow::command), "editRows has two rows for a Command");
 
-bool answers(const QWidget *widget, const char *slot)
+bool hasSlot(const QWidget *widget, const char *slot)
 {
     return widget && widget->metaObject()->indexOfMethod(QByteArray(slot) + "()") >= 0;
 }
@@ -50,7 +50,7 @@ void performEditCommand(Command command, const MainMenuBar &menus, TankListContr
         return;
     }
     for (const EditRow &row : editRows) {
-        if (row.command == command && answers(target, row.slot))
+        if (row.command == command && hasSlot(target, row.slot))
             QMetaObject::invokeMethod(target, row.slot);
     }
 }
@@ -59,7 +59,7 @@ void validateEditCommands(MainMenuBar &menus, const TankListController &tree, bo
 {
     const QWidget *target = menus.commandTarget();
     for (const EditRow &row : editRows) {
-        const bool enabled = target == tree.tankList() ? treeCan(row.command, tree) : answers(target, row.slot);
+        const bool enabled = target == tree.tankList() ? treeCan(row.command, tree) : hasSlot(target, row.slot);
         menus.action(row.command)->setEnabled(enabled);
     }
     menus.action(Command::Delete)->setEnabled(tree.currentTank() && canDelete);

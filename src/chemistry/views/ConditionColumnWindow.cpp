@@ -32,8 +32,8 @@ ConditionColumnWindow::ConditionColumnWindow(QWidget *parent)
     m_label->setTextFormat(Qt::PlainText);
     auto *grid = new QGridLayout(m_checks);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(8);
-    grid->setHorizontalSpacing(24);
+    grid->setVerticalSpacing(spacing::group);
+    grid->setHorizontalSpacing(spacing::content + spacing::group);
     constexpr int rows = int(conditionColumnTable.size() + 1) / 2;
     int place = 0;
     for (const ConditionColumnTraits &column : conditionColumnTable) {

@@ -26,7 +26,8 @@ namespace brinemark
 namespace
 {
 
-constexpr int needsTwoRows = 100; ///< tag of the items that need two tests
+constexpr int actsOnSelection = 14; ///< tag of the items for selected tests, as in the menu bar
+constexpr int needsTwoRows = 100;   ///< tag of the items that need two tests
 
 ConditionListController &conditions(RecordListController &list)
 {
@@ -38,7 +39,7 @@ constexpr std::array conditionMenu{
     ListMenuItem{"Export"_key, needsTwoRows, [](RecordListController &list) { conditions(list).exportAction(); }},
     ListMenuItem{},
     ListMenuItem{"NewTitle"_key, 0, [](RecordListController &list) { list.newEntry(); }},
-    ListMenuItem{"DeleteTitle"_key, 14, [](RecordListController &) { Shell::shared().deleteItem(); }},
+    ListMenuItem{"DeleteTitle"_key, actsOnSelection, [](RecordListController &) { Shell::shared().deleteItem(); }},
     ListMenuItem{},
     ListMenuItem{"Condition Columns..."_key, 0,
                  [](RecordListController &list) { conditions(list).showCustomizeConditionColumns(); }},
@@ -275,7 +276,6 @@ void ConditionListController::toogleConditionColumn(int tag)
     // A column that appears belongs to the selected rows as well.
     QItemSelectionModel &selection = *table()->selectionModel();
     selection.select(selection.selection(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    updateColumnInfo();
     updateDisplay();
     Shell::shared().documentModifiedWithChange(true); // unlike a moved or resized column
 }

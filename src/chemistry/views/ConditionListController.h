@@ -29,7 +29,7 @@ public:
     /// and hide their columns at once.
     void showCustomizeConditionColumns();
 
-    /// Shows a hidden column at the right, or hides a shown one, stores the layout and counts a change. A tag that names
+    /// Shows a hidden column at the right, or hides a shown one, and counts a change. A tag that names
     /// no column does nothing.
     void toogleConditionColumn(int tag);
     [[nodiscard]] bool isColumnVisible(int tag) const;

@@ -2,6 +2,7 @@
 
 #include "chemistry/views/TargetTableModel.h"
 
+#include "base/TableChecks.h"
 #include "base/text/NumberText.h"
 #include "base/text/Texts.h"
 #include "model/Tank.h"
@@ -19,12 +20,13 @@ namespace
 {
 
 enum Column { Name, PreferredValue, WarningOn, DeviationValue };
-constexpr std::array<TextKey, 4> headerKeys{
+constexpr auto headerKeys = std::to_array<TextKey>({
     "ColumnParameter"_key,
     "ColumnPreferred"_key,
     "ColumnWarning"_key,
     "ColumnDeviation"_key,
-};
+});
+static_assert(headerKeys.size() == enumCount<Column>, "headerKeys needs one text for each Column");
 
 QString cellText(const NamedTarget &named, int column)
 {

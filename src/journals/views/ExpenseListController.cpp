@@ -18,7 +18,7 @@ QString shownCategory(const Record &record)
     return tank && tank->expenseCategoryArray.contains(expense.type) ? expense.type : text("ExpenseNoneItem");
 }
 
-constexpr std::array<RecordColumn, 4> expenseColumns{{
+constexpr auto expenseColumns = std::to_array<RecordColumn>({
     {.identifier = u"date", .header = "Date"_key, .kind = ColumnKind::Date},
     {.identifier = u"expense", .header = "ColumnExpense"_key, .width = 280},
     {.identifier = u"amount",
@@ -28,7 +28,7 @@ constexpr std::array<RecordColumn, 4> expenseColumns{{
      .alignment = Qt::AlignRight,
      .width = 110},
     {.identifier = u"type", .header = "ColumnCategory"_key, .shownText = &shownCategory},
-}};
+});
 
 constexpr RecordListTraits expenseTraits{
     .kind = ContainerKind::Expense,

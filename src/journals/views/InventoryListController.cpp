@@ -10,10 +10,10 @@ namespace brinemark
 namespace
 {
 
-constexpr std::array<RecordColumn, 2> inventoryColumns{{
+constexpr auto inventoryColumns = std::to_array<RecordColumn>({
     {.identifier = u"item", .header = "ColumnItem"_key, .width = 360},
     {.identifier = u"count", .header = "ColumnCount"_key, .kind = ColumnKind::Number},
-}};
+});
 
 constexpr RecordListTraits inventoryTraits{
     .kind = ContainerKind::Inventory,

@@ -10,10 +10,10 @@ namespace brinemark
 namespace
 {
 
-constexpr std::array<RecordColumn, 2> noteColumns{{
+constexpr auto noteColumns = std::to_array<RecordColumn>({
     {.identifier = u"date", .header = "Date"_key, .kind = ColumnKind::Date},
     {.identifier = u"note", .header = "ColumnNote"_key},
-}};
+});
 
 constexpr RecordListTraits noteTraits{
     .kind = ContainerKind::Note,

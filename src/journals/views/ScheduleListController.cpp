@@ -19,13 +19,13 @@ QString nextDueDate(const Record &record)
     return localeDateText(activity.date.addSecs(qint64(activity.nextDate)));
 }
 
-constexpr std::array<RecordColumn, 5> scheduleColumns{{
+constexpr auto scheduleColumns = std::to_array<RecordColumn>({
     {.identifier = u"complete", .header = "DoneColumnTooltip"_key, .kind = ColumnKind::Flag},
     {.identifier = u"date", .header = "ColumnDue"_key, .kind = ColumnKind::Date},
     {.identifier = u"activity", .header = "ColumnActivity"_key, .width = 280},
     {.identifier = u"autoReschedule", .header = "ColumnRepeats"_key, .kind = ColumnKind::Flag},
     {.identifier = u"next", .header = "ColumnNext"_key, .kind = ColumnKind::Date, .shownText = &nextDueDate},
-}};
+});
 
 constexpr RecordListTraits scheduleTraits{
     .kind = ContainerKind::Schedule,

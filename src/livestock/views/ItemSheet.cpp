@@ -36,11 +36,11 @@ struct NameField {
     QStringView key;
     TextKey captionKey;
 };
-constexpr std::array<NameField, 3> nameFields{{
+constexpr auto nameFields = std::to_array<NameField>({
     {u"name", "FishDataName"_key},
     {u"sciName", "FishDataSciName"_key},
     {u"family", "FishDataFamily"_key},
-}};
+});
 
 /// Whether the field has no neighbour in its row, so that it can be as wide as the form.
 constexpr bool standsAlone(const ProfileField &field)

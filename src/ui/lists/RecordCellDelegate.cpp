@@ -11,9 +11,14 @@ namespace brinemark
 namespace
 {
 
-constexpr const char *shownTextProperty = "shownText"; ///< the field's text when nobody has edited it
+constexpr const char *shownValueProperty = "shownValue"; ///< the editor's value when nobody has edited it
 
-/// The text field of an editor: itself, or the one inside a spin box.
+QVariant valueOf(const QWidget &editor)
+{
+    return editor.metaObject()->userProperty().read(&editor);
+}
+
+/// The text field of an editor: itself, or the one inside a spin box or a combo box; null for other editors.
 QLineEdit *textField(const QWidget &editor)
 {
     auto *field = qobject_cast<QLineEdit *>(const_cast<QWidget *>(&editor));
@@ -22,11 +27,9 @@ QLineEdit *textField(const QWidget &editor)
 
 void countAsNotEdited(QWidget &editor)
 {
-    QLineEdit *field = textField(editor);
-    if (!field)
-        return;
-    field->setModified(false);
-    editor.setProperty(shownTextProperty, field->text());
+    if (QLineEdit *field = textField(editor))
+        field->setModified(false);
+    editor.setProperty(shownValueProperty, valueOf(editor));
 }
 
 } // namespace
@@ -74,17 +77,17 @@ void RecordCellDelegate::showValue(QWidget &editor, const QModelIndex &index) co
 bool RecordCellDelegate::isEdited(const QWidget &editor) const
 {
     const QLineEdit *field = textField(editor);
-    const QVariant shown = editor.property(shownTextProperty);
-    return field && shown.isValid() && (field->isModified() || field->text() != shown.toString());
+    const QVariant shown = editor.property(shownValueProperty);
+    return shown.isValid() && ((field && field->isModified()) || valueOf(editor) != shown);
 }
 
 QVariant RecordCellDelegate::takeValue(QWidget &editor) const
 {
     const QLineEdit *field = textField(editor);
-    const bool isEmpty = !field || field->text().trimmed().isEmpty();
-    const QVariant value = isEmpty ? QVariant() : editor.metaObject()->userProperty().read(&editor);
+    const QVariant value = valueOf(editor);
+    const bool isEmpty = (field ? field->text() : value.toString()).trimmed().isEmpty();
     countAsNotEdited(editor);
-    return value;
+    return isEmpty ? QVariant() : value;
 }
 
 } // namespace brinemark

@@ -9,7 +9,7 @@ namespace brinemark
 
 /// Edits the cells of a record table. An editor stores its value only when a person has edited it, and never an empty
 /// one: passing over a cell or clearing it changes nothing and leaves no undo step. The editor is called "cellEditor"
-/// and is accessible under its column's header.
+/// and is accessible under its column's header. Its value is the editor's user property.
 class RecordCellDelegate : public TruncatingDelegate
 {
     Q_OBJECT

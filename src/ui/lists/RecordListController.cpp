@@ -378,9 +378,9 @@ void RecordListController::deleteSelected()
         return;
     finishTyping(Shell::shared().mainWindow());
     const Alert question = deletionAlert(formatText(text("StandardWarning"), {text(m_traits.itemKey)}));
-    beginAlertSheet(Shell::shared().mainWindow(), question, [this](int answer) {
-        if (answer == AlertDefault)
-            deleteRecords(selectedRecords());
+    beginAlertSheet(Shell::shared().mainWindow(), question, [list = QPointer(this)](int answer) {
+        if (list && answer == AlertDefault)
+            list->deleteRecords(list->selectedRecords());
         Shell::shared().orderFrontAndCheckModified();
     });
 }

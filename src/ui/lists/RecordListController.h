@@ -111,7 +111,6 @@ protected:
     [[nodiscard]] QString cellToolTip(const Record &record, int column) const override;
 
     [[nodiscard]] RecordTableModel &model() const { return *m_model; }
-    [[nodiscard]] RecordListPage &page() const { return *m_page; }
     [[nodiscard]] RecordTableColumns &columns() const { return *m_columns; }
     [[nodiscard]] static Tank *currentTank();
 

@@ -32,7 +32,6 @@ public:
     RecordListPage(ContainerKind kind, TextKey emptySentence);
 
     [[nodiscard]] RecordTableView *table() const { return m_table; }
-    [[nodiscard]] QHBoxLayout *buttonRow() const { return m_buttonRow; }
     [[nodiscard]] QToolButton *deleteButton() const { return m_deleteButton; }
 
     void setTitle(const QString &title, const QString &tankName);

@@ -2,6 +2,7 @@
 
 #include "ui/lists/RecordTableColumns.h"
 
+#include "base/text/AmountText.h"
 #include "base/text/DateText.h"
 #include "base/text/Texts.h"
 #include "model/Container.h"
@@ -21,18 +22,19 @@ namespace brinemark
 namespace
 {
 
-constexpr int largestWidth = 1000;              ///< pixels of a column
 constexpr std::chrono::milliseconds pause{200}; ///< without a change, after which a changed layout is stored
 
 /// A value that every column of a kind has to show in full: below its width a column is of no use.
 QString usualText(const RecordColumn &column)
 {
     constexpr double usualNumber = 88.888;
+    constexpr double usualAmount = 8888.88;
     switch (column.kind) {
     case ColumnKind::Date:
         return localeDateText(QDate(2000, 12, 28).startOfDay());
-    case ColumnKind::Number:
     case ColumnKind::Amount:
+        return formatObjectForLocale(usualAmount);
+    case ColumnKind::Number:
         return QLocale().toString(usualNumber, 'f', column.decimals);
     case ColumnKind::Text:
     case ColumnKind::Flag:
@@ -64,7 +66,6 @@ void RecordTableColumns::setTable(QTableView &table)
 {
     m_table = &table;
     header().setSectionsMovable(true);
-    header().setMaximumSectionSize(largestWidth);
     connect(&header(), &QHeaderView::sectionMoved, this, [this] {
         if (!m_arranging)
             Q_EMIT layoutChanged();
@@ -128,6 +129,7 @@ void RecordTableColumns::showTank(Tank *tank)
             columns.push_back(*column);
     }
     m_model.setTank(tank, columns);
+    m_showsTank = tank != nullptr;
     arrange(layout);
 }
 
@@ -141,7 +143,8 @@ void RecordTableColumns::arrange(const ColumnInfoArray &layout)
             continue;
         const RecordColumn &column = m_model.columns()[std::size_t(section)];
         const double wanted = info.width > 0 ? std::ceil(info.width) : openingWidth(column);
-        header().resizeSection(section, int(std::clamp<double>(wanted, leastWidth(column), largestWidth)));
+        header().resizeSection(section,
+                               int(std::clamp<double>(wanted, leastWidth(column), header().maximumSectionSize())));
     }
 }
 
@@ -177,7 +180,7 @@ std::vector<int> RecordTableColumns::inDisplayOrder() const
 void RecordTableColumns::storeLayout()
 {
     m_storeLater.stop();
-    if (!m_table || m_model.columns().empty())
+    if (!m_table || !m_showsTank)
         return;
     ColumnInfoArray layout;
     for (const int column : inDisplayOrder()) {

@@ -64,6 +64,7 @@ private:
     RecordTableModel &m_model;
     QPointer<QTableView> m_table;
     QTimer m_storeLater;
+    bool m_showsTank = false; ///< without a tank there are no columns, which is no layout
     bool m_arranging = false; ///< the program changes the columns, not the user
 };
 

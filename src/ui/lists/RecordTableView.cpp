@@ -20,6 +20,8 @@ namespace brinemark
 namespace
 {
 
+constexpr int largestColumnWidth = 1000; ///< pixels
+
 /// Adds margins at the sides of the texts of cells and headers, and reserves a place for the sort mark at the end of a
 /// header, so that a column 17 pixels wider than its header's text shows text and mark.
 class AirySides : public QProxyStyle
@@ -49,7 +51,9 @@ public:
         part.rect = place(whole.adjusted(margin, 0, -atEnd, 0));
         drawControl(CE_HeaderLabel, &part, painter, widget);
         if (marked) {
-            part.rect = place({whole.right() + 1 - markMargin - markWidth, whole.top() + 1, markWidth, whole.height()});
+            constexpr int gap = 2; // between text and mark
+            part.rect = place(
+                {whole.right() + 1 - markMargin - markWidth + gap, whole.top() + 1, markWidth - gap, whole.height()});
             drawPrimitive(PE_IndicatorHeaderArrow, &part, painter, widget);
         }
         painter->restore();
@@ -93,7 +97,7 @@ RecordTableView::RecordTableView(std::function<void()> deletePressed, QWidget *p
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    horizontalHeader()->setMaximumSectionSize(1000);
+    horizontalHeader()->setMaximumSectionSize(largestColumnWidth);
     fitRowHeight();
 }
 

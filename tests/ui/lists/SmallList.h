@@ -15,13 +15,13 @@ namespace brinemark::test
 
 enum SmallListColumn { Done, Due, Activity, Interval, Repeats };
 
-inline constexpr std::array<RecordColumn, 5> smallListColumns{{
+inline constexpr auto smallListColumns = std::to_array<RecordColumn>({
     {.identifier = u"complete", .header = "DoneColumnTooltip"_key, .kind = ColumnKind::Flag, .editable = true},
     {.identifier = u"date", .header = "ColumnDue"_key, .kind = ColumnKind::Date, .editable = true},
     {.identifier = u"activity", .header = "ColumnActivity"_key, .width = 280, .editable = true},
     {.identifier = u"nextDate", .header = "ColumnNext"_key, .kind = ColumnKind::Number, .editable = true},
     {.identifier = u"autoReschedule", .header = "ColumnRepeats"_key, .kind = ColumnKind::Flag}, // only shown
-}};
+});
 
 /// A list of activities that leaves everything to the base of the lists, and writes down what the base tells it.
 class SmallList : public RecordListController

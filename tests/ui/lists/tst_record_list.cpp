@@ -131,7 +131,7 @@ private Q_SLOTS:
         m_shell->current = nullptr;
         m_shell->tanks.clear();
         m_tank.reset();
-        table()->viewport()->repaint(); // the tank goes while its records are on screen
+        table()->viewport()->repaint(); // the tank is closed while its records are on screen
         m_list->updateDisplay();
         QCOMPARE(table()->model()->rowCount(), 0);
         m_list->newEntry();
