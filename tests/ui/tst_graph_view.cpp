@@ -358,6 +358,46 @@ private Q_SLOTS:
         QCOMPARE(standingOut(200, GraphSymbol::Square), 0);
     }
 
+    /// Points at the ends of the axes get a whole symbol, on the screen and on paper.
+    void symbolsStandAtTheEdges_data()
+    {
+        test::columns<QPointF, bool>("point", "alone");
+        row("top", QPointF(5, 19.7F), false);
+        row("bottom", QPointF(5, 0), false);
+        row("left", QPointF(0, 10), false);
+        row("right", QPointF(10, 10), false);
+        row("top right", QPointF(10, 19.7F), false);
+        row("a single point at the top", QPointF(0, 19.7F), true);
+    }
+
+    void symbolsStandAtTheEdges()
+    {
+        QFETCH(QPointF, point);
+        QFETCH(bool, alone);
+        m_graph.y = {0, 19.7F};
+        QList<QPointF> points{point};
+        if (!alone)
+            points = {{0, 3}, point, {10, 3}};
+        m_graph.lines = {{m_red, points, GraphSymbol::Square}};
+        if (alone)
+            m_graph.x = {0, 0};
+        const QTemporaryDir folder;
+        const QString png = folder.filePath(QStringLiteral("graph.png"));
+        for (const QSize size : {QSize(500, 300), QSize(491, 277)}) {
+            m_view->resize(size);
+            m_view->reloadData();
+            // All corners of the square show its colour.
+            const QImage screen = shot();
+            QVERIFY(m_view->saveImage(png));
+            const QImage paper(png);
+            for (const QPointF corner : {QPointF(-2, -2), QPointF(2, -2), QPointF(-2, 2), QPointF(2, 2)}) {
+                const QPointF place = m_view->positionOf(point) + corner;
+                QVERIFY(colourAt(screen, place).saturation() > 150);
+                QVERIFY(colourAt(paper, place * 2).saturation() > 150);
+            }
+        }
+    }
+
     void palettesAreFollowedOnScreenOnly()
     {
         m_view->setPalette(darkPalette());

@@ -101,12 +101,19 @@ void GraphLinesLayer::draw(QCPPainter *painter)
 void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
 {
     const GraphRange &x = m_plot->scene().range(GraphAxis::X);
-    const QRect plot = m_plot->plotRect();
+    const GraphRange &y = m_plot->scene().range(GraphAxis::Y);
+    // The largest Y is drawn one pixel above plotRect().
+    const QRect plot = m_plot->plotRect().translated(0, -1);
     if (plot.width() < 2 || plot.height() < 2)
         return;
     QPolygonF pixels;
-    for (const QPointF &point : decimated(line.points, x.min, x.max, int(plot.width() / columnWidth)))
+    QPolygonF symbols;
+    for (const QPointF &point : decimated(line.points, x.min, x.max, int(plot.width() / columnWidth))) {
         pixels.append(m_plot->toPixels(point));
+        // Compare graph units: in pixels, rounding would drop points at the ends of the axes.
+        if (x.contains(point.x()) && y.contains(point.y()))
+            symbols.append(pixels.last());
+    }
 
     const double width = line.attributes.width;
     const QColor outline = m_plot->look().outlineOf(line.attributes.colour);
@@ -129,10 +136,10 @@ void GraphLinesLayer::drawLine(QCPPainter *painter, const GraphLine &line) const
     stroke(strokes.segments, line.attributes.colour, width);
     stroke(strokes.uprights, line.attributes.colour, width);
     painter->restore();
-    drawSymbols(painter, line, pixels);
+    drawSymbols(painter, line, symbols);
 }
 
-void GraphLinesLayer::drawSymbols(QCPPainter *painter, const GraphLine &line, const QPolygonF &pixels) const
+void GraphLinesLayer::drawSymbols(QCPPainter *painter, const GraphLine &line, const QPolygonF &places) const
 {
     // A single point has no line to show it, so it always gets a symbol.
     GraphSymbol symbol = line.attributes.symbol;
@@ -143,18 +150,12 @@ void GraphLinesLayer::drawSymbols(QCPPainter *painter, const GraphLine &line, co
     const QColor outline = m_plot->look().outlineOf(line.attributes.colour);
     painter->setPen(QPen(outline.isValid() ? outline : m_plot->look().background, outlineWidth / 2));
     painter->setBrush(line.attributes.colour);
-    const QRectF area = QRectF(m_plot->plotRect()).adjusted(-0.5, -0.5, 0.5, 0.5);
-    QPolygonF shown;
-    for (const QPointF &pixel : pixels) {
-        if (area.contains(pixel))
-            shown.append(pixel);
-    }
     // Draw all symbols or none: leaving some out would suggest that the others are special.
-    const qsizetype gaps = shown.size() - 1;
-    if (gaps > 0 && shown.last().x() - shown.first().x() < symbolDistance * double(gaps))
+    const qsizetype gaps = places.size() - 1;
+    if (gaps > 0 && places.last().x() - places.first().x() < symbolDistance * double(gaps))
         return;
-    for (const QPointF &pixel : shown)
-        drawGraphSymbol(*painter, symbol, pixel);
+    for (const QPointF &place : places)
+        drawGraphSymbol(*painter, symbol, place);
 }
 
 } // namespace brinemark

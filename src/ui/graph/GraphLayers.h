@@ -39,7 +39,7 @@ protected:
 
 private:
     void drawLine(QCPPainter *painter, const GraphLine &line) const;
-    void drawSymbols(QCPPainter *painter, const GraphLine &line, const QPolygonF &pixels) const;
+    void drawSymbols(QCPPainter *painter, const GraphLine &line, const QPolygonF &places) const;
 
     GraphPlot *m_plot;
 };
