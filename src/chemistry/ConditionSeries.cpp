@@ -174,9 +174,10 @@ QString dayTickLabel(const QString &defaultLabel)
     return QString::number(leadingInteger(defaultLabel) + 1);
 }
 
-QString valueTickLabel(const QString &defaultLabel)
+QString valueTickLabel(const QString &defaultLabel, int neededDigits)
 {
-    return QString::number(leadingNumber(defaultLabel), 'g', 3).replace(u'.', QLocale().decimalPoint());
+    return QString::number(leadingNumber(defaultLabel), 'g', std::max(3, neededDigits))
+        .replace(u'.', QLocale().decimalPoint());
 }
 
 double scaledMaxYValue(float sliderMaximum, float sliderValue)

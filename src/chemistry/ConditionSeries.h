@@ -63,8 +63,9 @@ private:
 /// The label of a tick mark on the X axis, where days count from 1. `defaultLabel` is the number with a full stop.
 [[nodiscard]] QString dayTickLabel(const QString &defaultLabel);
 
-/// The label of a tick mark on the Y axis: three significant digits, with the user's decimal separator.
-[[nodiscard]] QString valueTickLabel(const QString &defaultLabel);
+/// The label of a tick mark on the Y axis, with the user's decimal separator: three significant digits, more in a
+/// magnified graph whose tick marks need more.
+[[nodiscard]] QString valueTickLabel(const QString &defaultLabel, int neededDigits = 3);
 
 /// The top of the Y axis for a position of the scale slider, at least 0.1. Moving the slider up zooms in.
 [[nodiscard]] double scaledMaxYValue(float sliderMaximum, float sliderValue);

@@ -167,6 +167,8 @@ private Q_SLOTS:
         QFETCH(QString, value);
         QTEST(dayTickLabel(defaultLabel), "day");
         QCOMPARE(valueTickLabel(defaultLabel), test::local(value));
+        QCOMPARE(valueTickLabel(defaultLabel, 1), test::local(value));
+        QCOMPARE(valueTickLabel(QStringLiteral("1.025"), 4), test::local(QStringLiteral("1.025")));
     }
 
     void toolTips()

@@ -8,6 +8,7 @@
 #include "support/AlertDriver.h"
 #include "support/DataRow.h"
 #include "support/Files.h"
+#include "support/LocalNumber.h"
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
 #include "ui/Alerts.h"
@@ -113,6 +114,24 @@ private Q_SLOTS:
         QCOMPARE(controller.graphArray().size(), std::size_t(6));
         QCOMPARE(controller.graphArray().front().get(), &test(5));
         QVERIFY(view().isVisible());
+    }
+
+    void tickLabelsAreTrue()
+    {
+        addTests(31);
+        test(0).kH = 8;
+        open();
+        press("drawButton");
+        QCOMPARE(view().tickDigits(GraphAxis::X), 2); // days 0, 3 ... 30; 12 equal parts would be 2.5 days long
+        const auto label = [this] {
+            return GraphController::sharedInstance().labelForTickMarkIndex(view(), 0, GraphAxis::Y,
+                                                                           QStringLiteral("10.26"));
+        };
+        QCOMPARE(label(), test::local(QStringLiteral("10.3")));
+        for (int i = 0; i < 35; ++i)
+            QTest::keyClick(&view(), Qt::Key_Plus);
+        QVERIFY(view().tickDigits(GraphAxis::Y) > 3);
+        QCOMPARE(label(), test::local(QStringLiteral("10.26")));
     }
 
     void newestFirst()

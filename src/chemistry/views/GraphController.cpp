@@ -40,6 +40,7 @@ void GraphController::makeWindow()
     m_graphWindow = new GraphWindow(Shell::shared().mainWindow(), m_dateContentView, m_graphContentView);
     m_graphContentView->graphView().setDataSource(this);
     m_graphContentView->graphView().setDelegate(this);
+    m_graphContentView->graphView().setWholeTickMarks(GraphAxis::X);
 
     connect(m_dateContentView, &GraphDateForm::drawRequested, this, &GraphController::graphAction);
     connect(m_dateContentView, &GraphDateForm::cancelled, this, &GraphController::cancelAction);
@@ -246,10 +247,10 @@ GraphLineAttributes GraphController::attributesForLineIndex(const TwoDGraphView 
     return {lineColour(parameter), 2, GraphSymbol(2), text(traitsOf(parameter).targetNameKey)};
 }
 
-QString GraphController::labelForTickMarkIndex(const TwoDGraphView &, int, GraphAxis axis,
+QString GraphController::labelForTickMarkIndex(const TwoDGraphView &view, int, GraphAxis axis,
                                                const QString &defaultLabel) const
 {
-    return axis == GraphAxis::X ? dayTickLabel(defaultLabel) : valueTickLabel(defaultLabel);
+    return axis == GraphAxis::X ? dayTickLabel(defaultLabel) : valueTickLabel(defaultLabel, view.tickDigits(axis));
 }
 
 QString GraphController::stringForToolTip(const TwoDGraphView &, QPointF point) const

@@ -52,7 +52,7 @@ public:
 
     [[nodiscard]] virtual GraphLineAttributes attributesForLineIndex(const TwoDGraphView &view, int line) const = 0;
 
-    /// The label of a tick mark; `defaultLabel` is its value, with a full stop as the decimal sign.
+    /// The label of a tick mark; `defaultLabel` is its exact value, with a full stop as the decimal sign.
     [[nodiscard]] virtual QString labelForTickMarkIndex(const TwoDGraphView &view, int index, GraphAxis axis,
                                                         const QString &defaultLabel) const = 0;
 

@@ -4,6 +4,7 @@
 
 #include "base/text/Texts.h"
 #include "ui/graph/GraphPlot.h"
+#include "ui/graph/TickPositions.h"
 
 #include <QKeyEvent>
 #include <QResizeEvent>
@@ -30,17 +31,6 @@ QList<QPointF> drawablePoints(QList<QPointF> points)
     if (!std::is_sorted(points.cbegin(), points.cend(), left))
         std::stable_sort(points.begin(), points.end(), left);
     return points;
-}
-
-double tickPosition(const GraphRange &range, int index, int count)
-{
-    if (index == 0)
-        return range.min;
-    if (index == count - 1)
-        return range.max;
-    const double position = range.min + range.length() * index / (count - 1);
-    // Without this, a tick at zero could be labelled 5.6e-17 because of rounding.
-    return std::abs(position) < range.length() * 1e-9 ? 0 : position;
 }
 
 } // namespace
@@ -73,6 +63,16 @@ void TwoDGraphView::setDelegate(const TwoDGraphDelegate *delegate)
 void TwoDGraphView::setNumberOfTickMarks(int count, GraphAxis axis)
 {
     m_tickMarks[std::size_t(axis)] = std::max(count, 0);
+}
+
+void TwoDGraphView::setWholeTickMarks(GraphAxis axis)
+{
+    m_wholeTickMarks[std::size_t(axis)] = true;
+}
+
+int TwoDGraphView::tickDigits(GraphAxis axis) const
+{
+    return significantDigits(m_scene->ticks[std::size_t(axis)].positions);
 }
 
 void TwoDGraphView::reloadData()
@@ -118,13 +118,12 @@ void TwoDGraphView::reloadRanges()
 void TwoDGraphView::reloadTicks(GraphAxis axis)
 {
     GraphTicks &ticks = m_scene->ticks[std::size_t(axis)];
-    ticks = {};
-    const int count = m_tickMarks[std::size_t(axis)];
-    for (int i = 0; i < count; ++i) {
-        const double position = tickPosition(m_scene->range(axis), i, count);
-        const QString label = QString::asprintf("%g", position);
-        ticks.positions.append(position);
-        ticks.labels.append(m_delegate ? m_delegate->labelForTickMarkIndex(*this, i, axis, label) : label);
+    ticks = {tickPositions(m_scene->range(axis), m_tickMarks[std::size_t(axis)], m_wholeTickMarks[std::size_t(axis)]),
+             {}};
+    for (const double position : ticks.positions) {
+        const QString label = QString::number(position, 'g', 15);
+        const int index = int(ticks.labels.size());
+        ticks.labels.append(m_delegate ? m_delegate->labelForTickMarkIndex(*this, index, axis, label) : label);
     }
 }
 

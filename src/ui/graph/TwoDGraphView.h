@@ -39,9 +39,16 @@ public:
     void setDataSource(const TwoDGraphDataSource *source);
     void setDelegate(const TwoDGraphDelegate *delegate);
 
-    /// The number of tick marks, evenly spaced from the minimum to the maximum of the visible range; 0 for none. The
-    /// delegate supplies the labels; labels that do not fit are left out. Takes effect at the next `reloadData()`.
+    /// The greatest number of tick marks; 0 for none. They stand at round values of the visible range
+    /// (tickPositions()), fewer of them where the next finer distance would need more. The delegate supplies the
+    /// labels; labels that do not fit are left out. Takes effect at the next `reloadData()`.
     void setNumberOfTickMarks(int count, GraphAxis axis);
+
+    /// From the next `reloadData()` on, places tick marks at whole numbers only.
+    void setWholeTickMarks(GraphAxis axis);
+
+    /// How many significant digits state the value of every visible tick mark exactly.
+    [[nodiscard]] int tickDigits(GraphAxis axis) const;
 
     /// Asks the data source and the delegate again. An axis keeps its zoom when its whole range is unchanged. Points
     /// that are not finite are left out.
@@ -124,7 +131,8 @@ private:
     const TwoDGraphDataSource *m_source = nullptr;
     const TwoDGraphDelegate *m_delegate = nullptr;
     std::array<int, 2> m_tickMarks{0, 0}; ///< by axis
-    std::array<GraphRange, 2> m_whole;    ///< by axis
+    std::array<bool, 2> m_wholeTickMarks{false, false};
+    std::array<GraphRange, 2> m_whole; ///< by axis
     QSet<int> m_hiddenLines;
     QString m_paperTitle;
     std::unique_ptr<GraphScene> m_scene;
