@@ -134,6 +134,22 @@ private Q_SLOTS:
         QCOMPARE(label(), test::local(QStringLiteral("10.26")));
     }
 
+    void returnDraws()
+    {
+        addTests(3);
+        test(0).kH = 8;
+        for (int opening = 0; opening < 2; ++opening) {
+            open();
+            QVERIFY(!view().isVisible());
+            QTest::keyClick(combo("startDateCombo").lineEdit(), Qt::Key_Return);
+            QVERIFY(view().isVisible());
+            combo("startDateComboSmall").setCurrentIndex(1);
+            QTest::keyClick(&view(), Qt::Key_Return);
+            QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(2));
+            press("closeButton");
+        }
+    }
+
     void newestFirst()
     {
         addTests(4);

@@ -72,6 +72,8 @@ void GraphController::display()
     m_graphWindow->setWindowTitle(m_graphTank ? formatText(text("GraphTitle"), {m_graphTank->name})
                                               : text("GraphTitleNoTank"));
     m_graphWindow->showDates();
+    // A dialog has one default button; after an earlier drawing it is the one in the graph's layout.
+    m_dateContentView->drawButton().setDefault(true);
     m_dateContentView->startDateCombo().setFocus();
     openSheet(shell.mainWindow(), m_graphWindow);
 }

@@ -20,6 +20,7 @@ namespace brinemark
 GraphDateForm::GraphDateForm(TestDatesModel &dates)
     : m_startDateCombo(new TestDateCombo(dates, QStringLiteral("startDateCombo"), text("GraphStartToolTip")))
     , m_endDateCombo(new TestDateCombo(dates, QStringLiteral("endDateCombo"), text("GraphEndToolTip")))
+    , m_drawButton(new QPushButton(text("GraphDraw")))
 {
     constexpr int readableWidth = 360; // pixels
     setObjectName(QStringLiteral("dateContentView"));
@@ -28,9 +29,8 @@ GraphDateForm::GraphDateForm(TestDatesModel &dates)
     sentence->setWordWrap(true);
     sentence->setFixedWidth(readableWidth);
     auto *buttons = new QDialogButtonBox;
-    QPushButton *draw = buttons->addButton(text("GraphDraw"), QDialogButtonBox::AcceptRole);
-    draw->setObjectName(QStringLiteral("drawButton"));
-    draw->setDefault(true);
+    buttons->addButton(m_drawButton, QDialogButtonBox::AcceptRole);
+    m_drawButton->setObjectName(QStringLiteral("drawButton"));
     QPushButton *cancel = buttons->addButton(text("CancelLabel"), QDialogButtonBox::RejectRole);
     cancel->setObjectName(QStringLiteral("cancelButton"));
 
@@ -50,9 +50,9 @@ GraphDateForm::GraphDateForm(TestDatesModel &dates)
 
     setTabOrder(m_startDateCombo, m_endDateCombo);
     setTabOrder(m_endDateCombo, swap);
-    setTabOrder(swap, draw);
+    setTabOrder(swap, m_drawButton);
     connect(swap, &QToolButton::clicked, this, &GraphDateForm::swapDates);
-    connect(draw, &QPushButton::clicked, this, &GraphDateForm::drawRequested);
+    connect(m_drawButton, &QPushButton::clicked, this, &GraphDateForm::drawRequested);
     connect(cancel, &QPushButton::clicked, this, &GraphDateForm::cancelled);
 }
 

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class QPushButton;
+
 namespace brinemark
 {
 
@@ -11,7 +13,7 @@ class TestDateCombo;
 class TestDatesModel;
 
 /// The small form that asks for a range of dates. Object names: itself "dateContentView", "startDateCombo",
-/// "endDateCombo", "swapButton", "drawButton" (the default button), "cancelButton".
+/// "endDateCombo", "swapButton", "drawButton", "cancelButton".
 class GraphDateForm : public QWidget
 {
     Q_OBJECT
@@ -21,6 +23,7 @@ public:
 
     [[nodiscard]] TestDateCombo &startDateCombo() const { return *m_startDateCombo; }
     [[nodiscard]] TestDateCombo &endDateCombo() const { return *m_endDateCombo; }
+    [[nodiscard]] QPushButton &drawButton() const { return *m_drawButton; }
 
     void swapDates(); ///< for a log with its newest test first, whose start comes after its end
 
@@ -31,6 +34,7 @@ Q_SIGNALS:
 private:
     TestDateCombo *m_startDateCombo;
     TestDateCombo *m_endDateCombo;
+    QPushButton *m_drawButton;
 };
 
 } // namespace brinemark
