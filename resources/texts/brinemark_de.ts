@@ -938,6 +938,11 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Letzten Test wählen oder ein Datum eingeben</translation>
     </message>
     <message>
+        <source>GraphExchangeAndDraw</source>
+        <extracomment>Button of the message about dates whose start is after the end</extracomment>
+        <translation>Vertauschen und zeichnen</translation>
+    </message>
+    <message>
         <source>GraphFormSentence</source>
         <translation>Zeichnet die Wassertests zwischen zwei Tagen, mit einer Linie je Spalte, die im Protokoll zu sehen ist. Die Temperatur wird nicht gezeichnet.</translation>
     </message>

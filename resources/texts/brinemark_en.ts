@@ -938,6 +938,11 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Choose the test to end with, or type a date</translation>
     </message>
     <message>
+        <source>GraphExchangeAndDraw</source>
+        <extracomment>Button of the message about dates whose start is after the end</extracomment>
+        <translation>Exchange and Draw</translation>
+    </message>
+    <message>
         <source>GraphFormSentence</source>
         <translation>Draws the water tests between two dates, with a line for each column that the log shows. The temperature is not drawn.</translation>
     </message>

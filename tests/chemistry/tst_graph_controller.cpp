@@ -150,22 +150,47 @@ private Q_SLOTS:
         }
     }
 
+    void newestFirst_data()
+    {
+        test::columns<bool, bool>("again", "byAlert");
+        test::row("form", false, false);
+        test::row("form, by the alert", false, true);
+        test::row("graph", true, false);
+        test::row("graph, by the alert", true, true);
+    }
     void newestFirst()
     {
+        QFETCH(bool, again);
+        QFETCH(bool, byAlert);
         addTests(4);
         m_tank->condition()->sortWithIdentifier(QStringLiteral("date"), false);
         open();
-        expectRangeAlert([this] { press("drawButton"); });
-        QTest::mouseClick(find<QToolButton>("swapButton"), Qt::LeftButton);
-        press("drawButton");
-        QCOMPARE(GraphController::sharedInstance().graphArray().size(),
-                 std::size_t(4)); // includes the tests at both ends
+        const char *draw = again ? "drawButtonSmall" : "drawButton";
+        const char *swap = again ? "swapButtonSmall" : "swapButton";
+        if (again) {
+            QTest::mouseClick(find<QToolButton>("swapButton"), Qt::LeftButton);
+            press("drawButton");
+            QTest::mouseClick(find<QToolButton>(swap), Qt::LeftButton);
+        }
+        expectRangeAlert([&] { press(draw); }, byAlert ? "defaultButton" : "alternateButton");
+        if (!byAlert) {
+            QTest::mouseClick(find<QToolButton>(swap), Qt::LeftButton);
+            press(draw);
+        }
+        // Includes the tests at both ends.
+        QCOMPARE(GraphController::sharedInstance().graphArray().size(), std::size_t(4));
+        QCOMPARE(combo("startDateComboSmall").date(), firstTest);
+
+        combo("endDateComboSmall").setFocus();
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+        QCOMPARE(m_window->focusWidget()->objectName(), QStringLiteral("swapButtonSmall"));
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+        QCOMPARE(m_window->focusWidget()->objectName(), QStringLiteral("drawButtonSmall"));
     }
 
     void unusableRanges_data()
     {
         test::columns<QString, QString>("start", "end");
-        test::row("reversed", "09.03.26", "02.03.26");
         test::row("the same", "02.03.26", "02.03.26");
         test::row("no start", "", "09.03.26");
         test::row("no end", "02.03.26", "");
@@ -460,12 +485,12 @@ private:
         return names;
     }
     template <class Act>
-    void expectRangeAlert(Act act)
+    void expectRangeAlert(Act act, const char *button = "defaultButton")
     {
         QStringList said;
-        test::onNextAlert([&said](AlertDialog &alert) {
+        test::onNextAlert([&said, button](AlertDialog &alert) {
             said = QStringList{alert.title(), alert.message()};
-            test::pressAlertButton("defaultButton");
+            test::pressAlertButton(button);
         });
         act();
         QCOMPARE(said, QStringList({text("DateRangeTitle"), text("DateRangeMessage")}));

@@ -29,6 +29,16 @@
 namespace brinemark
 {
 
+namespace
+{
+
+bool isRange(const QDateTime &start, const QDateTime &end)
+{
+    return start.isValid() && end.isValid() && start < end;
+}
+
+} // namespace
+
 GraphController::GraphController() = default;
 
 GraphController::~GraphController() = default;
@@ -99,17 +109,16 @@ void GraphController::graphAction()
         return;
     showSeries({});
     const bool again = m_graphWindow->isGraphShown();
-    const TestDateCombo &startCombo =
-        again ? m_graphContentView->startDateComboSmall() : m_dateContentView->startDateCombo();
-    const TestDateCombo &endCombo = again ? m_graphContentView->endDateComboSmall() : m_dateContentView->endDateCombo();
+    TestDateCombo &startCombo = again ? m_graphContentView->startDateComboSmall() : m_dateContentView->startDateCombo();
+    TestDateCombo &endCombo = again ? m_graphContentView->endDateComboSmall() : m_dateContentView->endDateCombo();
+    if (!isRange(startCombo.date(), endCombo.date())) {
+        m_graphContentView->showSentence(text("DateRangeMessage"));
+        if (!wantsExchange(startCombo.date(), endCombo.date()))
+            return;
+        startCombo.exchangeWith(endCombo);
+    }
     const QDateTime start = startCombo.date();
     const QDateTime end = endCombo.date();
-    if (!start.isValid() || !end.isValid() || start >= end) {
-        m_graphContentView->showSentence(text("DateRangeMessage"));
-        beep();
-        runAlertPanel(m_graphWindow, {.title = text("DateRangeTitle"), .message = text("DateRangeMessage")});
-        return;
-    }
     if (!again)
         copyDatesToGraphLayout();
     m_graphContentView->spinningIndicator().start();
@@ -121,6 +130,18 @@ void GraphController::graphAction()
     m_graphWindow->showGraph();
     m_graphContentView->drawButton().setDefault(true);
     m_graphContentView->graphView().setFocus();
+}
+
+bool GraphController::wantsExchange(const QDateTime &start, const QDateTime &end)
+{
+    Alert alert{.title = text("DateRangeTitle"), .message = text("DateRangeMessage")};
+    const bool reversed = isRange(end, start);
+    if (reversed) {
+        alert.defaultButton = text("GraphExchangeAndDraw");
+        alert.alternateButton = text("CancelLabel");
+    }
+    beep();
+    return runAlertPanel(m_graphWindow, alert) == AlertDefault && reversed && m_graphWindow;
 }
 
 void GraphController::copyDatesToGraphLayout()

@@ -38,7 +38,7 @@ public:
     void display();
 
     /// Draws the chosen range. Beeps and shows a message instead when a date is missing or the start is not before the
-    /// end.
+    /// end; for a start after the end, the message offers to exchange the dates and draw.
     void graphAction();
     void cancelAction();
     void scaleSliderAction();
@@ -65,6 +65,9 @@ private:
     void makeWindow();
     void closeGraphSheet(int returnCode);
     void showSeries(const ConditionSeries &series);
+    /// Beeps and says that this is no range of dates. True when the dates are reversed and the user wants to exchange
+    /// them.
+    [[nodiscard]] bool wantsExchange(const QDateTime &start, const QDateTime &end);
     void copyDatesToGraphLayout();
     void showBand(int line);
     void saveGraph();

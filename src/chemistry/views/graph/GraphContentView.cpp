@@ -74,6 +74,9 @@ QHBoxLayout *GraphContentView::makeTopRow()
     row->addSpacing(spacing::group);
     row->addWidget(caption(text("GraphEndLabel"), m_endDateComboSmall));
     row->addWidget(m_endDateComboSmall);
+    QToolButton *swap = makeIconButton("Swap", text("GraphSwapToolTip"), QStringLiteral("swapButtonSmall"));
+    connect(swap, &QToolButton::clicked, this, [this] { m_startDateComboSmall->exchangeWith(*m_endDateComboSmall); });
+    row->addWidget(swap);
     row->addSpacing(spacing::group);
     row->addWidget(m_drawButton);
     row->addWidget(m_spinningIndicator);

@@ -22,8 +22,8 @@ class TestDatesModel;
 class TwoDGraphView;
 
 /// The graph with its controls and legend. Object names: itself "graphContentView", "startDateComboSmall",
-/// "endDateComboSmall", "drawButtonSmall", "spinningIndicator", "wholeGraphButton", "saveButton", "printButton",
-/// "scaleSlider", "graphView", "graphLegend", "closeButton".
+/// "endDateComboSmall", "swapButtonSmall", "drawButtonSmall", "spinningIndicator", "wholeGraphButton", "saveButton",
+/// "printButton", "scaleSlider", "graphView", "graphLegend", "closeButton".
 class GraphContentView : public QWidget
 {
     Q_OBJECT
