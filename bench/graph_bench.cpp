@@ -64,7 +64,7 @@ public:
     {
         return label;
     }
-    QString stringForToolTip(const TwoDGraphView &, QPointF) const override { return {}; }
+    QString stringForToolTip(const TwoDGraphView &, QPointF, int) const override { return {}; }
 
 private:
     QList<QList<QPointF>> m_lines;

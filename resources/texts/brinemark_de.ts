@@ -999,6 +999,16 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Bilder (*.png)</translation>
     </message>
     <message>
+        <source>GraphPointFilledIn</source>
+        <extracomment>^0 is the parameter and ^1 the date of a water test; in the tool tip of a point of the graph that was interpolated.</extracomment>
+        <translation>^0: am ^1 nicht getestet, aus anderen Tests ergänzt</translation>
+    </message>
+    <message>
+        <source>GraphPointTested</source>
+        <extracomment>^0 is the parameter, ^1 the value and ^2 the date of a water test; in the tool tip of a point of the graph.</extracomment>
+        <translation>^0: ^1 am ^2</translation>
+    </message>
+    <message>
         <source>GraphPrint</source>
         <translation>Diagramm drucken …</translation>
     </message>

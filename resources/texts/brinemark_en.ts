@@ -999,6 +999,16 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Pictures (*.png)</translation>
     </message>
     <message>
+        <source>GraphPointFilledIn</source>
+        <extracomment>^0 is the parameter and ^1 the date of a water test; in the tool tip of a point of the graph that was interpolated.</extracomment>
+        <translation>^0: not tested on ^1, filled in from other tests</translation>
+    </message>
+    <message>
+        <source>GraphPointTested</source>
+        <extracomment>^0 is the parameter, ^1 the value and ^2 the date of a water test; in the tool tip of a point of the graph.</extracomment>
+        <translation>^0: ^1 on ^2</translation>
+    </message>
+    <message>
         <source>GraphPrint</source>
         <translation>Print the graph…</translation>
     </message>

@@ -4,7 +4,9 @@
 
 #include "base/text/DateText.h"
 #include "base/text/NumberText.h"
+#include "base/text/Texts.h"
 #include "chemistry/ConditionColumns.h"
+#include "model/KeyAccess.h"
 #include "model/RecordFields.h"
 
 #include <QLocale>
@@ -160,13 +162,42 @@ QList<QPointF> ConditionSeries::points(Parameter parameter) const
     return points;
 }
 
-QString ConditionSeries::toolTip(QPointF point) const
+/// The test of a point of the parameter's line; null for other points. Of tests at the same point it is the first one
+/// with a value, if any.
+const ConditionData *ConditionSeries::testAt(QPointF point, Parameter parameter) const
+{
+    const QList<QPointF> points = this->points(parameter);
+    const ParameterValue valueOf(parameter);
+    const ConditionData *found = nullptr;
+    for (qsizetype i = points.indexOf(point); i >= 0; i = points.indexOf(point, i + 1)) {
+        const ConditionData *test = m_graphArray[std::size_t(i)].get();
+        if (wasTested(valueOf(*test)))
+            return test;
+        found = test;
+    }
+    return found;
+}
+
+QString ConditionSeries::toolTip(QPointF point, Parameter parameter) const
 {
     if (m_graphArray.empty())
         return {};
     const qint64 days = qint64(std::ceil(float(point.x())));
     const QDateTime date = m_graphArray.front()->date.addSecs(days * secondsPerDay);
-    return QStringLiteral("x: %1\ny: %2").arg(localeDateText(date), localizeAndTrimZeros(float(point.y())));
+    QString tip = QStringLiteral("x: %1\ny: %2").arg(localeDateText(date), localizeAndTrimZeros(float(point.y())));
+    if (const ConditionData *test = testAt(point, parameter)) {
+        const ParameterTraits &traits = traitsOf(parameter);
+        const QString name = text(traits.targetNameKey);
+        const QString day = localeDateText(test->date);
+        if (wasTested(ParameterValue(parameter)(*test))) {
+            const SFCheckedFormatter formatter = conditionFormatter(*conditionColumnFromIdentifier(traits.identifier));
+            const QString value = formatter.stringForObjectValue(valueForKey(*test, traits.identifier));
+            tip += u'\n' + fillPlaceholders(text("GraphPointTested"), {name, value, day});
+        } else {
+            tip += u'\n' + fillPlaceholders(text("GraphPointFilledIn"), {name, day});
+        }
+    }
+    return tip;
 }
 
 QString dayTickLabel(const QString &defaultLabel)

@@ -50,10 +50,14 @@ public:
     /// the parameter was never tested.
     [[nodiscard]] QList<QPointF> points(Parameter parameter) const;
 
-    /// "x: " and the day's date (days are rounded up), "y: " and the value, in the user's locale.
-    [[nodiscard]] QString toolTip(QPointF point) const;
+    /// "x: " and the day's date (days are rounded up), "y: " and the value, in the user's locale. For a point of the
+    /// parameter's line, a third line names the parameter and either the test's date and value as the log shows them,
+    /// or the date of the test that lacks a value.
+    [[nodiscard]] QString toolTip(QPointF point, Parameter parameter) const;
 
 private:
+    [[nodiscard]] const ConditionData *testAt(QPointF point, Parameter parameter) const;
+
     Condition::Records m_graphArray;
     std::vector<float> m_days; ///< X of every test in range
     std::vector<Parameter> m_colorIdentifierArray;

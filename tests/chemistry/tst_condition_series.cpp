@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "base/text/DateText.h"
 #include "chemistry/ConditionSeries.h"
 #include "model/Tank.h"
 #include "support/DataRow.h"
@@ -7,6 +8,7 @@
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <cmath>
 
@@ -171,16 +173,32 @@ private Q_SLOTS:
         QCOMPARE(valueTickLabel(QStringLiteral("1.025"), 4), test::local(QStringLiteral("1.025")));
     }
 
+    void toolTips_data()
+    {
+        // %1 to %3 are the first days of the range.
+        test::columns<Parameter, QPointF, QString>("parameter", "point", "tip");
+        row("tested", Parameter::Ph, QPointF(0, 7), "x: %1\ny: 7.0\npH: 7.00 on %1");
+        row("filled in", Parameter::Ph, QPointF(1.125, 7.25),
+            "x: %3\ny: 7.25\npH: not tested on %2, filled in from other tests");
+        row("value as the log shows it", Parameter::Calcium, QPointF(1.125, 420),
+            "x: %3\ny: 420.0\nCalcium: 420 on %2");
+        row("no point", Parameter::Ph, QPointF(1.125, 7.125), "x: %3\ny: 7.125");
+    }
     void toolTips()
     {
-        m_tank->conditionListArray() = {testOn(0), testOn(10)};
-        const ConditionSeries series = seriesOf({"ph"});
-        const bool german = QLocale().decimalPoint() == u",";
-        QCOMPARE(series.toolTip({0, 7}),
-                 QStringLiteral("x: %1\ny: %2").arg(german ? "01.03.26" : "03/01/26", test::local("7.0")));
-        QCOMPARE(series.toolTip({1.01, 7.125}),
-                 QStringLiteral("x: %1\ny: %2").arg(german ? "03.03.26" : "03/03/26", test::local("7.125")));
-        QCOMPARE(ConditionSeries().toolTip({1, 7}), QString());
+        QFETCH(Parameter, parameter);
+        QFETCH(QPointF, point);
+        QFETCH(QString, tip);
+        m_tank->conditionListArray() = {testOn(0), testOn(1.125), testOn(1.125), testOn(10)};
+        m_tank->conditionListArray()[0]->ph = 7;
+        m_tank->conditionListArray()[3]->ph = 7.75F;
+        m_tank->conditionListArray()[2]->calcium = 420; // of two tests at one point, the one with a value counts
+        static const QRegularExpression fullStop(QStringLiteral("(?<=\\d)\\.(?=\\d)"));
+        tip.replace(fullStop, QLocale().decimalPoint());
+        for (int day = 0; day < 3; ++day)
+            tip.replace(QStringLiteral("%%1").arg(day + 1), localeDateText(firstMoment.addDays(day)));
+        QCOMPARE(seriesOf({"ph", "calcium"}).toolTip(point, parameter), tip);
+        QCOMPARE(ConditionSeries().toolTip(point, parameter), QString());
     }
 
     void scale()

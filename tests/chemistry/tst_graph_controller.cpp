@@ -105,7 +105,8 @@ private Q_SLOTS:
         QCOMPARE(view().wholeRange(GraphAxis::X), (GraphRange{0, 10}));
         QCOMPARE(controller.attributesForLineIndex(view(), 0).colour, find<ColourSwatch>("khView")->colour());
         QCOMPARE(controller.labelForTickMarkIndex(view(), 0, GraphAxis::X, QStringLiteral("2.5")), QStringLiteral("3"));
-        QVERIFY(controller.stringForToolTip(view(), {5, 9}).startsWith(u"x: "));
+        QVERIFY(controller.stringForToolTip(view(), {5, 9}, 0).contains(QStringLiteral("KH: not tested on")));
+        QVERIFY(!controller.stringForToolTip(view(), {5, 9}, 1).contains(QStringLiteral("KH")));
 
         // The small combos take over the range, to the second.
         QCOMPARE(combo("startDateComboSmall").date(), firstTest);

@@ -62,9 +62,9 @@ public:
         asked[axis].append(index == asked[axis].size() ? label : QStringLiteral("out of order"));
         return u'<' + label + u'>';
     }
-    QString stringForToolTip(const TwoDGraphView &, QPointF point) const override
+    QString stringForToolTip(const TwoDGraphView &, QPointF point, int line) const override
     {
-        return QStringLiteral("at %1, %2").arg(point.x()).arg(point.y());
+        return QStringLiteral("line %1 at %2, %3").arg(line).arg(point.x()).arg(point.y());
     }
 };
 
@@ -318,7 +318,7 @@ private Q_SLOTS:
         const QPointF point = m_view->positionOf({4, 8});
         const QImage unmarked = shot();
         hover(point + QPointF(8, -8));
-        QCOMPARE(QToolTip::text(), QStringLiteral("at 4, 8"));
+        QCOMPARE(QToolTip::text(), QStringLiteral("line 0 at 4, 8"));
         QVERIFY(shot() != unmarked);
         hover(point + QPointF(10, -10));
         QTRY_VERIFY(!QToolTip::isVisible());

@@ -276,9 +276,9 @@ QString GraphController::labelForTickMarkIndex(const TwoDGraphView &view, int, G
     return axis == GraphAxis::X ? dayTickLabel(defaultLabel) : valueTickLabel(defaultLabel, view.tickDigits(axis));
 }
 
-QString GraphController::stringForToolTip(const TwoDGraphView &, QPointF point) const
+QString GraphController::stringForToolTip(const TwoDGraphView &, QPointF point, int line) const
 {
-    return m_series.toolTip(point);
+    return m_series.toolTip(point, colorIdentifierArray().at(std::size_t(line)));
 }
 
 } // namespace brinemark

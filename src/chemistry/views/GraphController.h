@@ -56,7 +56,7 @@ public:
     [[nodiscard]] GraphLineAttributes attributesForLineIndex(const TwoDGraphView &view, int line) const override;
     [[nodiscard]] QString labelForTickMarkIndex(const TwoDGraphView &view, int index, GraphAxis axis,
                                                 const QString &defaultLabel) const override;
-    [[nodiscard]] QString stringForToolTip(const TwoDGraphView &view, QPointF point) const override;
+    [[nodiscard]] QString stringForToolTip(const TwoDGraphView &view, QPointF point, int line) const override;
 
 private:
     friend class Shared<GraphController>;

@@ -57,7 +57,7 @@ public:
                                                         const QString &defaultLabel) const = 0;
 
     /// The tool tip of one of a line's points, in graph units; empty for none.
-    [[nodiscard]] virtual QString stringForToolTip(const TwoDGraphView &view, QPointF point) const = 0;
+    [[nodiscard]] virtual QString stringForToolTip(const TwoDGraphView &view, QPointF point, int line) const = 0;
 };
 
 } // namespace brinemark

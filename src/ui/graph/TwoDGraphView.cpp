@@ -255,7 +255,7 @@ void TwoDGraphView::markPointAt(QPointF position)
     if (!nearest)
         return clearMark();
     m_plot->setMarkedPoint(nearest->point, m_scene->lines[nearest->line].attributes.colour);
-    const QString tip = m_delegate ? m_delegate->stringForToolTip(*this, nearest->point) : QString();
+    const QString tip = m_delegate ? m_delegate->stringForToolTip(*this, nearest->point, nearest->line) : QString();
     // An empty text hides the previous point's tool tip.
     QToolTip::showText(mapToGlobal(position.toPoint()), tip, this);
 }
