@@ -943,6 +943,15 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Vertauschen und zeichnen</translation>
     </message>
     <message>
+        <source>GraphFitScale</source>
+        <extracomment>check box below the legend of the graph</extracomment>
+        <translation>Maßstab anpassen</translation>
+    </message>
+    <message>
+        <source>GraphFitScaleToolTip</source>
+        <translation>Den Maßstab an die gezeigten Linien anpassen</translation>
+    </message>
+    <message>
         <source>GraphFormSentence</source>
         <translation>Zeichnet die Wassertests zwischen zwei Tagen, mit einer Linie je Spalte, die im Protokoll zu sehen ist. Die Temperatur wird nicht gezeichnet.</translation>
     </message>

@@ -943,6 +943,15 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Exchange and Draw</translation>
     </message>
     <message>
+        <source>GraphFitScale</source>
+        <extracomment>check box below the legend of the graph</extracomment>
+        <translation>Fit the scale</translation>
+    </message>
+    <message>
+        <source>GraphFitScaleToolTip</source>
+        <translation>Fit the scale to the lines that are shown</translation>
+    </message>
+    <message>
         <source>GraphFormSentence</source>
         <translation>Draws the water tests between two dates, with a line for each column that the log shows. The temperature is not drawn.</translation>
     </message>

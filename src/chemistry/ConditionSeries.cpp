@@ -112,21 +112,21 @@ ConditionSeries::ConditionSeries(const Condition &log, const QDateTime &start, c
     if (m_graphArray.empty())
         return;
     m_colorIdentifierArray = linesOf(log.columnInfoArray());
-    for (const Parameter parameter : m_colorIdentifierArray) {
-        const ParameterValue valueOf(parameter);
-        for (const std::shared_ptr<ConditionData> &test : m_graphArray)
-            m_maxYValue = std::max(m_maxYValue, double(valueOf(*test)));
-    }
+    for (const Parameter parameter : m_colorIdentifierArray)
+        m_maxYValue = std::max(m_maxYValue, largestValue(parameter));
     const qint64 firstMoment = m_graphArray.front()->date.toMSecsSinceEpoch();
     m_days.reserve(m_graphArray.size());
     for (const std::shared_ptr<ConditionData> &test : m_graphArray)
         m_days.push_back(float(double(test->date.toMSecsSinceEpoch() - firstMoment) / double(millisecondsPerDay)));
 }
 
-int ConditionSeries::numberOfYTickMarks() const
+double ConditionSeries::largestValue(Parameter parameter) const
 {
-    constexpr double most = 20;
-    return m_maxYValue <= 40 ? 10 : int(std::min(most, std::ceil(std::floor(m_maxYValue) / 10)));
+    const ParameterValue valueOf(parameter);
+    double largest = 0;
+    for (const std::shared_ptr<ConditionData> &test : m_graphArray)
+        largest = std::max(largest, double(valueOf(*test)));
+    return largest;
 }
 
 int ConditionSeries::numberOfXTickMarks() const
@@ -198,6 +198,12 @@ QString ConditionSeries::toolTip(QPointF point, Parameter parameter) const
         }
     }
     return tip;
+}
+
+int numberOfYTickMarks(double maxYValue)
+{
+    constexpr double most = 20;
+    return maxYValue <= 40 ? 10 : int(std::min(most, std::ceil(std::floor(maxYValue) / 10)));
 }
 
 QString dayTickLabel(const QString &defaultLabel)

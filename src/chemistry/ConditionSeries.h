@@ -33,11 +33,11 @@ public:
     /// The top of the Y axis: the largest value of the lines, and at least 20.
     [[nodiscard]] double maxYValue() const { return m_maxYValue; }
 
+    /// The largest value of a line; 0 when the parameter was never tested.
+    [[nodiscard]] double largestValue(Parameter parameter) const;
+
     /// Days from the first test in range to the last.
     [[nodiscard]] float maxXValue() const { return m_days.empty() ? 0 : m_days.back(); }
-
-    /// 10 while maxYValue() is at most 40; above that one for every ten, but at most 20.
-    [[nodiscard]] int numberOfYTickMarks() const;
 
     /// One for every day, but at least 2 and at most 12.
     [[nodiscard]] int numberOfXTickMarks() const;
@@ -63,6 +63,9 @@ private:
     std::vector<Parameter> m_colorIdentifierArray;
     double m_maxYValue = 20;
 };
+
+/// The number of tick marks on a Y axis: 10 while its top is at most 40; above that one for every ten, but at most 20.
+[[nodiscard]] int numberOfYTickMarks(double maxYValue);
 
 /// The label of a tick mark on the X axis, where days count from 1. `defaultLabel` is the number with a full stop.
 [[nodiscard]] QString dayTickLabel(const QString &defaultLabel);

@@ -94,7 +94,7 @@ private Q_SLOTS:
         m_tank->conditionListArray().back()->copper = 500; // not shown
         const ConditionSeries series = seriesOf({"temp", "nitrate"});
         QTEST(series.maxYValue(), "maxYValue");
-        QTEST(series.numberOfYTickMarks(), "yTicks");
+        QTEST(numberOfYTickMarks(series.maxYValue()), "yTicks");
         QTEST(series.numberOfXTickMarks(), "xTicks");
         QCOMPARE(series.maxXValue(), float(days.last()));
     }

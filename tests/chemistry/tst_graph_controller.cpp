@@ -339,6 +339,43 @@ private Q_SLOTS:
         QCOMPARE(controller.maxYValue(), 400.0);
     }
 
+    // Hiding the line with the highest values makes room for the others.
+    void fitScale()
+    {
+        addTests(3);
+        test(0).kH = 8.5F;
+        test(1).calcium = 400;
+        open();
+        press("drawButton");
+        const auto top = [this] { return view().wholeRange(GraphAxis::Y).max; };
+        auto *fit = find<QCheckBox>("fitScaleBox");
+        auto *kH = find<QCheckBox>("khBox");
+        auto *calcium = find<QCheckBox>("calciumBox");
+        auto *slider = find<ScaleSlider>("scaleSlider");
+        QTest::mouseClick(calcium, Qt::LeftButton);
+        QCOMPARE(top(), 400.0);
+        QTest::mouseClick(fit, Qt::LeftButton);
+        QCOMPARE(top(), 8.5);
+        QCOMPARE(slider->maximumFloat(), 8.5F);
+        QVERIFY(!view().isZoomed());
+        slider->setValue(slider->maximum() / 2);
+        QCOMPARE(top(), 4.25);
+        QTest::mouseClick(calcium, Qt::LeftButton);
+        QCOMPARE(top(), 400.0);
+        QCOMPARE(slider->value(), 0);
+        QTest::mouseClick(calcium, Qt::LeftButton);
+        QCOMPARE(top(), 8.5);
+        QTest::mouseClick(kH, Qt::LeftButton);
+        QCOMPARE(top(), 400.0); // nothing is left to fit
+        QTest::mouseClick(kH, Qt::LeftButton);
+        press("drawButtonSmall"); // shows every line again, over the whole scale
+        QVERIFY(!fit->isChecked());
+        QCOMPARE(top(), 400.0);
+        QTest::mouseClick(fit, Qt::LeftButton);
+        QTest::mouseClick(fit, Qt::LeftButton);
+        QCOMPARE(top(), 400.0);
+    }
+
     void emptyGraphs_data()
     {
         test::columns<QStringList, bool, QString>("columns", "inRange", "sentence");
@@ -476,7 +513,7 @@ private:
     }
     QStringList shownBoxes()
     {
-        QList<QCheckBox *> boxes = m_window->findChildren<QCheckBox *>();
+        QList<QCheckBox *> boxes = find<QWidget>("graphLegend")->findChildren<QCheckBox *>();
         std::sort(boxes.begin(), boxes.end(), [this](QCheckBox *a, QCheckBox *b) {
             return a->mapTo(m_window, QPoint()).y() < b->mapTo(m_window, QPoint()).y();
         });

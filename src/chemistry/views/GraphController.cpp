@@ -21,8 +21,10 @@
 #include "ui/SpinningIndicator.h"
 #include "ui/graph/TwoDGraphView.h"
 
+#include <QCheckBox>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -59,8 +61,8 @@ void GraphController::makeWindow()
     connect(m_graphContentView, &GraphContentView::saveRequested, this, &GraphController::saveGraph);
     connect(m_graphContentView, &GraphContentView::printRequested, this, &GraphController::printGraph);
     connect(m_graphContentView, &GraphContentView::closeRequested, this, &GraphController::cancelAction);
-    connect(&m_graphContentView->legend(), &GraphLegend::lineShown, &m_graphContentView->graphView(),
-            &TwoDGraphView::setLineVisible);
+    connect(m_graphContentView, &GraphContentView::fitScaleChanged, this, &GraphController::restartScale);
+    connect(&m_graphContentView->legend(), &GraphLegend::lineShown, this, &GraphController::showLine);
     connect(&m_graphContentView->legend(), &GraphLegend::linePointedAt, this, &GraphController::showBand);
     connect(m_graphWindow, &QDialog::finished, this, &GraphController::closeGraphSheet);
 }
@@ -157,16 +159,17 @@ void GraphController::copyDatesToGraphLayout()
 void GraphController::showSeries(const ConditionSeries &series)
 {
     m_series = series;
-    m_maxYValue = series.maxYValue();
     TwoDGraphView &view = m_graphContentView->graphView();
     m_graphContentView->legend().showLines(series, m_graphTank.get());
-    m_graphContentView->scaleSlider().restart(float(m_maxYValue));
     view.setHighlightedBand(std::nullopt);
     for (int line = 0; line < int(colorIdentifierArray().size()); ++line)
         view.setLineVisible(line, true);
-    view.setNumberOfTickMarks(series.numberOfYTickMarks(), GraphAxis::Y);
     view.setNumberOfTickMarks(series.numberOfXTickMarks(), GraphAxis::X);
-    view.reloadData();
+    {
+        const QSignalBlocker blocker(m_graphContentView->fitScaleBox());
+        m_graphContentView->fitScaleBox().setChecked(false);
+    }
+    restartScale();
     if (const QString why = whyEmpty(); !why.isEmpty()) {
         m_graphContentView->showSentence(why);
         return;
@@ -186,6 +189,34 @@ QString GraphController::whyEmpty() const
     const bool tested = std::any_of(colorIdentifierArray().begin(), colorIdentifierArray().end(),
                                     [this](Parameter parameter) { return m_series.isTested(parameter); });
     return tested ? QString() : text("GraphNothingTested");
+}
+
+void GraphController::showLine(int line, bool visible)
+{
+    m_graphContentView->graphView().setLineVisible(line, visible);
+    if (m_graphContentView->fitScaleBox().isChecked())
+        restartScale();
+}
+
+double GraphController::topOfScale() const
+{
+    double top = 0;
+    if (m_graphContentView->fitScaleBox().isChecked()) {
+        for (int line = 0; line < int(colorIdentifierArray().size()); ++line) {
+            if (m_graphContentView->graphView().isLineVisible(line))
+                top = std::max(top, m_series.largestValue(colorIdentifierArray()[std::size_t(line)]));
+        }
+    }
+    return top > 0 ? top : m_series.maxYValue();
+}
+
+void GraphController::restartScale()
+{
+    m_maxYValue = topOfScale();
+    m_graphContentView->scaleSlider().restart(float(m_maxYValue));
+    TwoDGraphView &view = m_graphContentView->graphView();
+    view.setNumberOfTickMarks(numberOfYTickMarks(m_maxYValue), GraphAxis::Y);
+    view.reloadData();
 }
 
 void GraphController::scaleSliderAction()

@@ -69,6 +69,11 @@ private:
     /// them.
     [[nodiscard]] bool wantsExchange(const QDateTime &start, const QDateTime &end);
     void copyDatesToGraphLayout();
+    void showLine(int line, bool visible);
+    /// The top of the Y axis before the scale slider reduces it: that of the series or, when the scale is to fit the
+    /// visible lines, their largest value.
+    [[nodiscard]] double topOfScale() const;
+    void restartScale();
     void showBand(int line);
     void saveGraph();
     void printGraph();
@@ -80,7 +85,8 @@ private:
 
     std::shared_ptr<Tank> m_graphTank; ///< kept alive while the sheet shows it, even when its file is closed
     ConditionSeries m_series;
-    double m_maxYValue = 0; ///< top of the Y axis: the series' maximum, reduced by the scale slider
+    /// Top of the Y axis: the maximum of the series, or of its visible lines, reduced by the scale slider.
+    double m_maxYValue = 0;
     OwnedWidget<GraphWindow> m_graphWindow;
 };
 

@@ -15,6 +15,7 @@
 #include "ui/SpinningIndicator.h"
 #include "ui/graph/TwoDGraphView.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -37,6 +38,7 @@ GraphContentView::GraphContentView(TestDatesModel &dates)
     , m_emptyState(new EmptyState(icon("Graph"), QString()))
     , m_place(new QStackedWidget)
     , m_legend(new GraphLegend)
+    , m_fitScaleBox(new QCheckBox(text("GraphFitScale")))
     , m_hint(new ElidedLabel)
 {
     setObjectName(QStringLiteral("graphContentView"));
@@ -49,6 +51,7 @@ GraphContentView::GraphContentView(TestDatesModel &dates)
 
     connect(m_drawButton, &QPushButton::clicked, this, &GraphContentView::drawRequested);
     connect(m_scaleSlider, &QSlider::valueChanged, this, &GraphContentView::scaleChanged);
+    connect(m_fitScaleBox, &QCheckBox::toggled, this, &GraphContentView::fitScaleChanged);
     connect(m_wholeGraphButton, &QToolButton::clicked, m_graphView, &TwoDGraphView::resetZoom);
     connect(m_graphView, &TwoDGraphView::zoomChanged, this, &GraphContentView::enableButtons);
     connect(m_saveButton, &QToolButton::clicked, this, &GraphContentView::saveRequested);
@@ -96,11 +99,20 @@ QHBoxLayout *GraphContentView::makeGraphRow()
     m_legend->setObjectName(QStringLiteral("graphLegend"));
     m_place->addWidget(m_graphView);
     m_place->addWidget(m_emptyState);
+    m_fitScaleBox->setObjectName(QStringLiteral("fitScaleBox"));
+    m_fitScaleBox->setToolTip(text("GraphFitScaleToolTip"));
+    auto *legend = new QVBoxLayout;
+    legend->setSpacing(spacing::group);
+    legend->addWidget(m_legend);
+    auto *belowLegend = new QHBoxLayout;
+    belowLegend->setContentsMargins(spacing::group, 0, spacing::group, 0); // as the legend's entries have
+    belowLegend->addWidget(m_fitScaleBox);
+    legend->addLayout(belowLegend);
     auto *row = new QHBoxLayout;
     row->setSpacing(spacing::group);
     row->addWidget(m_scaleSlider);
     row->addWidget(m_place, 1);
-    row->addWidget(m_legend);
+    row->addLayout(legend);
     return row;
 }
 
@@ -136,6 +148,7 @@ void GraphContentView::showPart(QWidget *part)
 {
     m_place->setCurrentWidget(part);
     m_scaleSlider->setVisible(part == m_graphView);
+    m_fitScaleBox->setVisible(part == m_graphView);
     enableButtons();
 }
 

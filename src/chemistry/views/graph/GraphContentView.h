@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QHBoxLayout;
 class QPushButton;
 class QStackedWidget;
@@ -23,7 +24,7 @@ class TwoDGraphView;
 
 /// The graph with its controls and legend. Object names: itself "graphContentView", "startDateComboSmall",
 /// "endDateComboSmall", "swapButtonSmall", "drawButtonSmall", "spinningIndicator", "wholeGraphButton", "saveButton",
-/// "printButton", "scaleSlider", "graphView", "graphLegend", "closeButton".
+/// "printButton", "scaleSlider", "graphView", "graphLegend", "fitScaleBox", "closeButton".
 class GraphContentView : public QWidget
 {
     Q_OBJECT
@@ -35,6 +36,7 @@ public:
     [[nodiscard]] TestDateCombo &endDateComboSmall() const { return *m_endDateComboSmall; }
     [[nodiscard]] SpinningIndicator &spinningIndicator() const { return *m_spinningIndicator; }
     [[nodiscard]] ScaleSlider &scaleSlider() const { return *m_scaleSlider; }
+    [[nodiscard]] QCheckBox &fitScaleBox() const { return *m_fitScaleBox; }
     [[nodiscard]] TwoDGraphView &graphView() const { return *m_graphView; }
     [[nodiscard]] GraphLegend &legend() const { return *m_legend; }
     [[nodiscard]] QPushButton &drawButton() const { return *m_drawButton; }
@@ -48,6 +50,7 @@ public:
 Q_SIGNALS:
     void drawRequested();
     void scaleChanged();
+    void fitScaleChanged();
     void saveRequested();
     void printRequested();
     void closeRequested();
@@ -71,6 +74,7 @@ private:
     EmptyState *m_emptyState;
     QStackedWidget *m_place; ///< contains the graph and the sentence, one of them visible
     GraphLegend *m_legend;
+    QCheckBox *m_fitScaleBox;
     ElidedLabel *m_hint;
 };
 
