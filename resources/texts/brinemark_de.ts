@@ -988,7 +988,7 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     </message>
     <message>
         <source>GraphNotTested</source>
-        <translation>in diesem Zeitraum nicht getestet</translation>
+        <translation>In diesem Zeitraum nicht getestet</translation>
     </message>
     <message>
         <source>GraphNothingTested</source>

@@ -988,7 +988,7 @@ Then test every day and repeat the water change until the value is in range. Mea
     </message>
     <message>
         <source>GraphNotTested</source>
-        <translation>not tested in this range</translation>
+        <translation>Not tested in this range</translation>
     </message>
     <message>
         <source>GraphNothingTested</source>

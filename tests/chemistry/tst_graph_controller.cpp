@@ -247,26 +247,39 @@ private Q_SLOTS:
 
     void legend()
     {
+        m_tank->condition()->setColumnInfoArray(
+            {{"ammonia", 0}, {"kH", 0}, {"copper", 0}, {"calcium", 0}, {"iron", 0}});
         addTests(3);
         test(0).kH = 8;
         test(1).calcium = 400;
         open();
         press("drawButton");
-        QCOMPARE(shownBoxes(), QStringList({"khBox", "calciumBox", "ironBox"})); // from top to bottom
+        // From top to bottom; those that were not tested stand at the end.
+        QCOMPARE(shownBoxes(), QStringList({"khBox", "calciumBox", "ammoniaBox", "copperBox", "ironBox"}));
         QVERIFY(!find<QCheckBox>("ironBox")->isEnabled());
+        auto *caption = find<QLabel>("notTestedCaption");
+        QVERIFY(caption->geometry().top() > find<QCheckBox>("calciumBox")->parentWidget()->geometry().top());
+        QVERIFY(caption->geometry().top() < find<QCheckBox>("ammoniaBox")->parentWidget()->geometry().top());
+        QCOMPARE(find<QCheckBox>("ironBox")->parentWidget()->height(),
+                 find<QCheckBox>("khBox")->parentWidget()->height());
 
         auto *calcium = find<QCheckBox>("calciumBox");
         QTest::mouseClick(calcium, Qt::LeftButton);
-        QVERIFY(!view().isLineVisible(1));
-        QVERIFY(view().isLineVisible(0));
+        QVERIFY(!view().isLineVisible(3));
+        QVERIFY(view().isLineVisible(1));
         QVERIFY(!find<ColourSwatch>("calciumView")->isFilled());
         QTest::keyClick(calcium, Qt::Key_Space);
-        QVERIFY(view().isLineVisible(1));
+        QVERIFY(view().isLineVisible(3));
         QTest::mouseClick(find<ColourSwatch>("calciumView")->parentWidget(), Qt::LeftButton, {}, QPoint(2, 2));
-        QVERIFY(!view().isLineVisible(1));
+        QVERIFY(!view().isLineVisible(3));
         press("drawButtonSmall"); // which shows every line again
-        QVERIFY(view().isLineVisible(1));
+        QVERIFY(view().isLineVisible(3));
         QVERIFY(find<QCheckBox>("calciumBox")->isChecked());
+
+        for (int i = 0; i < 3; ++i)
+            test(i).ammonia = test(i).copper = test(i).iron = 0;
+        press("drawButtonSmall");
+        QVERIFY(!find<QLabel>("notTestedCaption")->isVisible());
     }
 
     void bands_data()

@@ -6,7 +6,10 @@
 #include "chemistry/TargetCheck.h"
 #include "chemistry/views/graph/LegendEntry.h"
 #include "model/Tank.h"
+#include "ui/Colours.h"
+#include "ui/Spacing.h"
 
+#include <QLabel>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -40,6 +43,13 @@ GraphLegend::GraphLegend(QWidget *parent)
     m_column = new QVBoxLayout(content);
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(0);
+    m_notTestedCaption = new QLabel(text("GraphNotTested"));
+    m_notTestedCaption->setObjectName(QStringLiteral("notTestedCaption"));
+    m_notTestedCaption->setTextFormat(Qt::PlainText);
+    m_notTestedCaption->setWordWrap(true);
+    m_notTestedCaption->setPalette(quietPalette(palette()));
+    m_notTestedCaption->setContentsMargins(spacing::group, spacing::group, spacing::group, spacing::tight);
+    m_column->addWidget(m_notTestedCaption);
     m_column->addStretch();
     setWidget(content);
     viewport()->setAutoFillBackground(false);
@@ -51,16 +61,20 @@ void GraphLegend::showLines(const ConditionSeries &series, const Tank *tank)
     for (LegendEntry *entry : m_entries)
         delete entry;
     m_entries.clear();
+    int testedCount = 0;
     for (const Parameter parameter : series.colorIdentifierArray()) {
         if (!tank)
             break;
+        const bool tested = series.isTested(parameter);
         const int line = int(m_entries.size());
-        auto *entry = new LegendEntry(parameter, series.isTested(parameter), toolTipOf(*tank->target(parameter)));
+        auto *entry = new LegendEntry(parameter, tested, toolTipOf(*tank->target(parameter)));
         connect(entry, &LegendEntry::shown, this, [this, line](bool visible) { Q_EMIT lineShown(line, visible); });
         connect(entry, &LegendEntry::pointedAt, this, &GraphLegend::tellPointedAt);
-        m_column->insertWidget(line, entry);
+        const int beforeStretch = m_column->count() - 1;
+        m_column->insertWidget(tested ? testedCount++ : beforeStretch, entry);
         m_entries.push_back(entry);
     }
+    m_notTestedCaption->setVisible(testedCount < int(m_entries.size()));
     setVisible(!m_entries.empty()); // gives the whole width to a sentence that replaces the graph
 }
 

@@ -8,6 +8,7 @@
 
 #include <vector>
 
+class QLabel;
 class QVBoxLayout;
 
 namespace brinemark
@@ -17,7 +18,8 @@ class ConditionSeries;
 class LegendEntry;
 class Tank;
 
-/// A LegendEntry for each line of a graph, in drawing order. Scrolls when there is no room.
+/// A LegendEntry for each line of a graph, in drawing order; below them, under a caption (object name
+/// "notTestedCaption"), those that were not tested. Scrolls when there is no room.
 class GraphLegend : public QScrollArea
 {
     Q_OBJECT
@@ -39,7 +41,8 @@ private:
     void tellPointedAt();
 
     QVBoxLayout *m_column = nullptr;
-    std::vector<LegendEntry *> m_entries;
+    QLabel *m_notTestedCaption = nullptr;
+    std::vector<LegendEntry *> m_entries; ///< by line
 };
 
 } // namespace brinemark

@@ -3,12 +3,10 @@
 #include "chemistry/views/graph/LegendEntry.h"
 
 #include "chemistry/views/graph/ColourSwatch.h"
-#include "ui/Colours.h"
 #include "ui/Spacing.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
-#include <QLabel>
+#include <QHBoxLayout>
 #include <QMouseEvent>
 
 namespace brinemark
@@ -28,23 +26,13 @@ LegendEntry::LegendEntry(Parameter parameter, bool tested, const QString &toolTi
     m_box->installEventFilter(this);
     setToolTip(toolTip);
 
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(spacing::group, spacing::tight, spacing::group, spacing::tight);
-    grid->setHorizontalSpacing(spacing::group);
-    grid->setVerticalSpacing(0);
-    grid->addWidget(m_swatch, 0, 0);
-    grid->addWidget(m_box, 0, 1);
-    grid->setColumnStretch(1, 1);
-    if (!tested) {
-        auto *note = new QLabel(text("GraphNotTested"));
-        note->setTextFormat(Qt::PlainText);
-        note->setWordWrap(true);
-        note->setPalette(quietPalette(palette()));
-        grid->addWidget(note, 1, 1);
-        m_box->setAccessibleDescription(note->text());
-    } else {
-        m_box->setAccessibleDescription(toolTip);
-    }
+    m_box->setAccessibleDescription(tested ? toolTip : text("GraphNotTested"));
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(spacing::group, spacing::tight, spacing::group, spacing::tight);
+    row->setSpacing(spacing::group);
+    row->addWidget(m_swatch);
+    row->addWidget(m_box, 1);
 
     connect(m_box, &QCheckBox::toggled, this, [this](bool visible) {
         m_swatch->setFilled(visible);

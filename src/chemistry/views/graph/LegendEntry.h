@@ -15,8 +15,8 @@ namespace brinemark
 class ColourSwatch;
 
 /// A line of a graph's legend: colour swatch (object name "phView", "ghView" ...) and a check box with the parameter's
-/// name ("phBox" ...), which shows and hides the line by click or Space. An entry whose parameter was not tested says
-/// so.
+/// name ("phBox" ...), which shows and hides the line by click or Space. The box of a parameter that was not
+/// tested is disabled.
 class LegendEntry : public QWidget
 {
     Q_OBJECT
