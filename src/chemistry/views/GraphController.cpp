@@ -109,12 +109,10 @@ void GraphController::graphAction()
 {
     if (!m_graphWindow)
         return;
-    showSeries({});
     const bool again = m_graphWindow->isGraphShown();
     TestDateCombo &startCombo = again ? m_graphContentView->startDateComboSmall() : m_dateContentView->startDateCombo();
     TestDateCombo &endCombo = again ? m_graphContentView->endDateComboSmall() : m_dateContentView->endDateCombo();
     if (!isRange(startCombo.date(), endCombo.date())) {
-        m_graphContentView->showSentence(text("DateRangeMessage"));
         if (!wantsExchange(startCombo.date(), endCombo.date()))
             return;
         startCombo.exchangeWith(endCombo);
@@ -124,8 +122,7 @@ void GraphController::graphAction()
     if (!again)
         copyDatesToGraphLayout();
     m_graphContentView->spinningIndicator().start();
-    if (m_graphTank)
-        showSeries(ConditionSeries(*m_graphTank->condition(), start, end));
+    showSeries(m_graphTank ? ConditionSeries(*m_graphTank->condition(), start, end) : ConditionSeries());
     m_graphContentView->spinningIndicator().stop();
     if (again)
         return;

@@ -37,8 +37,8 @@ public:
     /// lines.
     void display();
 
-    /// Draws the chosen range. Beeps and shows a message instead when a date is missing or the start is not before the
-    /// end; for a start after the end, the message offers to exchange the dates and draw.
+    /// Draws the chosen range. Beeps, shows a message and leaves an earlier graph standing when a date is missing or
+    /// the start is not before the end; for a start after the end, the message offers to exchange the dates and draw.
     void graphAction();
     void cancelAction();
     void scaleSliderAction();
