@@ -995,6 +995,11 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Zwischen diesen Tagen wurde keine der Spalten im Protokoll getestet.</translation>
     </message>
     <message>
+        <source>GraphPaperAxis</source>
+        <extracomment>%@ is the date of the first test; stands below the axis of days of a graph that is printed or saved.</extracomment>
+        <translation>Tag, gezählt ab %@ (Tag 1)</translation>
+    </message>
+    <message>
         <source>GraphPaperTitle</source>
         <extracomment>^0 is the tank&apos;s name, ^1 and ^2 are the dates of the first and the last test; stands above a graph that is printed or saved.</extracomment>
         <translation>Wassertests: ^0, ^1 bis ^2</translation>

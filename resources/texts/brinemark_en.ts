@@ -995,6 +995,11 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>None of the columns in the log was tested between these dates.</translation>
     </message>
     <message>
+        <source>GraphPaperAxis</source>
+        <extracomment>%@ is the date of the first test; stands below the axis of days of a graph that is printed or saved.</extracomment>
+        <translation>Day, counted from %@ (day 1)</translation>
+    </message>
+    <message>
         <source>GraphPaperTitle</source>
         <extracomment>^0 is the tank&apos;s name, ^1 and ^2 are the dates of the first and the last test; stands above a graph that is printed or saved.</extracomment>
         <translation>Water tests of ^0, ^1 to ^2</translation>

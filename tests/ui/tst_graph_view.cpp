@@ -446,6 +446,40 @@ private Q_SLOTS:
         QVERIFY(!missing.exists());
     }
 
+    // The graph reaches all edges of every page; text and lines are not stretched with it.
+    void printsOverTheWholePage_data()
+    {
+        test::columns<QSize, double>("page", "magnified");
+        row("landscape", QSize(1122, 793), 1.2);
+        row("portrait", QSize(793, 1122), 1.2);
+        row("as on the screen", QSize(500, 300), 1.0);
+        row("small", QSize(300, 200), 0.8);
+    }
+
+    void printsOverTheWholePage()
+    {
+        QFETCH(QSize, page);
+        QFETCH(double, magnified);
+        m_graph.lines = {{m_red, {{0, 0}, {10, 0}}}, {m_red, {{0, 20}, {10, 20}}}};
+        m_view->reloadData();
+        QImage image(page, QImage::Format_RGB32);
+        QPainter painter(&image);
+        m_view->renderPage(&painter, page);
+        painter.end();
+        QRect lines;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                lines |= image.pixelColor(x, y).saturation() > 60 ? QRect(x, y, 1, 1) : QRect();
+        }
+        // Around the lines there is only what the labels need.
+        const QPointF topLeft = m_view->positionOf({0, 20}) * magnified;
+        const QPointF bottomRight = (QPointF(500, 300) - m_view->positionOf({10, 0})) * magnified;
+        QVERIFY(std::abs(lines.left() - topLeft.x()) < 3);
+        QVERIFY(std::abs(lines.top() - topLeft.y()) < 3);
+        QVERIFY(std::abs(page.width() - lines.right() - bottomRight.x()) < 4);
+        QVERIFY(std::abs(page.height() - lines.bottom() - bottomRight.y()) < 4);
+    }
+
     // On paper nothing else names the graph and its lines.
     void paperHasTitleAndLegend()
     {
@@ -456,8 +490,14 @@ private Q_SLOTS:
         };
         const int bare = saved().height();
         m_view->setPaperTitle(QStringLiteral("Reef"));
+        const int titledOnly = saved().height();
+        QVERIFY(titledOnly > bare);
+        m_view->setPaperAxisName(QStringLiteral(" "));
+        const QImage blank = saved();
+        m_view->setPaperAxisName(QStringLiteral("Days"));
+        QVERIFY(saved() != blank);
         const int titled = saved().height();
-        QVERIFY(titled > bare);
+        QVERIFY(titled > titledOnly);
 
         const QColor lime(10, 230, 40); // beyond the top, so that only the legend shows it
         m_graph.lines.append({lime, {{0, 90}, {10, 90}}, GraphSymbol::None, QStringLiteral("pH")});

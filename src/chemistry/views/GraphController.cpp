@@ -14,15 +14,12 @@
 #include "chemistry/views/graph/TestDateCombo.h"
 #include "model/Tank.h"
 #include "ui/Alerts.h"
-#include "ui/PrintSheet.h"
-#include "ui/SavePanel.h"
 #include "ui/Sheets.h"
 #include "ui/Shell.h"
 #include "ui/SpinningIndicator.h"
 #include "ui/graph/TwoDGraphView.h"
 
 #include <QCheckBox>
-#include <QFileInfo>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -175,6 +172,7 @@ void GraphController::showSeries(const ConditionSeries &series)
     const QString last = localeDateText(graphArray().back()->date);
     m_graphContentView->showGraph(formatText(text("GraphHint"), {first}));
     view.setPaperTitle(fillPlaceholders(text("GraphPaperTitle"), {m_graphTank->name, first, last}));
+    view.setPaperAxisName(formatText(text("GraphPaperAxis"), {first}));
 }
 
 QString GraphController::whyEmpty() const
@@ -238,36 +236,6 @@ void GraphController::showBand(int line)
             shaded = {double(targetBand(target).low), double(targetBand(target).high), lineColour(parameter)};
     }
     m_graphContentView->graphView().setHighlightedBand(shaded);
-}
-
-// ---- paper
-
-void GraphController::saveGraph()
-{
-    const QString pdf = QStringLiteral("pdf");
-    const SavePanelOptions options{
-        .objectName = QStringLiteral("graphSavePanel"),
-        .message = text("GraphSaveMessage"),
-        .folder = documentsFolder(),
-        .proposedName = formatText(text("GraphSaveName"), {m_graphTank ? m_graphTank->name : QString()}),
-        .kinds = {{QStringLiteral("png"), text("GraphPngFilter")}, {pdf, text("GraphPdfFilter")}}};
-    beginSavePanel(m_graphWindow, options, [this, pdf](const QString &path) {
-        if (path.isEmpty() || !m_graphWindow)
-            return;
-        const TwoDGraphView &view = m_graphContentView->graphView();
-        const bool isPdf = QFileInfo(path).suffix().compare(pdf, Qt::CaseInsensitive) == 0;
-        if (!(isPdf ? view.savePdf(path) : view.saveImage(path)))
-            beginAlertSheet(m_graphWindow, {.style = AlertStyle::Critical,
-                                            .title = text("GraphSaveErrorTitle"),
-                                            .message = text("GraphSaveErrorMessage")});
-    });
-}
-
-void GraphController::printGraph()
-{
-    TwoDGraphView &view = m_graphContentView->graphView();
-    openPrintSheet(m_graphWindow, QPageLayout::Landscape, &view,
-                   [&view](QPrinter &printer) { return view.print(printer); });
 }
 
 // ---- data source and delegate of the graph view

@@ -16,6 +16,7 @@ namespace
 
 constexpr int tickLength = 4;
 constexpr int tickPadding = 4;
+constexpr int axisNamePadding = 4;
 constexpr int plotMargin = 8; ///< around the axes and their labels, in pixels
 
 double widest(const QStringList &labels, const QFontMetricsF &metrics)
@@ -61,6 +62,7 @@ GraphPlot::GraphPlot(const GraphScene &scene, const GraphLook &look, QWidget *pa
         axes[i]->setTicker(m_tickers[i]);
         axes[i]->setTickLength(0, tickLength);
         axes[i]->setTickLabelPadding(tickPadding);
+        axes[i]->setLabelPadding(axisNamePadding);
         axes[i]->setSubTicks(false);
         axes[i]->setNumberFormat(QStringLiteral("g")); // labels such as 1e+06 are shown as given
         axes[i]->grid()->setZeroLinePen(Qt::NoPen);
@@ -84,8 +86,21 @@ void GraphPlot::applyLook()
         axis->setTickPen(QPen(m_look.axis, 1));
         axis->setTickLabelColor(m_look.text);
         axis->setTickLabelFont(m_look.font);
+        axis->setLabelColor(m_look.text);
+        axis->setLabelFont(m_look.font);
         axis->grid()->setPen(QPen(m_look.grid, 1));
     }
+}
+
+void GraphPlot::setXAxisName(const QString &name)
+{
+    xAxis->setLabel(name);
+    sceneChanged();
+}
+
+double GraphPlot::axisNameHeight(const QString &name, const GraphLook &look)
+{
+    return name.isEmpty() ? 0 : QFontMetricsF(look.font).height() + axisNamePadding;
 }
 
 void GraphPlot::sceneChanged()
@@ -112,7 +127,8 @@ void GraphPlot::placeAxes(QSize size)
     const double right = x.labels.isEmpty() ? 0 : halfWidth(x.labels.last());
     const QMargins margins(int(std::ceil(left)) + plotMargin, int(std::ceil(metrics.height() / 2)) + plotMargin / 2,
                            int(std::ceil(right)) + plotMargin,
-                           int(std::ceil(beside + metrics.height())) + plotMargin / 2);
+                           int(std::ceil(beside + metrics.height() + axisNameHeight(xAxis->label(), m_look))) +
+                               plotMargin / 2);
     axisRect()->setMargins(margins);
     const QSize plot = size.shrunkBy(margins);
     fillTicker(*m_tickers[std::size_t(GraphAxis::X)], x,

@@ -25,6 +25,11 @@ public:
     [[nodiscard]] const GraphLook &look() const { return m_look; }
     void setLook(const GraphLook &look);
 
+    /// Shows a name below the labels of the X axis; empty for none.
+    void setXAxisName(const QString &name);
+    /// The height that such a name takes; 0 for an empty one.
+    [[nodiscard]] static double axisNameHeight(const QString &name, const GraphLook &look);
+
     /// Applies the scene's ranges and ticks and redraws at the next paint event.
     void sceneChanged();
 

@@ -12,6 +12,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace brinemark
@@ -22,14 +23,20 @@ namespace
 
 constexpr double pixelsPerInch = 96; ///< resolution of the units in which a graph is drawn
 
+/// How much a printed graph may be magnified: text has some 10 points on the screen, and should have 8 to 12 on paper.
+constexpr double leastOnPaper = 0.8;
+constexpr double mostOnPaper = 1.2;
+
 } // namespace
 
-/// The size on paper in pixels: that of the graph on the screen plus the title and the legend.
+/// The size on paper in pixels: that of the graph on the screen plus the title, the name of the axis and the legend.
 QSize TwoDGraphView::drawnSize() const
 {
     const QSize graph = size().expandedTo(minimumSizeHint());
-    const GraphKey key(*m_scene, GraphLook::onPaper(font()), m_paperTitle, graph.width());
-    return graph + QSize(0, int(std::ceil(key.titleHeight() + key.legendHeight())));
+    const GraphLook look = GraphLook::onPaper(font());
+    const GraphKey key(*m_scene, look, m_paperTitle, graph.width());
+    const double axisName = GraphPlot::axisNameHeight(m_paperAxisName, look);
+    return graph + QSize(0, int(std::ceil(key.titleHeight() + axisName + key.legendHeight())));
 }
 
 void TwoDGraphView::render(QPainter *painter, const QRectF &target) const
@@ -37,7 +44,20 @@ void TwoDGraphView::render(QPainter *painter, const QRectF &target) const
     const GraphLook look = GraphLook::onPaper(font());
     const GraphKey key(*m_scene, look, m_paperTitle, target.width());
     key.drawTo(*painter, target);
-    GraphPlot(*m_scene, look).drawTo(*painter, target.adjusted(0, key.titleHeight(), 0, -key.legendHeight()));
+    GraphPlot plot(*m_scene, look);
+    plot.setXAxisName(m_paperAxisName);
+    plot.drawTo(*painter, target.adjusted(0, key.titleHeight(), 0, -key.legendHeight()));
+}
+
+void TwoDGraphView::renderPage(QPainter *painter, const QSizeF &page) const
+{
+    const QSize drawn = drawnSize();
+    const double magnified =
+        std::clamp(std::min(page.width() / drawn.width(), page.height() / drawn.height()), leastOnPaper, mostOnPaper);
+    painter->save();
+    painter->scale(magnified, magnified);
+    render(painter, QRectF(QPointF(), page / magnified));
+    painter->restore();
 }
 
 bool TwoDGraphView::print(QPrinter &printer) const
@@ -48,9 +68,8 @@ bool TwoDGraphView::print(QPrinter &printer) const
         return false;
     }
     const double scale = printer.resolution() / pixelsPerInch;
-    const QSizeF page = printer.pageRect(QPrinter::DevicePixel).size() / scale;
     painter.scale(scale, scale);
-    render(&painter, QRectF(QPointF(), QSizeF(drawnSize()).scaled(page, Qt::KeepAspectRatio)));
+    renderPage(&painter, printer.pageRect(QPrinter::DevicePixel).size() / scale);
     return painter.end() && printer.printerState() != QPrinter::Error;
 }
 

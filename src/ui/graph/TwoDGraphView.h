@@ -74,12 +74,19 @@ public:
     /// The title above the graph on paper and in files.
     void setPaperTitle(const QString &title) { m_paperTitle = title; }
 
+    /// The name below the X axis on paper and in files.
+    void setPaperAxisName(const QString &name) { m_paperAxisName = name; }
+
     /// Draws the visible part for paper (dark on white, with title and legend) to fill the rectangle. Line widths and
     /// text sizes are in the painter's units, of which 96 should make an inch.
     void render(QPainter *painter, const QRectF &target) const;
     using QWidget::render;
 
-    /// Prints the graph as large as the page and the view's proportions allow. False when printing fails.
+    /// Draws the visible part over a whole page, whose size is in units of 1/96 inch, as are the painter's. Text keeps
+    /// its size relative to the graph, within the sizes that are good to read on paper.
+    void renderPage(QPainter *painter, const QSizeF &page) const;
+
+    /// Prints the graph over the whole page. False when printing fails.
     [[nodiscard]] bool print(QPrinter &printer) const;
 
     /// Writes a PNG of twice the view's size, or a PDF of one page. False when writing fails; the log says why, and an
@@ -135,6 +142,7 @@ private:
     std::array<GraphRange, 2> m_whole; ///< by axis
     QSet<int> m_hiddenLines;
     QString m_paperTitle;
+    QString m_paperAxisName;
     std::unique_ptr<GraphScene> m_scene;
     OwnedWidget<GraphPlot> m_plot;     ///< refers to the scene
     std::optional<QPointF> m_dragFrom; ///< where the last drag event was
