@@ -67,7 +67,6 @@ void Container::readArray(const plist::Value *records, const plist::Value *attri
         static const plist::Dict none;
         readAttributes(attributes ? plistfield::dictOf(*attributes, traits().fileKey) : none);
     }
-    finishedReading();
 }
 
 void Container::readAttributes(const plist::Dict &attributes)

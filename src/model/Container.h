@@ -70,7 +70,6 @@ protected:
     virtual void reserve(int count) = 0;
     virtual void appendFromDict(const plist::Dict &record) = 0;
     virtual void readAttributes(const plist::Dict &attributes);
-    virtual void finishedReading() {}
 
 private:
     ContainerKind m_kind;

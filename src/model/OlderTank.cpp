@@ -68,6 +68,7 @@ std::shared_ptr<Tank> Tank::fromArray(const plist::Array &olderTank)
     // The older form has no target for carbon dioxide and the parameters after it.
     for (std::size_t i = std::size_t(Parameter::Dioxide); i < parameterCount; ++i)
         tank->setTarget(Parameter(i), plainTarget(Parameter(i)));
+    tank->schedule()->announceOverdue();
     return tank;
 }
 

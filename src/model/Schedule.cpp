@@ -7,6 +7,8 @@
 
 #include <QTimeZone>
 
+#include <utility>
+
 namespace brinemark
 {
 
@@ -41,16 +43,20 @@ bool Schedule::warningDateCheck(const std::shared_ptr<ScheduleData> &record, Tan
 void Schedule::appendFromDict(const plist::Dict &dict)
 {
     RecordContainer::appendFromDict(dict);
-    const std::shared_ptr<ScheduleData> &record = scheduleArray().back();
-    if (!record->complete() && ModelContext::sharedInstance().checksOverdue())
-        m_foundOverdue = warningDateCheck(record, tank()) || m_foundOverdue;
+    if (!scheduleArray().back()->complete())
+        m_toCheck.push_back(scheduleArray().back());
 }
 
-void Schedule::finishedReading()
+void Schedule::announceOverdue()
 {
-    if (m_foundOverdue)
+    const Records toCheck = std::exchange(m_toCheck, {});
+    if (!ModelContext::sharedInstance().checksOverdue())
+        return;
+    bool found = false;
+    for (const std::shared_ptr<ScheduleData> &record : toCheck)
+        found = warningDateCheck(record, tank()) || found;
+    if (found)
         ModelContext::sharedInstance().shouldShowWindow(true);
-    m_foundOverdue = false;
 }
 
 } // namespace brinemark

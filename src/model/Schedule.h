@@ -25,15 +25,18 @@ public:
     /// `ModelObserver::setNotificationData`. An activity without a date is never due.
     bool warningDateCheck(const std::shared_ptr<ScheduleData> &record, Tank *parent);
 
+    /// Checks the unfinished activities that were read from a file, in file order, and sends `shouldShowWindow` when
+    /// one was due. Called once the whole tank is read, so that a tank that cannot be read announces nothing.
+    void announceOverdue();
+
     /// The first five activities, each followed by a comma and a blank.
     [[nodiscard]] QString metaScheduleString() const { return journalMetaString(*this, u"activity"); }
 
 protected:
-    void appendFromDict(const plist::Dict &dict) override; ///< also checks whether an unfinished activity is overdue
-    void finishedReading() override;                       ///< sends `shouldShowWindow` when an activity was due
+    void appendFromDict(const plist::Dict &dict) override;
 
 private:
-    bool m_foundOverdue = false;
+    Records m_toCheck; ///< the unfinished activities that were read and not yet checked
 };
 
 } // namespace brinemark

@@ -62,6 +62,7 @@ std::shared_ptr<Tank> Tank::fromDict(const plist::Dict &tankDictionary)
         const QStringView key = container->traits().fileKey;
         container->readArray(lists.find(key), attributes.find(key));
     }
+    tank->schedule()->announceOverdue();
     return tank;
 }
 

@@ -3,6 +3,7 @@
 #include "ModelTest.h"
 
 #include "base/PreferenceKeys.h"
+#include "model/TankReadError.h"
 #include "support/DataRow.h"
 
 #include <QTimeZone>
@@ -82,6 +83,17 @@ private Q_SLOTS:
         QCOMPARE(log.overdue.at(0)->tank.get(), tank.get());
         QCOMPARE(log.overdue.at(1)->activity, QStringLiteral("last week"));
         QCOMPARE(log.notices, QStringList{QStringLiteral("show")});
+
+        // A tank that fails after its schedule was read announces nothing.
+        plist::Dict lists = *dict.find(u"TankLists")->dict();
+        lists.insert(QStringLiteral("TankNote"), plist::Array{QStringLiteral("no record")});
+        plist::Dict unreadable = dict;
+        unreadable.insert(QStringLiteral("TankLists"), lists);
+        log.overdue.clear();
+        log.notices.clear();
+        QVERIFY_EXCEPTION_THROWN((void)Tank::fromDict(unreadable), TankReadError);
+        QVERIFY(log.overdue.empty());
+        QVERIFY(log.notices.isEmpty());
     }
 };
 
