@@ -67,6 +67,8 @@ QString textOf(const plist::Value &value, QStringView key)
         return QString::number(*real, 'g', QLocale::FloatingPointShortest);
     if (const bool *flag = value.flag())
         return flagText(*flag);
+    if (const QDateTime *date = value.date())
+        return fileDateText(date->toLocalTime());
     throwWrongKind(key);
 }
 

@@ -5,9 +5,9 @@
 #include "base/plist/Value.h"
 #include "model/Amount.h"
 
-/// Conversion between property-list values and the model's fields. Files hold many numbers and flags as texts; values
-/// stored as numbers or flags read the same. For a value of a type that cannot be converted, the functions throw
-/// TankReadError, which names `key`.
+/// Conversion between property-list values and the model's fields. Files hold many numbers and flags and all dates as
+/// texts; values stored as numbers, flags or dates read the same, and in a text field they read as those texts. For a
+/// value of a type that cannot be converted, the functions throw TankReadError, which names `key`.
 namespace brinemark::plistfield
 {
 

@@ -54,11 +54,8 @@ void readTankProperties(Tank &tank, const plist::Dict &properties)
         return;
     }
     tank.expenseCategoryArray.clear();
-    for (const plist::Value &category : plistfield::arrayOf(*categories, expenseCategoriesKey)) {
-        if (!category.string())
-            throw TankReadError(QStringLiteral("an expense category is no text"));
-        tank.expenseCategoryArray << *category.string();
-    }
+    for (const plist::Value &category : plistfield::arrayOf(*categories, expenseCategoriesKey))
+        tank.expenseCategoryArray << plistfield::textOf(category, expenseCategoriesKey);
 }
 
 std::shared_ptr<TankData> readTarget(Parameter parameter, const plist::Dict &properties)

@@ -38,6 +38,23 @@ struct Document {
     [[nodiscard]] Tank &tank(int index) const { return *tanks.at(index); }
 };
 
+/// The property list with the value at a path of keys and indices replaced.
+plist::Value replaced(const plist::Value &list, QStringList path, const plist::Value &value)
+{
+    if (path.isEmpty())
+        return value;
+    const QString step = path.takeFirst();
+    if (const plist::Array *array = list.array()) {
+        plist::Array copy = *array;
+        plist::Value &element = copy.at(step.toUInt());
+        element = replaced(element, path, value);
+        return copy;
+    }
+    plist::Dict copy = *list.dict();
+    copy.insert(step, replaced(*copy.find(step), path, value));
+    return copy;
+}
+
 } // namespace
 
 class TankFileTest : public QObject
@@ -245,6 +262,34 @@ private Q_SLOTS:
         const Document texts(good(QStringLiteral("three-tanks.xml")));
         QVERIFY(numbers.result.ok);
         QVERIFY(tankFileDictionary(numbers.tanks, 2, 1) == tankFileDictionary(texts.tanks, 2, 1));
+    }
+
+    void datesAndTextsOfAnotherNotation()
+    {
+        const QDateTime noon(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
+        const QString noonText = QStringLiteral("2026-03-01 13:00:00 +0100"); // the tests run in Europe/Berlin
+        Tank written(QStringLiteral("T"));
+        written.note()->appendRecord(std::make_shared<NoteData>(&written));
+        written.expense()->appendRecord(std::make_shared<ExpenseData>(&written));
+        const QList<std::pair<QString, plist::Value>> changes{
+            {QStringLiteral("TankLists/TankNote/0/Date"), noon},
+            {QStringLiteral("TankLists/TankExpense/0/Type"), noon},
+            {QStringLiteral("TankLists/TankExpense/0/Amount"), QStringLiteral("9.5")},
+            {QStringLiteral("TankProperties/Name"), qint64(7)},
+            {QStringLiteral("TankProperties/ExpenseCategories/0"), 2.5},
+            {QStringLiteral("TankProperties/ExpenseCategories/1"), true},
+        };
+        plist::Value dict = written.tankDictionary();
+        for (const auto &[path, value] : changes)
+            dict = replaced(dict, path.split(u'/'), value);
+
+        const auto tank = Tank::fromDict(*dict.dict());
+        QCOMPARE(tank->noteListArray().at(0)->date, noon);
+        QCOMPARE(*fileValue(*tank->noteListArray().at(0), u"Date").string(), noonText);
+        QCOMPARE(tank->expenseListArray().at(0)->type, noonText);
+        QCOMPARE(tank->expenseListArray().at(0)->amount.toDouble(), 9.5);
+        QCOMPARE(tank->name, QStringLiteral("7"));
+        QCOMPARE(tank->expenseCategoryArray.mid(0, 2), QStringList({QStringLiteral("2.5"), QStringLiteral("1")}));
     }
 
     void versionOfAnyKind()

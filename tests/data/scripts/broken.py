@@ -202,6 +202,13 @@ def missing(files):
 
 
 WRONG = (("dictionary", {"a": "b"}), ("array", ["a"]), ("date", datetime(2026, 3, 1, 12)), ("data", b"\x01\x02\x03"))
+WRONG_AS_TEXT = (*WRONG[:2], WRONG[3], WRONG[3])  # a date can be read where a text or a date belongs
+NUMBERS = {"ph", "KH", "GHardness", "Count", "Salt", "ReefSafe", "Amount", "Complete", "NextDate", "AutoReschedule", *form.CONDITION_KEYS.values()}
+
+
+def wrong_value(container, key, turn):
+    number = key in NUMBERS and (container, key) != ("Fish", "Temp")
+    return (WRONG if number else WRONG_AS_TEXT)[turn % len(WRONG)]
 
 
 def wrong_types(files):
@@ -211,7 +218,7 @@ def wrong_types(files):
         for key in make():
             if key == "Parent":
                 continue
-            kind, value = WRONG[turn % len(WRONG)]
+            kind, value = wrong_value(container, key, turn)
             turn += 1
             files.read_error("wrong-%s-%s-%s.xml" % (container.lower(), key.lower(), kind),
                              record_with(container, key, value), why % kind)
@@ -219,12 +226,12 @@ def wrong_types(files):
     for kind, value in (("string", "picture"), ("dictionary", {}), ("array", [])):
         files.read_error("wrong-fish-fishimage-%s.xml" % kind, record_with("Fish", "FishImage", value), "a picture is data")
     for key in ("Freshwater", "Name", "Size", "TankExpanded", "FishExpanded", "PlantExpanded", "InvertExpanded", "CoralExpanded"):
-        kind, value = WRONG[turn % len(WRONG)]
+        kind, value = (WRONG_AS_TEXT if key in ("Name", "Size") else WRONG)[turn % len(WRONG)]
         turn += 1
         files.read_error("wrong-tank-%s-%s.xml" % (key.lower(), kind), changed("2", "TankProperties", key, value), why % kind)
     properties = ("2", "TankProperties")
     files.read_error("wrong-categories-string.xml", changed(*properties, "ExpenseCategories", "Fish"), "the categories are an array")
-    files.read_error("wrong-categories-numbers.xml", changed(*properties, "ExpenseCategories", ["Fish", 7, 8.5]), "a category is a text; a number in its place is of the wrong kind")
+    files.read_error("wrong-categories-array.xml", changed(*properties, "ExpenseCategories", ["Fish", ["Food"]]), why % "array")
     files.read_error("wrong-target-string.xml", changed(*properties, "tempValue", "25"), "a target is a dictionary")
     files.read_error("wrong-target-array.xml", changed(*properties, "magnesiumValue", [25]), "a target is a dictionary")
     good_target = form.target("Temperature", 25, 1, True)
