@@ -5,6 +5,8 @@
 #include "model/ModelContext.h"
 #include "model/TankList.h"
 
+#include <algorithm>
+
 namespace brinemark
 {
 
@@ -95,6 +97,12 @@ std::vector<Container *> Tank::tankItemsArray() const
             items.push_back(container.get());
     }
     return items;
+}
+
+void Tank::showListsInUse()
+{
+    const auto used = [](const auto &container) { return !container->isEmpty(); };
+    m_listsShown = m_listsShown || std::any_of(m_containers.begin(), m_containers.end(), used);
 }
 
 Container *Tank::containerForListKey(QStringView listKey) const

@@ -55,6 +55,8 @@ public:
     /// The nine containers in the order of ContainerKind. Empty for a tank of the older file form with attributes for
     /// more lists than that form has: such a tank shows no lists, although its containers exist and are empty.
     [[nodiscard]] std::vector<Container *> tankItemsArray() const;
+    /// Gives a tank that shows no lists all nine as soon as one of them holds a record.
+    void showListsInUse();
     [[nodiscard]] Container *container(ContainerKind kind) const { return m_containers[std::size_t(kind)].get(); }
     [[nodiscard]] Container *containerForListKey(QStringView listKey) const; ///< null for an unknown key
 

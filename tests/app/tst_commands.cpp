@@ -136,6 +136,62 @@ private Q_SLOTS:
         sheet->reject();
     }
 
+    /// A tank of the older form can come without lists: nothing is shown below its row until it holds a record.
+    void aTankWithoutListsTakesEveryCommand()
+    {
+        for (const CommandRow &command : CommandDispatch::table()) {
+            if (command.command == Command::Quit)
+                continue; // the next pass ends the program
+            AlertScript script;
+            Program program;
+            program.start(program.copyOf(testFile("older-seven.xml")));
+            QVERIFY(program.tree().list().at(0)->tankItemsArray().empty());
+            program.controller().performCommand(command.command);
+            QCoreApplication::processEvents();
+            for (QWidget *window : QApplication::topLevelWidgets()) {
+                if (auto *dialog = qobject_cast<QDialog *>(window); dialog && dialog->isVisible())
+                    dialog->reject();
+            }
+            program.controller().printWindow(false);
+            const QString saved = program.filePath("saved.xml");
+            QCOMPARE(program.document().writeTankFileWithPath(saved), TankDocument::WriteOutcome::Written);
+            QCOMPARE(tankNamesIn(saved), program.tankNames());
+        }
+    }
+
+    void aTankWithoutListsShowsThemOnceInUse_data()
+    {
+        QTest::addColumn<bool>("byPaste");
+        row("new fish", false);
+        row("paste", true);
+    }
+
+    void aTankWithoutListsShowsThemOnceInUse()
+    {
+        QFETCH(bool, byPaste);
+        if (byPaste) {
+            FullProgram source;
+            source.controller().selectInTree(source.livestock(ContainerKind::Fish));
+            source.tree().copy();
+        }
+        AlertScript script;
+        Program program;
+        program.start(testFile("older-seven.xml"));
+        Tank &tank = *program.tree().list().at(0);
+        program.controller().selectInTree(tank);
+        program.tree().tankList()->setFocus();
+        program.controller().performCommand(byPaste ? Command::Paste : Command::NewFish);
+        QCOMPARE(tank.fish()->count(), 1);
+        QCOMPARE(tank.tankItemsArray().size(), containerCount);
+        QCOMPARE(program.tree().currentSelectedItem(), TreeItem(*tank.fishListArray().at(0)));
+        QCOMPARE(program.controller().currentView(), MainView::LivestockItem);
+        for (Container *container : tank.tankItemsArray()) {
+            program.controller().selectInTree(*container);
+            QCOMPARE(program.tree().currentSelectedItem(), TreeItem(*container));
+            QVERIFY(program.window().mainView().grab().width() > 0);
+        }
+    }
+
     void leavingTheLogStoresItsColumns()
     {
         FullProgram program;

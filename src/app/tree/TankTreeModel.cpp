@@ -44,6 +44,8 @@ TankTreeModel::TankTreeModel(TankList &list, QObject *parent)
 void TankTreeModel::reload()
 {
     beginResetModel();
+    for (const auto &tank : m_list)
+        tank->showListsInUse();
     endResetModel();
 }
 
@@ -56,8 +58,11 @@ TreeItem TankTreeModel::itemAt(const QModelIndex &index) const
         return index.row() < container->count() ? TreeItem(static_cast<ItemData &>(*container->recordAt(index.row())))
                                                 : TreeItem();
     }
-    if (Tank *tank = tankOf(index.internalId()))
-        return TreeItem(*tank->tankItemsArray()[std::size_t(index.row())]);
+    if (Tank *tank = tankOf(index.internalId())) {
+        const std::vector<Container *> containers = tank->tankItemsArray();
+        return std::size_t(index.row()) < containers.size() ? TreeItem(*containers[std::size_t(index.row())])
+                                                            : TreeItem();
+    }
     return index.row() < m_list.count() ? TreeItem(*m_list.at(index.row())) : TreeItem();
 }
 
@@ -70,6 +75,8 @@ QModelIndex TankTreeModel::indexOf(const TreeItem &item) const
         return {};
     if (item.isTank())
         return createIndex(tankRow, 0, quintptr(0));
+    if (item.tank->tankItemsArray().empty()) // a tank without lists has no rows below it
+        return {};
     if (item.isContainer())
         return createIndex(int(item.container->kind()), 0, idBelow(item.tank));
     const int row = item.container->indexOf(item.record);
@@ -110,7 +117,7 @@ int TankTreeModel::rowCount(const QModelIndex &parent) const
 bool TankTreeModel::hasChildren(const QModelIndex &parent) const
 {
     // A group can be expanded even when it is empty.
-    return parent.isValid() ? itemAt(parent).isExpandable() : !m_list.isEmpty();
+    return itemAt(parent).isLivestockGroup() || rowCount(parent) > 0;
 }
 
 QVariant TankTreeModel::data(const QModelIndex &index, int role) const
