@@ -44,7 +44,10 @@ SFCheckedFormatter conditionFormatter(const ConditionColumnTraits &column)
     return formatter;
 }
 
-std::vector<ShownConditionColumn> shownConditionColumns(const ColumnInfoArray &saved)
+namespace
+{
+
+std::vector<ShownConditionColumn> columnsOfLayout(const ColumnInfoArray &saved)
 {
     std::vector<ShownConditionColumn> shown;
     for (const ColumnInfo &info : saved) {
@@ -59,6 +62,14 @@ std::vector<ShownConditionColumn> shownConditionColumns(const ColumnInfoArray &s
         shown.push_back({column, width});
     }
     return shown;
+}
+
+} // namespace
+
+std::vector<ShownConditionColumn> shownConditionColumns(const ColumnInfoArray &saved)
+{
+    std::vector<ShownConditionColumn> shown = columnsOfLayout(saved);
+    return shown.empty() ? columnsOfLayout(Condition::defaultColumnInfoArray()) : shown;
 }
 
 } // namespace brinemark

@@ -73,7 +73,8 @@ struct ShownConditionColumn {
 
 /// The visible columns of a saved layout. Every entry toggles its column: a column that is named twice is hidden again.
 /// Unknown identifiers are ignored. A missing or impossible width becomes 0, and so does the width of the column
-/// before, because that column no longer has to fill the table.
+/// before, because that column no longer has to fill the table. A layout that shows no column at all counts as the
+/// default one, because a table without columns offers nothing to act on.
 [[nodiscard]] std::vector<ShownConditionColumn> shownConditionColumns(const ColumnInfoArray &saved);
 
 } // namespace brinemark

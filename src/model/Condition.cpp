@@ -32,11 +32,12 @@ Condition::Condition(Tank *parent)
     initColumnInfoArray();
 }
 
-void Condition::initColumnInfoArray()
+ColumnInfoArray Condition::defaultColumnInfoArray()
 {
-    m_columnInfoArray = {{QStringLiteral("date"), 0}};
+    ColumnInfoArray columns{{QStringLiteral("date"), 0}};
     for (const Parameter parameter : defaultColumnOrder)
-        m_columnInfoArray.push_back({traitsOf(parameter).identifier.toString(), 0});
+        columns.push_back({traitsOf(parameter).identifier.toString(), 0});
+    return columns;
 }
 
 plist::Dict Condition::listAttributesDict() const

@@ -20,7 +20,8 @@ public:
 
     [[nodiscard]] const ColumnInfoArray &columnInfoArray() const { return m_columnInfoArray; }
     void setColumnInfoArray(const ColumnInfoArray &columns) { m_columnInfoArray = columns; }
-    void initColumnInfoArray(); ///< sets the eighteen default columns
+    void initColumnInfoArray() { m_columnInfoArray = defaultColumnInfoArray(); }
+    [[nodiscard]] static ColumnInfoArray defaultColumnInfoArray(); ///< eighteen columns
 
     [[nodiscard]] plist::Dict listAttributesDict() const override;
 

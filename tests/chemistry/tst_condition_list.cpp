@@ -43,7 +43,12 @@ private Q_SLOTS:
         QTest::newRow("order") << QStringList{"ph", "date"} << QStringList{"ph", "date"};
         QTest::newRow("unknown") << QStringList{"date", "colour", "", "kH"} << QStringList{"date", "kH"};
         QTest::newRow("twice hides") << QStringList{"date", "ph", "date"} << QStringList{"ph"};
-        QTest::newRow("none") << QStringList{} << QStringList{};
+        QStringList all;
+        for (const ColumnInfo &column : Condition::defaultColumnInfoArray())
+            all << column.identifier;
+        QTest::newRow("none") << QStringList{} << all;
+        QTest::newRow("only unknown ones") << QStringList{"colour", ""} << all;
+        QTest::newRow("all hidden again") << QStringList{"date", "date"} << all;
     }
     void layoutRules()
     {
