@@ -9,6 +9,7 @@
 #include "model/KeyAccess.h"
 #include "ui/Alerts.h"
 #include "ui/CaptionForm.h"
+#include "ui/MultiLineEdit.h"
 #include "ui/Spacing.h"
 
 #include <QComboBox>
@@ -18,7 +19,6 @@
 #include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include <algorithm>
@@ -69,7 +69,7 @@ ItemSheet::ItemSheet(QWidget *parent)
     content->setSpacing(spacing::content);
     content->addWidget(makeFields(), 1);
     content->addWidget(makePictureColumn(), 0, Qt::AlignTop);
-    m_notes = new QPlainTextEdit;
+    m_notes = new MultiLineEdit;
     m_notes->setObjectName(QStringLiteral("notes"));
     m_notes->setTabChangesFocus(true);
     m_notes->setMinimumHeight(72);

@@ -9,12 +9,12 @@
 class QComboBox;
 class QGridLayout;
 class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
 
 namespace brinemark
 {
 
+class MultiLineEdit;
 class PictureView;
 struct ItemData;
 
@@ -43,7 +43,7 @@ private:
     QHash<QString, QLineEdit *> m_fields;
     QHash<QString, QString> m_shown; ///< the initial texts of the fields, by key
     QComboBox *m_reefSafe = nullptr;
-    QPlainTextEdit *m_notes = nullptr;
+    MultiLineEdit *m_notes = nullptr;
     PictureView *m_picture = nullptr;
     QPushButton *m_deleteImageButton = nullptr;
     QImage m_image;
