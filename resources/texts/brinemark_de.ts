@@ -277,8 +277,27 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Die Datei „^0“ gibt es nicht.</translation>
     </message>
     <message>
+        <source>CommandLineNotATankFile</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>„^0“ ist keine Aquariendatei.</translation>
+    </message>
+    <message>
+        <source>CommandLineNotPrinted</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>„^0“ konnte nicht gedruckt werden. Ist ein Drucker vorhanden?</translation>
+    </message>
+    <message>
+        <source>CommandLineNotRendered</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>Das Bild „^0“ konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
         <source>CommandLinePrint</source>
         <translation>Die Datei drucken und beenden.</translation>
+    </message>
+    <message>
+        <source>CommandLinePrintNeedsFile</source>
+        <translation>Geben Sie die Datei an, die gedruckt werden soll.</translation>
     </message>
     <message>
         <source>CommandLineRender</source>
@@ -292,6 +311,11 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <source>CommandLineUnknownOption</source>
         <extracomment>^0 is the option.</extracomment>
         <translation>Unbekannte Option: ^0</translation>
+    </message>
+    <message>
+        <source>CommandLineUnreadable</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>Die Datei „^0“ konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>CommandLineVersion</source>

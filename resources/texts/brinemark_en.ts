@@ -277,8 +277,27 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>There is no file “^0”.</translation>
     </message>
     <message>
+        <source>CommandLineNotATankFile</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>“^0” is not a tank file.</translation>
+    </message>
+    <message>
+        <source>CommandLineNotPrinted</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>“^0” could not be printed. Is there a printer?</translation>
+    </message>
+    <message>
+        <source>CommandLineNotRendered</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>The picture “^0” could not be written.</translation>
+    </message>
+    <message>
         <source>CommandLinePrint</source>
         <translation>Print the file and leave.</translation>
+    </message>
+    <message>
+        <source>CommandLinePrintNeedsFile</source>
+        <translation>Name the file to print.</translation>
     </message>
     <message>
         <source>CommandLineRender</source>
@@ -292,6 +311,11 @@ Then test every day and repeat the water change until the value is in range. Mea
         <source>CommandLineUnknownOption</source>
         <extracomment>^0 is the option.</extracomment>
         <translation>Unknown option: ^0</translation>
+    </message>
+    <message>
+        <source>CommandLineUnreadable</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>The file “^0” could not be read.</translation>
     </message>
     <message>
         <source>CommandLineVersion</source>

@@ -6,11 +6,58 @@
 #include "app/startup/CommandLine.h"
 #include "app/startup/RenderToPicture.h"
 #include "base/text/Texts.h"
+#include "ui/Alerts.h"
 
 #include <QFileInfo>
 #include <QTextStream>
 
 using namespace brinemark;
+
+namespace
+{
+
+/// Writes the sentence to standard error and returns the exit code of a run that failed.
+int failed(const QString &sentence)
+{
+    QTextStream(stderr) << sentence << '\n';
+    return 1;
+}
+
+int print(const CommandLine &commandLine, ShoalwatchDelegate &delegate, const QString &file)
+{
+    if (file.isEmpty())
+        return failed(text("CommandLinePrintNeedsFile"));
+    if (!delegate.applicationPrintFile(file))
+        return failed(fillPlaceholders(text("CommandLineNotPrinted"), {commandLine.file}));
+    return 0;
+}
+
+int render(const CommandLine &commandLine, ShoalwatchDelegate &delegate)
+{
+    delegate.openDefaultFile();
+    if (!renderToPicture(commandLine.renderTo))
+        return failed(fillPlaceholders(text("CommandLineNotRendered"), {commandLine.renderTo}));
+    return 0;
+}
+
+/// Does what the command line asks and returns the exit code.
+int run(const CommandLine &commandLine, ShoalwatchDelegate &delegate)
+{
+    const QString file = commandLine.file.isEmpty() ? QString() : QFileInfo(commandLine.file).absoluteFilePath();
+    if (!file.isEmpty() && !delegate.applicationOpenFile(file)) {
+        const int failure = failed(whyNotOpened(commandLine.file));
+        if (commandLine.unattended())
+            return failure;
+    }
+    if (commandLine.print)
+        return print(commandLine, delegate, file);
+    if (!commandLine.renderTo.isEmpty())
+        return render(commandLine, delegate);
+    delegate.applicationDidFinishLaunching();
+    return QApplication::exec();
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -23,6 +70,7 @@ int main(int argc, char **argv)
         return exitCode;
     }
     prepareAppearance(commandLine->dark);
+    setUnattended(commandLine->unattended());
 
     ShoalwatchDelegate &delegate = ShoalwatchDelegate::sharedInstance();
     QObject::connect(&app, &BrinemarkApp::openFileRequested, &delegate, &ShoalwatchDelegate::applicationOpenFile);
@@ -33,20 +81,7 @@ int main(int argc, char **argv)
                              delegate.applicationWillBecomeActive();
                      });
     delegate.applicationWillFinishLaunching();
-    const QString file = commandLine->file.isEmpty() ? QString() : QFileInfo(commandLine->file).absoluteFilePath();
-    const bool opened = !file.isEmpty() && delegate.applicationOpenFile(file);
-    if (!opened && !file.isEmpty())
-        QTextStream(stderr) << fillPlaceholders(text("CommandLineNoFile"), {commandLine->file}) << '\n';
-
-    if (commandLine->print) {
-        exitCode = opened && delegate.applicationPrintFile(file) ? 0 : 1;
-    } else if (!commandLine->renderTo.isEmpty()) {
-        delegate.openDefaultFile();
-        exitCode = renderToPicture(commandLine->renderTo) ? 0 : 1;
-    } else {
-        delegate.applicationDidFinishLaunching();
-        exitCode = QApplication::exec();
-    }
+    exitCode = run(*commandLine, delegate);
     ShoalwatchDelegate::destroyEverything();
     return exitCode;
 }

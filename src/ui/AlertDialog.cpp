@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QTextStream>
 #include <QVBoxLayout>
 
 namespace brinemark
@@ -37,6 +38,15 @@ const char *buttonName(AlertAnswer answer)
         break;
     }
     return "otherButton";
+}
+
+/// Writes the alert's texts to standard error and deletes it. Returns the answer that changes nothing.
+int answerUnattended(AlertDialog *dialog)
+{
+    const int answer = dialog->cancelAnswer();
+    QTextStream(stderr) << dialog->title() << '\n' << dialog->message() << '\n';
+    delete dialog;
+    return answer;
 }
 
 } // namespace
@@ -117,6 +127,13 @@ QCheckBox *AlertDialog::addCheckBox(const QString &text)
 
 void AlertDialog::showAsSheet(AlertDialog *dialog, QWidget *window, std::function<void(int)> ended)
 {
+    if (isUnattended()) {
+        const int answer = answerUnattended(dialog);
+        if (ended)
+            QMetaObject::invokeMethod(
+                qApp, [ended = std::move(ended), answer] { ended(answer); }, Qt::QueuedConnection);
+        return;
+    }
     dialog->setObjectName(QStringLiteral("alertSheet"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (ended)
@@ -126,6 +143,8 @@ void AlertDialog::showAsSheet(AlertDialog *dialog, QWidget *window, std::functio
 
 int AlertDialog::runAsPanel(AlertDialog *dialog, QWidget *parent)
 {
+    if (isUnattended())
+        return answerUnattended(dialog);
     // When the parent is destroyed while the panel is open, the dialog is destroyed with it: that counts as cancelling.
     const QPointer<AlertDialog> panel = dialog;
     const int cancelled = panel->cancelAnswer();

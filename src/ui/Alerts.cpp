@@ -21,6 +21,8 @@ std::function<void()> &beepHandler()
     return handler;
 }
 
+bool unattendedRun = false;
+
 } // namespace
 
 Alert deletionAlert(const QString &question)
@@ -39,6 +41,16 @@ void beginAlertSheet(QWidget *window, const Alert &alert, std::function<void(int
 int runAlertPanel(QWidget *parent, const Alert &alert)
 {
     return AlertDialog::runAsPanel(new AlertDialog(alert, parent ? parent->window() : nullptr), parent);
+}
+
+void setUnattended(bool unattended)
+{
+    unattendedRun = unattended;
+}
+
+bool isUnattended()
+{
+    return unattendedRun;
 }
 
 void beep()

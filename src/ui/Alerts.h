@@ -42,6 +42,11 @@ void beginAlertSheet(QWidget *window, const Alert &alert, std::function<void(int
 /// Shows the alert as a modal panel (object name "alertPanel", the buttons as above) and returns its AlertAnswer.
 int runAlertPanel(QWidget *parent, const Alert &alert);
 
+/// For runs that nobody watches: from now on alerts are not shown. Their texts go to standard error, and their answer
+/// is that of Escape, which changes nothing.
+void setUnattended(bool unattended);
+[[nodiscard]] bool isUnattended();
+
 /// The short sound for an action that is not possible.
 void beep();
 

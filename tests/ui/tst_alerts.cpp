@@ -7,12 +7,14 @@
 #include "ui/Alerts.h"
 #include "ui/Sheets.h"
 
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 using namespace brinemark;
@@ -49,6 +51,19 @@ private Q_SLOTS:
     {
         m_window.reset();
         QVERIFY(!shownAlert());
+    }
+
+    void nobodyIsThereToAnswer()
+    {
+        setUnattended(true);
+        const auto attendedAgain = qScopeGuard([] { setUnattended(false); });
+        QCOMPARE(runAlertPanel(m_window.get(), {.title = "Lose it?", .alternateButton = "Keep"}), AlertAlternate);
+        std::optional<int> answer;
+        beginAlertSheet(m_window.get(), {.title = "Save?", .alternateButton = "No", .otherButton = "Cancel"},
+                        [&](int code) { answer = code; });
+        QVERIFY(!shownAlert() && !answer); // answered later, as a person would
+        QCoreApplication::processEvents();
+        QCOMPARE(answer, std::optional<int>(AlertOther));
     }
 
     void answers_data()

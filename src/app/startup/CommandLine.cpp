@@ -4,8 +4,10 @@
 
 #include "base/Product.h"
 #include "base/text/Texts.h"
+#include "model/TankFile.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace brinemark
 {
@@ -42,6 +44,18 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
     line.print = parser.isSet(print);
     line.dark = parser.isSet(dark);
     return line;
+}
+
+QString whyNotOpened(const QString &path)
+{
+    const auto said = [&path](TextKey key) { return fillPlaceholders(text(key), {path}); };
+    const QFileInfo file(path);
+    if (!file.exists())
+        return said("CommandLineNoFile"_key);
+    if (file.isFile() && !file.isReadable())
+        return said("CommandLineUnreadable"_key);
+    // A file that looks like a tank file, but was not opened, is damaged further on.
+    return said(looksLikeTankFile(path) ? "CommandLineUnreadable"_key : "CommandLineNotATankFile"_key);
 }
 
 } // namespace brinemark
