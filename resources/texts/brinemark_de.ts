@@ -1953,6 +1953,15 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Nitrat in Nitratstickstoff, Nitratstickstoff in Nitrat</translation>
     </message>
     <message>
+        <source>PreferencesNotSavedMessage</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>Was Sie darin ändern, gilt, bis Sie das Programm beenden. Prüfen Sie, ob die Datei „^0“ geschrieben werden kann und ob auf dem Datenträger noch Platz frei ist.</translation>
+    </message>
+    <message>
+        <source>PreferencesNotSavedTitle</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden.</translation>
+    </message>
+    <message>
         <source>PreferredStepperToolTip</source>
         <translation>Zielwert erhöhen oder senken</translation>
     </message>

@@ -1953,6 +1953,15 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Nitrate to nitrate nitrogen, Nitrate nitrogen to nitrate</translation>
     </message>
     <message>
+        <source>PreferencesNotSavedMessage</source>
+        <extracomment>^0 is a path.</extracomment>
+        <translation>What you change in them applies until you quit. Make sure that the file “^0” can be written and that the disk is not full.</translation>
+    </message>
+    <message>
+        <source>PreferencesNotSavedTitle</source>
+        <translation>The preferences could not be saved.</translation>
+    </message>
+    <message>
         <source>PreferredStepperToolTip</source>
         <translation>Raise or lower the target</translation>
     </message>

@@ -20,6 +20,7 @@
 #include "model/TankFile.h"
 #include "online/views/EListSignupController.h"
 #include "online/views/QZUpdateController.h"
+#include "ui/Alerts.h"
 #include "ui/Desktop.h"
 #include "ui/FinishTyping.h"
 #include "ui/HelpWindow.h"
@@ -47,7 +48,10 @@ ShoalwatchDelegate::ShoalwatchDelegate()
     m_undoManager->setUndoLimit(undoLevels);
 }
 
-ShoalwatchDelegate::~ShoalwatchDelegate() = default;
+ShoalwatchDelegate::~ShoalwatchDelegate()
+{
+    Preferences::shared().onWriteFailure({});
+}
 
 void ShoalwatchDelegate::destroyEverything()
 {
@@ -70,6 +74,7 @@ void ShoalwatchDelegate::applicationWillFinishLaunching()
 
 void ShoalwatchDelegate::applicationDidFinishLaunching()
 {
+    Preferences::shared().onWriteFailure([this] { reportUnsavedPreferences(); });
     if (startup::isFirstRun())
         firstRun();
     startup::applicationSupportFolderCheck(startup::applicationSupportFolder());
@@ -94,6 +99,18 @@ void ShoalwatchDelegate::firstRun()
     Preferences::shared().flush();
     m_notificationController->placeAt(NotificationController::firstPlace);
     centreOnScreen(m_shoalwatchController->window());
+}
+
+void ShoalwatchDelegate::reportUnsavedPreferences()
+{
+    QWidget *window = m_shoalwatchController->mainWindow();
+    const QString message = fillPlaceholders(text("PreferencesNotSavedMessage"), {Preferences::shared().path()});
+    const Alert alert{.title = text("PreferencesNotSavedTitle"), .message = message};
+    // A sheet would vanish with the program.
+    if (m_quitting)
+        runAlertPanel(window, alert);
+    else
+        beginAlertSheet(window, alert);
 }
 
 void ShoalwatchDelegate::showConverterIfWanted()
@@ -178,6 +195,7 @@ void ShoalwatchDelegate::replyToApplicationShouldTerminate(bool terminate)
 
 void ShoalwatchDelegate::applicationWillTerminate()
 {
+    m_quitting = true;
     m_shoalwatchController->windowWillClose();
     Preferences::shared().flush();
 }

@@ -72,6 +72,7 @@ private:
     TerminateReply applicationShouldTerminate();
     void applicationWillTerminate();
     void firstRun();
+    void reportUnsavedPreferences();
 
     ShoalwatchController *m_shoalwatchController = nullptr;
     FishDataEntryController *m_fishDataEntryController = nullptr;
@@ -79,7 +80,8 @@ private:
     QUndoStack *m_undoManager;
     DockMenu *m_dockMenu;
     bool m_undoing = false;
-    bool m_terminating = false;
+    bool m_terminating = false; ///< a request to quit is being answered
+    bool m_quitting = false;    ///< it was answered with yes
 };
 
 } // namespace brinemark

@@ -86,10 +86,12 @@ QVariant Preferences::variant(const QString &name) const
 
 void Preferences::setVariant(const QString &name, const QVariant &value)
 {
-    if (value.isValid())
-        m_settings->setValue(name, value);
-    else
+    if (!value.isValid()) {
         remove(name);
+        return;
+    }
+    m_settings->setValue(name, value);
+    checkWritingSoon();
 }
 
 bool Preferences::contains(const QString &name) const
@@ -100,8 +102,10 @@ bool Preferences::contains(const QString &name) const
 void Preferences::remove(const QString &name)
 {
     // QSettings::remove() with an empty name removes every value.
-    if (!name.isEmpty())
-        m_settings->remove(name);
+    if (name.isEmpty())
+        return;
+    m_settings->remove(name);
+    checkWritingSoon();
 }
 
 bool Preferences::flush()
@@ -111,7 +115,23 @@ bool Preferences::flush()
     if (m_settings->status() != QSettings::NoError)
         m_settings = std::make_unique<QSettings>(m_path, propertyListSettingsFormat());
     m_settings->sync();
+    checkWriting();
     return m_settings->status() == QSettings::NoError;
+}
+
+void Preferences::checkWritingSoon()
+{
+    // QSettings has posted an event, in which it writes the change; this call is posted after it.
+    QMetaObject::invokeMethod(
+        &m_checks, [this] { checkWriting(); }, Qt::QueuedConnection);
+}
+
+void Preferences::checkWriting()
+{
+    if (m_settings->status() == QSettings::NoError || m_writeFailureTold || !m_tellWriteFailure)
+        return;
+    m_writeFailureTold = true;
+    m_tellWriteFailure();
 }
 
 template <>

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <QDateTime>
+#include <QObject>
 #include <QString>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <type_traits>
@@ -75,6 +77,10 @@ public:
     /// Writes pending changes to disk; false when writing failed.
     bool flush();
 
+    /// `tell` is called once in the life of this store: when changes cannot be written for the first time, whether by
+    /// flush() or by the event loop. An empty function tells nobody.
+    void onWriteFailure(std::function<void()> tell) { m_tellWriteFailure = std::move(tell); }
+
     [[nodiscard]] QString path() const { return m_path; }
 
 private:
@@ -86,8 +92,14 @@ private:
     template <class T>
     static std::optional<T> convert(const QVariant &stored);
 
+    void checkWriting();
+    void checkWritingSoon();
+
     QString m_path;
     std::unique_ptr<QSettings> m_settings;
+    std::function<void()> m_tellWriteFailure;
+    bool m_writeFailureTold = false;
+    QObject m_checks; ///< receives the queued checks, so that none comes after the end of the store
 };
 
 template <>

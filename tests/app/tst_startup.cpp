@@ -146,6 +146,27 @@ private Q_SLOTS:
         QVERIFY(script.titles.isEmpty());
     }
 
+    void unwritablePreferencesAreReportedOnce()
+    {
+        // A file where the folder should be: even the superuser cannot write below it.
+        const QString folder = QFileInfo(Preferences::shared().path()).path();
+        QVERIFY(QDir(folder).removeRecursively() && writeFile(folder, "in the way"));
+        const auto writableAgain = qScopeGuard([&] {
+            QFile::remove(folder);
+            QVERIFY(Preferences::shared().flush());
+        });
+        Program program(Program::KeepPreferences);
+        Preferences::shared().set(preference::autoSaveOnQuit, true);
+        program.start(testFile("minimal.xml"));
+        QVERIFY(shownAlert());
+        QCOMPARE(shownAlert()->title(), text("PreferencesNotSavedTitle"));
+        QVERIFY(shownAlert()->message().contains(Preferences::shared().path()));
+        QVERIFY(pressAlertButton("defaultButton"));
+        Preferences::shared().set(preference::updateAuto, false);
+        QCoreApplication::processEvents();
+        QVERIFY(!shownAlert());
+    }
+
     void handedOverFileComesBeforeTheDefaultFile()
     {
         Program program;

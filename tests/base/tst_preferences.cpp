@@ -186,6 +186,19 @@ private Q_SLOTS:
         QVERIFY(!store.flush());
         QCOMPARE(store.value(preference::updateFrequency), -1);
 
+        // The failure is told once, also when nobody calls flush().
+        Preferences other(path);
+        int told = 0;
+        other.onWriteFailure([&told] { ++told; });
+        for (const int frequency : {1, 2}) {
+            other.set(preference::updateFrequency, frequency);
+            QCoreApplication::processEvents();
+            QCOMPARE(told, 1);
+        }
+        QVERIFY(!other.flush());
+        QCOMPARE(told, 1);
+        other.set(preference::updateFrequency, -1);
+
         QVERIFY(QFile::remove(blocker));
         QVERIFY(store.flush());
         QCOMPARE(Preferences(copyElsewhere(path)).value(preference::updateFrequency), -1);
