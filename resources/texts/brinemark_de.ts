@@ -800,6 +800,15 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Familie</translation>
     </message>
     <message>
+        <source>FileGoneMessage</source>
+        <translation>Die Datei wurde verschoben, umbenannt oder gelöscht, oder ihr Datenträger ist nicht angeschlossen.</translation>
+    </message>
+    <message>
+        <source>FileGoneTitle</source>
+        <extracomment>^0 is the name of a file.</extracomment>
+        <translation>„^0“ ist nicht mehr da.</translation>
+    </message>
+    <message>
         <source>FileName</source>
         <extracomment>The file name proposed for a new tank file.</extracomment>
         <translation>Meine Aquarien</translation>
@@ -1423,8 +1432,8 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>MenuFileClearRecent</source>
-        <translation>&amp;Liste leeren</translation>
+        <source>MenuFileExport</source>
+        <translation>Wassertests e&amp;xportieren …</translation>
     </message>
     <message>
         <source>MenuFileNew</source>
@@ -1489,6 +1498,30 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     <message>
         <source>MenuHelpUpdates</source>
         <translation>Nach &amp;Updates suchen …</translation>
+    </message>
+    <message>
+        <source>MenuRecentClear</source>
+        <translation>&amp;Menü leeren</translation>
+    </message>
+    <message>
+        <source>MenuRecentNone</source>
+        <extracomment>Stands in the menu of the recent files while it holds none.</extracomment>
+        <translation>Keine Dateien</translation>
+    </message>
+    <message>
+        <source>MenuSortAscending</source>
+        <extracomment>Without a mnemonic: the columns above need all letters.</extracomment>
+        <translation>Aufsteigend</translation>
+    </message>
+    <message>
+        <source>MenuSortDescending</source>
+        <extracomment>Without a mnemonic: the columns above need all letters.</extracomment>
+        <translation>Absteigend</translation>
+    </message>
+    <message>
+        <source>MenuSortNone</source>
+        <extracomment>Stands in the menu of the columns to sort by while no list is on screen.</extracomment>
+        <translation>Keine Liste wird gezeigt</translation>
     </message>
     <message>
         <source>MenuTank</source>
@@ -1557,6 +1590,14 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     <message>
         <source>MenuViewExpand</source>
         <translation>&amp;Aufklappen</translation>
+    </message>
+    <message>
+        <source>MenuViewGraph</source>
+        <translation>&amp;Diagramm …</translation>
+    </message>
+    <message>
+        <source>MenuViewSortBy</source>
+        <translation>Sortieren &amp;nach</translation>
     </message>
     <message>
         <source>MenuWindow</source>
@@ -2209,6 +2250,16 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>Size</source>
         <translation>Größe</translation>
+    </message>
+    <message>
+        <source>SortedAscending</source>
+        <extracomment>^0 is a column&apos;s header; what a screen reader says of the column that a list is sorted by.</extracomment>
+        <translation>^0, aufsteigend sortiert</translation>
+    </message>
+    <message>
+        <source>SortedDescending</source>
+        <extracomment>^0 is a column&apos;s header; what a screen reader says of the column that a list is sorted by.</extracomment>
+        <translation>^0, absteigend sortiert</translation>
     </message>
     <message>
         <source>Spotlight</source>

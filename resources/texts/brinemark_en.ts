@@ -800,6 +800,15 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Family</translation>
     </message>
     <message>
+        <source>FileGoneMessage</source>
+        <translation>The file was moved, renamed or deleted, or its disk is not connected.</translation>
+    </message>
+    <message>
+        <source>FileGoneTitle</source>
+        <extracomment>^0 is the name of a file.</extracomment>
+        <translation>“^0” is no longer there.</translation>
+    </message>
+    <message>
         <source>FileName</source>
         <extracomment>The file name proposed for a new tank file.</extracomment>
         <translation>My Tanks</translation>
@@ -1423,8 +1432,8 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>&amp;File</translation>
     </message>
     <message>
-        <source>MenuFileClearRecent</source>
-        <translation>&amp;Clear List</translation>
+        <source>MenuFileExport</source>
+        <translation>&amp;Export Water Tests…</translation>
     </message>
     <message>
         <source>MenuFileNew</source>
@@ -1489,6 +1498,30 @@ Then test every day and repeat the water change until the value is in range. Mea
     <message>
         <source>MenuHelpUpdates</source>
         <translation>Check for &amp;Updates…</translation>
+    </message>
+    <message>
+        <source>MenuRecentClear</source>
+        <translation>&amp;Clear Menu</translation>
+    </message>
+    <message>
+        <source>MenuRecentNone</source>
+        <extracomment>Stands in the menu of the recent files while it holds none.</extracomment>
+        <translation>No recent files</translation>
+    </message>
+    <message>
+        <source>MenuSortAscending</source>
+        <extracomment>Without a mnemonic: the columns above need all letters.</extracomment>
+        <translation>Ascending</translation>
+    </message>
+    <message>
+        <source>MenuSortDescending</source>
+        <extracomment>Without a mnemonic: the columns above need all letters.</extracomment>
+        <translation>Descending</translation>
+    </message>
+    <message>
+        <source>MenuSortNone</source>
+        <extracomment>Stands in the menu of the columns to sort by while no list is on screen.</extracomment>
+        <translation>No list is shown</translation>
     </message>
     <message>
         <source>MenuTank</source>
@@ -1557,6 +1590,14 @@ Then test every day and repeat the water change until the value is in range. Mea
     <message>
         <source>MenuViewExpand</source>
         <translation>&amp;Expand</translation>
+    </message>
+    <message>
+        <source>MenuViewGraph</source>
+        <translation>&amp;Graph…</translation>
+    </message>
+    <message>
+        <source>MenuViewSortBy</source>
+        <translation>&amp;Sort By</translation>
     </message>
     <message>
         <source>MenuWindow</source>
@@ -2209,6 +2250,16 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>Size</source>
         <translation>Size</translation>
+    </message>
+    <message>
+        <source>SortedAscending</source>
+        <extracomment>^0 is a column&apos;s header; what a screen reader says of the column that a list is sorted by.</extracomment>
+        <translation>^0, sorted ascending</translation>
+    </message>
+    <message>
+        <source>SortedDescending</source>
+        <extracomment>^0 is a column&apos;s header; what a screen reader says of the column that a list is sorted by.</extracomment>
+        <translation>^0, sorted descending</translation>
     </message>
     <message>
         <source>Spotlight</source>

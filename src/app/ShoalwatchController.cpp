@@ -6,6 +6,7 @@
 #include "app/commands/CommandDispatch.h"
 #include "app/documents/DocumentCommands.h"
 #include "app/documents/MainDocumentHost.h"
+#include "app/documents/RecentFiles.h"
 #include "app/documents/TankDocument.h"
 #include "app/menus/EditCommands.h"
 #include "app/menus/MainMenuBar.h"
@@ -23,6 +24,7 @@
 #include "model/TankFile.h"
 #include "online/views/EListSignupController.h"
 #include "ui/Alerts.h"
+#include "ui/MainViewController.h"
 #include "ui/WindowPlacement.h"
 
 #include <QApplication>
@@ -89,6 +91,7 @@ void ShoalwatchController::connectWindow()
 {
     MainMenuBar &menus = m_window->menus();
     menus.setStateProvider([this] { return menuState(); });
+    menus.setChoiceProvider([this](Command command) { return menuChoices(command, m_selection->view()); });
     connect(&menus, &MainMenuBar::commandChosen, this, &ShoalwatchController::performCommand);
     connect(&menus, &MainMenuBar::menuWillOpen, this, &ShoalwatchController::validate);
     m_window->toolbarItemChosen = [this](const QString &identifier) { m_dispatch->performToolbarItem(identifier); };
@@ -200,6 +203,11 @@ void ShoalwatchController::setEnableDeleteButton(bool enable)
     validate();
 }
 
+bool ShoalwatchController::validateMenuItem(int tag)
+{
+    return menuItemState(tag, menuState()).enabled;
+}
+
 bool ShoalwatchController::validateToolbarItem(const QString &identifier)
 {
     return toolbarItemEnabled(identifier, currentTank() != nullptr, canDelete());
@@ -221,6 +229,12 @@ MenuState ShoalwatchController::menuState()
     state.selectedRowExpanded = state.selectedRowExpandable && m_tankListController.isExpanded(item);
     for (qint32 view = 0; view < mainViewCount; ++view)
         state.listHasSelectedRow[view] = m_views->hasSelectedRow(MainView(view));
+    if (const Tank *tank = currentTank())
+        state.waterTests = tank->condition()->count();
+    const MainViewController *view = m_selection->view();
+    if (const std::optional<SortOrder> order = view ? view->sortOrder() : std::nullopt)
+        state.sortAscending = order->ascending;
+    state.hasRecentFiles = !recentFiles().isEmpty();
     state.canUndo = undoManager().canUndo();
     state.canRedo = undoManager().canRedo();
     state.treeHasFocus = m_window->menus().commandTarget() == m_tankListController.tankList();
@@ -233,16 +247,16 @@ void ShoalwatchController::validate()
         return;
     const QScopedValueRollback validating(m_validating, true);
     m_window->menus().validate();
-    validateEditCommands(m_window->menus(), m_tankListController, canDelete());
+    validateEditCommands(m_window->menus(), m_tankListController);
     m_window->toolbar().validate([this](const QString &identifier) { return validateToolbarItem(identifier); });
-    m_window->deleteButton()->setEnabled(currentTank() && canDelete());
+    m_window->deleteButton()->setEnabled(validateMenuItem(menutag::Delete));
 }
 
 // ---- what its parts do
 
-void ShoalwatchController::performCommand(Command command)
+void ShoalwatchController::performCommand(Command command, const QString &argument)
 {
-    m_dispatch->perform(command);
+    m_dispatch->perform(command, argument);
 }
 void ShoalwatchController::deleteItem()
 {

@@ -44,7 +44,7 @@ public:
     void windowWillClose(); ///< stores the widths of the panes
     void programWillEnd(); ///< hides the window; from here on nothing is validated, since the controllers are destroyed
     void validate();       ///< enables menus, toolbar and delete button for the present state
-    void performCommand(Command command);
+    void performCommand(Command command, const QString &argument = {});
     bool printWindow(bool interaction); ///< prints the main view, after asking for a printer or at once
 
     [[nodiscard]] bool canDelete() const;
@@ -60,6 +60,7 @@ public:
     void rebuildDockMenu() override;
     void documentModifiedWithChange(bool made) override;
     void setEnableDeleteButton(bool enable) override;
+    [[nodiscard]] bool validateMenuItem(int tag) override;
     void deleteItem() override;
     void orderFrontAndCheckModified() override;
     void showWarningSheet(const QString &title, const QString &message) override;

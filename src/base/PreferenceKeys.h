@@ -11,7 +11,8 @@ namespace brinemark::preference
 inline constexpr PreferenceKey<bool> autoSaveOnQuit{"autoSaveOnQuit"}; ///< absent on the program's first run
 inline constexpr PreferenceKey<bool> activityOverdue{"activityOverdue"};
 inline constexpr PreferenceKey<bool> convertVisible{"convertVisible"};
-inline constexpr PreferenceKey<QString> defaultFile{"defaultFile"}; ///< absolute path
+inline constexpr PreferenceKey<QString> defaultFile{"defaultFile"};     ///< absolute path
+inline constexpr PreferenceKey<QStringList> recentFiles{"recentFiles"}; ///< absolute paths, the newest first
 inline constexpr PreferenceKey<QString> calName{"CalName"};
 inline constexpr PreferenceKey<qint64> bundleVersion{"bundleVersion"}; ///< as packedVersion() returns it
 inline constexpr PreferenceKey<bool> updateAuto{"UpdateAuto"};

@@ -190,6 +190,21 @@ std::optional<QDateTime> Preferences::convert<QDateTime>(const QVariant &stored)
 }
 
 template <>
+std::optional<QStringList> Preferences::convert<QStringList>(const QVariant &stored)
+{
+    if (stored.typeId() == QMetaType::QStringList)
+        return stored.toStringList();
+    if (stored.typeId() != QMetaType::QVariantList)
+        return std::nullopt;
+    QStringList texts;
+    for (const QVariant &element : stored.toList()) {
+        if (isText(element)) // an array that was read from the file
+            texts << element.toString();
+    }
+    return texts;
+}
+
+template <>
 std::optional<QVariantMap> Preferences::convert<QVariantMap>(const QVariant &stored)
 {
     return stored.typeId() == QMetaType::QVariantMap ? std::optional(stored.toMap()) : std::nullopt;

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <functional>
@@ -116,6 +117,8 @@ template <>
 std::optional<QString> Preferences::convert<QString>(const QVariant &stored);
 template <>
 std::optional<QDateTime> Preferences::convert<QDateTime>(const QVariant &stored);
+template <>
+std::optional<QStringList> Preferences::convert<QStringList>(const QVariant &stored);
 template <>
 std::optional<QVariantMap> Preferences::convert<QVariantMap>(const QVariant &stored);
 

@@ -43,6 +43,8 @@ public:
     /// zero.
     virtual void documentModifiedWithChange(bool made) = 0;
     virtual void setEnableDeleteButton(bool enable) = 0;
+    /// Whether menu items with this tag (see MenuTags.h) are enabled now.
+    [[nodiscard]] virtual bool validateMenuItem(int tag) = 0;
     virtual void deleteItem() = 0; ///< the delete command: acts on the view's or the tree's selection
     virtual void orderFrontAndCheckModified() = 0;
     virtual void showWarningSheet(const QString &title, const QString &message) = 0;

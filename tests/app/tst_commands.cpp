@@ -257,16 +257,12 @@ private Q_SLOTS:
         QTest::addColumn<Command>("command");
         QTest::addColumn<bool>("inTheTree");
         QTest::addColumn<bool>("stores");
-        for (const MenuTitle &menu : mainMenus()) {
-            for (const MenuRow &item : menu.rows) {
-                if (item.title.isEmpty())
-                    continue;
-                const bool stores = !CommandDispatch::table()[std::size_t(item.command)].actsOnTyping;
-                for (const bool inTheTree : {true, false})
-                    QTest::addRow("%s, %s", item.title.key, inTheTree ? "tree" : "log")
-                        << item.command << inTheTree << stores;
-            }
-        }
+        forEachCommandItem(mainMenus(), [](const MenuRow &item) {
+            const bool stores = !CommandDispatch::table()[std::size_t(item.command)].actsOnTyping;
+            for (const bool inTheTree : {true, false})
+                QTest::addRow("%s, %s", item.title.key, inTheTree ? "tree" : "log")
+                    << item.command << inTheTree << stores;
+        });
     }
 
     /// A name in the tree or a value in the log is being typed when the command comes.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "app/menus/MainMenuBar.h"
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
 #include "journals/views/NotificationController.h"
@@ -7,6 +8,7 @@
 #include "ui/MainView.h"
 
 #include <QDropEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QUndoStack>
 
@@ -401,6 +403,65 @@ private Q_SLOTS:
         QVERIFY(dropOnWindow(program.window(), {url(first)}).second);
         QTRY_COMPARE(program.path(), first);
         QVERIFY(!program.document().isEdited());
+    }
+
+    void recentFiles()
+    {
+        Program program;
+        QVERIFY(QDir().mkpath(program.filePath("a/reef")) && QDir().mkpath(program.filePath("b/reef")));
+        const QString first = program.copyOf(testFile("minimal.xml"), "a/reef/tanks.xml");
+        const QString second = program.copyOf(testFile("three-tanks.xml"), "b/reef/tanks.xml");
+        const QString gone = program.copyOf(testFile("minimal.xml"), "R&D.xml");
+        program.start(first);
+        for (const QString &path : {program.filePath("broken.xml"), second, gone, first, second})
+            program.document().readTankFileWithPath(path); // the first of them cannot be read
+        MainMenuBar &menus = program.window().menus();
+        auto *menu = qobject_cast<QMenu *>(menus.action(Command::ClearRecent)->associatedObjects().value(0));
+        const auto choices = [menu] {
+            Q_EMIT menu->aboutToShow();
+            QStringList titles;
+            for (const QAction *item : menu->actions()) {
+                if (item->isVisible() && !item->isSeparator())
+                    titles << item->text();
+            }
+            return titles;
+        };
+        QVERIFY(QFile::remove(gone));
+        QCOMPARE(choices(), (QStringList{"&1  tanks.xml – b/reef", "&2  tanks.xml – a/reef", "&3  R&&D.xml",
+                                         text("MenuRecentClear")}));
+        QCOMPARE(menu->actions().at(1)->toolTip(), first);
+        QVERIFY(!menu->actions().at(2)->isEnabled());
+
+        QVERIFY(program.renameFirstTank("Edited"));
+        AlertScript script{AlertOther, AlertAlternate};
+        menu->actions().at(1)->trigger();
+        QTRY_COMPARE(script.titles, QStringList{text("SaveTitle")});
+        QCOMPARE(program.path(), second);
+        menu->actions().at(1)->trigger();
+        QTRY_COMPARE(program.path(), first);
+        QVERIFY(choices().at(0).endsWith("a/reef") && !program.document().isEdited());
+
+        // Between the opening of the menu and the choice the file is replaced, then removed.
+        script.titles.clear();
+        QVERIFY(writeFile(second, "<html><body/></html>"));
+        menu->actions().at(1)->trigger();
+        QTRY_COMPARE(script.titles.size(), 1);
+        QVERIFY(QFile::remove(second));
+        menu->actions().at(1)->trigger();
+        QTRY_COMPARE(script.titles, (QStringList{fillPlaceholders(text("NotATankFileTitle"), {"tanks.xml"}),
+                                                 fillPlaceholders(text("FileGoneTitle"), {"tanks.xml"})}));
+        QCOMPARE(program.path(), first);
+
+        for (int i = 0; i < 12; ++i)
+            QCOMPARE(program.document().writeTankFileWithPath(program.filePath(QString::number(i) + ".xml")),
+                     TankDocument::WriteOutcome::Written);
+        QVERIFY(Preferences::shared().flush());
+        const QStringList kept = Preferences(Preferences::shared().path()).value(preference::recentFiles, {});
+        QCOMPARE(kept.size(), 10);
+        QCOMPARE(kept.first(), program.filePath("11.xml"));
+        menus.action(Command::ClearRecent)->trigger();
+        QCOMPARE(choices(), (QStringList{text("MenuRecentNone"), text("MenuRecentClear")}));
+        QVERIFY(!menus.action(Command::ClearRecent)->isEnabled());
     }
 
     void anotherFileDropsUndoAndNotices()

@@ -3,14 +3,19 @@
 #include "app/commands/CommandDispatch.h"
 #include "app/menus/MainMenuBar.h"
 #include "app/tree/TankOutlineView.h"
+#include "app/window/MainSelection.h"
 #include "base/text/Texts.h"
 #include "support/AppFixture.h"
 #include "support/DataRow.h"
+#include "ui/MainViewController.h"
+#include "ui/lists/RecordTableView.h"
 
 #include <QClipboard>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSet>
+#include <QStackedWidget>
 #include <QToolButton>
 #include <QUndoStack>
 
@@ -34,22 +39,46 @@ MenuState stateOf(MainView view, MainView selectedIn, const QStringList &flags)
     state.overdueNoticeVisible = flags.contains("overdue");
     state.selectedRowExpandable = flags.contains("open") || flags.contains("closed");
     state.selectedRowExpanded = flags.contains("open");
+    state.waterTests = flags.contains("tests") ? 2 : 1;
+    if (flags.contains("up") || flags.contains("down"))
+        state.sortAscending = flags.contains("up");
+    state.hasRecentFiles = flags.contains("recent");
     state.canUndo = flags.contains("undo");
     state.canRedo = flags.contains("redo");
     state.treeHasFocus = flags.contains("tree");
     return state;
 }
 
-QList<QAction *> itemsOf(const MainMenuBar &bar)
+/// The items of the menus, those of submenus included.
+QList<QAction *> itemsOf(const QList<QAction *> &menus)
 {
     QList<QAction *> items;
-    for (const QAction *menu : bar.actions()) {
+    for (const QAction *menu : menus) {
         for (QAction *action : menu->menu()->actions()) {
-            if (!action->isSeparator())
+            if (action->menu())
+                items << itemsOf({action});
+            else if (!action->isSeparator())
                 items << action;
         }
     }
     return items;
+}
+
+/// Opens the menu that holds the choices of a command, and returns those.
+QList<QAction *> choicesOf(Command command, MainMenuBar &bar)
+{
+    QAction *none = bar.action(command);
+    auto *menu = qobject_cast<QMenu *>(none->associatedObjects().value(0));
+    Q_EMIT menu->aboutToShow();
+    return menu->actions().mid(0, menu->actions().indexOf(none));
+}
+
+QStringList titlesOf(const QList<QAction *> &items)
+{
+    QStringList titles;
+    for (const QAction *item : items)
+        titles << item->text().remove('&');
+    return titles;
 }
 
 } // namespace
@@ -94,6 +123,12 @@ private Q_SLOTS:
         }
         // The rules of the lists ask the list, not the view on screen.
         row("notes selected, elsewhere", V::Tank, V::Notes, "tank", Tags{NeedsTank, NoteSelected});
+        row("two tests", V::Conditions, V::None, "tank tests",
+            Tags{NeedsTank, NewWaterTest, ConditionColumns, TwoWaterTests});
+        row("two tests, elsewhere", V::Tank, V::None, "tank tests", Tags{NeedsTank});
+        row("sorted up", V::Notes, V::None, "tank up", Tags{NeedsTank, NewNote, SortBy, SortAscending, SortDescending});
+        row("sorted down", V::None, V::None, "down", Tags{SortBy, SortAscending, SortDescending});
+        row("recent files", V::None, V::None, "recent", Tags{ClearRecent});
         row("undo", V::Tank, V::None, "tank undo", Tags{NeedsTank, Undo});
         row("redo", V::Tank, V::None, "tank redo", Tags{NeedsTank, Redo});
         row("undo in the tree", V::Tank, V::None, "tank undo redo tree", Tags{NeedsTank, Redo});
@@ -125,11 +160,18 @@ private Q_SLOTS:
                                   Undo,
                                   Redo,
                                   NewExpense,
-                                  ConditionColumns};
+                                  ConditionColumns,
+                                  SortBy,
+                                  SortAscending,
+                                  SortDescending,
+                                  ClearRecent,
+                                  TwoWaterTests};
         for (const int tag : withRule)
             QVERIFY2(menuItemState(tag, state).enabled == enabled.contains(tag), QByteArray::number(tag));
         for (const int untagged : {0, 99, -1})
             QVERIFY(menuItemState(untagged, state).enabled && !menuItemState(untagged, state).title);
+        for (const auto &[tag, flag] : {std::pair(SortAscending, "up"), std::pair(SortDescending, "down")})
+            QCOMPARE(menuItemState(tag, state).checked, std::optional(flags.contains(flag)));
         const std::map<int, std::pair<const char *, const char *>> titled{
             {Toolbar, {"toolbar", "Toolbar"}},
             {Calculator, {"calculator", "CalculatorWindow"}},
@@ -170,7 +212,7 @@ private Q_SLOTS:
             const MainMenuBar bar;
             QStringList titles;
             QSet<QKeySequence> keys;
-            for (const QAction *item : itemsOf(bar)) {
+            for (const QAction *item : itemsOf(bar.actions())) {
                 QVERIFY(!item->text().isEmpty());
                 // A text that equals its key was not found in the table.
                 QVERIFY2(item->text() != item->objectName() || item->objectName() == "Condition Columns...",
@@ -243,6 +285,67 @@ private Q_SLOTS:
         QVERIFY(!enabled(Command::Delete)); // the list has no selected row
         QVERIFY(!program.window().deleteButton()->isEnabled());
         QVERIFY(!program.controller().validateToolbarItem("delete"));
+    }
+
+    void everyListIsSortedAndDeletedFromByTheMenus_data()
+    {
+        test::columns<ContainerKind>("kind");
+        for (const ContainerKind kind : {ContainerKind::Condition, ContainerKind::Schedule, ContainerKind::Inventory,
+                                         ContainerKind::Expense, ContainerKind::Note})
+            row(traitsOf(kind).nameKey.key, kind);
+    }
+
+    void everyListIsSortedAndDeletedFromByTheMenus()
+    {
+        QFETCH(ContainerKind, kind);
+        Program program;
+        program.start(program.copyOf(testFile("every-field.xml")));
+        MainMenuBar &menus = program.window().menus();
+        QVERIFY(!menus.action(Command::SortAscending)->isEnabled());
+        QVERIFY(choicesOf(Command::SortBy, menus).isEmpty());
+        Container &list = *program.tree().list().at(0)->container(kind);
+        program.controller().selectInTree(list);
+        const std::vector<SortColumn> columns = program.controller().selection().view()->sortColumns();
+        list.setSortIdentifier(columns.front().identifier);
+        const QList<QAction *> choices = choicesOf(Command::SortBy, menus);
+        QSet<QString> mnemonics;
+        QStringList titles;
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            titles << columns[i].title;
+            QCOMPARE(choices[qsizetype(i)]->isChecked(), columns[i].identifier == list.sortIdentifier());
+            mnemonics << choices[qsizetype(i)]->text().section('&', 1).left(1).toLower();
+        }
+        QCOMPARE(titlesOf(choices), titles);
+        QCOMPARE(mnemonics.size(), choices.size());
+        const QWidget &page = *program.window().mainView().currentWidget();
+        auto *table = page.findChild<RecordTableView *>();
+        const auto count = program.document().changeCount();
+        choices.last()->trigger();
+        QCOMPARE(list.sortIdentifier(), columns.back().identifier);
+        menus.action(Command::SortDescending)->trigger();
+        QVERIFY(!list.sortAscending() && menus.action(Command::SortDescending)->isChecked());
+        QCOMPARE(program.document().changeCount(), count + 2);
+        menus.action(Command::SortDescending)->trigger(); // as it is already
+        QCOMPARE(program.document().changeCount(), count + 2);
+        QVERIFY(menus.action(Command::SortDescending)->isChecked());
+        choices.first()->trigger();
+        const int sorted = table->horizontalHeader()->sortIndicatorSection();
+        QCOMPARE(table->model()->headerData(sorted, Qt::Horizontal, Qt::AccessibleTextRole).toString(),
+                 fillPlaceholders(text("SortedDescending"), {titles.first()}));
+
+        const QList<QMenu *> listMenus{page.findChild<QToolButton *>("actionButton")->menu(),
+                                       table->findChild<QMenu *>()};
+        for (const bool selected : {false, true}) {
+            if (selected)
+                table->selectRow(0);
+            QCOMPARE(menus.action(Command::Delete)->isEnabled(), selected);
+            for (QMenu *menu : listMenus) {
+                Q_EMIT menu->aboutToShow();
+                for (const QAction *item : menu->actions())
+                    QVERIFY(item->text() != text("DeleteTitle") || item->isEnabled() == selected);
+                QVERIFY(titlesOf(menu->actions()).contains(text("DeleteTitle")));
+            }
+        }
     }
 
     void openedMenuObeysTheSameRules()

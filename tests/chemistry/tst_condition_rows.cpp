@@ -4,6 +4,7 @@
 #include "support/AlertDriver.h"
 #include "support/DataRow.h"
 #include "support/TestProgram.h"
+#include "ui/MenuTags.h"
 
 #include <QMenu>
 #include <QToolButton>
@@ -131,31 +132,29 @@ private Q_SLOTS:
 
     void menu_data()
     {
-        test::columns<int, bool>("rows", "enabled");
-        row("one", 1, false);
-        row("two", 2, true);
+        test::columns<int, QStringList>("tag", "disabled");
+        row("too few tests", int(menutag::TwoWaterTests), QStringList{text("Graph"), text("Export")});
+        row("none selected", int(menutag::ConditionSelected), QStringList{text("DeleteTitle")});
     }
 
     void menu()
     {
-        QFETCH(int, rows);
-        QFETCH(bool, enabled);
-        m_shell->appendTank(makeTank(rows));
-        log().updateDisplay();
+        QFETCH(int, tag);
+        QFETCH(QStringList, disabled);
+        m_shell->disabledTag = tag;
         auto *button = log().view()->findChild<QToolButton *>(QStringLiteral("actionButton"));
         QVERIFY(button->isVisible());
         auto *context = table()->findChild<QMenu *>(QStringLiteral("conditionCM"));
         for (QMenu *menu : {button->menu(), context}) {
             Q_EMIT menu->aboutToShow();
             for (const QAction *action : menu->actions()) {
-                const bool needsTwo = action->text() == text("Graph") || action->text() == text("Export");
                 if (!action->isSeparator())
-                    QCOMPARE(action->isEnabled(), enabled || !needsTwo);
+                    QCOMPARE(action->isEnabled(), !disabled.contains(action->text()));
             }
             QCOMPARE(menu->actions().at(4)->text(), text("DeleteTitle"));
             menu->actions().at(4)->trigger();
         }
-        QCOMPARE(m_shell->deletesAsked, 2);
+        QCOMPARE(m_shell->deletesAsked, disabled.contains(text("DeleteTitle")) ? 0 : 2);
     }
 };
 

@@ -53,6 +53,7 @@ public:
     void rebuildDockMenu() override { dock.clear(); }
     void documentModifiedWithChange(bool made) override { changes += made ? 1 : -1; }
     void setEnableDeleteButton(bool enable) override { deleteEnabled = enable; }
+    bool validateMenuItem(int tag) override { return tag != disabledTag; }
     void deleteItem() override { ++deletesAsked; }
     void orderFrontAndCheckModified() override { ++ordersFront; }
     void showWarningSheet(const QString &title, const QString &) override { warning = title; }
@@ -79,6 +80,7 @@ public:
     Record *selectedRecord = nullptr;
     QString warning;
     bool deleteEnabled = false;
+    int disabledTag = -1; ///< the only one whose menu items are disabled
     int changes = 0;
     int ordersFront = 0;
     int deletesAsked = 0;

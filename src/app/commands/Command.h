@@ -5,13 +5,17 @@
 namespace brinemark
 {
 
-/// Every command that a menu, a shortcut, the toolbar or a button can send.
+/// Every command that a menu, a shortcut, the toolbar or a button can send. Without the argument that one asks for it
+/// does nothing.
 enum class Command {
     NewFile,
     OpenFile,
+    OpenRecent, ///< argument: the file's path
+    ClearRecent,
     Save,
     SaveAs,
     Revert,
+    Export,
     Print,
     Quit,
     Undo,
@@ -35,6 +39,10 @@ enum class Command {
     Expand,
     Collapse,
     ConditionColumns,
+    Graph,
+    SortBy, ///< argument: the column's identifier
+    SortAscending,
+    SortDescending,
     ToggleToolbar,
     CustomiseToolbar,
     ToggleCalculator,

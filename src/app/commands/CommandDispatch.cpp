@@ -5,6 +5,7 @@
 #include "app/ShoalwatchController.h"
 #include "app/ShoalwatchDelegate.h"
 #include "app/documents/DocumentCommands.h"
+#include "app/documents/RecentFiles.h"
 #include "app/menus/EditCommands.h"
 #include "app/toolbar/MainToolBar.h"
 #include "app/toolbar/ToolbarItems.h"
@@ -26,59 +27,84 @@ namespace
 {
 
 template <void (DocumentCommands::*operation)()>
-void onDocument(ShoalwatchController &main)
+void onDocument(ShoalwatchController &main, const QString &)
 {
     (main.documents().*operation)();
 }
 
 template <void (ShoalwatchDelegate::*operation)()>
-void onDelegate(ShoalwatchController &)
+void onDelegate(ShoalwatchController &, const QString &)
 {
     (ShoalwatchDelegate::sharedInstance().*operation)();
 }
 
 template <void (TankListController::*operation)()>
-void onTree(ShoalwatchController &main)
+void onTree(ShoalwatchController &main, const QString &)
 {
     (main.tankListController().*operation)();
 }
 
 template <void (MainSelection::*operation)()>
-void onSelection(ShoalwatchController &main)
+void onSelection(ShoalwatchController &main, const QString &)
 {
     (main.selection().*operation)();
 }
 
 template <void (MainToolBar::*operation)()>
-void onToolbar(ShoalwatchController &main)
+void onToolbar(ShoalwatchController &main, const QString &)
 {
     (main.window().toolbar().*operation)();
 }
 
+template <class Controller, void (Controller::*operation)()>
+void onShared(ShoalwatchController &, const QString &)
+{
+    (Controller::sharedInstance().*operation)();
+}
+
 template <Command command>
-void edit(ShoalwatchController &main)
+void edit(ShoalwatchController &main, const QString &)
 {
     performEditCommand(command, main.window().menus(), main.tankListController());
 }
 
 template <ItemContext context>
-void newLivestock(ShoalwatchController &main)
+void newLivestock(ShoalwatchController &main, const QString &)
 {
     if (main.currentTank())
         FishDataEntryController::sharedInstance().displayItemData(nullptr, context);
 }
 
-void print(ShoalwatchController &main)
+void print(ShoalwatchController &main, const QString &)
 {
     main.printWindow(true);
+}
+
+void openRecent(ShoalwatchController &main, const QString &path)
+{
+    main.documents().openRecentFile(path);
+}
+
+void sortBy(ShoalwatchController &main, const QString &identifier)
+{
+    main.selection().sortBy(identifier);
+}
+
+template <bool ascending>
+void sortInOrder(ShoalwatchController &main, const QString &)
+{
+    main.selection().sortAscending(ascending);
 }
 
 constexpr CommandRow commandRows[] = {
     {Command::NewFile, &onDocument<&DocumentCommands::newDataFile>},
     {Command::OpenFile, &onDocument<&DocumentCommands::openDataFile>},
+    {Command::OpenRecent, &openRecent},
+    {Command::ClearRecent, [](ShoalwatchController &, const QString &) { clearRecentFiles(); }},
     {Command::Save, &onDocument<&DocumentCommands::saveCurrentFile>},
     {Command::SaveAs, &onDocument<&DocumentCommands::saveAsCurrentFile>},
     {Command::Revert, &onDocument<&DocumentCommands::revertFile>},
+    {Command::Export, &onShared<ConditionListController, &ConditionListController::exportAction>},
     {Command::Print, &print},
     {Command::Quit, &onDelegate<&ShoalwatchDelegate::terminate>},
     {Command::Undo, &onDelegate<&ShoalwatchDelegate::undoChange>},
@@ -90,7 +116,9 @@ constexpr CommandRow commandRows[] = {
     {Command::Delete, &onSelection<&MainSelection::deleteItem>},
     {Command::Preferences, &onDelegate<&ShoalwatchDelegate::showPreferences>},
     {Command::NewTank,
-     [](ShoalwatchController &) { TankDataEntryController::sharedInstance().displayTank(nullptr, true, {}); }},
+     [](ShoalwatchController &, const QString &) {
+         TankDataEntryController::sharedInstance().displayTank(nullptr, true, {});
+     }},
     {Command::NewFish, &newLivestock<ItemContext::Fish>},
     {Command::NewPlant, &newLivestock<ItemContext::Plant>},
     {Command::NewInvert, &newLivestock<ItemContext::Invert>},
@@ -104,12 +132,15 @@ constexpr CommandRow commandRows[] = {
     {Command::Expand, &onTree<&TankListController::expandTankItem>},
     {Command::Collapse, &onTree<&TankListController::collapseTankItem>},
     {Command::ConditionColumns,
-     [](ShoalwatchController &) { ConditionListController::sharedInstance().showCustomizeConditionColumns(); }},
+     &onShared<ConditionListController, &ConditionListController::showCustomizeConditionColumns>},
+    {Command::Graph, &onShared<ConditionListController, &ConditionListController::graphButtonAction>},
+    {Command::SortBy, &sortBy},
+    {Command::SortAscending, &sortInOrder<true>},
+    {Command::SortDescending, &sortInOrder<false>},
     {Command::ToggleToolbar, &onToolbar<&MainToolBar::toggle>},
     {Command::CustomiseToolbar, &onToolbar<&MainToolBar::customise>},
-    {Command::ToggleCalculator,
-     [](ShoalwatchController &) { ConverterController::sharedInstance().toggleConverter(); }},
-    {Command::ToggleOverdue, [](ShoalwatchController &) { NotificationController::sharedInstance().showOverdue(); }},
+    {Command::ToggleCalculator, &onShared<ConverterController, &ConverterController::toggleConverter>},
+    {Command::ToggleOverdue, &onShared<NotificationController, &NotificationController::showOverdue>},
     {Command::Help, &onDelegate<&ShoalwatchDelegate::showHelp>},
     {Command::CheckForUpdates, &onDelegate<&ShoalwatchDelegate::showUpdate>},
     {Command::MailingList, &onDelegate<&ShoalwatchDelegate::displayEListSignUp>},
@@ -128,12 +159,12 @@ CommandDispatch::CommandDispatch(ShoalwatchController &main)
 {
 }
 
-void CommandDispatch::perform(Command command)
+void CommandDispatch::perform(Command command, const QString &argument)
 {
     const CommandRow &row = commandRows[std::size_t(command)];
     if (!row.actsOnTyping)
         finishTyping(m_main.mainWindow());
-    row.perform(m_main);
+    row.perform(m_main, argument);
     m_main.validate();
 }
 

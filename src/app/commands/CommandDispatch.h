@@ -4,7 +4,7 @@
 
 #include "app/commands/Command.h"
 
-#include <QStringView>
+#include <QString>
 
 #include <span>
 
@@ -16,7 +16,7 @@ class ShoalwatchController;
 /// A command and what it does.
 struct CommandRow {
     Command command;
-    void (*perform)(ShoalwatchController &main);
+    void (*perform)(ShoalwatchController &main, const QString &argument);
     bool actsOnTyping = false; ///< cuts, copies, pastes or selects in the text that is being typed
 };
 
@@ -28,7 +28,7 @@ public:
     explicit CommandDispatch(ShoalwatchController &main);
 
     /// First stores what is being typed into a row or a cell, unless the command acts on that text.
-    void perform(Command command);
+    void perform(Command command, const QString &argument = {});
     void performToolbarItem(QStringView identifier); ///< items that send no command do nothing
 
     /// One row for each command, in the order of `Command`.

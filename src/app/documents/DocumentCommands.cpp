@@ -76,6 +76,12 @@ bool DocumentCommands::openFile(const QString &path)
     return true;
 }
 
+void DocumentCommands::openRecentFile(const QString &path)
+{
+    if (!path.isEmpty() && checkTankFile(m_window, path))
+        openFile(path);
+}
+
 void DocumentCommands::openFileDidEnd(const FilePanelAnswer &answer)
 {
     m_makeDefault = answer.makeDefault;

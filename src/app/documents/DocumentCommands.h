@@ -34,6 +34,8 @@ public:
     /// Opens a file that the desktop handed over, after asking about unsaved changes. Returns false when the file could
     /// not be read, and true while the question is open.
     bool openFile(const QString &path);
+    /// The same for a file of the recent ones, after checking that it is still a tank file; an empty path does nothing.
+    void openRecentFile(const QString &path);
     void saveCurrentFile();
     void saveAsCurrentFile();
     void revertFile();

@@ -55,13 +55,8 @@ public:
     void accept() override
     {
         const QFileInfo chosen(selectedFiles().value(0));
-        if (chosen.exists() && !chosen.isDir() && !looksLikeTankFile(chosen.filePath())) {
-            beep();
-            const QString title = fillPlaceholders(text("NotATankFileTitle"), {chosen.fileName()});
-            beginAlertSheet(this, {.title = title, .message = text("NotATankFileMessage")}, [](int) {});
-            return;
-        }
-        QFileDialog::accept();
+        if (!chosen.exists() || chosen.isDir() || checkTankFile(this, chosen.filePath()))
+            QFileDialog::accept();
     }
 };
 
@@ -87,6 +82,20 @@ void openWith(QWidget *window, QFileDialog *panel, QCheckBox *check, FilePanelCo
 }
 
 } // namespace
+
+bool checkTankFile(QWidget *window, const QString &path)
+{
+    if (looksLikeTankFile(path))
+        return true;
+    const QFileInfo file(path);
+    const auto said = [&](TextKey title, TextKey message) {
+        return Alert{.title = fillPlaceholders(text(title), {file.fileName()}), .message = text(message)};
+    };
+    beep();
+    beginAlertSheet(window, file.exists() ? said("NotATankFileTitle"_key, "NotATankFileMessage"_key)
+                                          : said("FileGoneTitle"_key, "FileGoneMessage"_key));
+    return false;
+}
 
 void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelCompletion completion)
 {

@@ -26,6 +26,10 @@ using FilePanelCompletion = std::function<void(const FilePanelAnswer &)>;
 /// "makeDefaultCheck".
 void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelCompletion completion);
 
+/// Whether the path is that of a tank file. Otherwise beeps and says on a sheet of `window` what it is, or that there
+/// is no such file.
+[[nodiscard]] bool checkTankFile(QWidget *window, const QString &path);
+
 /// Opens a sheet of `window` that asks where to save a tank file. It adds the extension "xml" when it is missing and
 /// asks before an existing file is overwritten. Object name "savePanel".
 void beginSavePanel(QWidget *window, const QString &proposedName, bool makeDefault, FilePanelCompletion completion);

@@ -2,11 +2,13 @@
 
 #include "app/documents/TankDocument.h"
 
+#include "app/documents/RecentFiles.h"
 #include "base/Log.h"
 #include "base/Product.h"
 #include "model/Tank.h"
 #include "model/TankFile.h"
 #include "model/TankList.h"
+#include "ui/Alerts.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -49,6 +51,12 @@ void TankDocument::markUnchanged()
 {
     m_changeCount = 0;
     setEdited(false);
+}
+
+void TankDocument::rememberFile() const
+{
+    if (!isUnattended()) // a run that only draws or prints opens nothing for a person
+        addRecentFile(m_representedFilename);
 }
 
 void TankDocument::documentModifiedWithChange(bool made)
@@ -118,6 +126,7 @@ bool TankDocument::readTankFileWithPath(const QString &path)
     m_host.selectTreeRow(result.selectedRow);
     m_host.refreshTree();
     markUnchanged();
+    rememberFile();
     m_host.showNotificationIfOnScreen();
     return true;
 }
@@ -157,6 +166,7 @@ TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &pa
     setRepresentedFilename(path);
     m_documentDictionary = std::move(root);
     setEdited(false);
+    rememberFile();
     return WriteOutcome::Written;
 }
 

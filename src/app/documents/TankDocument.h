@@ -56,6 +56,7 @@ private:
     void setRepresentedFilename(const QString &path);
     void setEdited(bool edited);
     void markUnchanged();
+    void rememberFile() const; ///< among the recent files
 
     TankList &m_list;
     DocumentHost &m_host;

@@ -55,14 +55,13 @@ void performEditCommand(Command command, const MainMenuBar &menus, TankListContr
     }
 }
 
-void validateEditCommands(MainMenuBar &menus, const TankListController &tree, bool canDelete)
+void validateEditCommands(MainMenuBar &menus, const TankListController &tree)
 {
     const QWidget *target = menus.commandTarget();
     for (const EditRow &row : editRows) {
         const bool enabled = target == tree.tankList() ? treeCan(row.command, tree) : hasSlot(target, row.slot);
         menus.action(row.command)->setEnabled(enabled);
     }
-    menus.action(Command::Delete)->setEnabled(tree.currentTank() && canDelete);
 }
 
 } // namespace brinemark

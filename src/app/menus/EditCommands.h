@@ -13,7 +13,7 @@ class TankListController;
 /// Carries out cut, copy, paste or select all on the menus' target: the text being edited, or the tank tree.
 void performEditCommand(Command command, const MainMenuBar &menus, TankListController &tree);
 
-/// Enables these commands, and delete, for the widget that has the focus now.
-void validateEditCommands(MainMenuBar &menus, const TankListController &tree, bool canDelete);
+/// Enables these commands for the widget that has the focus now.
+void validateEditCommands(MainMenuBar &menus, const TankListController &tree);
 
 } // namespace brinemark

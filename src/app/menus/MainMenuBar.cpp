@@ -4,7 +4,9 @@
 
 #include "ui/Icons.h"
 
+#include <QActionGroup>
 #include <QApplication>
+#include <QMenu>
 
 namespace brinemark
 {
@@ -56,24 +58,65 @@ MainMenuBar::MainMenuBar(QWidget *parent)
     for (const MenuTitle &title : mainMenus()) {
         QMenu *menu = addMenu(text(title.title));
         menu->setObjectName(QLatin1String(title.title.key));
-        connect(menu, &QMenu::aboutToShow, this, &MainMenuBar::menuWillOpen);
-        for (const MenuRow &row : title.rows) {
-            if (row.title.isEmpty()) {
-                menu->addSeparator();
-                continue;
-            }
-            QAction *action = menu->addAction(text(row.title));
-            action->setObjectName(QLatin1String(row.title.key));
-            action->setShortcuts(shortcutsOf(row));
-            action->setMenuRole(roleOf(row.command));
-            if (row.icon)
-                action->setIcon(icon(row.icon));
-            connect(action, &QAction::triggered, this,
-                    [this, command = row.command] { Q_EMIT commandChosen(command); });
-            m_actions.emplace(row.command, action);
-            m_items.push_back({action, row.tag});
-        }
+        addItems(*menu, title.rows);
     }
+}
+
+void MainMenuBar::addItems(QMenu &menu, std::span<const MenuRow> rows)
+{
+    connect(&menu, &QMenu::aboutToShow, this, &MainMenuBar::menuWillOpen);
+    auto *group = new QActionGroup(&menu); // between two separators one item at most has a check mark
+    for (const MenuRow &row : rows) {
+        if (row.title.isEmpty()) {
+            menu.addSeparator();
+            group = new QActionGroup(&menu);
+            continue;
+        }
+        QAction *action = row.submenu ? menu.addMenu(text(row.title))->menuAction() : menu.addAction(text(row.title));
+        action->setObjectName(QLatin1String(row.title.key));
+        if (row.icon)
+            action->setIcon(icon(row.icon));
+        if (!row.hasChoices)
+            m_items.push_back({action, row.tag});
+        if (row.submenu) {
+            addItems(*action->menu(), row.submenu->rows);
+            continue;
+        }
+        m_actions.emplace(row.command, action);
+        if (row.hasChoices) {
+            action->setEnabled(false);
+            menu.setToolTipsVisible(true);
+            connect(&menu, &QMenu::aboutToShow, group,
+                    [this, &menu, command = row.command, group] { showChoices(menu, command, *group); });
+            group = new QActionGroup(&menu);
+            continue;
+        }
+        action->setShortcuts(shortcutsOf(row));
+        action->setMenuRole(roleOf(row.command));
+        group->addAction(action); // an item without a check mark is not affected
+        connect(action, &QAction::triggered, this,
+                [this, command = row.command] { Q_EMIT commandChosen(command, {}); });
+    }
+}
+
+void MainMenuBar::showChoices(QMenu &menu, Command command, QActionGroup &group)
+{
+    constexpr int widestTitle = 480; // pixels
+    qDeleteAll(group.actions());
+    QAction *none = action(command);
+    const std::vector<MenuChoice> choices = m_choices ? m_choices(command) : std::vector<MenuChoice>();
+    for (const MenuChoice &choice : choices) {
+        auto *item = new QAction(
+            menu.fontMetrics().elidedText(choice.title, Qt::ElideMiddle, widestTitle, Qt::TextShowMnemonic), &group);
+        item->setEnabled(choice.enabled);
+        item->setToolTip(choice.toolTip);
+        item->setCheckable(choice.checked.has_value());
+        item->setChecked(choice.checked.value_or(false));
+        menu.insertAction(none, item);
+        connect(item, &QAction::triggered, this,
+                [this, command, argument = choice.argument] { Q_EMIT commandChosen(command, argument); });
+    }
+    none->setVisible(choices.empty());
 }
 
 void MainMenuBar::validate()
@@ -86,6 +129,10 @@ void MainMenuBar::validate()
         item.action->setEnabled(now.enabled);
         if (now.title)
             item.action->setText(text(*now.title));
+        if (now.checked) {
+            item.action->setCheckable(true);
+            item.action->setChecked(*now.checked);
+        }
     }
 }
 

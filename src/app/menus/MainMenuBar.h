@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "app/menus/MenuChoices.h"
 #include "app/menus/MenuRules.h"
 #include "app/menus/MenuTable.h"
 
@@ -10,6 +11,8 @@
 
 #include <functional>
 #include <map>
+
+class QActionGroup;
 
 namespace brinemark
 {
@@ -25,7 +28,13 @@ public:
 
     /// Sets the function that supplies the window's state to the rules.
     void setStateProvider(std::function<MenuState()> provider) { m_state = std::move(provider); }
+    /// Sets the function that supplies the choices of a command, asked each time their menu opens.
+    void setChoiceProvider(std::function<std::vector<MenuChoice>(Command)> provider)
+    {
+        m_choices = std::move(provider);
+    }
 
+    /// The item of a command; of a command with choices, the one that is shown when there is none.
     [[nodiscard]] QAction *action(Command command) const { return m_actions.at(command); }
 
     void validate();
@@ -36,9 +45,12 @@ public:
 
 Q_SIGNALS:
     void menuWillOpen(); ///< the owner enables and disables the items now
-    void commandChosen(brinemark::Command command);
+    void commandChosen(brinemark::Command command, const QString &argument);
 
 private:
+    void addItems(QMenu &menu, std::span<const MenuRow> rows);
+    void showChoices(QMenu &menu, Command command, QActionGroup &group);
+
     struct Item {
         QAction *action;
         int tag;
@@ -46,6 +58,7 @@ private:
     std::map<Command, QAction *> m_actions;
     std::vector<Item> m_items;
     std::function<MenuState()> m_state;
+    std::function<std::vector<MenuChoice>(Command)> m_choices;
     /// The widget that had the focus before the menu bar; null while the menu bar does not have it.
     QPointer<QWidget> m_focusBefore;
 };

@@ -9,11 +9,12 @@ namespace brinemark
 
 MenuItemState menuItemState(int tag, const MenuState &state)
 {
-    const auto enabledWhen = [](bool enabled) { return MenuItemState{enabled, {}}; };
+    const auto enabledWhen = [](bool enabled) { return MenuItemState{enabled, {}, {}}; };
     const auto titled = [](bool visible, TextKey hide, TextKey show) {
-        return MenuItemState{true, visible ? hide : show};
+        return MenuItemState{true, visible ? hide : show, {}};
     };
-    const auto selectedIn = [&](MainView view) { return enabledWhen(state.listHasSelectedRow[qint32(view)]); };
+    const auto marked = [](bool enabled, bool checked) { return MenuItemState{enabled, {}, checked}; };
+    const auto selectedIn = [&](MainView view) { return enabledWhen(state.hasSelectedRow(view)); };
 
     switch (tag) {
     case menutag::Toolbar:
@@ -43,6 +44,18 @@ MenuItemState menuItemState(int tag, const MenuState &state)
         return enabledWhen(state.windowEdited);
     case menutag::Revert:
         return enabledWhen(state.documentHasPath && state.windowEdited);
+    case menutag::Delete:
+        return enabledWhen(state.hasCurrentTank && canDelete(state.view, state.hasSelectedRow(state.view)));
+    case menutag::TwoWaterTests:
+        return enabledWhen(state.view == MainView::Conditions && state.waterTests >= 2);
+    case menutag::SortBy:
+        return enabledWhen(state.sortAscending.has_value());
+    case menutag::SortAscending:
+        return marked(state.sortAscending.has_value(), state.sortAscending == true);
+    case menutag::SortDescending:
+        return marked(state.sortAscending.has_value(), state.sortAscending == false);
+    case menutag::ClearRecent:
+        return enabledWhen(state.hasRecentFiles);
     case menutag::InventorySelected:
         return selectedIn(MainView::Inventory);
     case menutag::NoteSelected:

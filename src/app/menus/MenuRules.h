@@ -4,39 +4,12 @@
 
 #include "base/text/Texts.h"
 #include "ui/MainView.h"
+#include "ui/MenuTags.h"
 
 #include <optional>
 
 namespace brinemark
 {
-
-/// The tags that connect menu items with their rules. An item without a rule has the tag 0.
-namespace menutag
-{
-enum : int {
-    Toolbar = 1,
-    Calculator = 2,
-    Expand = 3,
-    Collapse = 4,
-    NeedsTank = 5,
-    NewWaterTest = 6,
-    NewActivity = 7,
-    NewInventory = 8,
-    NewNote = 9,
-    Save = 10,
-    InventorySelected = 11,
-    NoteSelected = 12,
-    ScheduleSelected = 13,
-    ConditionSelected = 14,
-    Revert = 15,
-    ExpenseSelected = 16,
-    Undo = 17,
-    Redo = 18,
-    OverdueNotice = 36,
-    NewExpense = 37,
-    ConditionColumns = 38,
-};
-}
 
 /// The state of the window that the rules depend on, at the moment a menu opens.
 struct MenuState {
@@ -50,6 +23,16 @@ struct MenuState {
     bool selectedRowExpandable = false; ///< the row is a tank or one of the four livestock groups
     bool selectedRowExpanded = false;
     bool listHasSelectedRow[mainViewCount] = {}; ///< by view: whether a row of its table is selected
+
+    /// Numbers that name no view have no list.
+    [[nodiscard]] bool hasSelectedRow(MainView ofView) const
+    {
+        return qint32(ofView) >= 0 && qint32(ofView) < mainViewCount && listHasSelectedRow[qint32(ofView)];
+    }
+
+    int waterTests = 0;                ///< of the current tank
+    std::optional<bool> sortAscending; ///< the order of the list on screen; none without a list or a tank
+    bool hasRecentFiles = false;
     bool canUndo = false;
     bool canRedo = false;
     bool treeHasFocus = false;
@@ -59,6 +42,7 @@ struct MenuState {
 struct MenuItemState {
     bool enabled = true;
     std::optional<TextKey> title; ///< set only for items whose title depends on the state
+    std::optional<bool> checked;  ///< set only for items with a check mark
 };
 
 /// Whether the item with this tag is enabled, and its title if that depends on the state.

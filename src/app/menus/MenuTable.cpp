@@ -13,13 +13,28 @@ namespace
 
 constexpr MenuRow separator{};
 
+constexpr MenuRow opening(const MenuTitle &menu, int tag = 0)
+{
+    return {.title = menu.title, .tag = tag, .submenu = &menu};
+}
+
+constexpr MenuRow recentMenu[] = {
+    {.title = "MenuRecentNone"_key, .command = Command::OpenRecent, .hasChoices = true},
+    separator,
+    {"MenuRecentClear"_key, Command::ClearRecent, menutag::ClearRecent},
+};
+constexpr MenuTitle recentTitle{"MenuFileOpenRecent"_key, recentMenu};
+
 constexpr MenuRow fileMenu[] = {
     {"MenuFileNew"_key, Command::NewFile, 0, QKeySequence::New, nullptr, "NewFile"},
     {"MenuFileOpen"_key, Command::OpenFile, 0, QKeySequence::Open, nullptr, "Open"},
+    opening(recentTitle),
     separator,
     {"MenuFileSave"_key, Command::Save, menutag::Save, QKeySequence::Save, nullptr, "Save"},
     {"MenuFileSaveAs"_key, Command::SaveAs, 0, QKeySequence::SaveAs},
     {"MenuFileRevert"_key, Command::Revert, menutag::Revert},
+    separator,
+    {"MenuFileExport"_key, Command::Export, menutag::TwoWaterTests, QKeySequence::UnknownKey, "Ctrl+E", "Export"},
     separator,
     {"MenuFilePrint"_key, Command::Print, 0, QKeySequence::Print, nullptr, "Print"},
     separator,
@@ -37,7 +52,7 @@ constexpr MenuRow editMenu[] = {
     separator,
     // Delete has no shortcut: the tree and the lists handle the Delete key themselves while they have the focus, and a
     // text field must keep it for editing.
-    {"MenuEditDelete"_key, Command::Delete, 0, QKeySequence::UnknownKey, nullptr, "Delete"},
+    {"MenuEditDelete"_key, Command::Delete, menutag::Delete, QKeySequence::UnknownKey, nullptr, "Delete"},
     separator,
     {"MenuEditPreferences"_key, Command::Preferences, 0, QKeySequence::UnknownKey, "Ctrl+,", "Settings"},
 };
@@ -58,6 +73,16 @@ constexpr MenuRow tankMenu[] = {
     {"MenuTankNewNote"_key, Command::NewNote, menutag::NewNote, QKeySequence::UnknownKey, "Ctrl+9"},
 };
 
+constexpr MenuRow sortMenu[] = {
+    {.title = "MenuSortNone"_key, .command = Command::SortBy, .hasChoices = true},
+    separator,
+    {"MenuSortAscending"_key, Command::SortAscending, menutag::SortAscending, QKeySequence::UnknownKey,
+     "Ctrl+Shift+Up"},
+    {"MenuSortDescending"_key, Command::SortDescending, menutag::SortDescending, QKeySequence::UnknownKey,
+     "Ctrl+Shift+Down"},
+};
+constexpr MenuTitle sortTitle{"MenuViewSortBy"_key, sortMenu};
+
 constexpr MenuRow viewMenu[] = {
     {"HideToolbar"_key, Command::ToggleToolbar, menutag::Toolbar, QKeySequence::UnknownKey, "Ctrl+Alt+T"},
     {"MenuViewCustomiseToolbar"_key, Command::CustomiseToolbar},
@@ -65,7 +90,9 @@ constexpr MenuRow viewMenu[] = {
     {"MenuViewExpand"_key, Command::Expand, menutag::Expand, QKeySequence::UnknownKey, "Ctrl+Right"},
     {"MenuViewCollapse"_key, Command::Collapse, menutag::Collapse, QKeySequence::UnknownKey, "Ctrl+Left"},
     separator,
+    opening(sortTitle, menutag::SortBy),
     {"Condition Columns..."_key, Command::ConditionColumns, menutag::ConditionColumns},
+    {"MenuViewGraph"_key, Command::Graph, menutag::TwoWaterTests, QKeySequence::UnknownKey, "Ctrl+G", "Graph"},
 };
 
 constexpr MenuRow windowMenu[] = {
@@ -91,14 +118,11 @@ constexpr MenuTitle menus[] = {
     {"MenuView"_key, viewMenu}, {"MenuWindow"_key, windowMenu}, {"MenuHelp"_key, helpMenu},
 };
 
-/// The number of menu items that send a command; separators send none.
+/// The number of menu items that send a command.
 consteval std::size_t itemsOf(Command command)
 {
     std::size_t items = 0;
-    for (const MenuTitle &menu : menus) {
-        for (const MenuRow &row : menu.rows)
-            items += !row.title.isEmpty() && row.command == command ? 1 : 0;
-    }
+    forEachCommandItem(menus, [&](const MenuRow &row) { items += row.command == command ? 1 : 0; });
     return items;
 }
 

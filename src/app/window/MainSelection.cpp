@@ -51,7 +51,7 @@ void MainSelection::deleteItem()
         m_tree.deleteItemDataEntry();
         break;
     default:
-        if (MainViewController *controller = m_views.controller(currentView()))
+        if (MainViewController *controller = view())
             controller->deleteSelected();
         break;
     }
@@ -59,8 +59,27 @@ void MainSelection::deleteItem()
 
 void MainSelection::newEntry()
 {
-    if (MainViewController *controller = m_views.controller(currentView()))
+    if (MainViewController *controller = view())
         controller->newEntry();
+}
+
+MainViewController *MainSelection::view() const
+{
+    return m_views.controller(currentView());
+}
+
+void MainSelection::sortBy(const QString &identifier)
+{
+    const std::optional<SortOrder> order = view() ? view()->sortOrder() : std::nullopt;
+    if (order && !identifier.isEmpty())
+        view()->sort({identifier, order->ascending});
+}
+
+void MainSelection::sortAscending(bool ascending)
+{
+    const std::optional<SortOrder> order = view() ? view()->sortOrder() : std::nullopt;
+    if (order)
+        view()->sort({order->identifier, ascending});
 }
 
 void MainSelection::appendTank(const std::shared_ptr<Tank> &tank)

@@ -4,12 +4,15 @@
 
 #include "ui/MainView.h"
 
+#include <QString>
+
 #include <memory>
 
 namespace brinemark
 {
 
 class Container;
+class MainViewController;
 class MainViews;
 class Tank;
 class TankListController;
@@ -29,6 +32,11 @@ public:
     [[nodiscard]] bool canDelete() const;
     void deleteItem(); ///< asks, then deletes what is selected in the view, or else in the tree
     void newEntry();   ///< appends a record to the list on screen
+
+    [[nodiscard]] MainViewController *view() const; ///< the view on screen; null for the empty one
+    /// Sort the list on screen by another column, or in another direction. Without a list they do nothing.
+    void sortBy(const QString &identifier);
+    void sortAscending(bool ascending);
 
     void appendTank(const std::shared_ptr<Tank> &tank); ///< adds it to the list and selects its row
     // Each opens the rows above the selected one.

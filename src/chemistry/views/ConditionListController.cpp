@@ -13,6 +13,7 @@
 #include "ui/AlertPanelDontAskAgain.h"
 #include "ui/Alerts.h"
 #include "ui/FinishTyping.h"
+#include "ui/MenuTags.h"
 #include "ui/Shell.h"
 #include "ui/WindowPlacement.h"
 #include "ui/lists/HeaderCornerButton.h"
@@ -26,20 +27,19 @@ namespace brinemark
 namespace
 {
 
-constexpr int actsOnSelection = 14; ///< tag of the items for selected tests, as in the menu bar
-constexpr int needsTwoRows = 100;   ///< tag of the items that need two tests
-
 ConditionListController &conditions(RecordListController &list)
 {
     return static_cast<ConditionListController &>(list);
 }
 
 constexpr std::array conditionMenu{
-    ListMenuItem{"Graph"_key, needsTwoRows, [](RecordListController &list) { conditions(list).graphButtonAction(); }},
-    ListMenuItem{"Export"_key, needsTwoRows, [](RecordListController &list) { conditions(list).exportAction(); }},
+    ListMenuItem{"Graph"_key, menutag::TwoWaterTests,
+                 [](RecordListController &list) { conditions(list).graphButtonAction(); }},
+    ListMenuItem{"Export"_key, menutag::TwoWaterTests,
+                 [](RecordListController &list) { conditions(list).exportAction(); }},
     ListMenuItem{},
-    ListMenuItem{"NewTitle"_key, 0, [](RecordListController &list) { list.newEntry(); }},
-    ListMenuItem{"DeleteTitle"_key, actsOnSelection, [](RecordListController &) { Shell::shared().deleteItem(); }},
+    newListItem,
+    deleteListItem(menutag::ConditionSelected),
     ListMenuItem{},
     ListMenuItem{"Condition Columns..."_key, 0,
                  [](RecordListController &list) { conditions(list).showCustomizeConditionColumns(); }},
@@ -241,11 +241,6 @@ void ConditionListController::exportAction()
         exported.push_back({traits.identifier.toString(), text(traits.headerKey)});
     }
     beginConditionExport(table()->window(), tank->shared_from_this(), std::move(exported));
-}
-
-bool ConditionListController::validateMenuItem(int tag) const
-{
-    return tag != needsTwoRows || model().rowCount() >= 2;
 }
 
 // ---- the columns

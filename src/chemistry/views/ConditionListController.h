@@ -42,9 +42,6 @@ public:
     void graphButtonAction(); ///< stores the layout and opens the graph
     void exportAction();      ///< asks where to, then writes the shown columns as comma-separated values
 
-    /// "Graph" and "Export" (tag 100) take two rows.
-    [[nodiscard]] bool validateMenuItem(int tag) const override;
-
 protected:
     void viewMade() override;
     void tankShown() override { showColumnChecks(); }

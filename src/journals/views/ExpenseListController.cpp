@@ -3,6 +3,9 @@
 #include "journals/views/ExpenseListController.h"
 
 #include "model/Tank.h"
+#include "ui/MenuTags.h"
+
+#include <array>
 
 namespace brinemark
 {
@@ -30,6 +33,8 @@ constexpr auto expenseColumns = std::to_array<RecordColumn>({
     {.identifier = u"type", .header = "ColumnCategory"_key, .shownText = &shownCategory},
 });
 
+constexpr std::array expenseMenu{newListItem, deleteListItem(menutag::ExpenseSelected)};
+
 constexpr RecordListTraits expenseTraits{
     .kind = ContainerKind::Expense,
     .itemKey = "ExpenseItem"_key,
@@ -37,6 +42,8 @@ constexpr RecordListTraits expenseTraits{
     .makeRecord = &makeNewRecord<ExpenseData>,
     .columns = expenseColumns,
     .layoutName = "ExpenseList",
+    .menuName = "expenseCM",
+    .menu = expenseMenu,
 };
 
 } // namespace

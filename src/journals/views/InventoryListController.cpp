@@ -3,6 +3,9 @@
 #include "journals/views/InventoryListController.h"
 
 #include "model/Tank.h"
+#include "ui/MenuTags.h"
+
+#include <array>
 
 namespace brinemark
 {
@@ -15,6 +18,8 @@ constexpr auto inventoryColumns = std::to_array<RecordColumn>({
     {.identifier = u"count", .header = "ColumnCount"_key, .kind = ColumnKind::Number},
 });
 
+constexpr std::array inventoryMenu{newListItem, deleteListItem(menutag::InventorySelected)};
+
 constexpr RecordListTraits inventoryTraits{
     .kind = ContainerKind::Inventory,
     .itemKey = "InventoryItem"_key,
@@ -23,6 +28,8 @@ constexpr RecordListTraits inventoryTraits{
     .deletingCountsAChange = false,
     .columns = inventoryColumns,
     .layoutName = "InventoryList",
+    .menuName = "inventoryCM",
+    .menu = inventoryMenu,
 };
 
 } // namespace

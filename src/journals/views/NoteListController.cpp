@@ -3,6 +3,9 @@
 #include "journals/views/NoteListController.h"
 
 #include "model/Tank.h"
+#include "ui/MenuTags.h"
+
+#include <array>
 
 namespace brinemark
 {
@@ -15,6 +18,8 @@ constexpr auto noteColumns = std::to_array<RecordColumn>({
     {.identifier = u"note", .header = "ColumnNote"_key},
 });
 
+constexpr std::array noteMenu{newListItem, deleteListItem(menutag::NoteSelected)};
+
 constexpr RecordListTraits noteTraits{
     .kind = ContainerKind::Note,
     .itemKey = "NoteItem"_key,
@@ -23,6 +28,8 @@ constexpr RecordListTraits noteTraits{
     .deletingCountsAChange = false,
     .columns = noteColumns,
     .layoutName = "NoteList",
+    .menuName = "noteCM",
+    .menu = noteMenu,
 };
 
 } // namespace

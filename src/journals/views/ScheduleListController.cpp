@@ -5,6 +5,9 @@
 #include "base/text/DateText.h"
 #include "model/ModelContext.h"
 #include "model/Tank.h"
+#include "ui/MenuTags.h"
+
+#include <array>
 
 namespace brinemark
 {
@@ -27,6 +30,8 @@ constexpr auto scheduleColumns = std::to_array<RecordColumn>({
     {.identifier = u"next", .header = "ColumnNext"_key, .kind = ColumnKind::Date, .shownText = &nextDueDate},
 });
 
+constexpr std::array scheduleMenu{newListItem, deleteListItem(menutag::ScheduleSelected)};
+
 constexpr RecordListTraits scheduleTraits{
     .kind = ContainerKind::Schedule,
     .itemKey = "ScheduleItem"_key,
@@ -34,6 +39,8 @@ constexpr RecordListTraits scheduleTraits{
     .makeRecord = &makeNewRecord<ScheduleData>,
     .columns = scheduleColumns,
     .layoutName = "ScheduleList2",
+    .menuName = "scheduleCM",
+    .menu = scheduleMenu,
 };
 
 } // namespace

@@ -3,12 +3,23 @@
 #include "ui/lists/ListMenu.h"
 
 #include "ui/FinishTyping.h"
+#include "ui/Shell.h"
 #include "ui/lists/RecordListController.h"
 
 #include <QMenu>
 
 namespace brinemark
 {
+
+void newEntryOf(RecordListController &list)
+{
+    list.newEntry();
+}
+
+void deleteSelectionOf(RecordListController &)
+{
+    Shell::shared().deleteItem();
+}
 
 QMenu *makeListMenu(std::span<const ListMenuItem> items, RecordListController &list, QWidget *parent)
 {
@@ -25,10 +36,10 @@ QMenu *makeListMenu(std::span<const ListMenuItem> items, RecordListController &l
             perform(list);
         });
     }
-    QObject::connect(menu, &QMenu::aboutToShow, &list, [menu, &list] {
+    QObject::connect(menu, &QMenu::aboutToShow, &list, [menu] {
         for (QAction *action : menu->actions()) {
             if (!action->isSeparator())
-                action->setEnabled(list.validateMenuItem(action->data().toInt()));
+                action->setEnabled(Shell::shared().validateMenuItem(action->data().toInt()));
         }
     });
     return menu;

@@ -183,14 +183,36 @@ void RecordListController::showSortIndicator()
 
 void RecordListController::headerClicked(int section)
 {
-    Container *list = m_model->container();
-    if (!list)
+    const std::optional<SortOrder> order = sortOrder();
+    if (!order)
         return;
     finishTyping(m_table->window());
     const QString identifier = m_model->columns()[std::size_t(section)].identifier.toString();
-    if (identifier == list->sortIdentifier())
-        list->setSortAscending(!list->sortAscending());
-    list->setSortIdentifier(identifier);
+    const bool turns = identifier == order->identifier;
+    sort({identifier, turns != order->ascending});
+}
+
+std::vector<SortColumn> RecordListController::sortColumns() const
+{
+    std::vector<SortColumn> columns;
+    for (const RecordColumn &column : m_traits.columns)
+        columns.push_back({column.identifier.toString(), text(column.header)});
+    return columns;
+}
+
+std::optional<SortOrder> RecordListController::sortOrder() const
+{
+    const Container *list = m_model->container();
+    return list ? std::optional(SortOrder{list->sortIdentifier(), list->sortAscending()}) : std::nullopt;
+}
+
+void RecordListController::sort(const SortOrder &order)
+{
+    Container *list = m_model->container();
+    if (!list || order == sortOrder())
+        return;
+    list->setSortAscending(order.ascending);
+    list->setSortIdentifier(order.identifier);
     sortAndSelect();
     Shell::shared().documentModifiedWithChange(true);
 }
@@ -363,8 +385,7 @@ void RecordListController::newEntry()
     const int row = m_selection->currentIndex().row();
     setRowNeedsSort(row);
     Shell::shared().documentModifiedWithChange(true);
-    if (const QModelIndex cell = m_table->firstTypableCell(row); cell.isValid())
-        startNewRecord(cell);
+    startNewRecord(m_table->firstTypableCell(row));
 }
 
 void RecordListController::startNewRecord(const QModelIndex &cell)

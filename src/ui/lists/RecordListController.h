@@ -61,6 +61,9 @@ public:
     [[nodiscard]] bool hasSelectedRow() const override;
     void deleteSelected() override;
     void newEntry() override;
+    [[nodiscard]] std::vector<SortColumn> sortColumns() const override;
+    [[nodiscard]] std::optional<SortOrder> sortOrder() const override;
+    void sort(const SortOrder &order) override;
     void updateDisplay() override;
     void updateColumnInfo() override;
 
@@ -75,9 +78,6 @@ public:
 
     /// The row whose re-sort is pending, -1 for none.
     [[nodiscard]] int rowNeedsSort() const { return m_rowNeedsSort; }
-
-    /// Whether menu items with this tag are enabled now.
-    [[nodiscard]] virtual bool validateMenuItem(int) const { return true; }
 
     /// Opens the calendar at an editable date cell; the chosen date is stored like any other edit. False for other
     /// cells.

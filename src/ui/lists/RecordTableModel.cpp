@@ -233,11 +233,21 @@ QVariant RecordTableModel::headerData(int section, Qt::Orientation orientation, 
     if (orientation != Qt::Horizontal || section < 0 || section >= int(m_columns.size()))
         return {};
     const RecordColumn &column = m_columns[std::size_t(section)];
-    if (role == Qt::DisplayRole)
+    switch (role) {
+    case Qt::DisplayRole:
         return text(column.header);
-    if (role == Qt::TextAlignmentRole)
+    case Qt::AccessibleTextRole: { // says what the sort mark shows
+        const Container *list = container();
+        if (!list || list->sortIdentifier() != column.identifier)
+            return text(column.header);
+        const TextKey sorted = list->sortAscending() ? "SortedAscending"_key : "SortedDescending"_key;
+        return fillPlaceholders(text(sorted), {text(column.header)});
+    }
+    case Qt::TextAlignmentRole:
         return QVariant(Qt::Alignment(column.alignment | Qt::AlignVCenter));
-    return {};
+    default:
+        return {};
+    }
 }
 
 } // namespace brinemark
