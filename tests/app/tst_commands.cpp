@@ -10,6 +10,7 @@
 #include "model/LivestockData.h"
 #include "support/AppFixture.h"
 #include "support/DataRow.h"
+#include "ui/AlertPanelDontAskAgain.h"
 #include "ui/MainView.h"
 
 #include <QHeaderView>
@@ -134,6 +135,44 @@ private Q_SLOTS:
         auto *sheet = awaitWindow("itemSheet");
         QVERIFY(sheet);
         sheet->reject();
+    }
+
+    void returnAddsAnEntry_data()
+    {
+        columns<ContainerKind, QString>("kind", "focus");
+        row("tree, log", ContainerKind::Condition, QString("tankList"));
+        row("tree, notes", ContainerKind::Note, QString("tankList"));
+        row("empty log", ContainerKind::Condition, QString("emptyStateButton"));
+        row("button", ContainerKind::Expense, QString("actionButton"));
+    }
+
+    void returnAddsAnEntry()
+    {
+        QFETCH(ContainerKind, kind);
+        QFETCH(QString, focus);
+        FullProgram program;
+        AlertPanelDontAskAgain::setValue(1, "DontShowAgainNotTested");
+        Container &list = *program.tank().container(kind);
+        if (focus == "emptyStateButton")
+            list.clear();
+        program.controller().selectInTree(list);
+        program.window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&program.window()));
+        auto *widget = program.window().findChild<QWidget *>(focus);
+        widget->setFocus();
+        QVERIFY(widget->hasFocus());
+        const int before = list.count();
+        QTest::keyClick(widget, Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(list.count(), before);
+        QTest::keyClick(widget, Qt::Key_Return);
+        QCOMPARE(list.count(), before + 1);
+        if (kind != ContainerKind::Condition)
+            return;
+        // Return that finishes a value adds nothing.
+        QVERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QTRY_VERIFY(qobject_cast<QTableView *>(QApplication::focusWidget()));
+        QCOMPARE(list.count(), before + 1);
     }
 
     /// A tank of the older form can come without lists: nothing is shown below its row until it holds a record.

@@ -32,6 +32,25 @@ MainView viewOf(const TreeItem &item)
     return roomOf(item.container->kind()).view;
 }
 
+/// The command that adds an entry to the list of this row; none for rows without a list.
+std::optional<Command> newEntryCommand(const TreeItem &item)
+{
+    switch (item.isNone() ? MainView::None : viewOf(item)) {
+    case MainView::Conditions:
+        return Command::NewWaterTest;
+    case MainView::Schedule:
+        return Command::NewActivity;
+    case MainView::Inventory:
+        return Command::NewInventory;
+    case MainView::Expenses:
+        return Command::NewExpense;
+    case MainView::Notes:
+        return Command::NewNote;
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 TankListController::TankListController()
@@ -62,6 +81,7 @@ void TankListController::connectOutline()
     connect(m_outline, &TankOutlineView::deleteKeyPressed, this, [this] { performCommand(Command::Delete); });
     connect(m_outline, &TankOutlineView::contextMenuRequested, this, &TankListController::showContextMenu);
     connect(m_outline, &TankOutlineView::doubleClickedItem, this, &TankListController::doubleClickAction);
+    connect(m_outline, &TankOutlineView::returnPressed, this, &TankListController::returnAction);
     connect(m_outline, &QTreeView::expanded, this, [this](const QModelIndex &index) { rowExpanded(index, true); });
     connect(m_outline, &QTreeView::collapsed, this, [this](const QModelIndex &index) { rowExpanded(index, false); });
     connect(m_outline->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
@@ -254,6 +274,14 @@ void TankListController::doubleClickAction(const TreeItem &item)
         openItemEditor(*item.record);
     else if (item.isLivestockGroup())
         m_outline->setExpanded(m_model->indexOf(item), !isExpanded(item));
+}
+
+void TankListController::returnAction(const TreeItem &item)
+{
+    if (const std::optional<Command> command = newEntryCommand(item))
+        performCommand(*command);
+    else
+        doubleClickAction(item);
 }
 
 // ---- names

@@ -67,7 +67,7 @@ public:
     /// Empties the document; called after its last tank was deleted.
     std::function<void()> resetDocument;
     std::function<bool()> canDelete;
-    /// Takes what the context menu and the delete key send.
+    /// Takes what the context menu and the keys send.
     std::function<void(Command)> performCommand;
 
 private:
@@ -82,6 +82,7 @@ private:
     bool rename(const TreeItem &item, const QString &name);
     void rowExpanded(const QModelIndex &index, bool expanded);
     void doubleClickAction(const TreeItem &item);
+    void returnAction(const TreeItem &item); ///< adds an entry to the list on screen; else as a double click
     void showContextMenu(const QPoint &globalPosition);
     void deleteTank(const std::shared_ptr<Tank> &tank);
     void deleteItem(const std::shared_ptr<ItemData> &item);

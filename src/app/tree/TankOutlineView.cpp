@@ -5,6 +5,7 @@
 #include "app/tree/PasteboardTypes.h"
 #include "app/tree/TankTreeModel.h"
 #include "base/text/Texts.h"
+#include "ui/ReturnKey.h"
 #include "ui/TruncatingDelegate.h"
 
 #include <QContextMenuEvent>
@@ -65,8 +66,9 @@ void TankOutlineView::keyPressEvent(QKeyEvent *event)
         Q_EMIT deleteKeyPressed();
         return;
     }
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        Q_EMIT doubleClickedItem(m_model.itemAt(currentIndex()));
+    if (isPlainReturn(*event)) {
+        if (!event->isAutoRepeat())
+            Q_EMIT returnPressed(m_model.itemAt(currentIndex()));
         return;
     }
     QTreeView::keyPressEvent(event);

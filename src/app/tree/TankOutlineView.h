@@ -38,6 +38,7 @@ Q_SIGNALS:
     void deleteKeyPressed();
     void contextMenuRequested(const QPoint &globalPosition);
     void doubleClickedItem(const brinemark::TreeItem &item);
+    void returnPressed(const brinemark::TreeItem &item);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -103,7 +103,7 @@ protected:
     /// A cell was edited, the change counted and its undo registered. `changed`: its text differs from the old one;
     /// false for dates.
     virtual void cellEdited(Record &, const RecordColumn &, bool /*changed*/) {}
-    /// Starts editing a new record at its first cell that takes typing.
+    /// Starts editing a new record at its first cell that takes typing; the cell is invalid when none does.
     virtual void startNewRecord(const QModelIndex &cell);
 
     [[nodiscard]] QString cellText(const Record &record, int column) const override;

@@ -7,6 +7,7 @@
 #include "ui/EmptyState.h"
 #include "ui/IconButton.h"
 #include "ui/Icons.h"
+#include "ui/ReturnKey.h"
 #include "ui/Spacing.h"
 #include "ui/TitleLine.h"
 #include "ui/lists/RecordCellDelegate.h"
@@ -86,6 +87,14 @@ void RecordListPage::linkKeyViews(QWidget *tankTree, QWidget *helpButton)
             previous = next;
         }
     }
+}
+
+void RecordListPage::keyPressEvent(QKeyEvent *event)
+{
+    if (!isPlainReturn(*event))
+        QWidget::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        Q_EMIT newRequested();
 }
 
 } // namespace brinemark

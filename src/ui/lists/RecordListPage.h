@@ -40,6 +40,9 @@ public:
     /// Links the tab order from the tree through the table and the buttons to the help button.
     void linkKeyViews(QWidget *tankTree, QWidget *helpButton);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override; ///< Return asks for a new entry from every widget of the page
+
 Q_SIGNALS:
     void newRequested();
     void deleteRequested();

@@ -2,6 +2,7 @@
 
 #include "ui/lists/RecordTableView.h"
 
+#include "ui/ReturnKey.h"
 #include "ui/lists/RecordSelectionModel.h"
 
 #include <QContextMenuEvent>
@@ -110,8 +111,8 @@ RecordSelectionModel *RecordTableView::recordSelection() const
 
 void RecordTableView::keyPressEvent(QKeyEvent *event)
 {
-    if (state() == EditingState) { // a key that the editor did not use, such as Return
-        event->ignore();
+    if (state() == EditingState) { // a key that the editor did not use; Return finishes the editing and nothing else
+        event->setAccepted(isPlainReturn(*event));
         return;
     }
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -121,7 +122,7 @@ void RecordTableView::keyPressEvent(QKeyEvent *event)
         m_deletePressed();
         return;
     }
-    if (plain && (key == Qt::Key_Return || key == Qt::Key_Enter) && returnPressed) {
+    if (isPlainReturn(*event) && returnPressed) {
         if (!event->isAutoRepeat())
             returnPressed();
         return;
