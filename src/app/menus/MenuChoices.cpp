@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QHash>
 
+#include <algorithm>
+
 namespace brinemark
 {
 
@@ -36,8 +38,8 @@ std::vector<MenuChoice> recentFileChoices()
     return choices;
 }
 
-/// Gives each title a mnemonic letter of its own, as long as there are letters enough. A title that finds its letters
-/// taken asks their owners to move to another one.
+/// Gives each title a mnemonic letter of its own, as long as there are letters enough. A title takes its first free
+/// letter; where it has none, the owner of one of its letters moves to another.
 class Mnemonics
 {
 public:
@@ -61,18 +63,25 @@ public:
 private:
     bool findLetter(std::size_t choice, QString &tried)
     {
-        for (const QChar character : m_choices[choice].title) {
-            const QChar letter = character.toLower();
+        QString owned;
+        for (const QChar letter : m_choices[choice].title.toLower()) {
             if (!letter.isLetter() || tried.contains(letter))
                 continue;
-            tried += letter;
-            const auto owner = m_owners.constFind(letter);
-            if (owner == m_owners.constEnd() || findLetter(*owner, tried)) {
-                m_owners[letter] = choice;
+            if (!m_owners.contains(letter)) {
+                m_owners.insert(letter, choice);
                 return true;
             }
+            owned += letter;
         }
-        return false;
+        return std::any_of(owned.begin(), owned.end(), [&](QChar letter) {
+            if (tried.contains(letter))
+                return false;
+            tried += letter;
+            const bool freed = findLetter(m_owners.value(letter), tried);
+            if (freed)
+                m_owners.insert(letter, choice);
+            return freed;
+        });
     }
 
     std::vector<MenuChoice> &m_choices;
