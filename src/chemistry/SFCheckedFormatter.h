@@ -52,6 +52,7 @@ public:
     /// gives the defaults; in the last two cases the stream's status is an error afterwards.
     explicit SFCheckedFormatter(QDataStream &coder);
 
+    /// A formatter with the defaults; kept without a caller beside the other makers.
     [[nodiscard]] static SFCheckedFormatter checkedFormatter();
     [[nodiscard]] static SFCheckedFormatter checkedFormatterWithMin(double min, double max, int precision,
                                                                     int roundingBehaviour);

@@ -42,7 +42,8 @@ struct ItemData : Record {
 
     [[nodiscard]] virtual ItemContext itemContext() const { return ItemContext::None; }
 
-    void setItemImageWithData(const QByteArray &imageData); ///< empty data gives no image
+    /// Empty data gives no image. For the editor of profiles; the views only show pictures.
+    void setItemImageWithData(const QByteArray &imageData);
 
     /// The display text of a code: an element of the text "ReefSafeMenu" (yes, no, unknown); any other code gives
     /// unknown.

@@ -23,7 +23,8 @@ public:
     void setAppTankList(TankList *list) { m_appTankList = list; }
 
     /// The rule that `ScheduleData::setComplete` runs on an activity with `autoReschedule`. Set from outside, because
-    /// the rule belongs to the journals, which the model does not link.
+    /// the rule belongs to the journals, which the model does not link. No rule is set yet: activities only get their
+    /// tick.
     using ReScheduleRule = std::function<void(ScheduleData &)>;
     void setReScheduleRule(ReScheduleRule rule) { m_reScheduleRule = std::move(rule); }
     void reScheduleIfNeeded(ScheduleData &record) const;

@@ -38,6 +38,7 @@ public:
 
     /// True when nothing is stored. Otherwise false, and `state`, when given, receives the stored integer.
     static bool canShowPanelForIdentifier(const QString &identifier, int *state = nullptr);
+    /// The same without the state; kept without a caller.
     static bool willShowPanelForIdentifier(const QString &identifier);
     /// The stored integer, or -1 when there is none.
     static int valueForIdentifier(const QString &identifier);

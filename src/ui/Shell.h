@@ -47,6 +47,7 @@ public:
     [[nodiscard]] virtual bool validateMenuItem(int tag) = 0;
     virtual void deleteItem() = 0; ///< the delete command: acts on the view's or the tree's selection
     virtual void orderFrontAndCheckModified() = 0;
+    /// A critical alert on the main window. No view needs one yet.
     virtual void showWarningSheet(const QString &title, const QString &message) = 0;
 
     virtual void changeView(MainView view) = 0;
