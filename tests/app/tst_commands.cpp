@@ -50,8 +50,7 @@ class TestCommands : public QObject
 private Q_SLOTS:
     void aWindowOpens_data()
     {
-        QTest::addColumn<Command>("command");
-        QTest::addColumn<QString>("window");
+        test::columns<Command, QString>("command", "window");
         row("print", Command::Print, "printDialog");
         row("preferences", Command::Preferences, "prefWindow");
         row("new tank", Command::NewTank, "tankSheet");
@@ -83,8 +82,7 @@ private Q_SLOTS:
 
     void aRecordIsAdded_data()
     {
-        QTest::addColumn<Command>("command");
-        QTest::addColumn<ContainerKind>("kind");
+        test::columns<Command, ContainerKind>("command", "kind");
         row("fish", Command::NewFish, ContainerKind::Fish);
         row("plant", Command::NewPlant, ContainerKind::Plant);
         row("invert", Command::NewInvert, ContainerKind::Invert);
@@ -244,8 +242,7 @@ private Q_SLOTS:
 
     void deleteActsOnTheSelection_data()
     {
-        QTest::addColumn<MainView>("view");
-        QTest::addColumn<QString>("sender");
+        test::columns<MainView, QString>("view", "sender");
         QTest::addColumn<QString>("question"); // empty: nothing is asked
         row("tank, by menu", MainView::Tank, "menu", formatText(text("DeleteTankWarning"), {"^0"}));
         row("record, by button", MainView::LivestockItem, "button", formatText(text("DeleteFishWarning"), {"^0"}));
@@ -293,9 +290,7 @@ private Q_SLOTS:
 
     void everyCommandFirstStoresWhatIsTyped_data()
     {
-        QTest::addColumn<Command>("command");
-        QTest::addColumn<bool>("inTheTree");
-        QTest::addColumn<bool>("stores");
+        test::columns<Command, bool, bool>("command", "inTheTree", "stores");
         forEachCommandItem(mainMenus(), [](const MenuRow &item) {
             const bool stores = !CommandDispatch::table()[std::size_t(item.command)].actsOnTyping;
             for (const bool inTheTree : {true, false})

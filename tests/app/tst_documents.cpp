@@ -5,6 +5,7 @@
 #include "base/text/Texts.h"
 #include "journals/views/NotificationController.h"
 #include "support/AppFixture.h"
+#include "support/DataRow.h"
 #include "ui/MainView.h"
 
 #include <QDropEvent>
@@ -271,12 +272,9 @@ private Q_SLOTS:
 
     void quit_data()
     {
-        QTest::addColumn<bool>("autoSave");
-        QTest::addColumn<bool>("titled");
+        test::columns<bool, bool>("autoSave", "titled");
         QTest::addColumn<QString>("answer"); // "clean": no edits; "none": edits, but no question
-        QTest::addColumn<QStringList>("panels");
-        QTest::addColumn<bool>("ends");
-        QTest::addColumn<QString>("written");
+        test::columns<QStringList, bool, QString>("panels", "ends", "written");
         const auto row = [](bool autoSave, bool titled, const char *answer, const char *panels, bool ends,
                             const char *written) {
             QTest::addRow("%s, %s, %s, %s", autoSave ? "auto-save" : "ask", titled ? "titled" : "untitled", answer,

@@ -9,6 +9,7 @@
 #include "journals/views/NotificationController.h"
 #include "online/views/EListSignupController.h"
 #include "support/AppFixture.h"
+#include "support/DataRow.h"
 #include "support/Python.h"
 
 #include <QAbstractButton>
@@ -178,8 +179,7 @@ private Q_SLOTS:
 
     void leftOverFolder_data()
     {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<bool>("stays");
+        test::columns<QString, bool>("kind", "stays");
         QTest::newRow("folder") << "folder" << false;
         QTest::newRow("plain file") << "file" << true;
         QTest::newRow("link to a folder") << "link" << false;

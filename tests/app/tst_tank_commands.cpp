@@ -316,8 +316,7 @@ private Q_SLOTS:
 
     void damagedPasteboard_data()
     {
-        QTest::addColumn<QByteArray>("livestock");
-        QTest::addColumn<QByteArray>("context");
+        test::columns<QByteArray, QByteArray>("livestock", "context");
         const QByteArray good = plist::writeXml(recordDict(FishData("fish", nullptr)));
         const QByteArray fish = xml("TankFish");
         QTest::newRow("nothing in it") << QByteArray() << QByteArray();

@@ -55,10 +55,7 @@ private Q_SLOTS:
     void dragRecord_data()
     {
         QTest::addColumn<int>("row"); // the index of the dragged fish
-        QTest::addColumn<QString>("to");
-        QTest::addColumn<bool>("copies");
-        QTest::addColumn<QString>("inFirst");
-        QTest::addColumn<QString>("inSecond");
+        test::columns<QString, bool, QString, QString>("to", "copies", "inFirst", "inSecond");
         const QString all = "fish two three four";
         row("below the third", 0, "third", false, "two three fish four", "");
         row("to the other tank", 1, "second", false, "fish three four", "two");

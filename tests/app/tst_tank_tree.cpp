@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/TreeWindow.h"
+#include "support/DataRow.h"
 #include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
@@ -163,8 +164,7 @@ private Q_SLOTS:
 
     void renameWithoutEffect_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<Qt::Key>("key");
+        test::columns<QString, Qt::Key>("typed", "key");
         QTest::newRow("empty") << "" << Qt::Key_Return;
         QTest::newRow("the same") << "before" << Qt::Key_Return;
         QTest::newRow("given up") << "after" << Qt::Key_Escape;

@@ -6,6 +6,7 @@
 #include "app/toolbar/ToolbarItems.h"
 #include "app/toolbar/ToolbarShownModel.h"
 #include "base/PreferenceKeys.h"
+#include "support/DataRow.h"
 #include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
@@ -169,10 +170,7 @@ private Q_SLOTS:
 
     void storedConfiguration_data()
     {
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QStringList>("items");
-        QTest::addColumn<Qt::ToolButtonStyle>("style");
-        QTest::addColumn<bool>("shown");
+        test::columns<QVariant, QStringList, Qt::ToolButtonStyle, bool>("value", "items", "style", "shown");
         const auto row = [](const char *name, const QVariant &value, const QStringList &items,
                             Qt::ToolButtonStyle style = Qt::ToolButtonTextUnderIcon,
                             bool shown = true) { QTest::newRow(name) << value << items << style << shown; };

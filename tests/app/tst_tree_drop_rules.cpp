@@ -82,11 +82,9 @@ class TestTreeDropRules : public QObject
 private Q_SLOTS:
     void recordValidation_data()
     {
-        QTest::addColumn<QString>("dragged");
-        QTest::addColumn<QString>("parent");
+        test::columns<QString, QString>("dragged", "parent");
         QTest::addColumn<int>("index"); // -1: on the row itself
-        QTest::addColumn<Qt::DropActions>("allowed");
-        QTest::addColumn<DropOperation>("expected");
+        test::columns<Qt::DropActions, DropOperation>("allowed", "expected");
 
         const Qt::DropActions any = Qt::CopyAction | Qt::MoveAction;
         const Qt::DropActions copy = Qt::CopyAction;
@@ -122,12 +120,8 @@ private Q_SLOTS:
 
     void recordLanding_data()
     {
-        QTest::addColumn<QString>("dragged");
-        QTest::addColumn<QString>("parent");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<bool>("copies");
-        QTest::addColumn<QString>("inA");
-        QTest::addColumn<QString>("inB");
+        test::columns<QString, QString, int, bool, QString, QString>(
+            "dragged", "parent", "index", "copies", "inA", "inB");
 
         const QString allB = "B0 B1 B2 B3 B4 B5";
         const auto within = [&](const char *name, const char *dragged, int index, const char *inA,
@@ -189,8 +183,7 @@ private Q_SLOTS:
 
     void tankDrop_data()
     {
-        QTest::addColumn<QString>("dragged");
-        QTest::addColumn<QString>("row");
+        test::columns<QString, QString>("dragged", "row");
         QTest::addColumn<int>("index"); // -1: refused
         QTest::addColumn<QString>("order");
 

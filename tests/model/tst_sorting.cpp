@@ -24,10 +24,7 @@ class SortingTest : public QObject
 private Q_SLOTS:
     void byIdentifier_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("identifier");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariantList>("ascending");
+        test::columns<int, QString, QString, QVariantList>("kind", "identifier", "key", "ascending");
         const auto row = [](ContainerKind kind, const char *identifier, const char *key, const QVariantList &values) {
             QTest::addRow("%s by %s", qPrintable(traitsOf(kind).attributePrefix.toString()), identifier)
                 << int(kind) << QString::fromLatin1(identifier) << QString::fromLatin1(key) << values;
@@ -163,4 +160,5 @@ private Q_SLOTS:
 };
 
 BRINEMARK_TEST(QGuiApplication, SortingTest)
+#include "support/DataRow.h"
 #include "tst_sorting.moc"

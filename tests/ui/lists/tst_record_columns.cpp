@@ -45,8 +45,7 @@ private Q_SLOTS:
 
     void aStoredLayout_data()
     {
-        QTest::addColumn<QVariantList>("stored");
-        QTest::addColumn<QString>("shown");
+        test::columns<QVariantList, QString>("stored", "shown");
         const auto column = [](const char *identifier, QVariant width = 0) {
             return QVariant(QVariantMap{{"identifier", QLatin1String(identifier)}, {"width", std::move(width)}});
         };

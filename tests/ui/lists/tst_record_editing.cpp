@@ -21,8 +21,7 @@ private Q_SLOTS:
 
     void typing_data()
     {
-        QTest::addColumn<SmallListColumn>("column");
-        QTest::addColumn<QString>("typed");
+        test::columns<SmallListColumn, QString>("column", "typed");
         QTest::addColumn<PressedKeys>("keys"); ///< pressed after the typing
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("edited"); ///< empty: no edit, no undo step

@@ -71,9 +71,7 @@ private Q_SLOTS:
 
     void deleting_data()
     {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<QString>("left");
-        QTest::addColumn<QStringList>("told");
+        test::columns<QByteArray, QString, QStringList>("answer", "left", "told");
         row("confirmed", QByteArray("defaultButton"), QString("bd"), QStringList({"a", "c", "e"}));
         row("cancelled", QByteArray("alternateButton"), QString("abcde"), QStringList());
     }
