@@ -9,6 +9,8 @@
 namespace brinemark
 {
 
+class StyledText;
+
 /// The value of a parameter that was not measured. Any negative value counts as not tested.
 inline constexpr qint32 notTested = -1;
 
@@ -35,6 +37,11 @@ struct ConditionData final : Record {
 
     explicit ConditionData(Tank *parent = nullptr); ///< dated now, nothing tested
     explicit ConditionData(Blank) {}
+
+    /// Captions and values of the parameters whose columns the tank shows, in the order of the columns.
+    [[nodiscard]] StyledText conditionDataAttributedString() const;
+    /// Adds a pair; a value below 0 reads "not tested".
+    static void buildStringWithCaption(const QString &caption, const QString &value, StyledText &target);
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Condition; }
     /// Copies all but magnesium, which is not tested in the copy.

@@ -11,6 +11,8 @@
 namespace brinemark
 {
 
+class StyledText;
+
 /// One expense.
 struct ExpenseData final : Record {
     QDateTime date;
@@ -20,6 +22,8 @@ struct ExpenseData final : Record {
 
     explicit ExpenseData(Tank *parent = nullptr);
     explicit ExpenseData(Blank) {}
+
+    [[nodiscard]] StyledText expenseDataAttributedString() const; ///< captions and values, for reading and printing
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Expense; }
     [[nodiscard]] std::shared_ptr<Record> copy() const override;

@@ -9,6 +9,8 @@
 namespace brinemark
 {
 
+class StyledText;
+
 /// An item that the keeper owns, and its number.
 struct InventoryData final : Record {
     QString item;
@@ -16,6 +18,8 @@ struct InventoryData final : Record {
 
     explicit InventoryData(Tank *parent = nullptr);
     explicit InventoryData(Blank) {}
+
+    [[nodiscard]] StyledText inventoryDataAttributedString() const; ///< captions and values, for reading and printing
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Inventory; }
     [[nodiscard]] std::shared_ptr<Record> copy() const override;

@@ -12,6 +12,8 @@
 namespace brinemark
 {
 
+class StyledText;
+
 /// A livestock or plant entry with its species profile. The kinds (FishData and its siblings) differ in `itemContext`
 /// only.
 struct ItemData : Record {
@@ -48,6 +50,8 @@ struct ItemData : Record {
     /// The display text of a code: an element of the text "ReefSafeMenu" (yes, no, unknown); any other code gives
     /// unknown.
     [[nodiscard]] static QString reefSafeStringFromCode(qint32 code);
+
+    [[nodiscard]] StyledText itemDataAttributedString() const; ///< captions and values, for printing
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Item; }
     /// Copies all but `reefSafe`, which is unknown in the copy.

@@ -10,6 +10,8 @@
 namespace brinemark
 {
 
+class StyledText;
+
 /// A dated note about the tank.
 struct NoteData final : Record {
     QDateTime date;
@@ -17,6 +19,8 @@ struct NoteData final : Record {
 
     explicit NoteData(Tank *parent = nullptr);
     explicit NoteData(Blank) {}
+
+    [[nodiscard]] StyledText noteDataAttributedString() const; ///< captions and values, for reading and printing
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Note; }
     [[nodiscard]] std::shared_ptr<Record> copy() const override;

@@ -59,6 +59,7 @@ struct ParameterTraits {
     QStringView testFileKey;   ///< of the value in the tank file's water tests
     bool integral;             ///< measured in whole numbers
     TextKey targetNameKey;     ///< of the target's display name
+    TextKey captionKey;        ///< of the value in the text of a water test
     DefaultNumber preferred;   ///< of a default target, as are the deviation and the warning
     DefaultNumber deviation;
     bool warningOn;                       ///< a default target that warns has its band on as well
@@ -68,23 +69,23 @@ struct ParameterTraits {
 
 // clang-format off
 inline constexpr std::array<ParameterTraits, parameterCount> parameterTable{{
-    {Parameter::Temp,       u"temp",       u"tempData",       u"tempValue",       u"Temp",       false, "Temperature"_key,   {0, "TempFreshValue"_key}, {}, false, "TempTreatment"_key, std::nullopt},
-    {Parameter::Ph,         u"ph",         u"phData",         u"pHValue",         u"ph",         false, "Ph"_key,            {7.0F}, {}, false, "PhTreatment"_key, LineColour{0.45F, 0.15F, 0.75F}},
-    {Parameter::Ammonia,    u"ammonia",    u"ammoniaData",    u"ammoniaValue",    u"Ammonia",    false, "Ammonia"_key,       {}, {0, "AmmoniaFreshValue"_key}, true, "AmmoniaTreatment"_key, LineColour{0.8F, 0.078F, 0.078F}},
-    {Parameter::Nitrate,    u"nitrate",    u"nitrateData",    u"nitrateValue",    u"Nitrate",    false, "Nitrate"_key,       {}, {0, "NitrateFreshValue"_key}, true, "NitrateTreatment"_key, LineColour{0.078F, 0.44F, 0.8F}},
-    {Parameter::Nitrite,    u"nitrite",    u"nitriteData",    u"nitriteValue",    u"Nitrite",    false, "Nitrite"_key,       {}, {0, "NitriteFreshValue"_key}, true, "NitriteTreatment"_key, LineColour{0.67F, 0.38F, 0.95F}},
-    {Parameter::GH,         u"gH",         u"gHData",         u"gHValue",         u"GH",         false, "GH"_key,            {}, {}, false, "ppmTreatment"_key, LineColour{0.85F, 0.85F, 0.21F}},
-    {Parameter::KH,         u"kH",         u"kHData",         u"kHValue",         u"KH",         false, "KH"_key,            {}, {}, false, "ppmTreatment"_key, LineColour{0.38F, 0.67F, 0.95F}},
-    {Parameter::Salt,       u"salt",       u"saltData",       u"saltValue",       u"Salt",       false, "Salinity"_key,      {}, {}, false, "ppmTreatment"_key, LineColour{0.38F, 0.21F, 0.04F}},
-    {Parameter::Alkalinity, u"alkalinity", u"alkalinityData", u"alkalinityValue", u"alkalinity", false, "Alkalinity"_key,    {}, {}, false, "genericTreatment"_key, LineColour{0.95F, 0.38F, 0.38F}},
-    {Parameter::Phosphate,  u"phosphate",  u"phosphateData",  u"phosphateValue",  u"phosphate",  false, "Phosphate"_key,     {}, {}, false, "ppmTreatment"_key, LineColour{0.6F, 0.4F, 0.3F}},
-    {Parameter::Calcium,    u"calcium",    u"calciumData",    u"calciumValue",    u"calcium",    true,  "Calcium"_key,       {}, {}, false, "ppmTreatment"_key, LineColour{0.95F, 0.67F, 0.38F}},
-    {Parameter::Iodine,     u"iodine",     u"iodineData",     u"iodineValue",     u"iodine",     false, "Iodine"_key,        {}, {}, false, "ppmTreatment"_key, LineColour{0.38F, 0.95F, 0.38F}},
-    {Parameter::Oxygen,     u"oxygen",     u"oxygenData",     u"oxygenValue",     u"oxygen",     false, "Oxygen"_key,        {}, {}, false, "ppmTreatment"_key, LineColour{0.95F, 0.95F, 0.38F}},
-    {Parameter::Copper,     u"copper",     u"copperData",     u"copperValue",     u"copper",     false, "Copper"_key,        {}, {}, false, "ppmTreatment"_key, LineColour{0.85F, 0.5F, 0.17F}},
-    {Parameter::Iron,       u"iron",       u"ironData",       u"ironValue",       u"iron",       false, "Iron"_key,          {}, {}, false, "ppmTreatment"_key, LineColour{0.156F, 0.8F, 0.156F}},
-    {Parameter::Dioxide,    u"dioxide",    u"dioxideData",    u"dioxideValue",    u"dioxide",    true,  "CarbonDioxide"_key, {}, {}, false, "ppmTreatment"_key, LineColour{0.38F, 0.38F, 0.48F}},
-    {Parameter::Magnesium,  u"magnesium",  u"magnesiumData",  u"magnesiumValue",  u"magnesium",  true,  "Magnesium"_key,     {}, {}, false, "ppmTreatment"_key, LineColour{0.21F, 0.21F, 0.21F}},
+    {Parameter::Temp,       u"temp",       u"tempData",       u"tempValue",       u"Temp",       false, "Temperature"_key,   "ConditionDataTemp"_key,        {0, "TempFreshValue"_key}, {}, false, "TempTreatment"_key, std::nullopt},
+    {Parameter::Ph,         u"ph",         u"phData",         u"pHValue",         u"ph",         false, "Ph"_key,            "ConditionDataPh"_key,          {7.0F}, {}, false, "PhTreatment"_key, LineColour{0.45F, 0.15F, 0.75F}},
+    {Parameter::Ammonia,    u"ammonia",    u"ammoniaData",    u"ammoniaValue",    u"Ammonia",    false, "Ammonia"_key,       "ConditionDataAmmonia"_key,     {}, {0, "AmmoniaFreshValue"_key}, true, "AmmoniaTreatment"_key, LineColour{0.8F, 0.078F, 0.078F}},
+    {Parameter::Nitrate,    u"nitrate",    u"nitrateData",    u"nitrateValue",    u"Nitrate",    false, "Nitrate"_key,       "ConditionDataNitrate"_key,     {}, {0, "NitrateFreshValue"_key}, true, "NitrateTreatment"_key, LineColour{0.078F, 0.44F, 0.8F}},
+    {Parameter::Nitrite,    u"nitrite",    u"nitriteData",    u"nitriteValue",    u"Nitrite",    false, "Nitrite"_key,       "ConditionDataNitrite"_key,     {}, {0, "NitriteFreshValue"_key}, true, "NitriteTreatment"_key, LineColour{0.67F, 0.38F, 0.95F}},
+    {Parameter::GH,         u"gH",         u"gHData",         u"gHValue",         u"GH",         false, "GH"_key,            "ConditionDataGH"_key,          {}, {}, false, "ppmTreatment"_key, LineColour{0.85F, 0.85F, 0.21F}},
+    {Parameter::KH,         u"kH",         u"kHData",         u"kHValue",         u"KH",         false, "KH"_key,            "ConditionDataKH"_key,          {}, {}, false, "ppmTreatment"_key, LineColour{0.38F, 0.67F, 0.95F}},
+    {Parameter::Salt,       u"salt",       u"saltData",       u"saltValue",       u"Salt",       false, "Salinity"_key,      "ConditionDataSalt"_key,        {}, {}, false, "ppmTreatment"_key, LineColour{0.38F, 0.21F, 0.04F}},
+    {Parameter::Alkalinity, u"alkalinity", u"alkalinityData", u"alkalinityValue", u"alkalinity", false, "Alkalinity"_key,    "CondtionDataAlkalinity"_key,   {}, {}, false, "genericTreatment"_key, LineColour{0.95F, 0.38F, 0.38F}},
+    {Parameter::Phosphate,  u"phosphate",  u"phosphateData",  u"phosphateValue",  u"phosphate",  false, "Phosphate"_key,     "CondtionDataPhosphate"_key,    {}, {}, false, "ppmTreatment"_key, LineColour{0.6F, 0.4F, 0.3F}},
+    {Parameter::Calcium,    u"calcium",    u"calciumData",    u"calciumValue",    u"calcium",    true,  "Calcium"_key,       "CondtionDataCalcium"_key,      {}, {}, false, "ppmTreatment"_key, LineColour{0.95F, 0.67F, 0.38F}},
+    {Parameter::Iodine,     u"iodine",     u"iodineData",     u"iodineValue",     u"iodine",     false, "Iodine"_key,        "CondtionDataIodine"_key,       {}, {}, false, "ppmTreatment"_key, LineColour{0.38F, 0.95F, 0.38F}},
+    {Parameter::Oxygen,     u"oxygen",     u"oxygenData",     u"oxygenValue",     u"oxygen",     false, "Oxygen"_key,        "CondtionDataOxygen"_key,       {}, {}, false, "ppmTreatment"_key, LineColour{0.95F, 0.95F, 0.38F}},
+    {Parameter::Copper,     u"copper",     u"copperData",     u"copperValue",     u"copper",     false, "Copper"_key,        "CondtionDataCopper"_key,       {}, {}, false, "ppmTreatment"_key, LineColour{0.85F, 0.5F, 0.17F}},
+    {Parameter::Iron,       u"iron",       u"ironData",       u"ironValue",       u"iron",       false, "Iron"_key,          "CondtionDataIron"_key,         {}, {}, false, "ppmTreatment"_key, LineColour{0.156F, 0.8F, 0.156F}},
+    {Parameter::Dioxide,    u"dioxide",    u"dioxideData",    u"dioxideValue",    u"dioxide",    true,  "CarbonDioxide"_key, "CondtionDataCarbonDioxide"_key, {}, {}, false, "ppmTreatment"_key, LineColour{0.38F, 0.38F, 0.48F}},
+    {Parameter::Magnesium,  u"magnesium",  u"magnesiumData",  u"magnesiumValue",  u"magnesium",  true,  "Magnesium"_key,     "CondtionDataMagnesium"_key,    {}, {}, false, "ppmTreatment"_key, LineColour{0.21F, 0.21F, 0.21F}},
 }};
 // clang-format on
 

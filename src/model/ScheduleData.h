@@ -10,6 +10,8 @@
 namespace brinemark
 {
 
+class StyledText;
+
 template <class R>
 struct FieldTable;
 
@@ -31,6 +33,8 @@ struct ScheduleData final : Record {
 
     /// Runs the rescheduling rule that ModelContext holds.
     void reScheduleIfNeeded();
+
+    [[nodiscard]] StyledText scheduleDataAttributedString() const; ///< captions and values, for reading and printing
 
     [[nodiscard]] RecordType recordType() const override { return RecordType::Schedule; }
     [[nodiscard]] std::shared_ptr<Record> copy() const override; ///< also sends "DoneChecked" for the copy
