@@ -498,12 +498,12 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     <message>
         <source>CopperHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>Sofort, falls Sie nicht Fische mit Kupfer behandeln: Wechseln Sie ein Drittel bis die Hälfte des Wassers gegen Wasser, das selbst kein Kupfer enthält, filtern Sie über frische Aktivkohle, und setzen Sie jedes kupferhaltige Mittel ab. Wenige Hundertstel mg/l töten Wirbellose und schaden in weichem Wasser auch Fischen. In einem Quarantänebecken wechseln Sie nur so viel, dass der Wert in den Bereich des Mittels zurückkehrt.</translation>
+        <translation>Sofort, falls Sie nicht Fische mit Kupfer behandeln: Wechseln Sie ein Drittel bis die Hälfte des Wassers gegen aufbereitetes Wasser gleicher Temperatur, das selbst kein Kupfer enthält, filtern Sie über frische Aktivkohle, und setzen Sie jedes kupferhaltige Mittel ab. Würde das neue Wasser einen pH-Wert unter 7 heben, testen Sie zuvor Ammoniak; ist welches da, wechseln Sie jeweils nur ein Zehntel. Wenige Hundertstel mg/l töten Wirbellose und schaden in weichem Wasser auch Fischen. In einem Quarantänebecken wechseln Sie nur so viel, dass der Wert in den Bereich des Mittels zurückkehrt.</translation>
     </message>
     <message>
         <source>CopperHighSaltAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>Sofort, falls Sie nicht Fische mit Kupfer behandeln: Wechseln Sie ein Drittel bis die Hälfte des Wassers gegen Wasser, das selbst kein Kupfer enthält, filtern Sie über frische Aktivkohle, und setzen Sie jedes kupferhaltige Mittel ab. Wenige Hundertstel mg/l töten Korallen und andere Wirbellose, und Gestein und Sand geben Kupfer später wieder ab. In einem Quarantänebecken wechseln Sie nur so viel, dass der Wert in den Bereich des Mittels zurückkehrt.</translation>
+        <translation>Sofort, falls Sie nicht Fische mit Kupfer behandeln: Wechseln Sie ein Drittel bis die Hälfte des Wassers gegen vorher angesetztes und belüftetes Salzwasser gleicher Salinität und Temperatur, das selbst kein Kupfer enthält; filtern Sie über frische Aktivkohle, und setzen Sie jedes kupferhaltige Mittel ab. Wenige Hundertstel mg/l töten Korallen und andere Wirbellose, und Gestein und Sand geben Kupfer später wieder ab. In einem Quarantänebecken wechseln Sie nur so viel, dass der Wert in den Bereich des Mittels zurückkehrt.</translation>
     </message>
     <message>
         <source>CopperLowAdvice</source>
@@ -604,7 +604,7 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     <message>
         <source>DioxideHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>Sofort: Stellen Sie die Kohlendioxidzufuhr ab und belüften Sie kräftig, bis die Fische ruhig atmen. Über etwa 30 mg/l leiden viele Fische. Prüfen Sie dann Ventil und Zeitschaltuhr, und beginnen Sie mit geringerer Zufuhr von Neuem.</translation>
+        <translation>Sofort: Stellen Sie die Kohlendioxidzufuhr ab und belüften Sie kräftig, bis die Fische ruhig atmen. Über etwa 30 mg/l leiden viele Fische. Entweicht das Gas, steigt der pH-Wert, und aus Ammonium wird giftiges Ammoniak; testen Sie es deshalb danach. Prüfen Sie dann Ventil und Zeitschaltuhr, und beginnen Sie mit geringerer Zufuhr von Neuem.</translation>
     </message>
     <message>
         <source>DioxideHighSaltAdvice</source>
@@ -1134,12 +1134,12 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     <message>
         <source>HardnessHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
-        <translation>Calcium und Magnesium bilden zusammen die Gesamthärte (GH). Ersetzen Sie täglich ein Zehntel des Wassers durch eine Mischung mit Umkehrosmose- oder destilliertem Wasser, und suchen Sie nach Kalkstein, Muscheln oder Korallensand im Becken. Ein Enthärter im Haus ersetzt die Härte nur durch Natrium.</translation>
+        <translation>Calcium und Magnesium bilden zusammen die Gesamthärte (GH). Ersetzen Sie täglich ein Zehntel des Wassers durch eine Mischung mit Umkehrosmose- oder destilliertem Wasser, und suchen Sie nach Kalkstein, Muscheln oder Korallensand im Becken. Solches Wasser senkt auch die Karbonathärte (KH): Halten Sie sie über etwa 4 Grad, sonst kann der pH-Wert plötzlich fallen. Ein Enthärter im Haus ersetzt die Härte nur durch Natrium.</translation>
     </message>
     <message>
         <source>HardnessLowFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
-        <translation>Calcium und Magnesium bilden zusammen die Gesamthärte (GH). Heben Sie sie um etwa 1 Grad am Tag mit einem zuvor gelösten Mineralsalz aus beiden oder mit härterem Wasser; Kochsalz hebt sie nicht. Härteres Wasser hebt oft auch KH und pH-Wert, testen Sie deshalb vorher Ammoniak.</translation>
+        <translation>Calcium und Magnesium bilden zusammen die Gesamthärte (GH). Heben Sie sie um etwa 1 Grad am Tag mit einem zuvor gelösten Mineralsalz aus beiden oder mit härterem Wasser; Kochsalz hebt sie nicht. Liegt die GH schon im Ziel, ergänzen Sie nur, was von beiden fehlt. Härteres Wasser hebt oft auch KH und pH-Wert, testen Sie deshalb vorher Ammoniak.</translation>
     </message>
     <message>
         <source>HelpBack</source>
@@ -1704,7 +1704,7 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
 
 Nitrat ist, was von Futter und Ausscheidungen bleibt, wenn der Filter seine Arbeit getan hat. Es wirkt langsam, Sie haben also Zeit.
 
-Zu hoch: Wechseln Sie jetzt und dann alle paar Tage ein Fünftel bis ein Drittel des Wassers, bis der Wert im Rahmen liegt, aber nie alles auf einmal, denn an viel Nitrat gewöhnte Tiere vertragen ein plötzliches Absinken schlecht. Testen Sie auch das Leitungswasser. Damit der Wert niedrig bleibt: weniger füttern, den Boden reinigen, den Filter in Aquarienwasser ausspülen, wenige Tiere halten und Pflanzen wachsen lassen, im Meerwasser Makroalgen bei guter Abschäumung.
+Zu hoch: Wechseln Sie jetzt und danach alle paar Tage ein Fünftel bis ein Drittel des Wassers, bis der Wert im Rahmen liegt, aber nie alles auf einmal, denn an viel Nitrat gewöhnte Tiere vertragen ein plötzliches Absinken schlecht. Testen Sie auch das Leitungswasser. Damit der Wert niedrig bleibt: weniger füttern, den Boden reinigen, den Filter in Aquarienwasser ausspülen, wenige Tiere halten und Pflanzen wachsen lassen, im Meerwasser Makroalgen bei guter Abschäumung.
 
 Zu niedrig für Pflanzen oder Korallen: etwas mehr füttern oder einen Nitratdünger in kleinen Mengen zugeben und vor jeder Gabe testen.</translation>
     </message>
@@ -1720,7 +1720,7 @@ Zu niedrig für Pflanzen oder Korallen: etwas mehr füttern oder einen Nitratdü
     <message>
         <source>NitriteHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>Sofort: Ersetzen Sie ein Drittel bis die Hälfte des Wassers durch aufbereitetes Wasser gleicher Temperatur, und das täglich, bis der Wert im Rahmen liegt, denn Nitrit hindert das Blut am Sauerstofftransport. Chlorid schützt Fische: Fast alle, und die meisten Pflanzen, vertragen etwa 1 Gramm reines Salz (Natriumchlorid ohne Zusätze) auf 10 Liter, in Aquarienwasser gelöst und über mehrere Stunden zugegeben.</translation>
+        <translation>Sofort: Testen Sie Ammoniak; ist unter pH 7 welches da, wechseln Sie jeweils nur ein Zehntel des Wassers, denn ein höherer pH-Wert macht es giftig. Sonst ersetzen Sie ein Drittel bis die Hälfte des Wassers durch aufbereitetes Wasser gleicher Temperatur, und das täglich, bis der Wert im Rahmen liegt, denn Nitrit hindert das Blut am Sauerstofftransport. Chlorid schützt Fische: Fast alle, und die meisten Pflanzen, vertragen etwa 1 Gramm reines Salz (Natriumchlorid ohne Zusätze) auf 10 Liter, in Aquarienwasser gelöst und einmalig über mehrere Stunden zugegeben. Danach geben Sie nur so viel nach, wie jeder Wasserwechsel entfernt.</translation>
     </message>
     <message>
         <source>NitriteHighSaltAdvice</source>
@@ -1810,7 +1810,7 @@ Bis der Wert im Rahmen liegt, testen Sie täglich, füttern wenig, belüften kr�
     </message>
     <message>
         <source>NotTestedDialogMessage</source>
-        <translation>In einem neuen Wassertest gelten zunächst alle Werte als nicht getestet. Solche Werte bleiben in Diagrammen, Exporten und Warnungen unberücksichtigt. Leeren Sie eine Zelle, um ihren Wert wieder als nicht getestet zu kennzeichnen.</translation>
+        <translation>In einem neuen Wassertest gelten zunächst alle Werte als nicht getestet. Solche Werte führen zu keiner Warnung, bleiben in Exporten leer und werden in Diagrammen durch eine gerade Linie überbrückt. Leeren Sie eine Zelle, um ihren Wert wieder als nicht getestet zu kennzeichnen.</translation>
     </message>
     <message>
         <source>NotTestedDialogTitle</source>
@@ -1883,7 +1883,7 @@ Bis der Wert im Rahmen liegt, testen Sie täglich, füttern wenig, belüften kr�
     <message>
         <source>OxygenHighAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
-        <translation>In hellem Licht heben Pflanzen und Algen den Wert über das, was Luft allein geben kann: etwa 8 mg/l in warmem Süßwasser und 7 mg/l in warmem Salzwasser. Das ist harmlos. Bleiben kleine Blasen an den Tieren, suchen Sie nach einer Pumpe, die Luft ansaugt, und bewegen Sie die Oberfläche.</translation>
+        <translation>In hellem Licht heben Pflanzen und Algen den Wert über das, was Luft allein geben kann: etwa 8 mg/l in warmem Süßwasser und 7 mg/l in warmem Salzwasser. Das ist harmlos. Bleiben kleine Blasen an den Tieren, suchen Sie nach einer Pumpe, die Luft ansaugt, und bewegen Sie die Oberfläche. Unter 5 mg/l ist es zu wenig, was immer der Zielwert sagt.</translation>
     </message>
     <message>
         <source>OxygenLowAdvice</source>
@@ -2558,6 +2558,11 @@ Zu kalt: Heizer instand setzen oder ergänzen und das Becken abdecken; ein Wasse
     <message>
         <source>TreeNewToolTip</source>
         <translation>Ein Aquarium oder einen Bewohner hinzufügen</translation>
+    </message>
+    <message>
+        <source>UnsetTargetAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>Der Zielwert ist noch 0 wie in jedem neuen Aquarium, deshalb sagt dieser Hinweis noch nichts über Ihr Wasser. Legen Sie den Zielwert fest, bevor Sie handeln: Wählen Sie das Aquarium aus und doppelklicken Sie in dessen Liste der Zielwerte auf den Wert.</translation>
     </message>
     <message>
         <source>Unspecified</source>

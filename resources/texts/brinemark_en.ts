@@ -498,12 +498,12 @@ Then test every day and repeat the water change until the value is in range. Mea
     <message>
         <source>CopperHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>At once, unless you are treating fish with copper: change a third to a half of the water, using water that has no copper itself, filter over fresh activated carbon, and stop every remedy that holds copper. A few hundredths of a mg/l kill invertebrates, and in soft water harm fish too. In a hospital tank change only enough water to come back into the remedy’s range.</translation>
+        <translation>At once, unless you are treating fish with copper: change a third to a half of the water against conditioned water of the same temperature that has no copper itself, filter over fresh activated carbon, and stop every remedy that contains copper. If the new water would raise a pH below 7, test for ammonia first, and if there is any, change only a tenth at a time. A few hundredths of a mg/l kill invertebrates, and in soft water harm fish too. In a hospital tank change only enough water to come back into the remedy’s range.</translation>
     </message>
     <message>
         <source>CopperHighSaltAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>At once, unless you are treating fish with copper: change a third to a half of the water, using water that has no copper itself, filter over fresh activated carbon, and stop every remedy that holds copper. A few hundredths of a mg/l kill corals and other invertebrates, and rock and sand give copper off again later. In a hospital tank change only enough water to come back into the remedy’s range.</translation>
+        <translation>At once, unless you are treating fish with copper: change a third to a half of the water against salt water of the same salinity and temperature, mixed and aerated beforehand, that has no copper itself; filter over fresh activated carbon, and stop every remedy that contains copper. A few hundredths of a mg/l kill corals and other invertebrates, and rock and sand give copper off again later. In a hospital tank change only enough water to come back into the remedy’s range.</translation>
     </message>
     <message>
         <source>CopperLowAdvice</source>
@@ -604,7 +604,7 @@ Then test every day and repeat the water change until the value is in range. Mea
     <message>
         <source>DioxideHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>At once: turn off the carbon dioxide supply and aerate strongly until the fish breathe calmly. Above about 30 mg/l many fish suffer. Then check valve and timer, and start again with a lower supply.</translation>
+        <translation>At once: turn off the carbon dioxide supply and aerate strongly until the fish breathe calmly. Above about 30 mg/l many fish suffer. The pH rises as the gas leaves, which turns ammonium into poisonous ammonia, so test for ammonia afterwards. Then check valve and timer, and start again with a lower supply.</translation>
     </message>
     <message>
         <source>DioxideHighSaltAdvice</source>
@@ -1134,12 +1134,12 @@ Then test every day and repeat the water change until the value is in range. Mea
     <message>
         <source>HardnessHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
-        <translation>Calcium and magnesium together make up the general hardness (GH). Each day replace a tenth of the water with a mixture that contains reverse-osmosis or distilled water, and look for limestone, shells or coral sand in the tank. A household softener only puts sodium in place of the hardness.</translation>
+        <translation>Calcium and magnesium together make up the general hardness (GH). Each day replace a tenth of the water with a mixture that contains reverse-osmosis or distilled water, and look for limestone, shells or coral sand in the tank. That water lowers the carbonate hardness (KH) too: keep it above about 4 degrees, or the pH can fall suddenly. A household softener only puts sodium in place of the hardness.</translation>
     </message>
     <message>
         <source>HardnessLowFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
-        <translation>Calcium and magnesium together make up the general hardness (GH). Raise it by about 1 degree a day with a mineral salt of both, dissolved first, or with harder water; table salt does not raise it. Harder water often raises KH and pH too, so test for ammonia before you use it.</translation>
+        <translation>Calcium and magnesium together make up the general hardness (GH). Raise it by about 1 degree a day with a mineral salt of both, dissolved first, or with harder water; table salt does not raise it. If the GH is already on target, replace only the one that is short. Harder water often raises KH and pH too, so test for ammonia before you use it.</translation>
     </message>
     <message>
         <source>HelpBack</source>
@@ -1704,7 +1704,7 @@ Then test every day and repeat the water change until the value is in range. Mea
 
 Nitrate is what remains of food and waste when the filter has done its work. Its effect is slow, so there is time.
 
-Too high: change a fifth to a third of the water now and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it. To keep the value down, feed less, clean the bottom, rinse the filter in tank water, stock lightly and grow plants, or in a marine tank macroalgae beside a good skimmer.
+Too high: change a fifth to a third of the water now, and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it. To keep the value down, feed less, clean the bottom, rinse the filter in tank water, stock lightly and grow plants, or in a marine tank macroalgae beside a good skimmer.
 
 Too low for plants or corals: feed a little more, or add a nitrate fertiliser in small doses, testing before each one.</translation>
     </message>
@@ -1720,7 +1720,7 @@ Too low for plants or corals: feed a little more, or add a nitrate fertiliser in
     <message>
         <source>NitriteHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>At once: replace a third to a half of the water with conditioned water of the same temperature, and again every day until the value is in range, because nitrite keeps the blood from carrying oxygen. Chloride protects fish: nearly all of them, and most plants, tolerate about 1 gram of pure salt (sodium chloride without additives) to 10 litres, dissolved in tank water and added over several hours.</translation>
+        <translation>At once: test for ammonia; below pH 7, if there is any, change only a tenth of the water at a time, because a higher pH makes it poisonous. Otherwise replace a third to a half of the water with conditioned water of the same temperature, and again every day until the value is in range, because nitrite keeps the blood from carrying oxygen. Chloride protects fish: nearly all of them, and most plants, tolerate about 1 gram of pure salt (sodium chloride without additives) to 10 litres, dissolved in tank water and added once, over several hours. After that add only as much as each water change takes out.</translation>
     </message>
     <message>
         <source>NitriteHighSaltAdvice</source>
@@ -1810,7 +1810,7 @@ Until the value is in range, test every day, feed little, aerate strongly, add n
     </message>
     <message>
         <source>NotTestedDialogMessage</source>
-        <translation>A new water test begins with every value marked as not tested. Such values are left out of graphs, exports and warnings. To mark a value as not tested again, empty its cell.</translation>
+        <translation>A new water test begins with every value marked as not tested. Such values cause no warning, stay empty in exports, and are bridged by a straight line in graphs. To mark a value as not tested again, empty its cell.</translation>
     </message>
     <message>
         <source>NotTestedDialogTitle</source>
@@ -1883,7 +1883,7 @@ Until the value is in range, test every day, feed little, aerate strongly, add n
     <message>
         <source>OxygenHighAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
-        <translation>In bright light plants and algae lift the value above what air alone can give, about 8 mg/l in warm fresh water and 7 mg/l in warm salt water. That is harmless. If small bubbles stay on the animals, look for a pump that draws in air, and stir the surface.</translation>
+        <translation>In bright light plants and algae lift the value above what air alone can give, about 8 mg/l in warm fresh water and 7 mg/l in warm salt water. That is harmless. If small bubbles stay on the animals, look for a pump that draws in air, and stir the surface. Below 5 mg/l there is too little, whatever the target says.</translation>
     </message>
     <message>
         <source>OxygenLowAdvice</source>
@@ -2558,6 +2558,11 @@ Too cold: repair or add a heater and cover the tank; a water change with slightl
     <message>
         <source>TreeNewToolTip</source>
         <translation>Add a tank or something that lives in it</translation>
+    </message>
+    <message>
+        <source>UnsetTargetAdvice</source>
+        <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
+        <translation>The target is still 0, as in every new tank, so this notice says nothing about your water yet. Set the target before you act on it: select the tank, and double-click the value in its list of targets.</translation>
     </message>
     <message>
         <source>Unspecified</source>

@@ -55,14 +55,25 @@
 
 Nitrate is what remains of food and waste when the filter has done its work. Its effect is slow, so there is time.
 
-Too high: change a fifth to a third of the water now and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it. To keep the value down, feed less, clean the substrate, rinse the filter in tank water, stock lightly and grow plants, or in a saltwater tank macroalgae beside a good skimmer.
+Too high: change a fifth to a third of the water now, and again every few days until the value is in range. Do not change it all at once, because animals that are used to much nitrate cope badly with a sudden drop. Test the tap water too, as it may bring nitrate with it. To keep the value down, feed less, clean the substrate, rinse the filter in tank water, stock lightly and grow plants, or in a saltwater tank macroalgae beside a good skimmer.
 
 Too low for plants or corals: feed a little more, or add a nitrate fertilizer in small doses, testing before each one.</translation>
     </message>
     <message>
         <source>NitriteHighFreshAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning. The treatment asks the reader to look for its first words, “At once”.</extracomment>
-        <translation>At once: replace a third to a half of the water with conditioned water of the same temperature, and again every day until the value is in range, because nitrite keeps the blood from carrying oxygen. Chloride protects fish: nearly all of them, and most plants, tolerate about 4 grams (two thirds of a teaspoon) of pure salt (sodium chloride without additives) to 10 gallons, dissolved in tank water and added over several hours.</translation>
+        <translation>At once: test for ammonia; below pH 7, if there is any, change only a tenth of the water at a time, because a higher pH makes it poisonous. Otherwise replace a third to a half of the water with conditioned water of the same temperature, and again every day until the value is in range, because nitrite keeps the blood from carrying oxygen. Chloride protects fish: nearly all of them, and most plants, tolerate about 4 grams (two thirds of a teaspoon) of pure salt (sodium chloride without additives) to 10 gallons, dissolved in tank water and added once, over several hours. After that add only as much as each water change takes out.</translation>
+    </message>
+    <message>
+        <source>PhTreatment</source>
+        <extracomment>No per-cent sign: this text is used as a format. Follows a message directly, so it begins with an empty line.</extracomment>
+        <translation>
+
+A whole step of pH is a tenfold change, so move it by no more than 0.2 to 0.3 a day: a steady value that is a little off does less harm than a quick correction. Measure ammonia and carbonate hardness (KH) first. Never raise the pH while ammonia is present, and expect the pH to swing below about 4 degrees KH.
+
+Too low: the carbonate hardness is usually used up; change a little of the water every day, then raise the KH in small steps. A saltwater tank often only wants fresh air in the room.
+
+Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in a saltwater tank, where 8.0 to 8.4 is usual, check the alkalinity before you add anything.</translation>
     </message>
     <message>
         <source>SurfaceMenu</source>

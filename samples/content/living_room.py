@@ -81,7 +81,7 @@ LIVESTOCK = {
 
 TARGETS = {
     "tempValue": dict(preferred=25.5, deviation=2, warning=True), "pHValue": dict(preferred=7, deviation=0.4, warning=True),
-    "ammoniaValue": dict(deviation=0.1, warning=True), "nitriteValue": dict(deviation=0.2, warning=True),
+    "ammoniaValue": dict(deviation=0.1, warning=True), "nitriteValue": dict(deviation=0.1, warning=True),
     "nitrateValue": dict(preferred=15, deviation=15, warning=True), "gHValue": dict(preferred=8, deviation=3),
     "kHValue": dict(preferred=5, deviation=2), "dioxideValue": dict(preferred=18, deviation=8),
     "ironValue": dict(preferred=0.1, deviation=0.1), "phosphateValue": dict(preferred=0.6, deviation=0.5),

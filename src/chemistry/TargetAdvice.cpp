@@ -113,10 +113,38 @@ static_assert(rowsAreInOrder(), "targetAdvices needs a row for low and a row for
 
 } // namespace
 
-TextKey targetAdviceKey(Parameter parameter, TargetState state, bool freshwater)
+bool canAimAtZero(Parameter parameter)
+{
+    switch (parameter) {
+    case Parameter::Temp:
+    case Parameter::Ph:
+    case Parameter::GH:
+    case Parameter::KH:
+    case Parameter::Salt:
+    case Parameter::Alkalinity:
+    case Parameter::Calcium:
+    case Parameter::Oxygen:
+    case Parameter::Magnesium:
+        return false;
+    case Parameter::Ammonia:
+    case Parameter::Nitrate:
+    case Parameter::Nitrite:
+    case Parameter::Phosphate:
+    case Parameter::Iodine:
+    case Parameter::Copper:
+    case Parameter::Iron:
+    case Parameter::Dioxide:
+        break;
+    }
+    return true;
+}
+
+TextKey targetAdviceKey(Parameter parameter, TargetState state, bool freshwater, float preferredValue)
 {
     if (state != Low && state != High)
         return noAdvice;
+    if (preferredValue == 0 && !canAimAtZero(parameter))
+        return "UnsetTargetAdvice";
     const TargetAdvice &advice = targetAdvices[2 * std::size_t(parameter) + (state == High ? 1 : 0)];
     return freshwater ? advice.fresh : advice.marine;
 }

@@ -73,7 +73,7 @@ std::optional<TargetWarning> targetWarning(const Tank &tank, QStringView identif
                                                  : text("HighValueMessage");
     const QString limit = shownLimit(low ? band.low : band.high);
     QString advice = text(traitsOf(*parameter).treatmentKey);
-    const TextKey particular = targetAdviceKey(*parameter, state, tank.freshwater);
+    const TextKey particular = targetAdviceKey(*parameter, state, tank.freshwater, target->preferredValue);
     if (!particular.isEmpty())
         advice += QStringLiteral("\n\n") + text(particular);
     return TargetWarning{fillPlaceholders(title, {columnTitle}), fillPlaceholders(message, {limit}) + advice};

@@ -69,7 +69,8 @@ private Q_SLOTS:
         if (warning) {
             const QString shownLimit = localizeAndTrimZeros(limit);
             QCOMPARE(warning->title, fillPlaceholders(textOf(title), {QStringLiteral("Title of ^0")}));
-            const TextKey advice = targetAdviceKey(Parameter::Ph, targetState(&target, value), tank->freshwater);
+            const TextKey advice = targetAdviceKey(Parameter::Ph, targetState(&target, value), tank->freshwater,
+                                                   target.preferredValue);
             QCOMPARE(warning->message, fillPlaceholders(textOf(message), {shownLimit}) + text("PhTreatment") +
                                            QStringLiteral("\n\n") + text(advice));
             QVERIFY(targetStateText(target, targetState(&target, value)).endsWith(shownLimit));
@@ -171,7 +172,7 @@ private Q_SLOTS:
                 const QString treatment = textOf(own.value(of.parameter, QStringLiteral("ppmTreatment")));
                 QVERIFY(treatment.size() > 100 && message.contains(treatment));
                 const QString last = message.section(treatment, 1);
-                const TextKey advice = targetAdviceKey(of.parameter, of.state, of.freshwater);
+                const TextKey advice = targetAdviceKey(of.parameter, of.state, of.freshwater, 10);
                 QCOMPARE(last, advice.isEmpty() ? QString() : QStringLiteral("\n\n") + text(advice));
                 // A treatment that serves eleven parameters says nothing about one direction.
                 QVERIFY(!last.isEmpty() || own.contains(of.parameter));
@@ -180,6 +181,23 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(figures.value("de"), figures.value("en"));
+    }
+
+    /// A new tank's targets of 0 say nothing about oxygen or salinity: no advice calls a good value too high.
+    void targetsThatNobodySet()
+    {
+        QStringList unset;
+        for (const ParameterTraits &traits : parameterTable) {
+            Tank tank(QStringLiteral("Tank"));
+            TankData &target = *tank.target(traits.parameter);
+            target.preferredValue = 0;
+            target.warningOn = true;
+            target.deviationOn = false;
+            const auto warning = targetWarning(tank, traits.identifier, 8, QStringLiteral("it"));
+            if (warning && warning->message.endsWith(text("UnsetTargetAdvice")))
+                unset << traits.identifier.toString();
+        }
+        QCOMPARE(unset, QStringList({"temp", "ph", "gH", "kH", "salt", "alkalinity", "calcium", "oxygen", "magnesium"}));
     }
 
     /// A text that serves several parameters names none of them. Urgent advice begins as its treatment says.

@@ -60,7 +60,7 @@ void TankDataEntryController::makeSheet()
         connect(number, &TargetNumberEdit::typing, this, &TankDataEntryController::highValueCheck);
         connect(number, &TargetNumberEdit::editingFinished, this, [this, number] { controlTextDidEndEditing(number); });
     }
-    connect(&sheet, &TankSheet::dismissed, this, [this] { endSheet(Dismissed); });
+    connect(&sheet, &TankSheet::dismissed, this, [this] { dismissSheet(); });
     connect(&sheet, &QDialog::finished, this, &TankDataEntryController::closeSheet);
 }
 
@@ -287,6 +287,20 @@ void TankDataEntryController::cancelAction()
         endSheet(Cancelled);
 }
 
+void TankDataEntryController::dismissSheet()
+{
+    storeNumbers();
+    const TankSheet &sheet = *m_infoPanel;
+    const bool changed = m_targetsChanged || sheet.nameField->text() != m_tank->name ||
+                         sheet.sizeField->text() != m_tank->size ||
+                         sheet.freshwaterButton->isChecked() != m_tank->freshwater;
+    // A sheet without Cancel offers no way to give up what was entered, so Escape keeps it as OK does.
+    if (changed && sheet.cancelButton->isHidden())
+        okAction();
+    else
+        endSheet(Dismissed);
+}
+
 void TankDataEntryController::endSheet(int returnCode)
 {
     m_currentData = nullptr; // a field that loses the focus to the closing sheet must not store its number
@@ -300,14 +314,8 @@ void TankDataEntryController::closeSheet(int returnCode)
     if (!tank)
         return;
     Shell &shell = Shell::shared();
-    if (returnCode == Confirmed) {
+    if (returnCode == Confirmed)
         confirm(tank);
-    } else if (m_targetsChanged && shell.tankList().indexOf(tank.get()) >= 0) {
-        // Escape discards name, size and type, but the targets have already changed. Count that change, or quitting
-        // would lose it without asking.
-        TankDataController::sharedInstance().display();
-        shell.documentModifiedWithChange(true);
-    }
     shell.orderFrontAndCheckModified();
 }
 

@@ -70,6 +70,7 @@ private:
     template <class Value>
     void store(Value TankData::*field, Value value);
     [[nodiscard]] std::optional<Parameter> chosenParameter() const;
+    void dismissSheet();
     void endSheet(int returnCode);
     void closeSheet(int returnCode);
     void confirm(const std::shared_ptr<Tank> &tank);
