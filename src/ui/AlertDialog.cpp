@@ -103,12 +103,12 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
 
 QString AlertDialog::title() const
 {
-    return m_title->toPlainText();
+    return m_title->text();
 }
 
 QString AlertDialog::message() const
 {
-    return m_message->toPlainText();
+    return m_message->text();
 }
 
 QPushButton *AlertDialog::button(AlertAnswer answer) const

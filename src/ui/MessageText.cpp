@@ -3,6 +3,7 @@
 #include "ui/MessageText.h"
 
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTextDocument>
 
@@ -13,8 +14,21 @@
 namespace brinemark
 {
 
+namespace
+{
+
+/// Joins number and unit by a blank and a mark at which no line breaks.
+QString withUnbrokenUnits(QString text)
+{
+    static const QRegularExpression concentration(QStringLiteral("(\\d) mg/l"));
+    return text.replace(concentration, QStringLiteral("\\1\u00A0mg/\u2060l"));
+}
+
+} // namespace
+
 MessageText::MessageText(const QString &text, double shareOfScreen, QWidget *parent)
     : QTextEdit(parent)
+    , m_text(text)
     , m_shareOfScreen(shareOfScreen)
 {
     setReadOnly(true);
@@ -26,7 +40,7 @@ MessageText::MessageText(const QString &text, double shareOfScreen, QWidget *par
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setPlainText(text);
+    setPlainText(withUnbrokenUnits(text));
 }
 
 QSize MessageText::sizeHint() const

@@ -9,7 +9,7 @@ namespace brinemark
 
 /// A read-only text of several lines at a readable width. It grows with its text up to a share of the screen's height
 /// and scrolls beyond that. The text can be selected and copied, and wraps inside words that are too long for a line,
-/// such as paths.
+/// such as paths, but not inside a measured value such as "5 mg/l".
 class MessageText : public QTextEdit
 {
     Q_OBJECT
@@ -19,6 +19,7 @@ public:
 
     static constexpr int readableWidth = 420; ///< pixels
 
+    [[nodiscard]] const QString &text() const { return m_text; } ///< as given
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -26,6 +27,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    QString m_text;
     double m_shareOfScreen;
 };
 
