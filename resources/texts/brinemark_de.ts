@@ -1334,6 +1334,10 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>In Salzwasser ist das die Alkalinität. Heben Sie sie mit einem gelösten Puffer für Riffbecken um höchstens 1 Grad am Tag, und testen Sie auch Calcium und Magnesium. Solange ein Test Ammoniak zeigt, warten Sie damit, denn ein Puffer hebt den pH-Wert.</translation>
     </message>
     <message>
+        <source>LastColumnToolTip</source>
+        <translation>Das Protokoll braucht mindestens eine Spalte</translation>
+    </message>
+    <message>
         <source>LengthMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>Zoll in Zentimeter, Zentimeter in Zoll, Dezimeter in Yard, Zentimeter in Fuß, Fuß in Meter, Meter in Yard, Yard in Meter</translation>

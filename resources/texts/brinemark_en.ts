@@ -1334,6 +1334,10 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>In salt water this is the alkalinity. Raise it with a dissolved buffer for reef tanks by at most 1 degree a day, and test calcium and magnesium too. While a test shows ammonia, wait, because a buffer raises the pH.</translation>
     </message>
     <message>
+        <source>LastColumnToolTip</source>
+        <translation>The log needs at least one column</translation>
+    </message>
+    <message>
         <source>LengthMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>Inches to centimetres, Centimetres to inches, Decimetres to yards, Centimetres to feet, Feet to metres, Metres to yards, Yards to metres</translation>

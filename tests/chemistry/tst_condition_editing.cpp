@@ -171,6 +171,25 @@ private Q_SLOTS:
         QCOMPARE(m_shell->undo.count(), 1);
     }
 
+    /// While a warning is open, neither a menu nor the editor of a new entry opens behind it.
+    void nothingOpensBehindAWarning()
+    {
+        m_tank->phData()->warningOn = true;
+        clickCell(table(), 1, Ph);
+        press(Qt::Key_F2);
+        type(number(9));
+        const QPoint place = table()->visualRect(table()->model()->index(3, Ph)).center();
+        QContextMenuEvent ask(QContextMenuEvent::Keyboard, place, table()->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(table()->viewport(), &ask);
+        QTRY_VERIFY(shownAlert());
+        QVERIFY(!QApplication::activePopupWidget());
+        log().newEntry();
+        QVERIFY(!editor());
+        QVERIFY(pressAlertButton("defaultButton"));
+        QTRY_VERIFY(editor() && editor()->hasFocus());
+        QCOMPARE(table()->currentIndex().row(), selectedRows(table()).value(0));
+    }
+
     void datesComeFromTheCalendar_data()
     {
         // key: 0 for a click

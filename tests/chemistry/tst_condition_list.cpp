@@ -143,7 +143,11 @@ private Q_SLOTS:
         QCOMPARE(storedIdentifiers(controller), QStringList({"ph", "iron"}));
         for (const char *last : {"column.ph", "column.iron"})
             window->findChild<QCheckBox *>(QLatin1String(last))->click();
-        QCOMPARE(storedIdentifiers(controller), QStringList()); // hiding all of them is a layout as well
+        controller.toogleConditionColumn(32);
+        QCOMPARE(storedIdentifiers(controller), QStringList("iron")); // the last one stays
+        QVERIFY(iron->isChecked() && !iron->isEnabled());
+        window->findChild<QCheckBox *>(QStringLiteral("column.ph"))->click();
+        QVERIFY(iron->isEnabled());
     }
 
 private:

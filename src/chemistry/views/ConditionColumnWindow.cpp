@@ -9,6 +9,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace brinemark
 {
 
@@ -55,9 +57,14 @@ void ConditionColumnWindow::showColumns(const QString &tankName, const std::func
 {
     m_label->setText(fillPlaceholders(text("ConditionColumnsLabel"), {tankName}));
     m_checks->setEnabled(!tankName.isNull());
+    const auto shown = std::ranges::count_if(
+        conditionColumnTable, [&](const ConditionColumnTraits &column) { return isShown(column.tag); });
     for (const ConditionColumnTraits &column : conditionColumnTable) {
-        if (auto *check = m_checks->findChild<QCheckBox *>(checkName(column)))
-            check->setChecked(isShown(column.tag));
+        auto *check = m_checks->findChild<QCheckBox *>(checkName(column));
+        check->setChecked(isShown(column.tag));
+        const bool isLast = shown == 1 && check->isChecked();
+        check->setEnabled(!isLast);
+        check->setToolTip(isLast ? text("LastColumnToolTip") : QString());
     }
 }
 

@@ -200,7 +200,6 @@ void ConditionListController::warningCheckIdentifier(QStringView identifier, dou
 
 void ConditionListController::closeWarningSheet()
 {
-    Shell::shared().mainWindow()->activateWindow();
     if (table())
         table()->releaseEditing();
 }
@@ -266,6 +265,10 @@ void ConditionListController::toogleConditionColumn(int tag)
     const ConditionColumnTraits *column = conditionColumnFromTag(tag);
     if (!column || !table() || !model().container())
         return;
+    if (isColumnVisible(tag) && model().columnCount() == 1) { // a log without columns offers nothing to act on
+        beep();
+        return;
+    }
     finishTyping(table()->window());
     columns().toggleColumn(column->identifier);
     // A column that appears belongs to the selected rows as well.

@@ -141,7 +141,10 @@ void CalendarController::leave(QPoint globalPoint)
         return;
     const QWidget *window = m_table->window();
     const QWidget *pressed = window->childAt(window->mapFromGlobal(globalPoint));
-    if (isAt(table()->horizontalHeader(), globalPoint) || qobject_cast<const QSplitterHandle *>(pressed)) {
+    const bool onFrame =
+        window->frameGeometry().contains(globalPoint) && !window->geometry().contains(globalPoint);
+    // Each of these moves or resizes what the calendar belongs to.
+    if (onFrame || isAt(table()->horizontalHeader(), globalPoint) || qobject_cast<const QSplitterHandle *>(pressed)) {
         closeAndSave(false, false);
         return;
     }

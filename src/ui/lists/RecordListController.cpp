@@ -100,7 +100,8 @@ void RecordListController::makeMenus()
     contextMenu->setObjectName(QLatin1String(m_traits.menuName));
     m_table->menuAsked = [this, contextMenu](const QPoint &place) {
         finishTyping(m_table->window());
-        contextMenu->popup(place);
+        if (!m_table->isEditingHeld()) // a sheet about the stored value has opened
+            contextMenu->popup(place);
     };
     m_page->addActionMenu(makeListMenu(m_traits.menu, *this, m_page));
 }

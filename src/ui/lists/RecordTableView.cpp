@@ -2,6 +2,7 @@
 
 #include "ui/lists/RecordTableView.h"
 
+#include "ui/Alerts.h"
 #include "ui/ReturnKey.h"
 #include "ui/lists/RecordSelectionModel.h"
 
@@ -118,6 +119,8 @@ void RecordTableView::keyPressEvent(QKeyEvent *event)
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     const int key = event->key();
     event->accept();
+    if (dropsKey(*event))
+        return;
     if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) && m_deletePressed) {
         m_deletePressed();
         return;
@@ -141,6 +144,22 @@ void RecordTableView::keyPressEvent(QKeyEvent *event)
         selection->endGesture();
 }
 
+/// Whether the key would type into, or delete, another record than the one that a dropped press was aimed at.
+bool RecordTableView::dropsKey(const QKeyEvent &event)
+{
+    const int key = event.key();
+    const bool isModifier = (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+    if (!m_pressDropped || isModifier)
+        return false;
+    const bool types = !event.text().isEmpty() && event.text().front().isPrint();
+    if (types || key == Qt::Key_Delete || key == Qt::Key_Backspace) {
+        beep();
+        return true;
+    }
+    m_pressDropped = false;
+    return false;
+}
+
 void RecordTableView::mousePressEvent(QMouseEvent *event)
 {
     RecordSelectionModel *selection = recordSelection();
@@ -148,7 +167,7 @@ void RecordTableView::mousePressEvent(QMouseEvent *event)
         selection->beginGesture();
     QTableView::mousePressEvent(event);
     m_pressDropped = selection && selection->dropsGesture();
-    if (selection && m_held) // a sheet has opened and receives the release of the button
+    if (selection && isEditingHeld()) // a sheet has opened and receives the release of the button
         selection->endGesture();
 }
 
@@ -220,7 +239,7 @@ void RecordTableView::editCell(const QModelIndex &cell)
         return;
     selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
     scrollTo(cell);
-    if (m_held)
+    if (isEditingHeld())
         m_toEdit = cell;
     else
         edit(cell);
@@ -238,7 +257,7 @@ void RecordTableView::finishEditing()
 
 void RecordTableView::holdEditing()
 {
-    m_held = true;
+    ++m_holds;
     m_toEdit = QModelIndex();
     if (RecordSelectionModel *selection = recordSelection())
         selection->endGesture();
@@ -246,7 +265,9 @@ void RecordTableView::holdEditing()
 
 void RecordTableView::releaseEditing()
 {
-    m_held = false;
+    if (m_holds == 0 || --m_holds > 0)
+        return;
+    window()->activateWindow();
     const QModelIndex cell = std::exchange(m_toEdit, QPersistentModelIndex());
     if (cell.isValid())
         editCell(cell);

@@ -34,9 +34,11 @@ public:
     void editCell(const QModelIndex &cell);
     void finishEditing(); ///< commits what is being typed, if anything
 
-    /// For the time of a sheet: no editor opens between these two calls.
+    /// For the time of a sheet: no editor opens between these two calls. Sheets can follow each other: an editor opens
+    /// when the last of them has been released, in an active window.
     void holdEditing();
     void releaseEditing();
+    [[nodiscard]] bool isEditingHeld() const { return m_holds > 0; }
 
 protected:
     void commitData(QWidget *editor) override;
@@ -50,13 +52,16 @@ protected:
 
 private:
     void fitRowHeight();
+    [[nodiscard]] bool dropsKey(const QKeyEvent &event);
     [[nodiscard]] QModelIndex typableCellBeside(const QModelIndex &row, int visualColumn, int step) const;
     [[nodiscard]] RecordSelectionModel *recordSelection() const;
 
     std::function<void()> m_deletePressed;
     QPersistentModelIndex m_toEdit; ///< the cell to edit when editing is released
-    bool m_held = false;
-    bool m_pressDropped = false; ///< the last press ended a pending re-sort: all that belongs to it is dropped
+    int m_holds = 0;
+    /// The last press ended a pending re-sort. All that belongs to it is dropped: its second press, its menu, and what
+    /// is typed before a cell is chosen anew.
+    bool m_pressDropped = false;
     bool m_committing = false;
 };
 

@@ -148,8 +148,13 @@ private Q_SLOTS:
         }
         QCOMPARE(activities(), "bcdez");
         QCOMPARE(selectedRows(table()), QList<int>{4}); // still "z"
+        QTest::keyClicks(table(), QStringLiteral("x"));
         QVERIFY(!editor() && !CalendarController::sharedInstance().isOpen());
         QCOMPARE(menus, 0);
+        QTest::keyClick(table(), Qt::Key_Up);
+        QTest::keyClicks(table(), QStringLiteral("x"));
+        QVERIFY(editor());
+        QTest::keyClick(editor(), Qt::Key_Escape);
 
         clickCell(table(), 1, Activity); // the next gesture counts
         QTest::mouseDClick(viewport, Qt::LeftButton, {}, at(1, Activity));
