@@ -1963,6 +1963,10 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Wählen …</translation>
     </message>
     <message>
+        <source>PictureDamaged</source>
+        <translation>Die Datei ist beschädigt oder nicht vollständig.</translation>
+    </message>
+    <message>
         <source>PictureFilter</source>
         <translation>Bilder</translation>
     </message>
@@ -1971,8 +1975,25 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Bild: </translation>
     </message>
     <message>
+        <source>PictureNotAPicture</source>
+        <translation>Wählen Sie ein Bild in einem der Formate PNG, JPEG, WebP, GIF, BMP oder TIFF.</translation>
+    </message>
+    <message>
+        <source>PictureNotReadable</source>
+        <translation>Die Datei kann nicht gelesen werden. Prüfen Sie, ob sie noch da ist und ob Sie sie öffnen dürfen.</translation>
+    </message>
+    <message>
+        <source>PictureRefusedTitle</source>
+        <extracomment>^0 is the name of the file</extracomment>
+        <translation>Das Bild „^0“ kann nicht verwendet werden.</translation>
+    </message>
+    <message>
         <source>PictureRemove</source>
         <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>PictureTooLarge</source>
+        <translation>Es ist zu groß. Ein Bild darf bis zu 100 Millionen Bildpunkte haben.</translation>
     </message>
     <message>
         <source>PlantBreedingMenu</source>
@@ -2143,6 +2164,15 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>SaveTitle</source>
         <translation>Möchten Sie die Änderungen an dieser Aquariendatei speichern?</translation>
+    </message>
+    <message>
+        <source>SavingPicturesMessage</source>
+        <translation>Einige Bilder werden zuvor in PNG umgewandelt.</translation>
+    </message>
+    <message>
+        <source>SavingPicturesTitle</source>
+        <extracomment>^0 is the name of the file</extracomment>
+        <translation>„^0“ wird gesichert …</translation>
     </message>
     <message>
         <source>ScheduleCustomDays</source>

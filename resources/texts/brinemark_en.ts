@@ -1963,6 +1963,10 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Choose…</translation>
     </message>
     <message>
+        <source>PictureDamaged</source>
+        <translation>The file is damaged or not complete.</translation>
+    </message>
+    <message>
         <source>PictureFilter</source>
         <translation>Pictures</translation>
     </message>
@@ -1971,8 +1975,25 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Picture: </translation>
     </message>
     <message>
+        <source>PictureNotAPicture</source>
+        <translation>Choose a picture in one of the formats PNG, JPEG, WebP, GIF, BMP or TIFF.</translation>
+    </message>
+    <message>
+        <source>PictureNotReadable</source>
+        <translation>The file cannot be read. See whether it is still there and whether you may open it.</translation>
+    </message>
+    <message>
+        <source>PictureRefusedTitle</source>
+        <extracomment>^0 is the name of the file</extracomment>
+        <translation>The picture “^0” cannot be used.</translation>
+    </message>
+    <message>
         <source>PictureRemove</source>
         <translation>Remove</translation>
+    </message>
+    <message>
+        <source>PictureTooLarge</source>
+        <translation>It is too large. A picture may have up to 100 million pixels.</translation>
     </message>
     <message>
         <source>PlantBreedingMenu</source>
@@ -2143,6 +2164,15 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>SaveTitle</source>
         <translation>Do you want to save the changes to this tank file?</translation>
+    </message>
+    <message>
+        <source>SavingPicturesMessage</source>
+        <translation>Some pictures are being converted to PNG first.</translation>
+    </message>
+    <message>
+        <source>SavingPicturesTitle</source>
+        <extracomment>^0 is the name of the file</extracomment>
+        <translation>Saving “^0”…</translation>
     </message>
     <message>
         <source>ScheduleCustomDays</source>

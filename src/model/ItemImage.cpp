@@ -2,56 +2,42 @@
 
 #include "model/ItemImage.h"
 
-#include <QBuffer>
+#include "model/pictures/PictureReader.h"
+#include "model/pictures/PngConversion.h"
 
 namespace brinemark
 {
 
-namespace
+ItemImage::ItemImage(const QByteArray &encoded)
 {
-
-QByteArray pngOf(const QImage &image)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (!image.save(&buffer, "PNG"))
-        return {};
-    return bytes;
+    static quint64 lastIdentity = 0;
+    if (!encoded.isEmpty())
+        m_shared = std::make_shared<Shared>(Shared{encoded, ++lastIdentity, pictureFormat(encoded) == "png"});
 }
-
-} // namespace
 
 ItemImage ItemImage::fromImage(const QImage &image)
 {
-    if (image.isNull())
-        return {};
-    ItemImage result(pngOf(image));
-    result.m_decoded = image;
-    result.m_looked = true;
-    return result;
+    return ItemImage(pngBytes(image));
+}
+
+const QByteArray &ItemImage::encoded() const
+{
+    static const QByteArray none;
+    return m_shared ? m_shared->encoded : none;
 }
 
 QImage ItemImage::image() const
 {
-    if (!m_looked) {
-        m_looked = true;
-        if (!m_encoded.isEmpty())
-            m_decoded.loadFromData(m_encoded);
-    }
-    return m_decoded;
+    return readPicture(encoded()).image;
 }
 
-QByteArray ItemImage::fileData() const
+void ItemImage::setConverted(const QByteArray &png)
 {
-    if (m_encoded.isEmpty() || m_encoded.startsWith("\x89PNG\r\n\x1a\n"))
-        return m_encoded;
-    // Convert only once, and do not keep the decoded picture: a file may hold thousands that are never shown.
-    const QByteArray png = m_converted ? QByteArray() : pngOf(m_looked ? m_decoded : QImage::fromData(m_encoded));
-    m_converted = true;
+    if (!m_shared)
+        return;
+    m_shared->converted = true;
     if (!png.isEmpty())
-        m_encoded = png;
-    return m_encoded;
+        m_shared->encoded = png;
 }
 
 } // namespace brinemark

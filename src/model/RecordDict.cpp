@@ -142,7 +142,7 @@ plist::Value give(const Amount &member, Encoding)
 }
 plist::Value give(const ItemImage &member, Encoding)
 {
-    return member.isNone() ? plist::Value() : plist::Value(member.fileData());
+    return member.isNone() ? plist::Value() : plist::Value(member.encoded());
 }
 
 template <class R>

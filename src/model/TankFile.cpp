@@ -6,6 +6,7 @@
 #include "base/plist/XmlWriter.h"
 #include "model/Tank.h"
 #include "model/TankFileKeys.h"
+#include "model/pictures/PngConversion.h"
 
 namespace brinemark
 {
@@ -26,6 +27,7 @@ TankFileContent readTankDictionary(const QString &path)
 
 plist::Dict tankFileDictionary(const TankList &tanks, int selectedRow, qint64 bundleVersion)
 {
+    convertPicturesNow(tanks);
     plist::Dict root;
     QString metaNotes;
     plist::Array metaKeywords;

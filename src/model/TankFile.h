@@ -29,6 +29,7 @@ struct TankFileContent {
 [[nodiscard]] bool looksLikeTankFile(const QString &path);
 
 /// The root dictionary of a file with these tanks. `selectedRow` is the selected row of the tank tree, -1 for none.
+/// Pictures that have not been converted to PNG in the background are converted first.
 [[nodiscard]] plist::Dict tankFileDictionary(const TankList &tanks, int selectedRow, qint64 bundleVersion);
 
 /// Serialises the dictionary and replaces the file by it in one step. On failure the old file is unchanged.

@@ -5,7 +5,10 @@
 #include "livestock/views/FishDataEntryController.h"
 #include "livestock/views/ItemSheet.h"
 #include "livestock/views/LivestockGroupController.h"
+#include "livestock/views/PictureView.h"
+#include "support/AlertDriver.h"
 #include "support/DataRow.h"
+#include "support/Files.h"
 #include "support/RecordingShell.h"
 #include "support/TestHome.h"
 #include "support/TestProgram.h"
@@ -18,7 +21,28 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <ctime>
+
 using namespace brinemark;
+
+namespace
+{
+
+QImage colouredImage(const QColor &colour, const QSize &size = {20, 10})
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(colour);
+    return image;
+}
+
+double processorSeconds(clockid_t clock)
+{
+    timespec time{};
+    clock_gettime(clock, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
+}
+
+} // namespace
 
 class TestLivestockViews : public QObject
 {
@@ -37,6 +61,7 @@ private Q_SLOTS:
         LivestockGroupController::destroyShared();
         FishDataController::destroyShared();
         FishDataEntryController::destroyShared();
+        PictureCache::destroyShared();
         m_tank.reset();
         m_shell.reset();
     }
@@ -113,10 +138,8 @@ private Q_SLOTS:
         field(sheet, "count").setText(QStringLiteral("7"));
         sheet.findChild<QComboBox *>(QStringLiteral("reefSafe"))->setCurrentIndex(0);
         QTest::keyClicks(sheet.findChild<QPlainTextEdit *>(QStringLiteral("notes")), QStringLiteral("shy"));
-        QImage picture(20, 10, QImage::Format_RGB32);
-        picture.fill(Qt::red);
         const QString path = m_home.filePath(QStringLiteral("tang.png"));
-        QVERIFY(picture.save(path));
+        QVERIFY(colouredImage(Qt::red).save(path));
         sheet.chooseImage(path);
         press(sheet, "okButton");
         QCOMPARE(fish.name, QStringLiteral("Tang"));
@@ -144,15 +167,57 @@ private Q_SLOTS:
         QVERIFY(fish.itemImage.isNone());
     }
 
-    void noPictureBeeps()
+    void refusedPicturesLeaveTheOldOne()
     {
-        ItemSheet sheet(nullptr);
         FishData &fish = addFish();
-        sheet.showItem(fish);
-        sheet.chooseImage(QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml"));
-        QCOMPARE(m_shell->beeps, 1);
-        sheet.storeInto(fish);
-        QVERIFY(fish.itemImage.isNone());
+        fish.itemImage = ItemImage::fromImage(colouredImage(Qt::red));
+        const QByteArray before = fish.itemImage.encoded();
+        const QString damaged = m_home.filePath(QStringLiteral("damaged.png"));
+        QVERIFY(test::writeFile(damaged, before.chopped(20)));
+        for (const QString &path : {QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml"), damaged}) {
+            ItemSheet &sheet = open(fish);
+            sheet.chooseImage(path);
+            press(sheet, "okButton"); // it is only now known that the second file is damaged
+            AlertDialog *alert = test::shownAlert();
+            QVERIFY(alert && alert->title().contains(QFileInfo(path).fileName()));
+            alert->reject();
+            QCOMPARE(sheet.isVisible(), path == damaged);
+            press(sheet, "okButton");
+            QCOMPARE(fish.itemImage.encoded(), before);
+        }
+        QCOMPARE(m_shell->beeps, 2);
+    }
+
+    void picturesAreDecodedInTheBackgroundAndNotKeptForEver()
+    {
+        FishDataController &controller = FishDataController::sharedInstance();
+        controller.view()->setParent(&m_shell->window);
+        controller.view()->show();
+        auto *view = controller.view()->findChild<PictureView *>();
+        PictureCache &cache = PictureCache::sharedInstance();
+        QCOMPARE(cache.limit(), qsizetype(128) << 20);
+        cache.setLimit(3 * 160 * 120 * 4);
+        const auto colourShown = [&] { return view->grab().toImage().pixelColor(view->width() / 2, 20); };
+        FishData &fish = addFish();
+        fish.itemImage = ItemImage::fromImage(colouredImage(Qt::green, {3000, 3000})); // never shown: it takes longer
+        controller.displayItemData(&fish);
+        for (int hue = 0; hue < 200; hue += 20) {
+            fish.itemImage = ItemImage::fromImage(colouredImage(QColor::fromHsv(hue, 255, 255)));
+            controller.displayItemData(&fish);
+            QVERIFY(!view->showsPlaceholder());
+            cache.finishRequests();
+            QCOMPARE(colourShown(), QColor::fromHsv(hue, 255, 255).toRgb());
+            QVERIFY(cache.used() > 0 && cache.used() <= cache.limit());
+        }
+
+        fish.itemImage = ItemImage::fromImage(colouredImage(Qt::blue, {3000, 3000}));
+        const double all = processorSeconds(CLOCK_PROCESS_CPUTIME_ID);
+        const double here = processorSeconds(CLOCK_THREAD_CPUTIME_ID);
+        controller.displayItemData(&fish);
+        cache.finishRequests();
+        QVERIFY(processorSeconds(CLOCK_THREAD_CPUTIME_ID) - here <
+                (processorSeconds(CLOCK_PROCESS_CPUTIME_ID) - all) / 2);
+        QCOMPARE(colourShown(), QColor(Qt::blue));
     }
 
     void profileForgetsWhatIsGone()

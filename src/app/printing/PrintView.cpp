@@ -3,6 +3,7 @@
 #include "app/printing/PrintView.h"
 
 #include "ui/PrintSheet.h"
+#include "ui/pictures/PictureCache.h"
 
 #include <QPainter>
 #include <QPrinter>
@@ -22,6 +23,7 @@ bool paintView(QPrinter &printer, QWidget &view)
     const QRectF page = printer.pageLayout().paintRectPixels(printer.resolution());
     const qreal scale = qMin(page.width() / view.width(), page.height() / view.height());
     painter.scale(scale, scale);
+    PictureCache::sharedInstance().finishRequests();
     view.render(&painter);
     return true;
 }

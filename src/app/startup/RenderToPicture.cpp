@@ -4,6 +4,7 @@
 
 #include "app/ShoalwatchController.h"
 #include "app/window/MainWindow.h"
+#include "ui/pictures/PictureCache.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -16,6 +17,7 @@ bool renderToPicture(const QString &path)
     MainWindow &window = ShoalwatchController::sharedInstance().window();
     window.show();
     QApplication::processEvents(); // completes the layout
+    PictureCache::sharedInstance().finishRequests();
     return window.grab().save(path, "PNG");
 }
 

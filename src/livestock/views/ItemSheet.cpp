@@ -7,16 +7,18 @@
 #include "livestock/views/PictureView.h"
 #include "model/ItemData.h"
 #include "model/KeyAccess.h"
+#include "model/pictures/PictureReader.h"
 #include "ui/Alerts.h"
 #include "ui/CaptionForm.h"
 #include "ui/MultiLineEdit.h"
 #include "ui/Spacing.h"
+#include "ui/pictures/PictureConverter.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
-#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -48,6 +50,22 @@ constexpr bool standsAlone(const ProfileField &field)
     return std::none_of(profileFields.begin(), profileFields.end(), [&](const ProfileField &other) {
         return other.row == field.row && other.column != field.column;
     });
+}
+
+TextKey refusalText(PictureProblem problem)
+{
+    switch (problem) {
+    case PictureProblem::NotReadable:
+        return "PictureNotReadable"_key;
+    case PictureProblem::TooLarge:
+        return "PictureTooLarge"_key;
+    case PictureProblem::Damaged:
+        return "PictureDamaged"_key;
+    case PictureProblem::NotAPicture:
+    case PictureProblem::None:
+        break;
+    }
+    return "PictureNotAPicture"_key;
 }
 
 constexpr std::array reefSafeCodes{reefsafe::yes, reefsafe::no, reefsafe::unknown};
@@ -86,7 +104,7 @@ ItemSheet::ItemSheet(QWidget *parent)
     column->addLayout(notes, 1);
     column->addWidget(buttons);
 
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::accepted, this, &ItemSheet::acceptOnceDecoded);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
@@ -149,8 +167,13 @@ QWidget *ItemSheet::makePictureColumn()
     column->addLayout(buttons);
     connect(chooseButton, &QPushButton::clicked, this, &ItemSheet::chooseImageAction);
     connect(m_deleteImageButton, &QPushButton::clicked, this, [this] {
-        showImage({});
-        m_imageChanged = true;
+        m_chosenFile.clear();
+        showPicture({});
+    });
+    connect(m_picture, &PictureView::decoded, this, [this](bool ok) {
+        if (!ok && !m_chosenFile.isEmpty())
+            refusePicture(PictureProblem::Damaged);
+        m_chosenFile.clear();
     });
     return pictureColumn;
 }
@@ -175,10 +198,8 @@ void ItemSheet::showItem(const ItemData &item)
     }
     m_reefSafe->setCurrentIndex(m_reefSafe->findData(item.reefSafe));
     m_notes->setPlainText(item.notes);
-    showImage(item.itemImage.image());
-    // Enabled also when the record holds bytes that are no readable picture.
-    m_deleteImageButton->setEnabled(!item.itemImage.isNone());
-    m_imageChanged = false;
+    m_chosenFile.clear();
+    showPicture(item.itemImage);
     QLineEdit *name = m_fields.value(QStringLiteral("name"));
     name->setFocus();
     name->selectAll();
@@ -206,17 +227,13 @@ void ItemSheet::storeInto(ItemData &item) const
         item.reefSafe = m_reefSafe->currentData().toInt();
     if (m_notes->toPlainText() != item.notes && m_notes->document()->isModified())
         item.notes = m_notes->toPlainText();
-    if (m_imageChanged)
-        item.itemImage = ItemImage::fromImage(m_image);
+    item.itemImage = m_image;
 }
 
 void ItemSheet::chooseImageAction()
 {
-    QStringList patterns;
-    for (const QByteArray &format : QImageReader::supportedImageFormats())
-        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-    auto *panel = new QFileDialog(this, {}, {},
-                                  text("PictureFilter") + QStringLiteral(" (%1)").arg(patterns.join(QLatin1Char(' '))));
+    const QString patterns = pictureFilePatterns().join(QLatin1Char(' '));
+    auto *panel = new QFileDialog(this, {}, {}, text("PictureFilter") + QStringLiteral(" (%1)").arg(patterns));
     panel->setObjectName(QStringLiteral("imagePanel"));
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
@@ -226,22 +243,41 @@ void ItemSheet::chooseImageAction()
 
 void ItemSheet::chooseImage(const QString &path)
 {
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QImage image = reader.read();
-    if (image.isNull()) {
-        beep();
+    const PictureFile file = readPictureFile(path);
+    m_chosenFile = QFileInfo(path).fileName();
+    m_imageBefore = m_image;
+    if (file.problem != PictureProblem::None) {
+        refusePicture(file.problem);
         return;
     }
-    showImage(image);
-    m_imageChanged = true;
+    const ItemImage chosen(file.bytes);
+    PictureConverter::sharedInstance().convertLater(chosen);
+    showPicture(chosen);
 }
 
-void ItemSheet::showImage(const QImage &image)
+void ItemSheet::acceptOnceDecoded()
 {
-    m_image = image;
-    m_picture->setImage(image);
-    m_deleteImageButton->setEnabled(!image.isNull());
+    const ItemImage chosen = m_image;
+    PictureCache::sharedInstance().finishRequests();
+    if (m_image == chosen) // it is another one when the chosen picture was refused just now
+        accept();
+}
+
+void ItemSheet::showPicture(const ItemImage &picture)
+{
+    m_image = picture;
+    m_picture->setPicture(picture);
+    // Enabled also when the record holds bytes that are no readable picture.
+    m_deleteImageButton->setEnabled(!picture.isNone());
+}
+
+void ItemSheet::refusePicture(PictureProblem problem)
+{
+    beep();
+    const Alert alert{.title = fillPlaceholders(text("PictureRefusedTitle"), {std::exchange(m_chosenFile, {})}),
+                      .message = text(refusalText(problem))};
+    showPicture(m_imageBefore);
+    beginAlertSheet(this, alert);
 }
 
 } // namespace brinemark

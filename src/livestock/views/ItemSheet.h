@@ -2,9 +2,10 @@
 
 #pragma once
 
+#include "model/ItemImage.h"
+
 #include <QDialog>
 #include <QHash>
-#include <QImage>
 
 class QComboBox;
 class QGridLayout;
@@ -16,6 +17,7 @@ namespace brinemark
 
 class MultiLineEdit;
 class PictureView;
+enum class PictureProblem;
 struct ItemData;
 
 /// The form for editing a livestock record. Object names: "itemSheet", each field by its key ("sciName" ...),
@@ -31,14 +33,18 @@ public:
     /// Stores the changed fields; fields that the user did not change keep their exact value.
     void storeInto(ItemData &item) const;
 
-    void chooseImage(const QString &path); ///< beeps when the file is not a readable picture
+    /// Shows the picture and converts it in the background. A file that is no picture leaves the old one, with an alert
+    /// that says why; so does a damaged one once this is known.
+    void chooseImage(const QString &path);
 
 private:
     QWidget *makeFields();
     QWidget *makePictureColumn();
     void addField(QGridLayout &grid, int row, int column, const QString &caption, const QString &key);
     void chooseImageAction();
-    void showImage(const QImage &image);
+    void showPicture(const ItemImage &picture);
+    void refusePicture(PictureProblem problem);
+    void acceptOnceDecoded();
 
     QHash<QString, QLineEdit *> m_fields;
     QHash<QString, QString> m_shown; ///< the initial texts of the fields, by key
@@ -46,8 +52,9 @@ private:
     MultiLineEdit *m_notes = nullptr;
     PictureView *m_picture = nullptr;
     QPushButton *m_deleteImageButton = nullptr;
-    QImage m_image;
-    bool m_imageChanged = false;
+    ItemImage m_image;       ///< the record's own, unless another one was chosen
+    ItemImage m_imageBefore; ///< shown before the one that was chosen last
+    QString m_chosenFile;    ///< its name, until the picture is decoded
 };
 
 } // namespace brinemark

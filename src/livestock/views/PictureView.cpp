@@ -15,28 +15,44 @@ PictureView::PictureView(const QSize &size, QWidget *parent)
     setFixedSize(size);
 }
 
-void PictureView::setImage(const QImage &image)
+void PictureView::setPicture(const ItemImage &picture)
 {
-    m_image = image;
-    m_scaled = {};
+    const bool same = picture.identity() == m_picture.identity();
+    m_picture = picture;
+    if (same)
+        return;
+    m_shown = {};
+    m_request = nullptr;
+    if (!picture.isNone())
+        requestPicture();
     update();
+}
+
+void PictureView::requestPicture()
+{
+    m_requestedRatio = devicePixelRatioF();
+    m_request = PictureCache::sharedInstance().request(m_picture, size() * m_requestedRatio,
+                                                       [this, ratio = m_requestedRatio](const QImage &image) {
+                                                           m_shown = image;
+                                                           m_shown.setDevicePixelRatio(ratio);
+                                                           m_request = nullptr;
+                                                           update();
+                                                           Q_EMIT decoded(!image.isNull());
+                                                       });
 }
 
 void PictureView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    if (m_image.isNull()) {
+    if (showsPlaceholder()) {
         icon("Profileplaceholder3").paint(&painter, rect());
         return;
     }
-    const qreal ratio = devicePixelRatioF();
-    if (m_scaled.isNull() || m_scaled.devicePixelRatio() != ratio) {
-        m_scaled = QPixmap::fromImage(m_image.scaled(size() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        m_scaled.setDevicePixelRatio(ratio);
-    }
-    const QSizeF shown = m_scaled.deviceIndependentSize();
+    if (m_requestedRatio != devicePixelRatioF()) // the window was moved to another screen
+        requestPicture();
+    const QSizeF shown = m_shown.deviceIndependentSize();
     // At the top, level with the text beside it.
-    painter.drawPixmap(QPointF((width() - shown.width()) / 2, 0), m_scaled);
+    painter.drawImage(QPointF((width() - shown.width()) / 2, 0), m_shown);
 }
 
 } // namespace brinemark

@@ -112,7 +112,7 @@ void ProfileView::showItem(const ItemData *item)
     m_titleLine->setSecondary(item && item->tank ? item->tank->name : QString());
     if (!item)
         return;
-    m_picture->setImage(item->itemImage.image());
+    m_picture->setPicture(item->itemImage);
     m_name->setText(item->name);
     m_sciName->setText(item->sciName);
     m_family->setText(item->family);
