@@ -3,6 +3,7 @@
 #include "app/documents/DocumentCommands.h"
 
 #include "app/documents/FilePanels.h"
+#include "app/documents/PicturePreparation.h"
 #include "app/documents/TankDocument.h"
 #include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
@@ -32,12 +33,17 @@ Alert unsavedChangesAlert(TextKey title)
 DocumentCommands::DocumentCommands(TankDocument &document, QWidget *window, std::function<void(bool)> replyToQuit)
     : m_document(document)
     , m_window(window)
+    , m_pictures(std::make_unique<PicturePreparation>(document.tanks(), window))
     , m_replyToQuit(std::move(replyToQuit))
 {
 }
 
+DocumentCommands::~DocumentCommands() = default;
+
 void DocumentCommands::newDataFile()
 {
+    if (m_pictures->delays([this] { newDataFile(); }))
+        return;
     finishTyping(m_window);
     m_handedOver.clear();
     if (m_document.isEdited())
@@ -48,6 +54,8 @@ void DocumentCommands::newDataFile()
 
 void DocumentCommands::openDataFile()
 {
+    if (m_pictures->delays([this] { openDataFile(); }))
+        return;
     finishTyping(m_window);
     m_handedOver.clear(); // a file handed over earlier is still set when its opening was cancelled in the save panel
     goOnOpening();
@@ -68,6 +76,8 @@ void DocumentCommands::goOnOpening()
 
 bool DocumentCommands::openFile(const QString &path)
 {
+    if (m_pictures->delays([this, path] { openFile(path); }))
+        return true;
     finishTyping(m_window);
     if (!m_document.isEdited() || path == m_document.representedFilename())
         return m_document.readTankFileWithPath(path);
@@ -104,8 +114,8 @@ void DocumentCommands::closeSaveBeforeNewFileSheet(int returnCode, Context conte
     case AlertDefault:
         if (m_document.representedFilename().isEmpty())
             saveTankFileWithContext(context);
-        else if (writeToCurrentPath(context))
-            goOn(context);
+        else
+            writeToCurrentPath(context);
         break;
     case AlertAlternate:
         // The change count is not reset: when the open panel is then cancelled, the edits stay in memory, but the
@@ -136,25 +146,39 @@ void DocumentCommands::goOn(Context context)
     }
 }
 
-bool DocumentCommands::writeToCurrentPath(Context context)
+void DocumentCommands::onceReadyToWrite(const QString &path, Context context, std::function<void()> write)
 {
-    switch (m_document.writeTankFileWithPath(m_document.representedFilename())) {
-    case TankDocument::WriteOutcome::Cancelled:
-        if (context == Context::Quit)
+    m_pictures->prepare(QFileInfo(path).fileName(), [this, context, write = std::move(write)](bool ready) {
+        if (ready)
+            write();
+        else if (context == Context::Quit)
             m_replyToQuit(false);
-        return false;
-    case TankDocument::WriteOutcome::SaveElsewhere:
-        saveTankFileWithContext(context);
-        return false;
-    case TankDocument::WriteOutcome::Written:
-    case TankDocument::WriteOutcome::Failed: // already reported to the user; the caller continues
-        break;
-    }
-    return true;
+    });
+}
+
+void DocumentCommands::writeToCurrentPath(Context context)
+{
+    onceReadyToWrite(m_document.representedFilename(), context, [this, context] {
+        switch (m_document.writeTankFileWithPath(m_document.representedFilename())) {
+        case TankDocument::WriteOutcome::Cancelled:
+            if (context == Context::Quit)
+                m_replyToQuit(false);
+            break;
+        case TankDocument::WriteOutcome::SaveElsewhere:
+            saveTankFileWithContext(context);
+            break;
+        case TankDocument::WriteOutcome::Written:
+        case TankDocument::WriteOutcome::Failed: // already reported to the user
+            goOn(context);
+            break;
+        }
+    });
 }
 
 void DocumentCommands::saveCurrentFile()
 {
+    if (m_pictures->delays([this] { saveCurrentFile(); }))
+        return;
     finishTyping(m_window);
     if (m_document.representedFilename().isEmpty())
         saveTankFileWithContext(Context::None);
@@ -164,6 +188,8 @@ void DocumentCommands::saveCurrentFile()
 
 void DocumentCommands::saveAsCurrentFile()
 {
+    if (m_pictures->delays([this] { saveAsCurrentFile(); }))
+        return;
     finishTyping(m_window);
     saveTankFileWithContext(Context::None);
 }
@@ -185,7 +211,12 @@ void DocumentCommands::savePanelDidEnd(const FilePanelAnswer &answer, Context co
             m_replyToQuit(false);
         return;
     }
-    switch (m_document.writeTankFileWithPath(answer.path)) {
+    onceReadyToWrite(answer.path, context, [this, path = answer.path, context] { writeFromSavePanel(path, context); });
+}
+
+void DocumentCommands::writeFromSavePanel(const QString &path, Context context)
+{
+    switch (m_document.writeTankFileWithPath(path)) {
     case TankDocument::WriteOutcome::Cancelled:
         if (context == Context::Quit)
             m_replyToQuit(false);
@@ -198,12 +229,14 @@ void DocumentCommands::savePanelDidEnd(const FilePanelAnswer &answer, Context co
         break;
     }
     if (m_makeDefault)
-        Preferences::shared().set(preference::defaultFile, answer.path);
+        Preferences::shared().set(preference::defaultFile, path);
     goOn(context);
 }
 
 void DocumentCommands::revertFile()
 {
+    if (m_pictures->delays([this] { revertFile(); }))
+        return;
     finishTyping(m_window);
     const QString path = m_document.representedFilename();
     const QString message = fillPlaceholders(text("RevertMessage"), {QFileInfo(path).fileName()});
@@ -214,10 +247,15 @@ void DocumentCommands::revertFile()
 
 bool DocumentCommands::displayDocumentSaveBeforeQuit()
 {
+    const auto askAgain = [this] {
+        if (!m_document.isEdited() || displayDocumentSaveBeforeQuit())
+            m_replyToQuit(true);
+    };
+    if (m_pictures->delays(askAgain))
+        return false;
     const bool hasPath = !m_document.representedFilename().isEmpty();
     if (Preferences::shared().value(preference::autoSaveOnQuit, false) && hasPath) {
-        if (writeToCurrentPath(Context::Quit))
-            m_replyToQuit(true);
+        writeToCurrentPath(Context::Quit);
         return false;
     }
     if (!m_document.isEdited())
@@ -235,8 +273,8 @@ void DocumentCommands::closeSaveBeforeQuitSheet(int returnCode)
     case AlertDefault:
         if (m_document.representedFilename().isEmpty())
             saveTankFileWithContext(Context::Quit);
-        else if (writeToCurrentPath(Context::Quit))
-            m_replyToQuit(true);
+        else
+            writeToCurrentPath(Context::Quit);
         break;
     case AlertAlternate:
         m_replyToQuit(true);

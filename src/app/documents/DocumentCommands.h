@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 class QWidget;
 
@@ -13,10 +14,11 @@ namespace brinemark
 {
 
 struct FilePanelAnswer;
+class PicturePreparation;
 class TankDocument;
 
 /// The commands of the File menu (new, open, save, save as and revert) and the questions they ask before unsaved
-/// changes are lost.
+/// changes are lost. A command that comes while a save is being prepared waits until the save has ended.
 class DocumentCommands : public QObject
 {
     Q_OBJECT
@@ -28,6 +30,7 @@ public:
     /// `window` is the parent of the sheets. `replyToQuit` is called with the answer to a quit request that had to wait
     /// for the user.
     DocumentCommands(TankDocument &document, QWidget *window, std::function<void(bool terminate)> replyToQuit);
+    ~DocumentCommands() override;
 
     void newDataFile();
     void openDataFile();
@@ -55,10 +58,14 @@ private:
     void savePanelDidEnd(const FilePanelAnswer &answer, Context context);
     void goOn(Context context);
     void goOnOpening();
-    bool writeToCurrentPath(Context context);
+    void writeToCurrentPath(Context context); ///< then continues with the command named by the context
+    /// Calls `write` once the pictures are converted; calls the command named by the context off when the user cancels.
+    void onceReadyToWrite(const QString &path, Context context, std::function<void()> write);
+    void writeFromSavePanel(const QString &path, Context context);
 
     TankDocument &m_document;
     QWidget *m_window;
+    std::unique_ptr<PicturePreparation> m_pictures;
     std::function<void(bool)> m_replyToQuit;
     /// The file to open once the question about unsaved changes is answered; empty shows the open panel.
     QString m_handedOver;

@@ -9,6 +9,7 @@
 #include "model/TankFile.h"
 #include "model/TankList.h"
 #include "ui/Alerts.h"
+#include "ui/pictures/PictureConverter.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -116,6 +117,8 @@ bool TankDocument::readTankFileWithPath(const QString &path)
         return false;
     }
     m_host.reloadTree();
+    if (!isUnattended()) // a run that nobody watches does not save
+        PictureConverter::sharedInstance().convertLater(m_list);
     if (!result.ok) {
         qCWarning(logFile) << "cannot build the tanks of" << path << result.error;
         m_host.reportReadError();

@@ -32,6 +32,7 @@ public:
     /// Writes the whole document. A failure is reported to the user before this returns, and the document stays edited.
     WriteOutcome writeTankFileWithPath(const QString &path);
 
+    [[nodiscard]] const TankList &tanks() const { return m_list; }
     [[nodiscard]] const QString &representedFilename() const { return m_representedFilename; } ///< empty when untitled
 
     /// The number of unsaved changes. It is unsigned: below zero it wraps, and the window then stays marked as edited

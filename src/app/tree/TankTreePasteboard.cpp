@@ -10,6 +10,7 @@
 #include "model/RecordDict.h"
 #include "model/TankReadError.h"
 #include "ui/Shell.h"
+#include "ui/pictures/PictureConverter.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -132,6 +133,7 @@ void TankListController::paste()
         qCWarning(logApp) << "what was pasted is no livestock record:" << error.what();
         return;
     }
+    PictureConverter::sharedInstance().convertLater(record->itemImage);
     tank->container(*kind)->appendRecord(record);
     tank->tankExpanded = true;
     *tank->expandedFlag(*kind) = true;
