@@ -2172,7 +2172,7 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>SavingPicturesTitle</source>
         <extracomment>^0 is the name of the file</extracomment>
-        <translation>„^0“ wird gesichert …</translation>
+        <translation>„^0“ wird gespeichert …</translation>
     </message>
     <message>
         <source>ScheduleCustomDays</source>

@@ -5,12 +5,14 @@
 #include "model/pictures/PictureReader.h"
 #include "model/pictures/PngConversion.h"
 
+#include <atomic>
+
 namespace brinemark
 {
 
 ItemImage::ItemImage(const QByteArray &encoded)
 {
-    static quint64 lastIdentity = 0;
+    static std::atomic<quint64> lastIdentity = 0;
     if (!encoded.isEmpty())
         m_shared = std::make_shared<Shared>(Shared{encoded, ++lastIdentity, pictureFormat(encoded) == "png"});
 }

@@ -12,12 +12,37 @@
 namespace brinemark
 {
 
-QByteArray pngBytes(const QImage &image)
+namespace
+{
+
+/// Refuses to be written once the work was cancelled, which makes the encoder give up.
+class CancellableBuffer : public QBuffer
+{
+public:
+    CancellableBuffer(QByteArray *bytes, const std::atomic_bool *cancelled)
+        : QBuffer(bytes)
+        , m_cancelled(cancelled)
+    {
+    }
+
+protected:
+    qint64 writeData(const char *data, qint64 length) override
+    {
+        return m_cancelled && *m_cancelled ? -1 : QBuffer::writeData(data, length);
+    }
+
+private:
+    const std::atomic_bool *m_cancelled;
+};
+
+} // namespace
+
+QByteArray pngBytes(const QImage &image, const std::atomic_bool *cancelled)
 {
     if (image.isNull())
         return {};
     QByteArray bytes;
-    QBuffer buffer(&bytes);
+    CancellableBuffer buffer(&bytes, cancelled);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, "png");
     // The toolkit's scale is 0 to 100; this is zlib's level 1. A photograph of 12 megapixels takes 1.2 s instead of 8.8
@@ -26,9 +51,9 @@ QByteArray pngBytes(const QImage &image)
     return writer.write(image) ? bytes : QByteArray();
 }
 
-QByteArray convertedToPng(const QByteArray &encoded)
+QByteArray convertedToPng(const QByteArray &encoded, const std::atomic_bool *cancelled)
 {
-    return pngBytes(readPicture(encoded).image);
+    return pngBytes(readPicture(encoded).image, cancelled);
 }
 
 std::vector<ItemImage> unconvertedPictures(const TankList &tanks)

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QImage>
 
+#include <atomic>
 #include <vector>
 
 namespace brinemark
@@ -13,11 +14,12 @@ namespace brinemark
 class ItemImage;
 class TankList;
 
-/// Encodes with fast compression; a null image gives no bytes. Safe in any thread.
-[[nodiscard]] QByteArray pngBytes(const QImage &image);
+/// Encodes with fast compression; a null image gives no bytes. Ends early, without bytes, once `*cancelled` is set.
+/// Safe in any thread.
+[[nodiscard]] QByteArray pngBytes(const QImage &image, const std::atomic_bool *cancelled = nullptr);
 
-/// The picture as PNG; empty when the bytes cannot be decoded. Safe in any thread.
-[[nodiscard]] QByteArray convertedToPng(const QByteArray &encoded);
+/// The picture as PNG; empty when the bytes cannot be decoded, or when it was cancelled. Safe in any thread.
+[[nodiscard]] QByteArray convertedToPng(const QByteArray &encoded, const std::atomic_bool *cancelled = nullptr);
 
 /// The pictures of all livestock that are still to be converted for the file.
 [[nodiscard]] std::vector<ItemImage> unconvertedPictures(const TankList &tanks);

@@ -25,7 +25,8 @@ PictureConverter::PictureConverter()
 
 PictureConverter::~PictureConverter()
 {
-    // The threads post their results to this object.
+    // The threads post their results to this object. A large picture would take seconds to finish.
+    m_ending = true;
     m_pool.waitForDone();
 }
 
@@ -55,7 +56,7 @@ void PictureConverter::startWaiting()
         }
         ++m_running;
         m_pool.start([this, picture, bytes = picture.encoded()] {
-            const QByteArray png = convertedToPng(bytes);
+            const QByteArray png = convertedToPng(bytes, &m_ending);
             QMetaObject::invokeMethod(
                 this, [this, picture, png] { finished(picture, png); }, Qt::QueuedConnection);
         });

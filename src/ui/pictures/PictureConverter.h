@@ -9,6 +9,7 @@
 #include <QSet>
 #include <QThreadPool>
 
+#include <atomic>
 #include <deque>
 
 namespace brinemark
@@ -42,6 +43,7 @@ private:
     std::deque<ItemImage> m_waiting;
     QSet<quint64> m_known; ///< identities of the pictures that wait or are being converted
     int m_running = 0;
+    std::atomic_bool m_ending = false;
     QThreadPool m_pool;
 };
 
