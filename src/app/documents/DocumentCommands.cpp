@@ -149,9 +149,12 @@ void DocumentCommands::goOn(Context context)
 void DocumentCommands::onceReadyToWrite(const QString &path, Context context, std::function<void()> write)
 {
     m_pictures->prepare(QFileInfo(path).fileName(), [this, context, write = std::move(write)](bool ready) {
-        if (ready)
+        if (ready) {
             write();
-        else if (context == Context::Quit)
+            return;
+        }
+        m_handedOver.clear();
+        if (context == Context::Quit)
             m_replyToQuit(false);
     });
 }

@@ -63,7 +63,8 @@ bool PicturePreparation::delays(std::function<void()> command)
 
 void PicturePreparation::openProgressSheet(const QString &fileName, int pictures)
 {
-    m_sheet = new QDialog(m_window);
+    m_sheet =
+        new QDialog(m_window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     m_sheet->setObjectName(QStringLiteral("picturesSheet"));
     m_sheet->setAttribute(Qt::WA_DeleteOnClose);
     m_bar = new QProgressBar;
@@ -80,6 +81,7 @@ void PicturePreparation::openProgressSheet(const QString &fileName, int pictures
     auto *column = new QVBoxLayout(m_sheet);
     column->setContentsMargins(spacing::aroundContent);
     column->setSpacing(spacing::group);
+    column->setSizeConstraint(QLayout::SetFixedSize);
     column->addWidget(makeCaption(fillPlaceholders(text("SavingPicturesTitle"), {fileName})));
     column->addWidget(message);
     column->addWidget(m_bar);
