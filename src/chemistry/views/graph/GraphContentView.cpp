@@ -26,8 +26,9 @@ namespace brinemark
 {
 
 GraphContentView::GraphContentView(TestDatesModel &dates)
-    : m_startDateComboSmall(new TestDateCombo(dates, QStringLiteral("startDateComboSmall"), text("GraphStartToolTip")))
-    , m_endDateComboSmall(new TestDateCombo(dates, QStringLiteral("endDateComboSmall"), text("GraphEndToolTip")))
+    : m_startDateComboSmall(
+          new TestDateCombo(dates, TestDateCombo::Bound::Start, QStringLiteral("startDateComboSmall")))
+    , m_endDateComboSmall(new TestDateCombo(dates, TestDateCombo::Bound::End, QStringLiteral("endDateComboSmall")))
     , m_drawButton(new QPushButton(text("GraphDraw")))
     , m_spinningIndicator(new SpinningIndicator)
     , m_wholeGraphButton(makeIconButton("WholeGraph", text("GraphWhole"), QStringLiteral("wholeGraphButton")))

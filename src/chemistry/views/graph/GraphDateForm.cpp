@@ -18,8 +18,8 @@ namespace brinemark
 {
 
 GraphDateForm::GraphDateForm(TestDatesModel &dates)
-    : m_startDateCombo(new TestDateCombo(dates, QStringLiteral("startDateCombo"), text("GraphStartToolTip")))
-    , m_endDateCombo(new TestDateCombo(dates, QStringLiteral("endDateCombo"), text("GraphEndToolTip")))
+    : m_startDateCombo(new TestDateCombo(dates, TestDateCombo::Bound::Start, QStringLiteral("startDateCombo")))
+    , m_endDateCombo(new TestDateCombo(dates, TestDateCombo::Bound::End, QStringLiteral("endDateCombo")))
     , m_drawButton(new QPushButton(text("GraphDraw")))
 {
     constexpr int readableWidth = 360; // pixels

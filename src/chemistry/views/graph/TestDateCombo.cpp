@@ -3,6 +3,7 @@
 #include "chemistry/views/graph/TestDateCombo.h"
 
 #include "base/text/DateText.h"
+#include "base/text/Texts.h"
 #include "chemistry/views/graph/TestDatesModel.h"
 
 #include <QLineEdit>
@@ -11,11 +12,12 @@
 namespace brinemark
 {
 
-TestDateCombo::TestDateCombo(TestDatesModel &dates, const QString &objectName, const QString &toolTip)
+TestDateCombo::TestDateCombo(TestDatesModel &dates, Bound bound, const QString &objectName)
+    : m_bound(bound)
 {
     constexpr int dateLength = 12; // characters
     setObjectName(objectName);
-    setToolTip(toolTip);
+    setToolTip(bound == Bound::Start ? text("GraphStartToolTip") : text("GraphEndToolTip"));
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr); // completion would turn a typed date into a test's date
@@ -26,8 +28,7 @@ TestDateCombo::TestDateCombo(TestDatesModel &dates, const QString &objectName, c
     if (auto *list = qobject_cast<QListView *>(view()))
         list->setUniformItemSizes(true);
 
-    connect(lineEdit(), &QLineEdit::textChanged, this,
-            [this](const QString &text) { m_date = dateFromCalendarText(text, dateFormatterForLocale()); });
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this] { m_chosen = {}; });
     // Both signals follow textChanged. When the current row is chosen again, only activated() is emitted.
     connect(this, &QComboBox::currentIndexChanged, this, &TestDateCombo::chosen);
     connect(this, &QComboBox::activated, this, &TestDateCombo::chosen);
@@ -43,14 +44,22 @@ void TestDateCombo::showDates(int selectedRow)
         clearEditText();
 }
 
+QDateTime TestDateCombo::date() const
+{
+    if (m_chosen.isValid())
+        return m_chosen;
+    const QDateTime midnight = dateFromCalendarText(currentText(), dateFormatterForLocale());
+    return m_bound == Bound::End && midnight.isValid() ? midnight.date().endOfDay() : midnight;
+}
+
 void TestDateCombo::copyFrom(const TestDateCombo &other)
 {
-    showState({other.currentIndex(), other.currentText(), other.m_date});
+    showState({other.currentIndex(), other.currentText(), other.m_chosen});
 }
 
 void TestDateCombo::exchangeWith(TestDateCombo &other)
 {
-    const State own{currentIndex(), currentText(), m_date};
+    const State own{currentIndex(), currentText(), m_chosen};
     copyFrom(other);
     other.showState(own);
 }
@@ -59,12 +68,12 @@ void TestDateCombo::showState(const State &state)
 {
     setCurrentIndex(state.row);
     setEditText(state.text);
-    m_date = state.date;
+    m_chosen = state.chosen;
 }
 
 void TestDateCombo::chosen(int row)
 {
-    m_date = itemData(row, TestDatesModel::dateRole).toDateTime();
+    m_chosen = itemData(row, TestDatesModel::dateRole).toDateTime();
 }
 
 } // namespace brinemark

@@ -25,7 +25,7 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
 
     /// Finds nothing by exact text, so that the combo box never replaces a typed date by a test: a typed date means
-    /// midnight of that day, even when a test shows the same text.
+    /// that whole day, even when a test shows the same text.
     [[nodiscard]] QModelIndexList match(const QModelIndex &start, int role, const QVariant &value, int hits,
                                         Qt::MatchFlags flags) const override;
 
