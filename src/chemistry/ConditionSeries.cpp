@@ -211,6 +211,12 @@ QString dayTickLabel(const QString &defaultLabel)
     return QString::number(leadingInteger(defaultLabel) + 1);
 }
 
+QString dayFractionTickLabel(const QString &defaultLabel)
+{
+    constexpr int digits = 12; // states every tick mark, and hides the error of adding 1
+    return QString::number(leadingNumber(defaultLabel) + 1, 'g', digits).replace(u'.', QLocale().decimalPoint());
+}
+
 QString valueTickLabel(const QString &defaultLabel, int neededDigits)
 {
     return QString::number(leadingNumber(defaultLabel), 'g', std::max(3, neededDigits))

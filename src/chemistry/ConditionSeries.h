@@ -67,8 +67,13 @@ private:
 /// The number of tick marks on a Y axis: 10 while its top is at most 40; above that one for every ten, but at most 20.
 [[nodiscard]] int numberOfYTickMarks(double maxYValue);
 
-/// The label of a tick mark on the X axis, where days count from 1. `defaultLabel` is the number with a full stop.
+/// The label of a tick mark on the X axis, where days count from 1. `defaultLabel` is the number with a full stop; what
+/// follows the full stop is left out.
 [[nodiscard]] QString dayTickLabel(const QString &defaultLabel);
+
+/// The same with the fraction of the day, for a magnified graph that shows fewer than two whole days. It has the user's
+/// decimal separator.
+[[nodiscard]] QString dayFractionTickLabel(const QString &defaultLabel);
 
 /// The label of a tick mark on the Y axis, with the user's decimal separator: three significant digits, more in a
 /// magnified graph whose tick marks need more.

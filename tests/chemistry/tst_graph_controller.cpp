@@ -124,15 +124,16 @@ private Q_SLOTS:
         open();
         press("drawButton");
         QCOMPARE(view().tickDigits(GraphAxis::X), 2); // days 0, 3 ... 30; 12 equal parts would be 2.5 days long
-        const auto label = [this] {
-            return GraphController::sharedInstance().labelForTickMarkIndex(view(), 0, GraphAxis::Y,
-                                                                           QStringLiteral("10.26"));
+        const auto label = [this](GraphAxis axis) {
+            return GraphController::sharedInstance().labelForTickMarkIndex(view(), 0, axis, QStringLiteral("10.26"));
         };
-        QCOMPARE(label(), test::local(QStringLiteral("10.3")));
+        QCOMPARE(label(GraphAxis::Y), test::local(QStringLiteral("10.3")));
+        QCOMPARE(label(GraphAxis::X), QStringLiteral("11"));
         for (int i = 0; i < 35; ++i)
             QTest::keyClick(&view(), Qt::Key_Plus);
         QVERIFY(view().tickDigits(GraphAxis::Y) > 3);
-        QCOMPARE(label(), test::local(QStringLiteral("10.26")));
+        QCOMPARE(label(GraphAxis::Y), test::local(QStringLiteral("10.26")));
+        QCOMPARE(label(GraphAxis::X), test::local(QStringLiteral("11.26"))); // part of a day fills the axis
     }
 
     void returnDraws()

@@ -20,11 +20,14 @@ private Q_SLOTS:
     {
         test::columns<GraphRange, int, bool, QList<double>>("visible", "count", "whole", "positions");
         row("as many as wanted", GraphRange{0, 10}, 10, true, QList<double>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
-        row("not enough for every day", GraphRange{0, 10.99}, 10, true, QList<double>{0, 2, 4, 6, 8, 10});
+        row("part of the last day", GraphRange{0, 10.99}, 10, true, QList<double>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
+        row("not quite three days", GraphRange{0, 2.7}, 2, true, QList<double>{0, 1});
+        row("magnified days", GraphRange{1.9, 5.5}, 3, true, QList<double>{2, 3, 4});
         row("a month", GraphRange{0, 30}, 12, true, QList<double>{0, 3, 6, 9, 12, 15, 18, 21, 24, 27, 30});
         row("five days", GraphRange{0, 5}, 2, true, QList<double>{0, 3});
-        row("part of a day", GraphRange{0, 0.25}, 2, true, QList<double>{0});
-        row("between two days", GraphRange{3.2, 3.9}, 12, true, QList<double>{});
+        row("part of a day", GraphRange{0, 0.25}, 2, true, QList<double>{0, 0.2});
+        row("between two days", GraphRange{3.2, 3.7}, 12, true,
+            QList<double>{3.2, 3.25, 3.3, 3.35, 3.4, 3.45, 3.5, 3.55, 3.6, 3.65, 3.7});
         row("no whole quarters", GraphRange{0, 23}, 10, true, QList<double>{0, 3, 6, 9, 12, 15, 18, 21});
         row("quarters", GraphRange{0, 23}, 10, false, QList<double>{0, 2.5, 5, 7.5, 10, 12.5, 15, 17.5, 20, 22.5});
         row("tenths", GraphRange{0, 1}, 10, false, QList<double>{0, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8, 0.9});

@@ -269,7 +269,9 @@ GraphLineAttributes GraphController::attributesForLineIndex(const TwoDGraphView 
 QString GraphController::labelForTickMarkIndex(const TwoDGraphView &view, int, GraphAxis axis,
                                                const QString &defaultLabel) const
 {
-    return axis == GraphAxis::X ? dayTickLabel(defaultLabel) : valueTickLabel(defaultLabel, view.tickDigits(axis));
+    if (axis == GraphAxis::Y)
+        return valueTickLabel(defaultLabel, view.tickDigits(axis));
+    return view.hasWholeTickMarks(axis) ? dayTickLabel(defaultLabel) : dayFractionTickLabel(defaultLabel);
 }
 
 QString GraphController::stringForToolTip(const TwoDGraphView &, QPointF point, int line) const

@@ -23,12 +23,13 @@ struct TickStep {
     [[nodiscard]] double multiple(double k) const { return k * numerator / denominator; }
 };
 
-/// The smallest step of which `count` are at least as long as `length`.
+/// The smallest step of which `count` are at least as long as `length`. For a whole step, only the whole part of the
+/// length counts, so that 8.1 days and 8 marks give every day; a mark in the rest is cut off.
 TickStep tickStep(double length, int count, bool whole)
 {
     constexpr std::array tenths{10.0, 20.0, 25.0, 30.0, 40.0, 50.0, 100.0};
     constexpr double rounding = 1 - 1e-9;
-    const double shortest = std::max(length / count, whole ? 1.0 : 0.0) * rounding;
+    const double shortest = (whole ? std::max(std::floor(length) / count, 1.0) : length / count) * rounding;
     const int exponent = int(std::floor(std::log10(shortest))) - 1;
     const double power = std::pow(10, std::abs(exponent));
     for (const double mantissa : tenths) {
@@ -40,14 +41,10 @@ TickStep tickStep(double length, int count, bool whole)
     return {100 * power, 1}; // not reached: 100 tenths of the power exceed the shortest step
 }
 
-} // namespace
-
-QList<double> tickPositions(const GraphRange &visible, int count, bool whole)
+QList<double> multiplesIn(const GraphRange &visible, int count, bool whole)
 {
     constexpr double rounding = 1e-9; // of a step
     QList<double> positions;
-    if (count <= 0)
-        return positions;
     const TickStep step = tickStep(visible.length(), count, whole);
     const double size = step.multiple(1);
     const double first = std::ceil(visible.min / size - rounding) + 0.0; // turns -0 into 0
@@ -55,6 +52,16 @@ QList<double> tickPositions(const GraphRange &visible, int count, bool whole)
     for (double k = first; k <= last && positions.size() < count; ++k)
         positions.append(step.multiple(k));
     return positions;
+}
+
+} // namespace
+
+QList<double> tickPositions(const GraphRange &visible, int count, bool preferWhole)
+{
+    if (count <= 0)
+        return {};
+    const QList<double> positions = multiplesIn(visible, count, preferWhole);
+    return preferWhole && positions.size() < std::min(count, 2) ? multiplesIn(visible, count, false) : positions;
 }
 
 int significantDigits(const QList<double> &values)

@@ -70,6 +70,12 @@ void TwoDGraphView::setWholeTickMarks(GraphAxis axis)
     m_wholeTickMarks[std::size_t(axis)] = true;
 }
 
+bool TwoDGraphView::hasWholeTickMarks(GraphAxis axis) const
+{
+    const QList<double> &positions = m_scene->ticks[std::size_t(axis)].positions;
+    return std::all_of(positions.begin(), positions.end(), [](double value) { return value == std::floor(value); });
+}
+
 int TwoDGraphView::tickDigits(GraphAxis axis) const
 {
     return significantDigits(m_scene->ticks[std::size_t(axis)].positions);

@@ -44,8 +44,11 @@ public:
     /// labels; labels that do not fit are left out. Takes effect at the next `reloadData()`.
     void setNumberOfTickMarks(int count, GraphAxis axis);
 
-    /// From the next `reloadData()` on, places tick marks at whole numbers only.
+    /// From the next `reloadData()` on, places tick marks at whole numbers only, as long as two of them are visible.
     void setWholeTickMarks(GraphAxis axis);
+
+    /// Whether every visible tick mark stands at a whole number.
+    [[nodiscard]] bool hasWholeTickMarks(GraphAxis axis) const;
 
     /// How many significant digits state the value of every visible tick mark exactly.
     [[nodiscard]] int tickDigits(GraphAxis axis) const;
