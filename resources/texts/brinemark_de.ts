@@ -991,7 +991,7 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     <message>
         <source>GraphHint</source>
         <extracomment>%@ is the date of the first test in the graph.</extracomment>
-        <translation>Die Tage zählen ab %@. Scrollen oder + und − zoomt, Ziehen verschiebt, ein Doppelklick zeigt das ganze Diagramm.</translation>
+        <translation>Die Tage zählen ab %@. Scrollen, + oder − zoomen, Ziehen verschiebt, ein Doppelklick zeigt das ganze Diagramm.</translation>
     </message>
     <message>
         <source>GraphLegend</source>
@@ -1033,9 +1033,14 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Tag, gezählt ab %@ (Tag 1)</translation>
     </message>
     <message>
+        <source>GraphPaperDates</source>
+        <extracomment>^0 and ^1 are the first and the last date that is visible; stands below the title of a graph that is printed or saved.</extracomment>
+        <translation>^0 bis ^1</translation>
+    </message>
+    <message>
         <source>GraphPaperTitle</source>
-        <extracomment>^0 is the tank&apos;s name, ^1 and ^2 are the dates of the first and the last test; stands above a graph that is printed or saved.</extracomment>
-        <translation>Wassertests: ^0, ^1 bis ^2</translation>
+        <extracomment>%@ is the tank&apos;s name; stands above a graph that is printed or saved.</extracomment>
+        <translation>Wassertests: %@</translation>
     </message>
     <message>
         <source>GraphPdfFilter</source>
@@ -1098,7 +1103,7 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     </message>
     <message>
         <source>GraphSwapToolTip</source>
-        <translation>Beginn und Ende vertauschen</translation>
+        <translation>Anfang und Ende vertauschen</translation>
     </message>
     <message>
         <source>GraphTitle</source>

@@ -1033,9 +1033,14 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Day, counted from %@ (day 1)</translation>
     </message>
     <message>
+        <source>GraphPaperDates</source>
+        <extracomment>^0 and ^1 are the first and the last date that is visible; stands below the title of a graph that is printed or saved.</extracomment>
+        <translation>^0 to ^1</translation>
+    </message>
+    <message>
         <source>GraphPaperTitle</source>
-        <extracomment>^0 is the tank&apos;s name, ^1 and ^2 are the dates of the first and the last test; stands above a graph that is printed or saved.</extracomment>
-        <translation>Water tests of ^0, ^1 to ^2</translation>
+        <extracomment>%@ is the tank&apos;s name; stands above a graph that is printed or saved.</extracomment>
+        <translation>Water tests of %@</translation>
     </message>
     <message>
         <source>GraphPdfFilter</source>

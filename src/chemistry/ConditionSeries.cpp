@@ -129,6 +129,13 @@ double ConditionSeries::largestValue(Parameter parameter) const
     return largest;
 }
 
+QDateTime ConditionSeries::dateAt(double days) const
+{
+    // At the end, the single precision of maxXValue() could give the day before or after.
+    return days >= double(maxXValue()) ? m_graphArray.back()->date
+                                       : m_graphArray.front()->date.addMSecs(qint64(days * millisecondsPerDay));
+}
+
 int ConditionSeries::numberOfXTickMarks() const
 {
     if (m_graphArray.empty())

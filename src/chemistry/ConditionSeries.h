@@ -39,6 +39,9 @@ public:
     /// Days from the first test in range to the last.
     [[nodiscard]] float maxXValue() const { return m_days.empty() ? 0 : m_days.back(); }
 
+    /// The moment of a place on the X axis, but not after the last test. There must be a test in range.
+    [[nodiscard]] QDateTime dateAt(double days) const;
+
     /// One for every day, but at least 2 and at most 12.
     [[nodiscard]] int numberOfXTickMarks() const;
 

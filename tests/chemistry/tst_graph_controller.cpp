@@ -129,9 +129,12 @@ private Q_SLOTS:
         };
         QCOMPARE(label(GraphAxis::Y), test::local(QStringLiteral("10.3")));
         QCOMPARE(label(GraphAxis::X), QStringLiteral("11"));
+        QVERIFY(view().paperHeading().subtitle.endsWith(localeDateText(firstTest.addDays(30))));
         for (int i = 0; i < 35; ++i)
             QTest::keyClick(&view(), Qt::Key_Plus);
         QVERIFY(view().tickDigits(GraphAxis::Y) > 3);
+        const QString middle = localeDateText(firstTest.addDays(15));
+        QVERIFY(view().paperHeading().subtitle.startsWith(middle) && view().paperHeading().subtitle.endsWith(middle));
         QCOMPARE(label(GraphAxis::Y), test::local(QStringLiteral("10.26")));
         QCOMPARE(label(GraphAxis::X), test::local(QStringLiteral("11.26"))); // part of a day fills the axis
     }

@@ -59,6 +59,7 @@ void GraphController::makeWindow()
     connect(m_graphContentView, &GraphContentView::printRequested, this, &GraphController::printGraph);
     connect(m_graphContentView, &GraphContentView::closeRequested, this, &GraphController::cancelAction);
     connect(m_graphContentView, &GraphContentView::fitScaleChanged, this, &GraphController::restartScale);
+    connect(&m_graphContentView->graphView(), &TwoDGraphView::zoomChanged, this, &GraphController::updatePaperHeading);
     connect(&m_graphContentView->legend(), &GraphLegend::lineShown, this, &GraphController::showLine);
     connect(&m_graphContentView->legend(), &GraphLegend::linePointedAt, this, &GraphController::showBand);
     connect(m_graphWindow, &QDialog::finished, this, &GraphController::closeGraphSheet);
@@ -169,9 +170,8 @@ void GraphController::showSeries(const ConditionSeries &series)
         return;
     }
     const QString first = localeDateText(graphArray().front()->date);
-    const QString last = localeDateText(graphArray().back()->date);
     m_graphContentView->showGraph(formatText(text("GraphHint"), {first}));
-    view.setPaperTitle(fillPlaceholders(text("GraphPaperTitle"), {m_graphTank->name, first, last}));
+    updatePaperHeading();
     view.setPaperAxisName(formatText(text("GraphPaperAxis"), {first}));
 }
 

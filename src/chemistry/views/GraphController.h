@@ -77,6 +77,7 @@ private:
     void showBand(int line);
     void saveGraph();
     void printGraph();
+    void updatePaperHeading(); ///< the heading states the dates that are visible
     [[nodiscard]] QString whyEmpty() const;
 
     TestDatesModel m_dates;

@@ -2,6 +2,7 @@
 
 // Saving and printing the graph of a GraphController.
 
+#include "base/text/DateText.h"
 #include "base/text/Texts.h"
 #include "chemistry/views/GraphController.h"
 #include "chemistry/views/graph/GraphContentView.h"
@@ -43,6 +44,17 @@ void GraphController::printGraph()
     TwoDGraphView &view = m_graphContentView->graphView();
     openPrintSheet(m_graphWindow, QPageLayout::Landscape, &view,
                    [&view](QPrinter &printer) { return view.print(printer); });
+}
+
+void GraphController::updatePaperHeading()
+{
+    if (graphArray().empty() || !m_graphTank)
+        return;
+    TwoDGraphView &view = m_graphContentView->graphView();
+    const GraphRange visible = view.visibleRange(GraphAxis::X);
+    view.setPaperHeading({formatText(text("GraphPaperTitle"), {m_graphTank->name}),
+                          fillPlaceholders(text("GraphPaperDates"), {localeDateText(m_series.dateAt(visible.min)),
+                                                                     localeDateText(m_series.dateAt(visible.max))})});
 }
 
 } // namespace brinemark

@@ -12,20 +12,20 @@ namespace brinemark
 namespace
 {
 
-constexpr double keyMargin = 8; ///< around the title and the legend, and beside the colour tiles
+constexpr double keyMargin = 8; ///< around the heading and the legend, and beside the colour tiles
 constexpr double side = 10;     ///< of a colour tile
 constexpr double betweenNames = 20;
 
 } // namespace
 
-GraphKey::GraphKey(const GraphScene &scene, const GraphLook &look, const QString &title, double width)
+GraphKey::GraphKey(const GraphScene &scene, const GraphLook &look, const GraphHeading &heading, double width)
     : m_look(look)
-    , m_title(title)
+    , m_heading(heading)
 {
-    if (!title.isEmpty())
-        m_titleHeight = QFontMetricsF(titleFont()).height() + 2 * keyMargin;
-
     const QFontMetricsF metrics(look.font);
+    if (!heading.title.isEmpty())
+        m_headingHeight =
+            QFontMetricsF(titleFont()).height() + (heading.subtitle.isEmpty() ? 0 : metrics.height()) + 2 * keyMargin;
     QPointF place(keyMargin, keyMargin / 2);
     for (const GraphLine &line : scene.lines) {
         if (!line.visible || line.points.isEmpty() || line.attributes.name.isEmpty())
@@ -45,12 +45,8 @@ void GraphKey::drawTo(QPainter &painter, const QRectF &target) const
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(target, m_look.background);
-    painter.setPen(m_look.text);
-    painter.setFont(titleFont());
-    painter.drawText(
-        QRectF(target.topLeft(), QSizeF(target.width(), m_titleHeight)).adjusted(keyMargin, 0, -keyMargin, 0),
-        Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, m_title);
-
+    if (m_headingHeight > 0)
+        drawHeading(painter, target.adjusted(keyMargin, keyMargin, -keyMargin, 0));
     painter.setFont(m_look.font);
     const double height = QFontMetricsF(m_look.font).height();
     const QPointF corner(target.left(), target.bottom() - m_legendHeight);
@@ -66,6 +62,20 @@ void GraphKey::drawTo(QPainter &painter, const QRectF &target) const
         painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, entry.name);
     }
     painter.restore();
+}
+
+/// Draws the title at the top of the rectangle, and the subtitle below it.
+void GraphKey::drawHeading(QPainter &painter, QRectF line) const
+{
+    painter.setPen(m_look.text);
+    for (const auto &[words, font] : {std::pair{m_heading.title, titleFont()}, {m_heading.subtitle, m_look.font}}) {
+        const QFontMetricsF metrics(font);
+        painter.setFont(font);
+        line.setHeight(metrics.height());
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         metrics.elidedText(words, Qt::ElideRight, line.width()));
+        line.translate(0, line.height());
+    }
 }
 
 QFont GraphKey::titleFont() const

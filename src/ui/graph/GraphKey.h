@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "ui/graph/GraphHeading.h"
 #include "ui/graph/GraphLook.h"
 #include "ui/graph/GraphScene.h"
 
@@ -10,18 +11,18 @@ class QPainter;
 namespace brinemark
 {
 
-/// The title and the legend of a printed or exported graph: the title above it, and below it the names of the visible
-/// lines beside their colours. Sizes are in the painter's units.
+/// The heading and the legend of a printed or exported graph: the heading above it, and below it the names of the
+/// visible lines beside their colours. Sizes are in the painter's units.
 class GraphKey
 {
 public:
-    GraphKey(const GraphScene &scene, const GraphLook &look, const QString &title, double width);
+    GraphKey(const GraphScene &scene, const GraphLook &look, const GraphHeading &heading, double width);
 
-    [[nodiscard]] double titleHeight() const { return m_titleHeight; }   ///< 0 when there is no title
-    [[nodiscard]] double legendHeight() const { return m_legendHeight; } ///< 0 when no visible line has a name
+    [[nodiscard]] double headingHeight() const { return m_headingHeight; } ///< 0 when there is no title
+    [[nodiscard]] double legendHeight() const { return m_legendHeight; }   ///< 0 when no visible line has a name
 
-    /// Draws both into `target`, which must have the width given to the constructor: the title at its top, the legend
-    /// at its bottom.
+    /// Draws both into `target`, which must have the width given to the constructor: the heading at its top, the
+    /// legend at its bottom.
     void drawTo(QPainter &painter, const QRectF &target) const;
 
 private:
@@ -32,11 +33,12 @@ private:
     };
 
     [[nodiscard]] QFont titleFont() const;
+    void drawHeading(QPainter &painter, QRectF line) const;
 
     GraphLook m_look;
-    QString m_title;
+    GraphHeading m_heading;
     QList<Entry> m_entries;
-    double m_titleHeight = 0;
+    double m_headingHeight = 0;
     double m_legendHeight = 0;
 };
 

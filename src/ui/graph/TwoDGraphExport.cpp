@@ -29,24 +29,24 @@ constexpr double mostOnPaper = 1.2;
 
 } // namespace
 
-/// The size on paper in pixels: that of the graph on the screen plus the title, the name of the axis and the legend.
+/// The size on paper in pixels: that of the graph on the screen plus the heading, the name of the axis and the legend.
 QSize TwoDGraphView::drawnSize() const
 {
     const QSize graph = size().expandedTo(minimumSizeHint());
     const GraphLook look = GraphLook::onPaper(font());
-    const GraphKey key(*m_scene, look, m_paperTitle, graph.width());
+    const GraphKey key(*m_scene, look, m_paperHeading, graph.width());
     const double axisName = GraphPlot::axisNameHeight(m_paperAxisName, look);
-    return graph + QSize(0, int(std::ceil(key.titleHeight() + axisName + key.legendHeight())));
+    return graph + QSize(0, int(std::ceil(key.headingHeight() + axisName + key.legendHeight())));
 }
 
 void TwoDGraphView::render(QPainter *painter, const QRectF &target) const
 {
     const GraphLook look = GraphLook::onPaper(font());
-    const GraphKey key(*m_scene, look, m_paperTitle, target.width());
+    const GraphKey key(*m_scene, look, m_paperHeading, target.width());
     key.drawTo(*painter, target);
     GraphPlot plot(*m_scene, look);
     plot.setXAxisName(m_paperAxisName);
-    plot.drawTo(*painter, target.adjusted(0, key.titleHeight(), 0, -key.legendHeight()));
+    plot.drawTo(*painter, target.adjusted(0, key.headingHeight(), 0, -key.legendHeight()));
 }
 
 void TwoDGraphView::renderPage(QPainter *painter, const QSizeF &page) const
@@ -98,7 +98,7 @@ bool TwoDGraphView::savePdf(const QString &path) const
     QPainter painter;
     {
         QPdfWriter writer(&buffer);
-        writer.setTitle(m_paperTitle.isEmpty() ? accessibleName() : m_paperTitle);
+        writer.setTitle(m_paperHeading.title.isEmpty() ? accessibleName() : m_paperHeading.title);
         writer.setPageMargins({});
         writer.setPageSize(QPageSize(QSizeF(drawnSize()) * (pointsPerInch / pixelsPerInch), QPageSize::Point));
         writer.setResolution(1200);

@@ -4,6 +4,7 @@
 
 #include "ui/OwnedWidget.h"
 #include "ui/graph/GraphBand.h"
+#include "ui/graph/GraphHeading.h"
 #include "ui/graph/GraphRange.h"
 #include "ui/graph/TwoDGraph.h"
 
@@ -74,13 +75,14 @@ public:
     /// The position of a point (in graph units) in widget coordinates; it may lie outside the widget.
     [[nodiscard]] QPointF positionOf(QPointF point) const;
 
-    /// The title above the graph on paper and in files.
-    void setPaperTitle(const QString &title) { m_paperTitle = title; }
+    /// What stands above the graph on paper and in files. A long title does not shorten the subtitle.
+    void setPaperHeading(const GraphHeading &heading) { m_paperHeading = heading; }
+    [[nodiscard]] const GraphHeading &paperHeading() const { return m_paperHeading; }
 
     /// The name below the X axis on paper and in files.
     void setPaperAxisName(const QString &name) { m_paperAxisName = name; }
 
-    /// Draws the visible part for paper (dark on white, with title and legend) to fill the rectangle. Line widths and
+    /// Draws the visible part for paper (dark on white, with heading and legend) to fill the rectangle. Line widths and
     /// text sizes are in the painter's units, of which 96 should make an inch.
     void render(QPainter *painter, const QRectF &target) const;
     using QWidget::render;
@@ -144,7 +146,7 @@ private:
     std::array<bool, 2> m_wholeTickMarks{false, false};
     std::array<GraphRange, 2> m_whole; ///< by axis
     QSet<int> m_hiddenLines;
-    QString m_paperTitle;
+    GraphHeading m_paperHeading;
     QString m_paperAxisName;
     std::unique_ptr<GraphScene> m_scene;
     OwnedWidget<GraphPlot> m_plot;     ///< refers to the scene
