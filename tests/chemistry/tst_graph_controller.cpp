@@ -3,6 +3,7 @@
 #include "base/text/DateText.h"
 #include "chemistry/views/GraphController.h"
 #include "chemistry/views/graph/ColourSwatch.h"
+#include "chemistry/views/graph/LegendEntry.h"
 #include "chemistry/views/graph/ScaleSlider.h"
 #include "chemistry/views/graph/TestDateCombo.h"
 #include "support/AlertDriver.h"
@@ -12,6 +13,7 @@
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
 #include "ui/Alerts.h"
+#include "ui/Colours.h"
 #include "ui/graph/TwoDGraphView.h"
 
 #include <QAbstractItemModelTester>
@@ -293,6 +295,27 @@ private Q_SLOTS:
             test(i).ammonia = test(i).copper = test(i).iron = 0;
         press("drawButtonSmall");
         QVERIFY(!find<QLabel>("notTestedCaption")->isVisible());
+    }
+
+    // A third of a filled swatch stands out from the window, and less than a quarter of a hidden line's.
+    void swatches()
+    {
+        for (const QColor &window : {QColor("#2b2d30"), QColor("#efefef")}) {
+            for (const Parameter parameter :
+                 {Parameter::Magnesium, Parameter::Salt, Parameter::Oxygen, Parameter::KH}) {
+                ColourSwatch swatch(lineColour(parameter));
+                swatch.setPalette(QPalette(window));
+                for (const bool filled : {true, false}) {
+                    swatch.setFilled(filled);
+                    const QImage image = swatch.grab().toImage();
+                    int standingOut = 0;
+                    for (int i = 0; i < image.width() * image.height(); ++i)
+                        standingOut += contrast(image.pixelColor(i % image.width(), i / image.width()), window) >= 2;
+                    QVERIFY(filled ? standingOut * 3 > image.width() * image.height()
+                                   : standingOut * 4 < image.width() * image.height());
+                }
+            }
+        }
     }
 
     void bands_data()

@@ -28,16 +28,18 @@ void ColourSwatch::paintEvent(QPaintEvent *)
 {
     constexpr double visible = 3; // minimum contrast of graphics with adjacent colours (WCAG 2.1, 1.4.11)
     constexpr double radius = 3;
-    const bool framed = contrast(m_colour, palette().color(QPalette::Window)) < visible;
+    constexpr double rim = 2;
+    constexpr double stroke = 1.5;
+    const bool rimmed = contrast(m_colour, palette().color(QPalette::Window)) < visible;
+    const QColor edge = rimmed ? brinemark::colour(ColourRole::SecondaryText, palette()) : m_colour;
+    const QRectF tile = QRectF(rect()).adjusted(rim / 2, rim / 2, -rim / 2, -rim / 2);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(
-        QPen(framed ? brinemark::colour(ColourRole::SecondaryText, palette()) : m_colour, m_filled ? 1 : 1.5));
+    painter.setPen(QPen(edge, m_filled ? rim : stroke));
+    painter.setBrush(m_colour);
     if (m_filled)
-        painter.setBrush(m_colour);
-    const QRectF tile = QRectF(rect()).adjusted(1, 1, -1, -1);
-    painter.drawRoundedRect(tile, radius, radius);
-    if (!m_filled)
+        painter.drawRoundedRect(tile, radius, radius);
+    else
         painter.drawLine(tile.bottomLeft() + QPointF(1, -1), tile.topRight() + QPointF(-1, 1));
 }
 

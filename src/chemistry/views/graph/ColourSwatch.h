@@ -7,7 +7,8 @@
 namespace brinemark
 {
 
-/// A small tile filled with one colour or, when not filled, a crossed-out frame.
+/// A small tile filled with one colour or, when not filled, a mere stroke. A colour that is hard to see on the window
+/// gets a broad rim, so that the tile does not look empty.
 class ColourSwatch : public QWidget
 {
     Q_OBJECT
