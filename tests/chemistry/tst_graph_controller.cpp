@@ -251,8 +251,11 @@ private Q_SLOTS:
         end.setCurrentIndex(1);
         expectRangeAlert([this] { press("drawButton"); }); // one moment is no range
 
-        type("startDateCombo", shown);
-        type("endDateCombo", shown);
+        for (const char *name : {"startDateCombo", "endDateCombo"}) {
+            combo(name).setCurrentIndex(0); // so that the typed text is that of another row
+            type(name, shown);
+            Q_EMIT combo(name).lineEdit()->editingFinished();
+        }
         QCOMPARE(end.date(), firstTest.date().addDays(1).endOfDay());
         QTest::mouseClick(find<QToolButton>("swapButton"), Qt::LeftButton);
         QCOMPARE(start.date(), firstTest.date().addDays(1).startOfDay());

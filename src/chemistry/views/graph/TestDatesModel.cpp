@@ -32,7 +32,8 @@ QVariant TestDatesModel::data(const QModelIndex &index, int role) const
 QModelIndexList TestDatesModel::match(const QModelIndex &start, int role, const QVariant &value, int hits,
                                       Qt::MatchFlags flags) const
 {
-    if ((flags & Qt::MatchTypeMask) == Qt::MatchExactly)
+    const int type = flags & Qt::MatchTypeMask;
+    if (type == Qt::MatchExactly || type == Qt::MatchFixedString)
         return {};
     return QAbstractListModel::match(start, role, value, hits, flags);
 }

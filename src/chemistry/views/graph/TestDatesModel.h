@@ -24,7 +24,7 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
 
-    /// Finds nothing by exact text, so that the combo box never replaces a typed date by a test: a typed date means
+    /// Finds nothing by a whole text, so that the combo box never replaces a typed date by a test: a typed date means
     /// that whole day, even when a test shows the same text.
     [[nodiscard]] QModelIndexList match(const QModelIndex &start, int role, const QVariant &value, int hits,
                                         Qt::MatchFlags flags) const override;
