@@ -304,18 +304,17 @@ private Q_SLOTS:
     void swatches()
     {
         for (const QColor &window : {QColor("#2b2d30"), QColor("#efefef")}) {
-            for (const Parameter parameter :
-                 {Parameter::Magnesium, Parameter::Salt, Parameter::Oxygen, Parameter::KH}) {
+            for (const Parameter parameter : {Parameter::Magnesium, Parameter::Salt, Parameter::Oxygen}) {
                 ColourSwatch swatch(lineColour(parameter));
                 swatch.setPalette(QPalette(window));
                 for (const bool filled : {true, false}) {
                     swatch.setFilled(filled);
                     const QImage image = swatch.grab().toImage();
                     int standingOut = 0;
-                    for (int i = 0; i < image.width() * image.height(); ++i)
+                    const int pixels = image.width() * image.height();
+                    for (int i = 0; i < pixels; ++i)
                         standingOut += contrast(image.pixelColor(i % image.width(), i / image.width()), window) >= 2;
-                    QVERIFY(filled ? standingOut * 3 > image.width() * image.height()
-                                   : standingOut * 4 < image.width() * image.height());
+                    QVERIFY(filled ? standingOut * 3 > pixels : standingOut * 4 < pixels);
                 }
             }
         }

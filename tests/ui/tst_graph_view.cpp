@@ -489,15 +489,12 @@ private Q_SLOTS:
             return m_view->saveImage(path) ? QImage(path) : QImage();
         };
         const int bare = saved().height();
-        m_view->setPaperHeading({QStringLiteral("Reef"), {}});
-        QVERIFY(saved().height() > bare);
         m_view->setPaperHeading({QString(300, u'x'), {}});
         const QImage longTitle = saved();
         m_view->setPaperHeading({QString(300, u'x'), QStringLiteral("1.3. to 9.3.")});
         const QImage dated = saved();
         const int titledOnly = dated.height();
         const int second = titledOnly - longTitle.height();
-        QVERIFY(second > 0);
         QVERIFY(pixelsOf(dated.copy(0, longTitle.height() - bare - 16, 400, second), QColor(0x20, 0x24, 0x28)) > 50);
         m_view->setPaperAxisName(QStringLiteral(" "));
         const QImage blank = saved();
