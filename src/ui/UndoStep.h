@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "ui/Alerts.h"
+
 #include <QUndoCommand>
 #include <QUndoStack>
 
@@ -17,9 +19,9 @@ namespace brinemark
 class UndoStep : public QUndoCommand
 {
 public:
-    /// Puts the other value in place: the old one with `made` false (undo), the new one with true (redo). Returns false
-    /// when that is no longer possible; the stack then drops the step.
-    using Exchange = std::function<bool(bool made)>;
+    /// Exchanges the value in place with the other one, for undo as for redo. Returns false when that is no longer
+    /// possible: the program then beeps, and the stack drops the step.
+    using Exchange = std::function<bool()>;
 
     UndoStep(const QString &actionName, Exchange exchange)
         : QUndoCommand(actionName)
@@ -27,32 +29,43 @@ public:
     {
     }
 
-    void undo() override { setObsolete(!m_exchange(false)); }
+    void undo() override { exchange(); }
     void redo() override
     {
         if (std::exchange(m_pushed, true))
-            setObsolete(!m_exchange(true));
+            exchange();
     }
 
 private:
+    void exchange()
+    {
+        if (m_exchange())
+            return;
+        setObsolete(true);
+        beep();
+    }
+
     Exchange m_exchange;
     bool m_pushed = false;
 };
 
-/// Sets a field and registers the edit under an action name; the undo step keeps the object alive. `afterwards` runs
-/// after every change of the field: with true when the edit is made or made again, with false when it is undone. An
-/// edit that changes nothing does nothing and returns false.
+/// Sets a field and registers the edit under an action name; the undo step keeps the object alive. `inDocument` says
+/// whether the object is still in the document; if not, the step cannot be undone or redone. `afterwards` runs after
+/// every change of the field. An edit that changes nothing does nothing and returns false.
 template <class Object, class Owner, class Value>
 bool editField(QUndoStack &undo, const QString &actionName, const std::shared_ptr<Object> &object, Value Owner::*field,
-               const std::type_identity_t<Value> &value, std::function<void(bool made)> afterwards)
+               const std::type_identity_t<Value> &value, std::function<bool()> inDocument,
+               std::function<void()> afterwards)
 {
     if ((*object).*field == value)
         return false;
     Value old = std::exchange((*object).*field, value);
-    afterwards(true);
-    undo.push(new UndoStep(actionName, [=, other = std::move(old)](bool made) mutable {
+    afterwards();
+    undo.push(new UndoStep(actionName, [=, other = std::move(old)]() mutable {
+        if (!inDocument())
+            return false;
         std::swap((*object).*field, other);
-        afterwards(made);
+        afterwards();
         return true;
     }));
     return true;

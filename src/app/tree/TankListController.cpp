@@ -288,19 +288,24 @@ void TankListController::returnAction(const TreeItem &item)
 
 bool TankListController::rename(const TreeItem &item, const QString &name)
 {
-    if (name.isEmpty())
+    if (name.trimmed().isEmpty())
         return false;
-    const auto afterwards = [this](bool made) {
+    // Undoing counts as a change as well: counted down, it could meet another change and hide that one from the
+    // question before quitting.
+    const auto afterwards = [this] {
         m_outline->viewport()->update();
-        m_shell->documentModifiedWithChange(made);
+        m_shell->documentModifiedWithChange(true);
         m_shell->changeView(m_shell->currentView()); // the current view shows the name too
     };
     QUndoStack &undo = m_shell->undoManager();
     const QString actionName = QStringLiteral("RenameUndo");
+    const auto edit = [&](const auto &object, auto field) {
+        const auto inDocument = [this, object] { return holds(TreeItem(*object)); };
+        return editField(undo, actionName, object, field, name, inDocument, afterwards);
+    };
     if (item.isRecord())
-        return editField(undo, actionName, std::static_pointer_cast<ItemData>(item.record->shared_from_this()),
-                         &ItemData::name, name, afterwards);
-    return item.isTank() && editField(undo, actionName, item.tank->shared_from_this(), &Tank::name, name, afterwards);
+        return edit(std::static_pointer_cast<ItemData>(item.record->shared_from_this()), &ItemData::name);
+    return item.isTank() && edit(item.tank->shared_from_this(), &Tank::name);
 }
 
 void TankListController::editName()

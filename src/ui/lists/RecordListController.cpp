@@ -278,7 +278,7 @@ bool RecordListController::editCell(int row, int place, const QVariant &value)
     m_model->showRow(row);
     Shell::shared().documentModifiedWithChange(true);
     Shell::shared().undoManager().push(
-        new UndoStep(QLatin1String(m_traits.undoActionName), [list = QPointer(this), step = undo](bool) mutable {
+        new UndoStep(QLatin1String(m_traits.undoActionName), [list = QPointer(this), step = undo]() mutable {
             std::optional<UndoDictionary> opposite = list ? list->undoWithDictionary(step) : std::nullopt;
             if (opposite)
                 step = *std::move(opposite);
@@ -315,10 +315,8 @@ std::optional<UndoDictionary> RecordListController::undoWithDictionary(const Und
     const std::shared_ptr<Record> record = dictionary.data;
     const Tank *tank = record ? record->tank : nullptr;
     Container *list = tank ? tank->container(m_traits.kind) : nullptr;
-    if (!list || Shell::shared().tankList().indexOf(tank) < 0 || !list->contains(record.get())) {
-        beep();
+    if (!list || Shell::shared().tankList().indexOf(tank) < 0 || !list->contains(record.get()))
         return std::nullopt;
-    }
     UndoDictionary opposite = createUndoDictionaryWithData(record, dictionary.identifier);
     storeValue(*record, dictionary.identifier, dictionary.value);
     if (list == m_model->container())

@@ -86,8 +86,8 @@ public:
     /// What undoes an edit that is about to be made: the field's present value.
     [[nodiscard]] static UndoDictionary createUndoDictionaryWithData(const std::shared_ptr<Record> &record,
                                                                      const QString &key);
-    /// Puts the value back, whichever tank is on screen, counts the change and returns the opposite dictionary. Beeps
-    /// and returns nothing when the record is no longer in its tank's list.
+    /// Puts the value back, whichever tank is on screen, counts the change and returns the opposite dictionary.
+    /// Returns nothing when the record is no longer in its tank's list.
     std::optional<UndoDictionary> undoWithDictionary(const UndoDictionary &dictionary);
 
 protected:
