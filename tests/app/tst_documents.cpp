@@ -477,9 +477,10 @@ private Q_SLOTS:
         QVERIFY(!NotificationController::sharedInstance().isVisible());
         QVERIFY(!program.delegate().applicationDockMenu());
         // Overdue activities of the new file are shown after reading it.
-        NotificationController::sharedInstance().setNotificationData(activity);
-        NotificationController::sharedInstance().shouldShowWindow(true);
-        QVERIFY(program.document().readTankFileWithPath(testFile("minimal.xml")));
+        Preferences::shared().set(preference::activityOverdue, true);
+        const QString overdue = program.filePath("overdue.xml");
+        QVERIFY(writeFile(overdue, bytesOf(testFile("schedule-auto-off.xml")).replace("2031-", "2026-")));
+        QVERIFY(program.document().readTankFileWithPath(overdue));
         QVERIFY(NotificationController::sharedInstance().isVisible());
     }
 

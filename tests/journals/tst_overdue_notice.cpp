@@ -134,6 +134,11 @@ private Q_SLOTS:
         notice.notePanel()->close();
         notice.showIfNeeded();
         QVERIFY(!notice.isVisible());
+        // After a file that could not be read whole nothing shows the panel; the next document empties it.
+        notice.shouldShowWindow(true);
+        notice.resetView();
+        notice.showIfNeeded();
+        QVERIFY(!notice.isVisible());
     }
 
     void dockMenuTitles()

@@ -103,6 +103,7 @@ void NotificationController::displayInFront(bool key)
 void NotificationController::resetView()
 {
     m_contentArray.clear();
+    m_shouldShow = false; // it was set for the rows that are now gone
     if (m_notePanel)
         m_notePanel->hide();
     Shell::shared().rebuildDockMenu();

@@ -36,7 +36,7 @@ public:
     /// Shows the panel without giving it the focus, if `shouldShowWindow(true)` was called.
     void showIfNeeded();
     void displayInFront(bool key); ///< shows the panel; with `key`, also makes it the active window
-    void resetView();              ///< removes all rows and hides the panel
+    void resetView();              ///< removes all rows, hides the panel and forgets `shouldShowWindow(true)`
     [[nodiscard]] bool isVisible() const;
     [[nodiscard]] QWidget *notePanel(); ///< the panel, created on first use; its object name is "notePanel"
 
