@@ -40,6 +40,23 @@ const char *buttonName(AlertAnswer answer)
     return "otherButton";
 }
 
+AlertAnswer cancelAnswerOf(const Alert &alert)
+{
+    const AlertAnswer last = !alert.otherButton.isEmpty()       ? AlertOther
+                             : !alert.alternateButton.isEmpty() ? AlertAlternate
+                                                                : AlertDefault;
+    return alert.cancels.value_or(last);
+}
+
+/// By the buttons' roles the desktop orders them its own way.
+QDialogButtonBox::ButtonRole roleOf(AlertAnswer answer, const Alert &alert)
+{
+    const bool isOnlyButton = alert.alternateButton.isEmpty() && alert.otherButton.isEmpty();
+    if (answer == cancelAnswerOf(alert) && !isOnlyButton)
+        return QDialogButtonBox::RejectRole;
+    return answer == AlertAlternate ? QDialogButtonBox::DestructiveRole : QDialogButtonBox::AcceptRole;
+}
+
 /// Writes the alert's texts to standard error and deletes it. Returns the answer that changes nothing.
 int answerUnattended(AlertDialog *dialog)
 {
@@ -96,9 +113,10 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     all->addStretch();
     all->addWidget(m_buttons);
 
-    addButton(AlertDefault, alert.defaultButton.isEmpty() ? text("OK") : alert.defaultButton);
-    addButton(AlertAlternate, alert.alternateButton);
-    addButton(AlertOther, alert.otherButton);
+    m_cancelAnswer = cancelAnswerOf(alert);
+    addButton(AlertDefault, alert.defaultButton.isEmpty() ? text("OK") : alert.defaultButton, alert);
+    addButton(AlertAlternate, alert.alternateButton, alert);
+    addButton(AlertOther, alert.otherButton, alert);
 }
 
 QString AlertDialog::title() const
@@ -174,23 +192,15 @@ void AlertDialog::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
 }
 
-void AlertDialog::addButton(AlertAnswer answer, const QString &text)
+void AlertDialog::addButton(AlertAnswer answer, const QString &text, const Alert &alert)
 {
     if (text.isEmpty())
         return;
-    // The button roles let the desktop order the buttons its own way. The button that cancels is the last one added, so
-    // adding the other button turns the alternate one into an ordinary choice.
-    if (answer == AlertOther) {
-        if (QPushButton *alternate = button(AlertAlternate))
-            m_buttons->addButton(alternate, QDialogButtonBox::DestructiveRole);
-    }
-    const auto role = answer == AlertDefault ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole;
-    QPushButton *added = m_buttons->addButton(text, role);
+    QPushButton *added = m_buttons->addButton(text, roleOf(answer, alert));
     added->setObjectName(QLatin1String(buttonName(answer)));
     added->setMinimumWidth(minimumButtonWidth);
     added->setDefault(answer == AlertDefault);
     connect(added, &QPushButton::clicked, this, [this, answer] { done(answer); });
-    m_cancelAnswer = answer;
 }
 
 } // namespace brinemark

@@ -44,7 +44,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void addButton(AlertAnswer answer, const QString &text);
+    void addButton(AlertAnswer answer, const QString &text, const Alert &alert);
 
     QVBoxLayout *m_texts = nullptr;
     MessageText *m_title = nullptr;

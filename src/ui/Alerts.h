@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class QWidget;
 
@@ -27,6 +28,8 @@ struct Alert {
     QString defaultButton = {};
     QString alternateButton = {};
     QString otherButton = {};
+    /// The answer of Escape and of closing the window, if another button changes nothing.
+    std::optional<AlertAnswer> cancels = {};
 };
 
 /// The question before something is deleted for good. AlertDefault means delete; the alternate button cancels.
