@@ -25,7 +25,7 @@ struct TankFileContent {
 [[nodiscard]] TankFileContent readTankDictionary(const QString &path);
 
 /// Whether a file may be offered for opening: the extension "xml" and the beginning of a property-list dictionary of
-/// tanks. Reads only the beginning of the file.
+/// tanks, or of file attributes alone. Reads only the beginning of the file, so the file may be damaged all the same.
 [[nodiscard]] bool looksLikeTankFile(const QString &path);
 
 /// The root dictionary of a file with these tanks. `selectedRow` is the selected row of the tank tree, -1 for none.

@@ -422,6 +422,20 @@ private Q_SLOTS:
         for (const char *name : {"empty.xml", "html.xml", "random-bytes.xml", "root-array.xml", "root-string.xml",
                                  "expected.json", "", "no-such-file.xml"})
             QVERIFY2(!looksLikeTankFile(broken + name), name);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("list.xml"));
+        const auto taken = [&](const QByteArray &content) {
+            return test::writeFile(path, "<plist><dict>" + content + "</dict></plist>") && looksLikeTankFile(path);
+        };
+        const QByteArray attributes = "<key>FileAttributes</key><dict><key>x</key><array/></dict>";
+        for (const QByteArray &content : {QByteArray("<key>1</key><array/><key>x</key>"), attributes,
+                                          attributes + "<key>3</key><dict>", attributes.left(45)})
+            QVERIFY2(taken(content), content);
+        for (const QByteArray &content :
+             {QByteArray(), QByteArray("<key>1</key><string>hello</string>"), QByteArray("<key>01</key><dict/>"),
+              QByteArray("<key>FileAttributes</key><string/>"), attributes + "<key>x</key><integer>1</integer>",
+              attributes + "<key>1</key><true/>"})
+            QVERIFY2(!taken(content), content);
     }
 };
 
