@@ -8,6 +8,8 @@
 #include "model/TankProperties.h"
 #include "model/TankReadError.h"
 
+#include <algorithm>
+
 namespace brinemark
 {
 
@@ -18,6 +20,12 @@ namespace
 constexpr std::array<ContainerKind, 5> olderLists{ContainerKind::Fish, ContainerKind::Condition,
                                                   ContainerKind::Schedule, ContainerKind::Inventory,
                                                   ContainerKind::Note};
+
+/// If there are attributes for more lists than the older form has, only the tank's properties and targets are read.
+bool readsLists(const plist::Array &attributes)
+{
+    return attributes.size() <= olderLists.size() + 1;
+}
 
 const plist::Value &element(const plist::Array &array, std::size_t index)
 {
@@ -59,8 +67,7 @@ std::shared_ptr<Tank> Tank::fromArray(const plist::Array &olderTank)
     readTankProperties(*tank, properties);
     readTargets(*tank, properties);
 
-    // If there are attributes for more lists than the older form has, read only the tank's properties and targets.
-    tank->m_listsShown = attributes.size() <= olderLists.size() + 1;
+    tank->m_listsShown = readsLists(attributes);
     if (!tank->m_listsShown)
         return tank;
     for (std::size_t i = 0; i < olderLists.size(); ++i)
@@ -70,6 +77,15 @@ std::shared_ptr<Tank> Tank::fromArray(const plist::Array &olderTank)
         tank->setTarget(Parameter(i), plainTarget(Parameter(i)));
     tank->schedule()->announceOverdue();
     return tank;
+}
+
+bool Tank::fromArrayLeavesOut(const plist::Array &olderTank)
+{
+    const plist::Array &attributes = plistfield::arrayOf(element(olderTank, 0), u"an older tank's attributes");
+    const std::size_t read = readsLists(attributes) ? olderLists.size() + 1 : 1;
+    const auto holdsSomething = [](const plist::Value &value) { return !value.array() || !value.array()->empty(); };
+    return olderTank.size() > read &&
+           std::any_of(olderTank.begin() + std::ptrdiff_t(read), olderTank.end(), holdsSomething);
 }
 
 } // namespace brinemark

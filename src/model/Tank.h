@@ -33,6 +33,8 @@ public:
     [[nodiscard]] static std::shared_ptr<Tank> fromDict(const plist::Dict &tankDictionary);
     /// Builds a tank from the older file form (see OlderTank.cpp). Throws as `fromDict` does.
     [[nodiscard]] static std::shared_ptr<Tank> fromArray(const plist::Array &olderTank);
+    /// Whether `fromArray` leaves out elements of the array that are not empty.
+    [[nodiscard]] static bool fromArrayLeavesOut(const plist::Array &olderTank);
     [[nodiscard]] plist::Dict tankDictionary() const;
 
     QString name;

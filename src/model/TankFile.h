@@ -46,6 +46,8 @@ struct TankFileCallbacks {
 /// The outcome of readTanks().
 struct TankFileResult {
     bool ok = false; ///< every tank was built; if not, those before the failing one are in the list
+    /// When ok: the file holds tanks or lists that its form keeps from being read, and saving over it would lose them.
+    bool leftOut = false;
     /// "FileAttributes" is not a dictionary: nothing was read and the tank list is unchanged.
     bool refused = false;
     QString error; ///< for the log, when not ok

@@ -36,6 +36,12 @@ int selectedRowOf(const plist::Dict &attributes)
     }
 }
 
+bool leavesOut(const plist::Value &tank)
+{
+    const plist::Array *older = tank.array();
+    return older && Tank::fromArrayLeavesOut(*older);
+}
+
 std::shared_ptr<Tank> buildTank(const plist::Value *entry, const plist::Value *bundleVersion)
 {
     if (!entry)
@@ -80,7 +86,9 @@ TankFileResult readTanks(const plist::Dict &root, const QString &path, TankList 
             callbacks.progress(position - 1, tankCount);
         std::shared_ptr<Tank> tank;
         try {
-            tank = buildTank(root.find(tankfile::tankKey(position)), bundleVersion);
+            const plist::Value *entry = root.find(tankfile::tankKey(position));
+            tank = buildTank(entry, bundleVersion);
+            result.leftOut = result.leftOut || leavesOut(*entry);
         } catch (const TankReadError &error) {
             result.error =
                 QStringLiteral("tank %1: %2").arg(QString::number(position), QString::fromUtf8(error.what()));
@@ -92,6 +100,7 @@ TankFileResult readTanks(const plist::Dict &root, const QString &path, TankList 
         if (callbacks.tankBuilt)
             callbacks.tankBuilt(tank);
     }
+    result.leftOut = result.leftOut || (!found && !root.empty());
     result.ok = true;
     return result;
 }

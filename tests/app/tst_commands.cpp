@@ -213,7 +213,7 @@ private Q_SLOTS:
         }
         AlertScript script;
         Program program;
-        program.start(testFile("older-seven.xml"));
+        program.start(program.copyOf(testFile("older-seven.xml")));
         Tank &tank = *program.tree().list().at(0);
         program.controller().selectInTree(tank);
         program.tree().tankList()->setFocus();

@@ -133,7 +133,9 @@ private Q_SLOTS:
 
     void filesWithoutAttributes()
     {
-        QCOMPARE(Document(good(QStringLiteral("three-tanks-no-attributes.xml"))).tanks.count(), 2);
+        const Document three(good(QStringLiteral("three-tanks-no-attributes.xml")));
+        QCOMPARE(three.tanks.count(), 2);
+        QVERIFY(three.result.ok && three.result.leftOut);
         // A dictionary tank needs the version that older files lack.
         const Document mixed(good(QStringLiteral("older-mixed-dict.xml")));
         QCOMPARE(mixed.tanks.count(), 1);
@@ -338,7 +340,12 @@ private Q_SLOTS:
         QCOMPARE(eight.tank(0).ironData()->preferredValue, 0.0F);
 
         const Document seven(good(QStringLiteral("older-seven.xml")));
-        QVERIFY(seven.result.ok);
+        QVERIFY(seven.result.ok && seven.result.leftOut && !six.result.leftOut);
+        plist::Array longer = *six.content.root.find(u"1")->array();
+        for (const bool empty : {true, false}) { // beyond the lists of the older form
+            longer.emplace_back(empty ? plist::Array{} : plist::Array{plist::Dict{}});
+            QCOMPARE(Tank::fromArrayLeavesOut(longer), !empty);
+        }
         QVERIFY(seven.tank(0).tankItemsArray().empty());
         QVERIFY(seven.tank(0).fish()->isEmpty());
         QCOMPARE(seven.tank(0).ironData()->preferredValue, 17.5F);

@@ -93,8 +93,11 @@ void MainDocumentHost::forgetUndo()
 bool MainDocumentHost::askKeepBackupOfOlderFile()
 {
     beep();
-    const Alert alert{AlertStyle::Critical,     text("ConvertTitle"),    text("ConvertMessage"),
-                      text("ConvertDuplicate"), text("ConvertContinue"), {}};
+    Alert alert{AlertStyle::Critical,     text("ConvertTitle"),    text("ConvertMessage"),
+                text("ConvertDuplicate"), text("ConvertContinue"), {}};
+    // A copy is the careful answer, except in a run that nobody watches: that one saves nothing, so it writes no copy.
+    if (!isUnattended())
+        alert.cancels = AlertDefault;
     return runAlertPanel(&m_main.window(), alert) == AlertDefault;
 }
 

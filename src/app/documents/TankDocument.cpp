@@ -124,7 +124,7 @@ bool TankDocument::readTankFileWithPath(const QString &path)
         m_host.reportReadError();
         return false;
     }
-    m_notFullyRead = false;
+    m_notFullyRead = result.leftOut;
     m_host.fitTreeColumn();
     m_host.selectTreeRow(result.selectedRow);
     m_host.refreshTree();

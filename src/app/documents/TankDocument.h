@@ -25,7 +25,8 @@ public:
 
     /// Replaces the open document by the file. An empty path makes a new untitled document and returns false. The file
     /// that is already open is not read again. Returns false when reading fails; the document then has the new path all
-    /// the same, with the old tanks if the file is not a tank file, or with the tanks before the damaged one.
+    /// the same, with the old tanks if the file is not a tank file, or with the tanks before the damaged one; these
+    /// count as unchanged.
     bool readTankFileWithPath(const QString &path);
 
     enum class WriteOutcome { Written, Failed, Cancelled, SaveElsewhere };
@@ -52,7 +53,7 @@ public:
 
 private:
     void resetToUntitled();
-    /// Asks before a write loses tanks that are only in the file; Overwrite as well when nothing would be lost.
+    /// Asks before a write loses something that is only in the file; Overwrite as well when nothing would be lost.
     DocumentHost::OverwriteAnswer askIfOverwritingLoses(const QString &path);
     void setRepresentedFilename(const QString &path);
     void setEdited(bool edited);
@@ -64,7 +65,7 @@ private:
     QString m_representedFilename;
     plist::Dict m_documentDictionary;
     FileStamp m_lastKnown;       ///< state of the file when it was last read or written
-    bool m_notFullyRead = false; ///< the file may hold more tanks than were read
+    bool m_notFullyRead = false; ///< the file may hold more than was read
     quint32 m_changeCount = 0;
     bool m_edited = false;
 };
