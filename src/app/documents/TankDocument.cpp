@@ -121,6 +121,10 @@ bool TankDocument::readTankFileWithPath(const QString &path)
         PictureConverter::sharedInstance().convertLater(m_list);
     if (!result.ok) {
         qCWarning(logFile) << "cannot build the tanks of" << path << result.error;
+        // Without a current tank the rows would be blank, also behind the report. Showing them is no change.
+        m_host.fitTreeColumn();
+        m_host.selectTreeRow(0);
+        markUnchanged();
         m_host.reportReadError();
         return false;
     }
