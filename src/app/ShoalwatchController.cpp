@@ -72,6 +72,7 @@ void ShoalwatchController::awakeFromNib()
     m_documentHost->showDocumentTitle({});
     connectWindow();
     connect(m_views.get(), &MainViews::selectionChanged, this, &ShoalwatchController::validate);
+    connect(m_views.get(), &MainViews::addTankRequested, this, [this] { performCommand(Command::NewTank); });
     connect(&undoManager(), &QUndoStack::indexChanged, this, &ShoalwatchController::validate);
     connect(qApp, &QApplication::focusChanged, this, &ShoalwatchController::validate);
 }

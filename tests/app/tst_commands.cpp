@@ -156,7 +156,9 @@ private Q_SLOTS:
         program.controller().selectInTree(list);
         program.window().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&program.window()));
-        auto *widget = program.window().findChild<QWidget *>(focus);
+        const QWidget *place =
+            focus == "tankList" ? &program.window() : program.window().mainView().currentWidget(); // views share names
+        auto *widget = place->findChild<QWidget *>(focus);
         widget->setFocus();
         QVERIFY(widget->hasFocus());
         const int before = list.count();
@@ -171,6 +173,17 @@ private Q_SLOTS:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QTRY_VERIFY(qobject_cast<QTableView *>(QApplication::focusWidget()));
         QCOMPARE(list.count(), before + 1);
+    }
+
+    void aFileWithoutTanksOffersToAddOne()
+    {
+        Program program;
+        program.start(testFile("minimal.xml"));
+        QVERIFY(program.commands().openFile(QStringLiteral(BRINEMARK_TEST_DATA "/broken/only-attributes.xml")));
+        auto *add = program.window().mainView().currentWidget()->findChild<QPushButton *>("emptyStateButton");
+        QVERIFY(add && add->isVisible());
+        add->click();
+        QVERIFY(awaitWindow("tankSheet"));
     }
 
     /// A tank of the older form can come without lists: nothing is shown below its row until it holds a record.

@@ -2,6 +2,7 @@
 
 #include "app/window/MainViews.h"
 
+#include "base/text/Texts.h"
 #include "chemistry/views/ConditionListController.h"
 #include "chemistry/views/TankDataController.h"
 #include "journals/views/ExpenseListController.h"
@@ -10,7 +11,10 @@
 #include "journals/views/ScheduleListController.h"
 #include "livestock/views/FishDataController.h"
 #include "livestock/views/LivestockGroupController.h"
+#include "ui/EmptyState.h"
+#include "ui/Icons.h"
 
+#include <QPushButton>
 #include <QStackedWidget>
 
 namespace brinemark
@@ -55,9 +59,10 @@ MainViews::MainViews(QStackedWidget &container, QWidget *tankTree, QWidget *help
     : m_container(container)
     , m_tankTree(tankTree)
     , m_helpButton(helpButton)
-    , m_emptyView(new QWidget)
+    , m_emptyView(new EmptyState(icon("NewTankBig"), text("EmptyTanks"), text("ToolbarNewTank")))
 {
     m_emptyView->setObjectName(QStringLiteral("emptyView"));
+    connect(m_emptyView, &EmptyState::addRequested, this, &MainViews::addTankRequested);
     m_container.addWidget(m_emptyView);
 }
 
@@ -76,7 +81,8 @@ void MainViews::changeView(MainView view)
 {
     updateColumnInfo();
     if (view == MainView::None) {
-        QWidget::setTabOrder(m_tankTree, m_helpButton);
+        QWidget::setTabOrder(m_tankTree, m_emptyView->button());
+        QWidget::setTabOrder(m_emptyView->button(), m_helpButton);
         m_container.setCurrentWidget(m_emptyView);
     } else if (isView(view)) {
         MainViewController &controller = prepared(view);

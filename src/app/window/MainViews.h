@@ -9,11 +9,11 @@
 #include <array>
 
 class QStackedWidget;
-class QWidget;
 
 namespace brinemark
 {
 
+class EmptyState;
 class MainViewController;
 
 /// The right side of the main window, which shows one of nine views. A view's controller is created when the view is
@@ -41,6 +41,7 @@ public:
 
 Q_SIGNALS:
     void selectionChanged(); ///< emitted for the view on screen
+    void addTankRequested(); ///< by the button of the empty view
 
 private:
     MainViewController &prepared(MainView view);
@@ -48,7 +49,7 @@ private:
     QStackedWidget &m_container;
     QWidget *m_tankTree;
     QWidget *m_helpButton;
-    QWidget *m_emptyView;
+    EmptyState *m_emptyView;
     std::array<MainViewController *, mainViewCount> m_controllers{};
     MainView m_currentViewConstant = MainView::None;
 };
