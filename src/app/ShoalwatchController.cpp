@@ -106,7 +106,7 @@ void ShoalwatchController::connectWindow()
     m_window->closeRequested = [this] { performCommand(Command::Quit); };
     m_window->takesDroppedFile = &looksLikeTankFile;
     m_window->openDroppedFile = [](const QString &path) {
-        return ShoalwatchDelegate::sharedInstance().applicationOpenFile(path);
+        ShoalwatchDelegate::sharedInstance().applicationOpenFile(path);
     };
 }
 

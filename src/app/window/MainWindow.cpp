@@ -155,8 +155,12 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 void MainWindow::dropEvent(QDropEvent *event)
 {
     const QString path = droppedFile(*event);
-    if (!path.isEmpty() && openDroppedFile && openDroppedFile(path))
-        acceptAsCopy(*event);
+    if (path.isEmpty() || !takesDroppedFile || !takesDroppedFile(path))
+        return;
+    acceptAsCopy(*event);
+    // The source of the drag waits for the end of the drop, but opening the file may ask a question.
+    QMetaObject::invokeMethod(
+        this, [this, path] { openDroppedFile(path); }, Qt::QueuedConnection);
 }
 
 } // namespace brinemark

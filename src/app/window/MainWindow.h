@@ -43,9 +43,9 @@ public:
     std::function<void(const QString &identifier)> toolbarItemChosen;
     /// Called when the user tries to close the window; the window does not close itself.
     std::function<void()> closeRequested;
-    /// Called with a single dropped file; returns whether it was opened.
-    std::function<bool(const QString &path)> openDroppedFile;
+    /// Whether a single file may be dropped; `openDroppedFile` is called with it once the drop is over.
     std::function<bool(const QString &path)> takesDroppedFile;
+    std::function<void(const QString &path)> openDroppedFile;
 
 protected:
     bool event(QEvent *event) override;
