@@ -135,20 +135,19 @@ void ShoalwatchController::display()
     }
     QTimer::singleShot(0, this, [] { NotificationController::sharedInstance().showIfNeeded(); });
     ShoalwatchDelegate::sharedInstance().showConverterIfWanted();
+    // Behind the main window, a dialog that was opened before it would keep it from taking keys without being seen.
+    if (QWidget *modal = QApplication::activeModalWidget()) {
+        modal->raise();
+        modal->activateWindow();
+    }
     validate();
 }
 
 void ShoalwatchController::editFirstTank(const std::shared_ptr<Tank> &tank)
 {
-    const auto edit = [tank] { TankDataEntryController::sharedInstance().displayTank(tank, false, {}); };
-    // On the first run the sign-up window comes first; the tank is edited when it is closed.
-    EListSignupController &signup = EListSignupController::sharedInstance();
-    if (!signup.isVisible()) {
-        edit();
-        return;
-    }
-    connect(signup.window(), &QDialog::finished, this, edit, Qt::SingleShotConnection);
-    signup.bringToFront();
+    // On the first run the sign-up window comes first.
+    EListSignupController::sharedInstance().whenClosed(
+        this, [tank] { TankDataEntryController::sharedInstance().displayTank(tank, false, {}); });
 }
 
 void ShoalwatchController::windowWillClose()

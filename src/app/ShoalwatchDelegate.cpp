@@ -74,12 +74,15 @@ void ShoalwatchDelegate::applicationWillFinishLaunching()
 
 void ShoalwatchDelegate::applicationDidFinishLaunching()
 {
-    Preferences::shared().onWriteFailure([this] { reportUnsavedPreferences(); });
+    Preferences::shared().onWriteFailure([this] { preferencesNotWritten(); });
     if (startup::isFirstRun())
         firstRun();
     startup::applicationSupportFolderCheck(startup::applicationSupportFolder());
     openDefaultFile();
     m_shoalwatchController->display();
+    m_launched = true;
+    if (m_preferencesUnsaved)
+        reportUnsavedPreferences();
     QZUpdateController::sharedInstance().launchUpdateCheck();
     startup::updatePreferenceFile();
 }
@@ -101,6 +104,14 @@ void ShoalwatchDelegate::firstRun()
     centreOnScreen(m_shoalwatchController->window());
 }
 
+void ShoalwatchDelegate::preferencesNotWritten()
+{
+    if (m_launched)
+        reportUnsavedPreferences();
+    else
+        m_preferencesUnsaved = true; // a sheet would come up before its window
+}
+
 void ShoalwatchDelegate::reportUnsavedPreferences()
 {
     QWidget *window = m_shoalwatchController->mainWindow();
@@ -110,7 +121,7 @@ void ShoalwatchDelegate::reportUnsavedPreferences()
     if (m_quitting)
         runAlertPanel(window, alert);
     else
-        beginAlertSheet(window, alert);
+        EListSignupController::sharedInstance().whenClosed(this, [=] { beginAlertSheet(window, alert); });
 }
 
 void ShoalwatchDelegate::showConverterIfWanted()

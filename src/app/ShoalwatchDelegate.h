@@ -72,6 +72,7 @@ private:
     TerminateReply applicationShouldTerminate();
     void applicationWillTerminate();
     void firstRun();
+    void preferencesNotWritten();
     void reportUnsavedPreferences();
 
     ShoalwatchController *m_shoalwatchController = nullptr;
@@ -80,8 +81,10 @@ private:
     QUndoStack *m_undoManager;
     DockMenu *m_dockMenu;
     bool m_undoing = false;
-    bool m_terminating = false; ///< a request to quit is being answered
-    bool m_quitting = false;    ///< it was answered with yes
+    bool m_launched = false;           ///< the main window has been shown
+    bool m_preferencesUnsaved = false; ///< before that, and not yet reported
+    bool m_terminating = false;        ///< a request to quit is being answered
+    bool m_quitting = false;           ///< it was answered with yes
 };
 
 } // namespace brinemark

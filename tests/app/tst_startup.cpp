@@ -147,6 +147,7 @@ private Q_SLOTS:
         QVERIFY(script.titles.isEmpty());
     }
 
+    /// Also on the first run, after the sign-up window, which stands in front of the main window.
     void unwritablePreferencesAreReportedOnce()
     {
         // A file where the folder should be: even the superuser cannot write below it.
@@ -157,8 +158,11 @@ private Q_SLOTS:
             QVERIFY(Preferences::shared().flush());
         });
         Program program(Program::KeepPreferences);
-        Preferences::shared().set(preference::autoSaveOnQuit, true);
+        Preferences::shared().remove(preference::autoSaveOnQuit);
         program.start(testFile("minimal.xml"));
+        auto *signUp = shownWindow<QDialog>("signupWindow");
+        QVERIFY(signUp && signUp->isActiveWindow() && !shownAlert());
+        signUp->reject();
         QVERIFY(shownAlert());
         QCOMPARE(shownAlert()->title(), text("PreferencesNotSavedTitle"));
         QVERIFY(shownAlert()->message().contains(Preferences::shared().path()));

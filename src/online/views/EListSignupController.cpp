@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace brinemark
 {
 
@@ -88,15 +90,12 @@ void EListSignupController::display()
     m_addressField->setFocus();
 }
 
-void EListSignupController::bringToFront()
+void EListSignupController::whenClosed(QObject *receiver, std::function<void()> act) const
 {
-    m_window->raise();
-    m_window->activateWindow();
-}
-
-bool EListSignupController::isVisible() const
-{
-    return m_window->isVisible();
+    if (m_window->isVisible())
+        connect(m_window, &QDialog::finished, receiver, std::move(act), Qt::SingleShotConnection);
+    else
+        act();
 }
 
 void EListSignupController::join()

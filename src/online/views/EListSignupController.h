@@ -7,6 +7,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class QDialog;
 class QLineEdit;
 
@@ -23,8 +25,8 @@ public:
 
     /// Fills the field with the user's e-mail address, centres the window and shows it.
     void display();
-    void bringToFront();
-    [[nodiscard]] bool isVisible() const;
+    /// Calls `act` when the window closes, or at once when it is not open. The receiver's end cancels the call.
+    void whenClosed(QObject *receiver, std::function<void()> act) const;
 
     [[nodiscard]] QDialog *window() const { return m_window.get(); }
 
