@@ -304,6 +304,10 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Das Hauptfenster in eine Bilddatei zeichnen und beenden.</translation>
     </message>
     <message>
+        <source>CommandLineRenderNeedsPicture</source>
+        <translation>Geben Sie die Bilddatei an, die geschrieben werden soll.</translation>
+    </message>
+    <message>
         <source>CommandLineTooManyFiles</source>
         <translation>Es kann nur eine Aquariendatei zugleich geöffnet sein.</translation>
     </message>

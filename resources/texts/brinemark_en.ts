@@ -304,6 +304,10 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Draw the main window into a picture file and leave.</translation>
     </message>
     <message>
+        <source>CommandLineRenderNeedsPicture</source>
+        <translation>Name the picture file to write.</translation>
+    </message>
+    <message>
         <source>CommandLineTooManyFiles</source>
         <translation>Only one tank file can be open at a time.</translation>
     </message>

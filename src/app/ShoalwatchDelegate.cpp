@@ -87,11 +87,13 @@ void ShoalwatchDelegate::applicationDidFinishLaunching()
     startup::updatePreferenceFile();
 }
 
-void ShoalwatchDelegate::openDefaultFile()
+bool ShoalwatchDelegate::openDefaultFile()
 {
     const QString defaultFile = startup::defaultFileExistsCheck();
-    if (m_shoalwatchController->document().representedFilename().isEmpty())
-        m_shoalwatchController->document().readTankFileWithPath(defaultFile);
+    TankDocument &document = m_shoalwatchController->document();
+    if (!document.representedFilename().isEmpty())
+        return true;
+    return document.readTankFileWithPath(defaultFile) || defaultFile.isEmpty();
 }
 
 void ShoalwatchDelegate::firstRun()

@@ -34,7 +34,8 @@ public:
     // Start-up
     void applicationWillFinishLaunching();
     void applicationDidFinishLaunching();
-    void openDefaultFile(); ///< unless a file is open already; an untitled document when there is no default file
+    /// Unless a file is open already; an untitled document when there is no default file. False when it cannot be read.
+    bool openDefaultFile();
     void showConverterIfWanted();
 
     // The desktop's requests

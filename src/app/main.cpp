@@ -5,6 +5,8 @@
 #include "app/startup/BrinemarkApp.h"
 #include "app/startup/CommandLine.h"
 #include "app/startup/RenderToPicture.h"
+#include "base/PreferenceKeys.h"
+#include "base/Preferences.h"
 #include "base/text/Texts.h"
 #include "ui/Alerts.h"
 
@@ -34,7 +36,8 @@ int print(const CommandLine &commandLine, ShoalwatchDelegate &delegate, const QS
 
 int render(const CommandLine &commandLine, ShoalwatchDelegate &delegate)
 {
-    delegate.openDefaultFile();
+    if (!delegate.openDefaultFile())
+        return failed(whyNotOpened(Preferences::shared().value(preference::defaultFile, QString())));
     if (!renderToPicture(commandLine.renderTo))
         return failed(fillPlaceholders(text("CommandLineNotRendered"), {commandLine.renderTo}));
     return 0;
@@ -71,6 +74,8 @@ int main(int argc, char **argv)
     }
     prepareAppearance(commandLine->dark);
     setUnattended(commandLine->unattended());
+    if (commandLine->unattended())
+        Preferences::shared().setReadOnly();
 
     ShoalwatchDelegate &delegate = ShoalwatchDelegate::sharedInstance();
     QObject::connect(&app, &BrinemarkApp::openFileRequested, &delegate, &ShoalwatchDelegate::applicationOpenFile);

@@ -90,6 +90,8 @@ void Preferences::setVariant(const QString &name, const QVariant &value)
         remove(name);
         return;
     }
+    if (m_readOnly)
+        return;
     m_settings->setValue(name, value);
     checkWritingSoon();
 }
@@ -102,7 +104,7 @@ bool Preferences::contains(const QString &name) const
 void Preferences::remove(const QString &name)
 {
     // QSettings::remove() with an empty name removes every value.
-    if (name.isEmpty())
+    if (name.isEmpty() || m_readOnly)
         return;
     m_settings->remove(name);
     checkWritingSoon();

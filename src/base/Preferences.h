@@ -75,6 +75,9 @@ public:
     [[nodiscard]] bool contains(const QString &name) const;
     void remove(const QString &name);
 
+    /// From now on nothing is changed: setting and removing values does nothing.
+    void setReadOnly() { m_readOnly = true; }
+
     /// Writes pending changes to disk; false when writing failed.
     bool flush();
 
@@ -100,6 +103,7 @@ private:
     std::unique_ptr<QSettings> m_settings;
     std::function<void()> m_tellWriteFailure;
     bool m_writeFailureTold = false;
+    bool m_readOnly = false;
     QObject m_checks; ///< receives the queued checks, so that none comes after the end of the store
 };
 

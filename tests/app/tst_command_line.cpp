@@ -18,31 +18,41 @@ private Q_SLOTS:
     void nobodyIsAsked_data()
     {
         // file: below tests/data; said: texts that stand in the standard error
-        test::columns<QString, QString, bool, QStringList>("option", "file", "succeeds", "said");
+        test::columns<QString, QString, int, QStringList>("option", "file", "exitCode", "said");
         const QStringList damaged{text("ReadErrorMessage"), "could not be read"};
-        row("older form", "--render", "tanks/older-six.xml", true, QStringList{text("ConvertTitle")});
-        row("damaged", "--render", "broken/missing-note-note.xml", false, damaged);
-        row("another kind of file", "--render", "broken/html.xml", false, QStringList{"is not a tank file"});
-        row("folder", "--render", "broken", false, QStringList{"is not a tank file"});
-        row("missing", "--render", "no-such-file.xml", false, QStringList{"There is no file"});
-        row("print damaged", "--print", "broken/missing-note-note.xml", false, damaged);
-        row("print missing", "--print", "no-such-file.xml", false, QStringList{"There is no file"});
-        row("print nothing", "--print", "", false, QStringList{text("CommandLinePrintNeedsFile")});
+        row("older form", "--render", "tanks/older-six.xml", 0, QStringList{text("ConvertTitle")});
+        row("damaged", "--render", "broken/missing-note-note.xml", 1, damaged);
+        row("another kind of file", "--render", "broken/html.xml", 1, QStringList{"is not a tank file"});
+        row("folder", "--render", "broken", 1, QStringList{"is not a tank file"});
+        row("missing", "--render", "no-such-file.xml", 1, QStringList{"There is no file"});
+        row("print damaged", "--print", "broken/missing-note-note.xml", 1, damaged);
+        row("print missing", "--print", "no-such-file.xml", 1, QStringList{"There is no file"});
+        row("print nothing", "--print", "", 1, QStringList{text("CommandLinePrintNeedsFile")});
+        row("render nowhere", "--render=", "tanks/minimal.xml", 2, QStringList{text("CommandLineRenderNeedsPicture")});
+        // "default:" marks the default file, which is opened when no file is named.
+        row("default", "--render", "default:tanks/minimal.xml", 0, QStringList());
+        row("missing default", "--render", "default:no-such-file.xml", 0, QStringList());
+        row("damaged default", "--render", "default:broken/missing-note-note.xml", 1, damaged);
     }
 
     void nobodyIsAsked()
     {
         QFETCH(QString, option);
         QFETCH(QString, file);
-        QFETCH(bool, succeeds);
+        QFETCH(int, exitCode);
         QFETCH(QStringList, said);
         const QTemporaryDir folder;
         const QString picture = folder.filePath("picture.png");
         QStringList arguments{option};
         if (option == "--render")
             arguments << picture;
-        if (!file.isEmpty())
-            arguments << QStringLiteral(BRINEMARK_TEST_DATA "/") + file;
+        const bool isDefault = file.startsWith("default:");
+        const QString path = QStringLiteral(BRINEMARK_TEST_DATA "/") + file.mid(isDefault ? 8 : 0);
+        Preferences::shared().set(preference::defaultFile, isDefault ? path : QString());
+        QVERIFY(Preferences::shared().flush());
+        const QByteArray preferences = bytesOf(Preferences::shared().path());
+        if (!file.isEmpty() && !isDefault)
+            arguments << path;
         QProcess program;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("LC_ALL", "en_US.UTF-8");
@@ -52,12 +62,15 @@ private Q_SLOTS:
         program.kill();
         QVERIFY(ended);
         const QString errors = QString::fromUtf8(program.readAllStandardError());
-        QVERIFY2(program.exitStatus() == QProcess::NormalExit && (program.exitCode() == 0) == succeeds,
-                 qPrintable(errors));
+        QVERIFY2(program.exitStatus() == QProcess::NormalExit && program.exitCode() == exitCode, qPrintable(errors));
         for (const QString &sentence : said)
             QVERIFY2(errors.contains(sentence), qPrintable(errors));
         QCOMPARE(errors.contains("There is no file"), file.startsWith("no-such"));
-        QCOMPARE(QFileInfo::exists(picture), succeeds && option == "--render");
+        QCOMPARE(QFileInfo::exists(picture), exitCode == 0 && option == "--render");
+        // Nothing else is written.
+        QCOMPARE(bytesOf(Preferences::shared().path()), preferences);
+        QVERIFY(!QFileInfo::exists(QFileInfo(path).path() + '/' + text("ConvertBackup") + ' ' +
+                                   QFileInfo(path).fileName()));
     }
 };
 

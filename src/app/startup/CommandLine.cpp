@@ -41,6 +41,11 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
     CommandLine line;
     line.file = parser.positionalArguments().value(0);
     line.renderTo = parser.value(render);
+    if (parser.isSet(render) && line.renderTo.isEmpty()) {
+        output = text("CommandLineRenderNeedsPicture") + u'\n';
+        exitCode = 2;
+        return {};
+    }
     line.print = parser.isSet(print);
     line.dark = parser.isSet(dark);
     return line;
