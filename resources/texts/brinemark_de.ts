@@ -1073,10 +1073,6 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Diagramm als Bild oder PDF speichern …</translation>
     </message>
     <message>
-        <source>GraphSaveErrorMessage</source>
-        <translation>Prüfen Sie, ob Sie in den Ordner schreiben dürfen und ob noch Platz frei ist, oder wählen Sie einen anderen Ort.</translation>
-    </message>
-    <message>
         <source>GraphSaveErrorTitle</source>
         <translation>Das Diagramm konnte nicht gespeichert werden.</translation>
     </message>
@@ -1341,6 +1337,16 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <source>KHLowSaltAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
         <translation>In Salzwasser ist das die Alkalinität. Heben Sie sie mit einem gelösten Puffer für Riffbecken um höchstens 1 Grad am Tag, und testen Sie auch Calcium und Magnesium. Solange ein Test Ammoniak zeigt, warten Sie damit, denn ein Puffer hebt den pH-Wert.</translation>
+    </message>
+    <message>
+        <source>KeptCopiesMessage</source>
+        <extracomment>^0 is a list of paths, one a line.</extracomment>
+        <translation>Brinemark wurde beendet, während es eine Datei überschrieb. Was sie vorher enthielt, wurde hier aufgehoben:
+^0</translation>
+    </message>
+    <message>
+        <source>KeptCopiesTitle</source>
+        <translation>Eine Datei ist möglicherweise beschädigt.</translation>
     </message>
     <message>
         <source>LastColumnToolTip</source>
@@ -2155,16 +2161,98 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Geben Sie niemals trockenes Salz ins Becken, denn es verätzt die Tiere, die es berührt. Lösen Sie es vorher in anderem Wasser, und gießen Sie dieses in mehreren kleinen Mengen langsam hinein, sodass die relative Dichte um höchstens 0,001 am Tag steigt.</translation>
     </message>
     <message>
+        <source>SaveErrorBeforeNew</source>
+        <translation>Ihre Änderungen sind noch geöffnet, gehen aber verloren, wenn Sie eine neue Datei beginnen, ohne sie zu speichern.</translation>
+    </message>
+    <message>
+        <source>SaveErrorBeforeOpen</source>
+        <translation>Ihre Änderungen sind noch geöffnet, gehen aber verloren, wenn Sie eine andere Datei öffnen, ohne sie zu speichern.</translation>
+    </message>
+    <message>
+        <source>SaveErrorBeforeQuit</source>
+        <translation>Ihre Änderungen sind noch geöffnet, gehen aber verloren, wenn Sie das Programm beenden, ohne sie zu speichern.</translation>
+    </message>
+    <message>
+        <source>SaveErrorDiscardNew</source>
+        <translation>Neu ohne Speichern</translation>
+    </message>
+    <message>
+        <source>SaveErrorDiscardOpen</source>
+        <translation>Öffnen ohne Speichern</translation>
+    </message>
+    <message>
+        <source>SaveErrorDiscardQuit</source>
+        <translation>Beenden ohne Speichern</translation>
+    </message>
+    <message>
         <source>SaveErrorMessage</source>
-        <translation>Die Aquariendatei konnte nicht gespeichert werden. Ihre Änderungen sind in Brinemark weiterhin geöffnet, und die Datei auf dem Datenträger ist unverändert. Prüfen Sie, ob Sie in den Ordner schreiben dürfen und ob noch Platz frei ist, oder wählen Sie mit „Speichern unter“ einen anderen Ort.</translation>
+        <translation>Die Aquariendatei konnte nicht richtig gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>SaveErrorStillOpen</source>
+        <translation>Ihre Änderungen sind in Brinemark weiterhin geöffnet. Versuchen Sie es noch einmal, oder wählen Sie mit „Speichern unter“ einen anderen Ort.</translation>
     </message>
     <message>
         <source>SaveLabel</source>
         <translation>Speichern</translation>
     </message>
     <message>
+        <source>SaveLeftDamagedFile</source>
+        <extracomment>^0 is the path of a copy.</extracomment>
+        <translation>Die Datei ist jetzt beschädigt. Was sie vorher enthielt, steht in „^0“.</translation>
+    </message>
+    <message>
+        <source>SaveLeftNewFile</source>
+        <translation>Die neue Fassung steht in der Datei, aber der Datenträger hat nicht bestätigt, dass sie einen Stromausfall übersteht.</translation>
+    </message>
+    <message>
+        <source>SaveLeftOldFile</source>
+        <translation>Auf dem Datenträger wurde nichts verändert.</translation>
+    </message>
+    <message>
         <source>SaveMessage</source>
         <translation>Wenn Sie nicht speichern, geht alles verloren, was Sie seit dem letzten Speichern geändert haben.</translation>
+    </message>
+    <message>
+        <source>SaveProblemDevice</source>
+        <translation>Der Datenträger oder das Netzlaufwerk meldet einen Fehler.</translation>
+    </message>
+    <message>
+        <source>SaveProblemNameTooLong</source>
+        <translation>Der Name der Datei ist zu lang.</translation>
+    </message>
+    <message>
+        <source>SaveProblemNoPermission</source>
+        <translation>Sie dürfen dort nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>SaveProblemNoSpace</source>
+        <translation>Auf dem Datenträger ist nicht genug Platz frei.</translation>
+    </message>
+    <message>
+        <source>SaveProblemNotAFile</source>
+        <translation>Unter diesem Namen gibt es schon etwas, das keine Datei ist.</translation>
+    </message>
+    <message>
+        <source>SaveProblemOther</source>
+        <extracomment>^0 is the system&apos;s reason.</extracomment>
+        <translation>Das System meldet: ^0.</translation>
+    </message>
+    <message>
+        <source>SaveProblemPathGone</source>
+        <translation>Der Ordner ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>SaveProblemQuota</source>
+        <translation>Ihr Anteil am Speicherplatz ist verbraucht.</translation>
+    </message>
+    <message>
+        <source>SaveProblemReadOnly</source>
+        <translation>Der Datenträger ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>SaveProblemTooLarge</source>
+        <translation>Die Datei ist größer, als der Datenträger erlaubt.</translation>
     </message>
     <message>
         <source>SaveQuitTitle</source>

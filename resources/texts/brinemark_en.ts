@@ -1073,10 +1073,6 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Save the graph as a picture or PDF…</translation>
     </message>
     <message>
-        <source>GraphSaveErrorMessage</source>
-        <translation>Check whether you may write to the folder and whether there is room left, or choose another place.</translation>
-    </message>
-    <message>
         <source>GraphSaveErrorTitle</source>
         <translation>The graph could not be saved.</translation>
     </message>
@@ -1341,6 +1337,16 @@ Then test every day and repeat the water change until the value is in range. Mea
         <source>KHLowSaltAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
         <translation>In salt water this is the alkalinity. Raise it with a dissolved buffer for reef tanks by at most 1 degree a day, and test calcium and magnesium too. While a test shows ammonia, wait, because a buffer raises the pH.</translation>
+    </message>
+    <message>
+        <source>KeptCopiesMessage</source>
+        <extracomment>^0 is a list of paths, one a line.</extracomment>
+        <translation>Brinemark was ended while it wrote over a file. What the file contained before was kept here:
+^0</translation>
+    </message>
+    <message>
+        <source>KeptCopiesTitle</source>
+        <translation>A file may be damaged.</translation>
     </message>
     <message>
         <source>LastColumnToolTip</source>
@@ -2155,16 +2161,98 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Never put dry salt into the tank, because it burns the animals that it touches. Dissolve it in other water first, and pour that in slowly in several small portions, so that the specific gravity rises by at most 0.001 a day.</translation>
     </message>
     <message>
+        <source>SaveErrorBeforeNew</source>
+        <translation>Your changes are still open, but are lost when you begin a new file without saving them.</translation>
+    </message>
+    <message>
+        <source>SaveErrorBeforeOpen</source>
+        <translation>Your changes are still open, but are lost when you open another file without saving them.</translation>
+    </message>
+    <message>
+        <source>SaveErrorBeforeQuit</source>
+        <translation>Your changes are still open, but are lost when you quit without saving them.</translation>
+    </message>
+    <message>
+        <source>SaveErrorDiscardNew</source>
+        <translation>New Without Saving</translation>
+    </message>
+    <message>
+        <source>SaveErrorDiscardOpen</source>
+        <translation>Open Without Saving</translation>
+    </message>
+    <message>
+        <source>SaveErrorDiscardQuit</source>
+        <translation>Quit Without Saving</translation>
+    </message>
+    <message>
         <source>SaveErrorMessage</source>
-        <translation>The tank file could not be saved. Your changes are still open in Brinemark, and the file on disk is as it was before. Check that you may write to the folder and that the disk is not full, or use “Save As” to choose another place.</translation>
+        <translation>Saving the tank file failed.</translation>
+    </message>
+    <message>
+        <source>SaveErrorStillOpen</source>
+        <translation>Your changes are still open in Brinemark. Try again, or use “Save As” to choose another place.</translation>
     </message>
     <message>
         <source>SaveLabel</source>
         <translation>Save</translation>
     </message>
     <message>
+        <source>SaveLeftDamagedFile</source>
+        <extracomment>^0 is the path of a copy.</extracomment>
+        <translation>The file is damaged now. What it contained before is in “^0”.</translation>
+    </message>
+    <message>
+        <source>SaveLeftNewFile</source>
+        <translation>The new version is in the file, but the disk did not confirm that it would survive a power failure.</translation>
+    </message>
+    <message>
+        <source>SaveLeftOldFile</source>
+        <translation>Nothing on the disk was changed.</translation>
+    </message>
+    <message>
         <source>SaveMessage</source>
         <translation>If you do not save, everything you changed since you last saved is lost.</translation>
+    </message>
+    <message>
+        <source>SaveProblemDevice</source>
+        <translation>The disk or network drive reported an error.</translation>
+    </message>
+    <message>
+        <source>SaveProblemNameTooLong</source>
+        <translation>The name of the file is too long.</translation>
+    </message>
+    <message>
+        <source>SaveProblemNoPermission</source>
+        <translation>You do not have permission to write there.</translation>
+    </message>
+    <message>
+        <source>SaveProblemNoSpace</source>
+        <translation>There is not enough room left on the disk.</translation>
+    </message>
+    <message>
+        <source>SaveProblemNotAFile</source>
+        <translation>Something that is not a file has this name.</translation>
+    </message>
+    <message>
+        <source>SaveProblemOther</source>
+        <extracomment>^0 is the system&apos;s reason.</extracomment>
+        <translation>The system reports: ^0.</translation>
+    </message>
+    <message>
+        <source>SaveProblemPathGone</source>
+        <translation>The folder no longer exists.</translation>
+    </message>
+    <message>
+        <source>SaveProblemQuota</source>
+        <translation>Your share of the disk is used up.</translation>
+    </message>
+    <message>
+        <source>SaveProblemReadOnly</source>
+        <translation>The disk is write-protected.</translation>
+    </message>
+    <message>
+        <source>SaveProblemTooLarge</source>
+        <translation>The file is larger than the disk allows.</translation>
     </message>
     <message>
         <source>SaveQuitTitle</source>

@@ -13,6 +13,7 @@
 #include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
 #include "base/Product.h"
+#include "base/saving/KeptCopies.h"
 #include "base/text/Texts.h"
 #include "calc/views/ConverterController.h"
 #include "journals/views/NotificationController.h"
@@ -85,6 +86,7 @@ void ShoalwatchDelegate::applicationDidFinishLaunching()
         reportUnsavedPreferences();
     QZUpdateController::sharedInstance().launchUpdateCheck();
     startup::updatePreferenceFile();
+    reportKeptCopies();
 }
 
 bool ShoalwatchDelegate::openDefaultFile()
@@ -124,6 +126,16 @@ void ShoalwatchDelegate::reportUnsavedPreferences()
         runAlertPanel(window, alert);
     else
         EListSignupController::sharedInstance().whenClosed(this, [=] { beginAlertSheet(window, alert); });
+}
+
+void ShoalwatchDelegate::reportKeptCopies()
+{
+    const QStringList copies = takeAbandonedCopies();
+    if (!copies.isEmpty())
+        beginAlertSheet(m_shoalwatchController->mainWindow(),
+                        {.style = AlertStyle::Critical,
+                         .title = text("KeptCopiesTitle"),
+                         .message = fillPlaceholders(text("KeptCopiesMessage"), {copies.join(u'\n')})});
 }
 
 void ShoalwatchDelegate::showConverterIfWanted()

@@ -75,6 +75,7 @@ private:
     void firstRun();
     void preferencesNotWritten();
     void reportUnsavedPreferences();
+    void reportKeptCopies();
 
     ShoalwatchController *m_shoalwatchController = nullptr;
     FishDataEntryController *m_fishDataEntryController = nullptr;

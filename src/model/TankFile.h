@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "base/SafeFile.h"
+#include "base/saving/SafeFile.h"
 #include "base/plist/Value.h"
 #include "model/TankList.h"
 

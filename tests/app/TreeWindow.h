@@ -137,7 +137,7 @@ private:
         return OverwriteAnswer::Overwrite;
     }
     void reportReadError() override {}
-    void reportSaveError() override {}
+    FailedSaveAnswer reportSaveError(const WriteResult &, SaveContext) override { return FailedSaveAnswer::Cancel; }
 
     QString m_savePath;
 };

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
 #include "base/Product.h"
+#include "base/saving/KeptCopies.h"
 #include "base/text/Texts.h"
 #include "support/AppFixture.h"
 #include "support/DataRow.h"
+#include "support/FailingFileCalls.h"
 #include "support/Python.h"
 #include "ui/MainView.h"
 
@@ -119,11 +122,100 @@ private Q_SLOTS:
         AlertScript script;
         QCOMPARE(program.document().writeTankFileWithPath(folder), TankDocument::WriteOutcome::Failed);
         QCOMPARE(script.titles, QStringList{text("Error")});
-        QCOMPARE(script.messages, QStringList{text("SaveErrorMessage")});
+        QCOMPARE(script.messages, QStringList{text("SaveErrorMessage") + ' ' + text("SaveProblemNotAFile") + ' ' +
+                                              text("SaveLeftOldFile") + "\n\n" + text("SaveErrorStillOpen")});
         QVERIFY(QFileInfo(folder + "/inside").isDir());
         QCOMPARE(program.path(), path);
         QCOMPARE(bytesOf(path), before);
         QVERIFY(program.document().isEdited() && program.document().changeCount() > 0);
+        // The next save does not take what an unconfirmed one wrote for another program's change.
+        {
+            const FailingFileCalls calls({.name = "folder"});
+            program.commands().saveCurrentFile();
+        }
+        QVERIFY(script.messages.last().contains(text("SaveLeftNewFile")));
+        QVERIFY(program.document().isEdited());
+        program.commands().saveCurrentFile();
+        QCOMPARE(script.titles.size(), 2);
+        QVERIFY(!program.document().isEdited());
+    }
+
+    void failedSaveOnTheWay_data()
+    {
+        columns<QString, QString, QString, bool>("command", "answer", "endsAt", "edited");
+        for (const QString command : {"new", "open", "hand over", "quit", "auto-save"}) {
+            const QString next = command == "new"                              ? ""
+                                 : command == "open" || command == "hand over" ? "other"
+                                                                               : "ended";
+            for (const QString answer : {"cancel", "elsewhere", "elsewhere, cancel", "discard"}) {
+                const bool goesOn = answer == "elsewhere" || answer == "discard";
+                row(qPrintable(command + ", " + answer), command, answer, goesOn ? next : QString("old"), !goesOn);
+            }
+        }
+        row("open, discard, cancel", QString("open"), QString("discard, cancel"), QString("old"), true);
+    }
+
+    /// A failed save never discards changes without consent, and the command goes on once they are saved elsewhere.
+    void failedSaveOnTheWay()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, answer);
+        QFETCH(QString, endsAt);
+        QFETCH(bool, edited);
+        Program program;
+        Preferences::shared().set(preference::autoSaveOnQuit, command == "auto-save");
+        const QMap<QString, QString> paths{{"", ""},
+                                           {"old", program.copyOf(testFile("minimal.xml"))},
+                                           {"other", program.copyOf(testFile("three-tanks.xml"), "other.xml")},
+                                           {"saved", program.filePath("saved.xml")}};
+        const QByteArray before = bytesOf(paths["old"]);
+        program.start(paths["old"]);
+        QVERIFY(program.renameFirstTank("Edited"));
+        const FailingFileCalls calls({.name = "fsync", .error = ENOSPC});
+        AlertScript script;
+        if (command != "auto-save")
+            script.answerWith(AlertDefault);
+        if (answer != "cancel") // is the answer of Escape
+            script.answerWith(answer.startsWith("discard") ? AlertAlternate : AlertOther);
+        const bool ended = program.endsAfter([&] {
+            if (command == "hand over")
+                program.delegate().applicationOpenFile(paths["other"]);
+            else
+                program.controller().performCommand(command == "new"    ? Command::NewFile
+                                                    : command == "open" ? Command::OpenFile
+                                                                        : Command::Quit);
+            QTRY_VERIFY(script.titles.contains(text("Error")));
+            if (answer.startsWith("elsewhere"))
+                QVERIFY(answerPanel("savePanel", answer == "elsewhere" ? paths["saved"] : QString()));
+            if (command == "open" && (endsAt == "other" || answer == "discard, cancel"))
+                QVERIFY(answerPanel("openPanel", paths[endsAt == "other" ? "other" : ""]));
+        });
+        QCOMPARE(script.titles.size(), command == "auto-save" ? 1 : 2);
+        const QString message = script.messages.last();
+        QVERIFY(message.contains(text("SaveProblemNoSpace")) && !message.contains(text("SaveErrorStillOpen")));
+        QCOMPARE(ended, endsAt == "ended");
+        QCOMPARE(bytesOf(paths["old"]), before);
+        QCOMPARE(tankNamesIn(paths["saved"]), answer == "elsewhere" ? QStringList{"Edited"} : QStringList());
+        if (ended)
+            return;
+        QCOMPARE(program.path(), paths[endsAt]);
+        QVERIFY(program.document().isEdited() || !edited);
+        QCOMPARE(program.tankNames().contains("Edited"), edited);
+    }
+
+    /// A copy that a killed process left is shown at the next start, and at no later one.
+    void reportsKeptCopiesOnce()
+    {
+        QVERIFY(writeFile(keptCopiesFolder() + "/unfinished tanks.xml", "old"));
+        for (const QStringList &titles : {QStringList{text("KeptCopiesTitle")}, QStringList()}) {
+            AlertScript script;
+            Program program;
+            program.start(testFile("minimal.xml"));
+            QTest::qWait(20);
+            QCOMPARE(script.titles, titles);
+            QVERIFY(titles.isEmpty() || script.messages.first().endsWith(keptCopiesFolder() + "/tanks.xml"));
+            QCOMPARE(bytesOf(keptCopiesFolder() + "/tanks.xml"), QByteArray("old"));
+        }
     }
 
     void changedByAnother_data()

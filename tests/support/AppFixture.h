@@ -22,6 +22,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -51,17 +52,31 @@ protected:
     void timerEvent(QTimerEvent *) override
     {
         AlertDialog *alert = shownAlert();
-        if (!alert)
+        if (!alert || alert == m_answered)
             return;
-        titles << alert->title();
-        messages << alert->message();
-        const AlertAnswer answer = m_answers.isEmpty() ? alert->cancelAnswer() : m_answers.takeFirst();
-        if (QPushButton *button = alert->button(answer))
-            button->click();
+        m_answered = alert;
+        // Queued: the answer may run another alert, during which this timer has to go on.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_answered)
+                    answer(*m_answered);
+            },
+            Qt::QueuedConnection);
     }
 
 private:
+    void answer(AlertDialog &alert)
+    {
+        titles << alert.title();
+        messages << alert.message();
+        const AlertAnswer answer = m_answers.isEmpty() ? alert.cancelAnswer() : m_answers.takeFirst();
+        if (QPushButton *button = alert.button(answer))
+            button->click();
+    }
+
     QList<AlertAnswer> m_answers;
+    QPointer<AlertDialog> m_answered;
 };
 
 inline QString testFile(const QString &name)

@@ -17,7 +17,7 @@ public:
     {
         s_current = this;
         qputenv("HOME", m_folder.path().toLocal8Bit());
-        for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+        for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"})
             qputenv(variable, m_folder.filePath(QLatin1String(variable)).toLocal8Bit());
     }
 

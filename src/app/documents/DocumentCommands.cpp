@@ -4,7 +4,6 @@
 
 #include "app/documents/FilePanels.h"
 #include "app/documents/PicturePreparation.h"
-#include "app/documents/TankDocument.h"
 #include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
@@ -58,15 +57,14 @@ void DocumentCommands::openDataFile()
         return;
     finishTyping(m_window);
     m_handedOver.clear(); // a file handed over earlier is still set when its opening was cancelled in the save panel
-    goOnOpening();
+    if (m_document.isEdited())
+        askBeforeLosingChanges(Context::OpenFile);
+    else
+        openWithoutAsking();
 }
 
-void DocumentCommands::goOnOpening()
+void DocumentCommands::openWithoutAsking()
 {
-    if (m_document.isEdited()) {
-        askBeforeLosingChanges(Context::OpenFile);
-        return;
-    }
     if (const QString path = std::exchange(m_handedOver, {}); !path.isEmpty()) {
         m_document.readTankFileWithPath(path);
         return;
@@ -138,7 +136,7 @@ void DocumentCommands::goOn(Context context)
         m_document.readTankFileWithPath({});
         break;
     case Context::OpenFile:
-        goOnOpening();
+        openWithoutAsking(); // the user has decided about the changes
         break;
     case Context::Quit:
         m_replyToQuit(true);
@@ -162,20 +160,27 @@ void DocumentCommands::onceReadyToWrite(const QString &path, Context context, st
 void DocumentCommands::writeToCurrentPath(Context context)
 {
     onceReadyToWrite(m_document.representedFilename(), context, [this, context] {
-        switch (m_document.writeTankFileWithPath(m_document.representedFilename())) {
-        case TankDocument::WriteOutcome::Cancelled:
-            if (context == Context::Quit)
-                m_replyToQuit(false);
-            break;
-        case TankDocument::WriteOutcome::SaveElsewhere:
-            saveTankFileWithContext(context);
-            break;
-        case TankDocument::WriteOutcome::Written:
-        case TankDocument::WriteOutcome::Failed: // already reported to the user
+        if (mayGoOn(m_document.writeTankFileWithPath(m_document.representedFilename(), context), context))
             goOn(context);
-            break;
-        }
     });
+}
+
+bool DocumentCommands::mayGoOn(TankDocument::WriteOutcome outcome, Context context)
+{
+    switch (outcome) {
+    case TankDocument::WriteOutcome::Cancelled:
+        m_handedOver.clear();
+        if (context == Context::Quit)
+            m_replyToQuit(false);
+        return false;
+    case TankDocument::WriteOutcome::SaveElsewhere:
+        saveTankFileWithContext(context);
+        return false;
+    case TankDocument::WriteOutcome::Written:
+    case TankDocument::WriteOutcome::Failed: // reported to the user, who gave up the changes
+        break;
+    }
+    return true;
 }
 
 void DocumentCommands::saveCurrentFile()
@@ -219,18 +224,8 @@ void DocumentCommands::savePanelDidEnd(const FilePanelAnswer &answer, Context co
 
 void DocumentCommands::writeFromSavePanel(const QString &path, Context context)
 {
-    switch (m_document.writeTankFileWithPath(path)) {
-    case TankDocument::WriteOutcome::Cancelled:
-        if (context == Context::Quit)
-            m_replyToQuit(false);
+    if (!mayGoOn(m_document.writeTankFileWithPath(path, context), context))
         return;
-    case TankDocument::WriteOutcome::SaveElsewhere: // the user chose the open file, then decided to keep it
-        saveTankFileWithContext(context);
-        return;
-    case TankDocument::WriteOutcome::Written:
-    case TankDocument::WriteOutcome::Failed: // already reported to the user
-        break;
-    }
     if (m_makeDefault)
         Preferences::shared().set(preference::defaultFile, path);
     goOn(context);

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "app/documents/TankDocument.h"
+
 #include <QObject>
 #include <QString>
 
@@ -15,7 +17,6 @@ namespace brinemark
 
 struct FilePanelAnswer;
 class PicturePreparation;
-class TankDocument;
 
 /// The commands of the File menu (new, open, save, save as and revert) and the questions they ask before unsaved
 /// changes are lost. A command that comes while a save is being prepared waits until the save has ended.
@@ -24,8 +25,7 @@ class DocumentCommands : public QObject
     Q_OBJECT
 
 public:
-    /// The command to continue with after a save.
-    enum class Context { None, NewFile, OpenFile, Quit };
+    using Context = SaveContext;
 
     /// `window` is the parent of the sheets. `replyToQuit` is called with the answer to a quit request that had to wait
     /// for the user.
@@ -57,11 +57,14 @@ private:
     void openFileDidEnd(const FilePanelAnswer &answer);
     void savePanelDidEnd(const FilePanelAnswer &answer, Context context);
     void goOn(Context context);
-    void goOnOpening();
+    void openWithoutAsking();
     void writeToCurrentPath(Context context); ///< then continues with the command named by the context
     /// Calls `write` once the pictures are converted; calls the command named by the context off when the user cancels.
     void onceReadyToWrite(const QString &path, Context context, std::function<void()> write);
     void writeFromSavePanel(const QString &path, Context context);
+    /// Whether the command named by the context goes on after a write. If not, it is called off, or waits for the save
+    /// panel.
+    bool mayGoOn(TankDocument::WriteOutcome outcome, Context context);
 
     TankDocument &m_document;
     QWidget *m_window;

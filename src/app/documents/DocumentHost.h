@@ -7,6 +7,11 @@
 namespace brinemark
 {
 
+struct WriteResult;
+
+/// The command that waits for a save.
+enum class SaveContext { None, NewFile, OpenFile, Quit };
+
 /// What TankDocument needs of the window around it.
 class DocumentHost
 {
@@ -33,7 +38,10 @@ public:
     enum class OverwriteReason { ChangedOnDisk, NotFullyRead };
     virtual OverwriteAnswer askBeforeOverwriting(const QString &path, OverwriteReason reason) = 0;
     virtual void reportReadError() = 0;
-    virtual void reportSaveError() = 0;
+    enum class FailedSaveAnswer { SaveElsewhere, Cancel, GoOn };
+    /// Says why a save failed. With a command waiting, also asks whether it may discard the changes; without one, the
+    /// answer is Cancel.
+    virtual FailedSaveAnswer reportSaveError(const WriteResult &failure, SaveContext context) = 0;
 };
 
 } // namespace brinemark

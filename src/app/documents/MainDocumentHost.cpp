@@ -6,6 +6,8 @@
 #include "app/tree/TankListController.h"
 #include "app/window/MainViews.h"
 #include "app/window/MainWindow.h"
+#include "base/TableChecks.h"
+#include "base/saving/SafeFile.h"
 #include "base/text/Texts.h"
 #include "journals/views/NotificationController.h"
 #include "ui/Alerts.h"
@@ -13,8 +15,30 @@
 #include <QFileInfo>
 #include <QUndoStack>
 
+#include <array>
+
 namespace brinemark
 {
+
+namespace
+{
+
+/// What is said about the unsaved changes after a failed save, and the button that discards them.
+struct FailedSaveTexts {
+    SaveContext context;
+    TextKey changes;
+    TextKey discard;
+};
+
+constexpr std::array failedSaveTexts{
+    FailedSaveTexts{SaveContext::None, "SaveErrorStillOpen"_key, {}},
+    FailedSaveTexts{SaveContext::NewFile, "SaveErrorBeforeNew"_key, "SaveErrorDiscardNew"_key},
+    FailedSaveTexts{SaveContext::OpenFile, "SaveErrorBeforeOpen"_key, "SaveErrorDiscardOpen"_key},
+    FailedSaveTexts{SaveContext::Quit, "SaveErrorBeforeQuit"_key, "SaveErrorDiscardQuit"_key},
+};
+static_assert(rowsFollow<SaveContext>(failedSaveTexts, &FailedSaveTexts::context));
+
+} // namespace
 
 MainDocumentHost::MainDocumentHost(ShoalwatchController &main)
     : m_main(main)
@@ -127,9 +151,27 @@ void MainDocumentHost::reportReadError()
     runAlertPanel(&m_main.window(), {AlertStyle::Critical, text("Error"), text("ReadErrorMessage"), {}, {}, {}});
 }
 
-void MainDocumentHost::reportSaveError()
+DocumentHost::FailedSaveAnswer MainDocumentHost::reportSaveError(const WriteResult &failure, SaveContext context)
 {
-    runAlertPanel(&m_main.window(), {AlertStyle::Critical, text("Error"), text("SaveErrorMessage"), {}, {}, {}});
+    const FailedSaveTexts &texts = failedSaveTexts[std::size_t(context)];
+    Alert alert{.style = AlertStyle::Critical,
+                .title = text("Error"),
+                .message = text("SaveErrorMessage") + u' ' + saveErrorText(failure) + QStringLiteral("\n\n") +
+                           text(texts.changes)};
+    if (context != SaveContext::None) {
+        alert.defaultButton = text("CancelLabel");
+        alert.alternateButton = text(texts.discard);
+        alert.otherButton = text("ChangedOnDiskSaveAs");
+        alert.cancels = AlertDefault;
+    }
+    switch (runAlertPanel(&m_main.window(), alert)) {
+    case AlertAlternate:
+        return FailedSaveAnswer::GoOn;
+    case AlertOther:
+        return FailedSaveAnswer::SaveElsewhere;
+    default:
+        return FailedSaveAnswer::Cancel;
+    }
 }
 
 } // namespace brinemark

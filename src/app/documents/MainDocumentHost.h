@@ -31,7 +31,7 @@ public:
     bool askKeepBackupOfOlderFile() override;
     OverwriteAnswer askBeforeOverwriting(const QString &path, OverwriteReason reason) override;
     void reportReadError() override;
-    void reportSaveError() override;
+    FailedSaveAnswer reportSaveError(const WriteResult &failure, SaveContext context) override;
 
 private:
     ShoalwatchController &m_main;

@@ -100,6 +100,7 @@ bool TankDocument::readTankFileWithPath(const QString &path)
         return false;
     }
     m_lastKnown = content.stamp;
+    removeAbandonedTemporaryFiles(path);
 
     TankFileCallbacks callbacks;
     callbacks.wantsBackup = [this] { return m_host.askKeepBackupOfOlderFile(); };
@@ -147,7 +148,20 @@ DocumentHost::OverwriteAnswer TankDocument::askIfOverwritingLoses(const QString 
     return m_host.askBeforeOverwriting(path, m_notFullyRead ? Reason::NotFullyRead : Reason::ChangedOnDisk);
 }
 
-TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &path)
+TankDocument::WriteOutcome TankDocument::reportFailedWrite(const WriteResult &failure, const QString &path,
+                                                           SaveContext context)
+{
+    // The next save must not ask about a change that this one made.
+    if (failure.stamp.isKnown() && path == m_representedFilename)
+        m_lastKnown = failure.stamp;
+    const auto answer = m_host.reportSaveError(failure, context);
+    if (context == SaveContext::None || answer == DocumentHost::FailedSaveAnswer::GoOn)
+        return WriteOutcome::Failed;
+    return answer == DocumentHost::FailedSaveAnswer::SaveElsewhere ? WriteOutcome::SaveElsewhere
+                                                                   : WriteOutcome::Cancelled;
+}
+
+TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &path, SaveContext context)
 {
     switch (askIfOverwritingLoses(path)) {
     case DocumentHost::OverwriteAnswer::Cancel:
@@ -162,11 +176,8 @@ TankDocument::WriteOutcome TankDocument::writeTankFileWithPath(const QString &pa
         tankFileDictionary(m_list, m_host.selectedTreeRow(), product::packedVersion(product::shortVersion()));
     const BusyCursor busy;
     const WriteResult written = writeTankDictionary(path, root);
-    if (!written.ok) {
-        qCWarning(logFile) << "cannot write" << path << written.error;
-        m_host.reportSaveError();
-        return WriteOutcome::Failed;
-    }
+    if (!written.ok)
+        return reportFailedWrite(written, path, context);
     m_lastKnown = written.stamp;
     m_notFullyRead = false;
     m_changeCount = 0;

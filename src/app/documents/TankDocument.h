@@ -3,8 +3,8 @@
 #pragma once
 
 #include "app/documents/DocumentHost.h"
-#include "base/SafeFile.h"
 #include "base/plist/Value.h"
+#include "base/saving/SafeFile.h"
 
 #include <QObject>
 #include <QString>
@@ -31,7 +31,9 @@ public:
 
     enum class WriteOutcome { Written, Failed, Cancelled, SaveElsewhere };
     /// Writes the whole document. A failure is reported to the user before this returns, and the document stays edited.
-    WriteOutcome writeTankFileWithPath(const QString &path);
+    /// `context` is the command that waits for the save: it goes on when the outcome is Written, or Failed, which then
+    /// means that the user agreed to lose the changes.
+    WriteOutcome writeTankFileWithPath(const QString &path, SaveContext context = SaveContext::None);
 
     [[nodiscard]] const TankList &tanks() const { return m_list; }
     [[nodiscard]] const QString &representedFilename() const { return m_representedFilename; } ///< empty when untitled
@@ -55,6 +57,7 @@ private:
     void resetToUntitled();
     /// Asks before a write loses something that is only in the file; Overwrite as well when nothing would be lost.
     DocumentHost::OverwriteAnswer askIfOverwritingLoses(const QString &path);
+    WriteOutcome reportFailedWrite(const WriteResult &failure, const QString &path, SaveContext context);
     void setRepresentedFilename(const QString &path);
     void setEdited(bool edited);
     void markUnchanged();

@@ -4,9 +4,11 @@
 
 #include "app/ShoalwatchController.h"
 #include "app/window/MainWindow.h"
+#include "base/saving/SafeFile.h"
 #include "ui/pictures/PictureCache.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QPixmap>
 
 namespace brinemark
@@ -18,7 +20,9 @@ bool renderToPicture(const QString &path)
     window.show();
     QApplication::processEvents(); // completes the layout
     PictureCache::sharedInstance().finishRequests();
-    return window.grab().save(path, "PNG");
+    QBuffer picture;
+    return picture.open(QIODevice::WriteOnly) && window.grab().save(&picture, "PNG") &&
+           writeFileSafely(path, picture.data()).ok;
 }
 
 } // namespace brinemark

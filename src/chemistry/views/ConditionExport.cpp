@@ -2,7 +2,7 @@
 
 #include "chemistry/views/ConditionExport.h"
 
-#include "base/SafeFile.h"
+#include "base/saving/SafeFile.h"
 #include "base/text/Texts.h"
 #include "model/Tank.h"
 #include "ui/SavePanel.h"

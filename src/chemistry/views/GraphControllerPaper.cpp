@@ -2,6 +2,7 @@
 
 // Saving and printing the graph of a GraphController.
 
+#include "base/saving/SafeFile.h"
 #include "base/text/DateText.h"
 #include "base/text/Texts.h"
 #include "chemistry/views/GraphController.h"
@@ -32,10 +33,11 @@ void GraphController::saveGraph()
             return;
         const TwoDGraphView &view = m_graphContentView->graphView();
         const bool isPdf = QFileInfo(path).suffix().compare(pdf, Qt::CaseInsensitive) == 0;
-        if (!(isPdf ? view.savePdf(path) : view.saveImage(path)))
-            beginAlertSheet(m_graphWindow, {.style = AlertStyle::Critical,
-                                            .title = text("GraphSaveErrorTitle"),
-                                            .message = text("GraphSaveErrorMessage")});
+        const WriteResult saved = isPdf ? view.savePdf(path) : view.saveImage(path);
+        if (!saved)
+            beginAlertSheet(
+                m_graphWindow,
+                {.style = AlertStyle::Critical, .title = text("GraphSaveErrorTitle"), .message = saveErrorText(saved)});
     });
 }
 

@@ -3,7 +3,7 @@
 // Printing and exporting a TwoDGraphView.
 
 #include "base/Log.h"
-#include "base/SafeFile.h"
+#include "base/saving/SafeFile.h"
 #include "ui/graph/GraphKey.h"
 #include "ui/graph/GraphPlot.h"
 #include "ui/graph/TwoDGraphView.h"
@@ -26,6 +26,14 @@ constexpr double pixelsPerInch = 96; ///< resolution of the units in which a gra
 /// How much a printed graph may be magnified: text has some 10 points on the screen, and should have 8 to 12 on paper.
 constexpr double leastOnPaper = 0.8;
 constexpr double mostOnPaper = 1.2;
+
+WriteResult notDrawn(const QString &path)
+{
+    qCWarning(logFile) << "cannot draw the graph for" << path;
+    WriteResult result;
+    result.error = QStringLiteral("drawing");
+    return result;
+}
 
 } // namespace
 
@@ -73,7 +81,7 @@ bool TwoDGraphView::print(QPrinter &printer) const
     return painter.end() && printer.printerState() != QPrinter::Error;
 }
 
-bool TwoDGraphView::saveImage(const QString &path) const
+WriteResult TwoDGraphView::saveImage(const QString &path) const
 {
     constexpr int scale = 2;
     QImage image(drawnSize() * scale, QImage::Format_RGB32);
@@ -84,14 +92,12 @@ bool TwoDGraphView::saveImage(const QString &path) const
     render(&painter, QRectF(QPointF(), drawnSize()));
     painter.end();
     QBuffer buffer;
-    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG")) {
-        qCWarning(logFile) << "cannot encode the picture of a graph for" << path;
-        return false;
-    }
-    return writeFileSafely(path, buffer.data()).ok;
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG"))
+        return notDrawn(path);
+    return writeFileSafely(path, buffer.data());
 }
 
-bool TwoDGraphView::savePdf(const QString &path) const
+WriteResult TwoDGraphView::savePdf(const QString &path) const
 {
     constexpr double pointsPerInch = 72;
     QBuffer buffer;
@@ -102,15 +108,13 @@ bool TwoDGraphView::savePdf(const QString &path) const
         writer.setPageMargins({});
         writer.setPageSize(QPageSize(QSizeF(drawnSize()) * (pointsPerInch / pixelsPerInch), QPageSize::Point));
         writer.setResolution(1200);
-        if (!buffer.open(QIODevice::WriteOnly) || !painter.begin(&writer)) {
-            qCWarning(logFile) << "cannot draw the page of a graph for" << path;
-            return false;
-        }
+        if (!buffer.open(QIODevice::WriteOnly) || !painter.begin(&writer))
+            return notDrawn(path);
         painter.scale(writer.resolution() / pixelsPerInch, writer.resolution() / pixelsPerInch);
         render(&painter, QRectF(QPointF(), drawnSize()));
         painter.end();
     }
-    return writeFileSafely(path, buffer.data()).ok;
+    return writeFileSafely(path, buffer.data());
 }
 
 } // namespace brinemark

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/saving/SafeFile.h"
 #include "ui/OwnedWidget.h"
 #include "ui/graph/GraphBand.h"
 #include "ui/graph/GraphHeading.h"
@@ -94,10 +95,9 @@ public:
     /// Prints the graph over the whole page. False when printing fails.
     [[nodiscard]] bool print(QPrinter &printer) const;
 
-    /// Writes a PNG of twice the view's size, or a PDF of one page. False when writing fails; the log says why, and an
-    /// existing file at the path is left unchanged.
-    [[nodiscard]] bool saveImage(const QString &path) const;
-    [[nodiscard]] bool savePdf(const QString &path) const;
+    /// Writes a PNG of twice the view's size, or a PDF of one page, by writeFileSafely().
+    [[nodiscard]] WriteResult saveImage(const QString &path) const;
+    [[nodiscard]] WriteResult savePdf(const QString &path) const;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "base/SafeFile.h"
-
-#include "base/Log.h"
+#include "base/saving/FileStamp.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QHashFunctions>
-#include <QSaveFile>
 
 namespace brinemark
 {
@@ -27,16 +24,6 @@ QByteArray fastHash(const QByteArray &content)
 FileStamp stampOf(const QFileInfo &info)
 {
     return info.isFile() ? FileStamp{info.size(), info.lastModified().toUTC(), {}} : FileStamp{};
-}
-
-/// Follows links one by one, because a link whose target does not exist yet has no canonical path.
-QString linkTarget(const QString &path)
-{
-    QString target = path;
-    constexpr int mostLinks = 40; // as Linux allows
-    for (int i = 0; i < mostLinks && QFileInfo(target).isSymLink(); ++i)
-        target = QFileInfo(target).symLinkTarget();
-    return target;
 }
 
 } // namespace
@@ -93,37 +80,6 @@ FileContent readFile(const QString &path)
     content.ok = true;
     content.stamp = {content.bytes.size(), modified, fastHash(content.bytes)};
     return content;
-}
-
-WriteResult writeFileSafely(const QString &path, const QByteArray &bytes)
-{
-    const QString target = linkTarget(path);
-    if (QFileInfo::exists(target) && !QFileInfo(target).isFile()) {
-        qCWarning(logFile) << "Cannot write" << target << "Not a file";
-        return {false, QStringLiteral("Not a file"), {}};
-    }
-    QSaveFile file(target);
-    return writeFileSafely(file, bytes);
-}
-
-WriteResult writeFileSafely(QSaveFile &file, const QByteArray &bytes)
-{
-    const QString path = file.fileName();
-    if (!file.isOpen() && !file.open(QIODevice::WriteOnly)) {
-        qCWarning(logFile) << "Cannot write" << path << file.errorString();
-        return {false, file.errorString(), {}};
-    }
-    const bool written = file.write(bytes) == bytes.size() && file.flush();
-    QString error = file.errorString();
-    if (!written)
-        file.cancelWriting();
-    if (!file.commit()) {
-        if (written)
-            error = file.errorString();
-        qCWarning(logFile) << "Cannot write" << path << error;
-        return {false, error, {}};
-    }
-    return {true, {}, FileStamp::of(path, bytes)};
 }
 
 } // namespace brinemark

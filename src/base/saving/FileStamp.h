@@ -6,8 +6,6 @@
 #include <QDateTime>
 #include <QString>
 
-class QSaveFile;
-
 namespace brinemark
 {
 
@@ -43,20 +41,5 @@ struct FileContent {
 
 /// Reads a whole file and makes the stamp from the bytes that were read.
 [[nodiscard]] FileContent readFile(const QString &path);
-
-/// The outcome of writing a file.
-struct WriteResult {
-    bool ok = false;
-    QString error;   ///< the system's reason when not ok
-    FileStamp stamp; ///< of the written file, when ok
-};
-
-/// Replaces a file such that a complete one exists at every moment: writes a temporary file in the same folder, checks
-/// every write, syncs it to disk, then renames it. Permissions are kept; a symbolic link stays, and its target is
-/// replaced. On failure the old file is unchanged.
-[[nodiscard]] WriteResult writeFileSafely(const QString &path, const QByteArray &bytes);
-
-/// The same through the caller's file object, which this function opens and then commits or cancels.
-[[nodiscard]] WriteResult writeFileSafely(QSaveFile &file, const QByteArray &bytes);
 
 } // namespace brinemark
