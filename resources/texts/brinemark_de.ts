@@ -1341,7 +1341,8 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     <message>
         <source>KeptCopiesMessage</source>
         <extracomment>^0 is a list of paths, one a line.</extracomment>
-        <translation>Brinemark wurde beendet, während es eine Datei überschrieb. Was sie vorher enthielt, wurde hier aufgehoben:
+        <translation>Brinemark wurde beendet, während es eine Datei überschrieb. Ist sie jetzt beschädigt, ersetzen Sie sie durch diese Kopie dessen, was sie vorher enthielt:
+
 ^0</translation>
     </message>
     <message>

@@ -1341,7 +1341,8 @@ Then test every day and repeat the water change until the value is in range. Mea
     <message>
         <source>KeptCopiesMessage</source>
         <extracomment>^0 is a list of paths, one a line.</extracomment>
-        <translation>Brinemark was ended while it wrote over a file. What the file contained before was kept here:
+        <translation>Brinemark was ended while it wrote over a file. If that file is damaged now, replace it by this copy of what it contained before:
+
 ^0</translation>
     </message>
     <message>

@@ -8,7 +8,6 @@
 #include "model/TankFileKeys.h"
 #include "model/TankReadError.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace brinemark
@@ -22,7 +21,8 @@ void keepBackup(const QString &path)
 {
     const QFileInfo info(path);
     const QString backup = info.path() + u'/' + text("ConvertBackup"_key) + u' ' + info.fileName();
-    if (!QFile::copy(path, backup))
+    const FileContent content = QFileInfo::exists(backup) ? FileContent() : readFile(path);
+    if (!content.ok || !writeFileSafely(backup, content.bytes, path))
         qCInfo(logFile, "no backup copy was made at %ls", qUtf16Printable(backup));
 }
 

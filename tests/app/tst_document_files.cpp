@@ -95,6 +95,7 @@ private Q_SLOTS:
         program.settle();
         QVERIFY(open(AlertDefault));
         QCOMPARE(bytesOf(backup), bytesOf(testFile("older-six.xml")));
+        QCOMPARE(QFile::permissions(backup), QFile::permissions(older));
         // An existing backup is not replaced.
         QVERIFY(writeFile(backup, "kept"));
         program.document().readTankFileWithPath({});

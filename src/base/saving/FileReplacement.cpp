@@ -53,13 +53,13 @@ void FileReplacement::discard()
     m_path.clear();
 }
 
-FailedCall FileReplacement::write(const QByteArray &bytes, bool keepsAttributes)
+FailedCall FileReplacement::write(const QByteArray &bytes, const QString &attributesOf)
 {
     using Mode = FileCalls::Mode;
-    if (const FailedCall failed = create(keepsAttributes ? Mode::CreatePrivate : Mode::Create))
+    if (const FailedCall failed = create(attributesOf.isEmpty() ? Mode::Create : Mode::CreatePrivate))
         return failed;
-    if (keepsAttributes)
-        m_calls.copyAttributes(m_target, m_file.descriptor);
+    if (!attributesOf.isEmpty())
+        m_calls.copyAttributes(attributesOf, m_file.descriptor);
     CallSeries calls;
     if (!calls("write", writeWhole(m_calls, m_file.descriptor, bytes)) ||
         !calls("fsync", m_calls.sync(m_file.descriptor)) || !calls("close", m_file.close()) ||

@@ -23,8 +23,8 @@ public:
     static constexpr char createCall[] = "create";
     static constexpr char renameCall[] = "rename";
 
-    /// Writes the file and replaces the target. With `keepsAttributes` the new file gets those of the target.
-    [[nodiscard]] FailedCall write(const QByteArray &bytes, bool keepsAttributes);
+    /// Writes the file and replaces the target. The new file gets the attributes of `attributesOf`, if a file is named.
+    [[nodiscard]] FailedCall write(const QByteArray &bytes, const QString &attributesOf);
 
     /// Whether the target is the new file now. It can be so after a failure as well: of the last call.
     [[nodiscard]] bool isDone() const { return m_done; }

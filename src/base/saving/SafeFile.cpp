@@ -51,7 +51,7 @@ bool onlyTheFolderForbids(FailedCall failed)
                               failed.error == EBUSY || failed.error == EXDEV);
 }
 
-WriteResult saveWithCalls(FileCalls &calls, const QString &target, const QByteArray &bytes)
+WriteResult saveWithCalls(FileCalls &calls, const QString &target, const QByteArray &bytes, const QString &attributesOf)
 {
     FileState before;
     const bool exists = calls.state(target, before) == 0;
@@ -61,7 +61,7 @@ WriteResult saveWithCalls(FileCalls &calls, const QString &target, const QByteAr
     }
     removeAbandonedTemporaryFiles(target);
     FileReplacement replacement(calls, target);
-    const FailedCall failed = replacement.write(bytes, exists);
+    const FailedCall failed = replacement.write(bytes, exists ? target : attributesOf);
     if (failed && exists && onlyTheFolderForbids(failed)) {
         qCInfo(logFile) << target << "is written over:" << errorTextOf(failed);
         return overwriteFile(calls, target, bytes);
@@ -88,7 +88,7 @@ WriteResult saveWithToolkit(const QString &target, const QByteArray &bytes)
     return result;
 }
 
-WriteResult save(const QString &target, const QByteArray &bytes)
+WriteResult save(const QString &target, const QByteArray &bytes, const QString &attributesOf)
 {
     const QFileInfo info(target);
     if (info.fileName().isEmpty())
@@ -96,15 +96,15 @@ WriteResult save(const QString &target, const QByteArray &bytes)
     if (info.exists() && !info.isFile())
         return saveFailed(SaveProblem::NotAFile, QStringLiteral("Not a file"));
     FileCalls *calls = FileCalls::current();
-    return calls ? saveWithCalls(*calls, target, bytes) : saveWithToolkit(target, bytes);
+    return calls ? saveWithCalls(*calls, target, bytes, attributesOf) : saveWithToolkit(target, bytes);
 }
 
 } // namespace
 
-WriteResult writeFileSafely(const QString &path, const QByteArray &bytes)
+WriteResult writeFileSafely(const QString &path, const QByteArray &bytes, const QString &attributesOf)
 {
     const QString target = linkTarget(path);
-    WriteResult result = save(target, bytes);
+    WriteResult result = save(target, bytes, attributesOf);
     if (!result.ok)
         qCWarning(logFile) << "Cannot write" << target << result.error;
     return result;

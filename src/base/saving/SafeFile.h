@@ -50,7 +50,10 @@ struct WriteResult {
 /// its target is replaced. Other hard links to the file keep the old content. A file that may be written in a folder
 /// that may not is written over, while a copy of the old content is kept elsewhere (see KeptCopies.h); its hard links
 /// then get the new content as well.
-[[nodiscard]] WriteResult writeFileSafely(const QString &path, const QByteArray &bytes);
+///
+/// A new file gets the attributes of the file `attributesOf`, if one is named.
+[[nodiscard]] WriteResult writeFileSafely(const QString &path, const QByteArray &bytes,
+                                          const QString &attributesOf = {});
 
 /// A failure in a person's words: the reason, and what is on the disk now.
 [[nodiscard]] QString saveErrorText(const WriteResult &failure);

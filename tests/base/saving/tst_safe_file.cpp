@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cstring>
+
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -118,8 +120,8 @@ private Q_SLOTS:
             QVERIFY2(!changedOnDisk(file, isOld ? before : written.stamp), context);
             QVERIFY2(isDamaged == !written.keptCopy.isEmpty() && (!isDamaged || QFile::remove(written.keptCopy)),
                      context);
-            QVERIFY2(written.ok ||
-                         (written.error.contains(": No space left") && written.problem == SaveProblem::NoSpace),
+            QVERIFY2(written.ok || (written.error.endsWith(": " + QString::fromLocal8Bit(std::strerror(ENOSPC))) &&
+                                    written.problem == SaveProblem::NoSpace),
                      context);
             QCOMPARE(entries(), QStringList{"tanks.xml"});
             QCOMPARE(test::entriesOf(keptCopiesFolder()), QStringList());
