@@ -7,9 +7,9 @@
 // times the bare XML parse, writing at most 5 times a safe copy of the same bytes, sorting 100,000 tests at most 60 ms,
 // and a process that opens a file needs at most 6 (tests) or 3 (pictures) times the file's size in memory.
 
-#include "base/saving/SafeFile.h"
 #include "base/plist/XmlReader.h"
 #include "base/plist/XmlWriter.h"
+#include "base/saving/SafeFile.h"
 #include "model/Tank.h"
 #include "model/TankFile.h"
 

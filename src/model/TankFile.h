@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "base/saving/SafeFile.h"
 #include "base/plist/Value.h"
+#include "base/saving/SafeFile.h"
 #include "model/TankList.h"
 
 #include <QString>
