@@ -2,9 +2,12 @@
 
 #include "app/startup/Appearance.h"
 
+#include "ui/OutlineStyle.h"
+
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QPalette>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QTranslator>
 
@@ -18,14 +21,15 @@ void prepareAppearance(bool dark)
                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(translator);
     if (dark) {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        QApplication::setStyle(new OutlineStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
         QApplication::setPalette(darkPalette());
+    } else if (QApplication::style()->name() == u"fusion") {
+        QApplication::setStyle(new OutlineStyle);
     }
 }
 
 QPalette darkPalette()
 {
-    // The Fusion style draws boxes and fields without a light edge, so their colours must contrast with the window's.
     const QColor window(0x38, 0x3a, 0x3e), base(0x19, 0x1b, 0x1d), text(0xe6, 0xe6, 0xe6), disabled(0x90, 0x93, 0x96);
     const QColor accent(0x2f, 0x7f, 0xb5);
     QPalette palette(text, window, window.lighter(140), window.darker(160), window.darker(120), text, base);

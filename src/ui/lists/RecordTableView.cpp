@@ -3,6 +3,7 @@
 #include "ui/lists/RecordTableView.h"
 
 #include "ui/Alerts.h"
+#include "ui/OutlineStyle.h"
 #include "ui/ReturnKey.h"
 #include "ui/lists/RecordSelectionModel.h"
 
@@ -10,7 +11,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QScopedValueRollback>
 #include <QStyleOptionHeader>
 
@@ -26,7 +26,7 @@ constexpr int largestColumnWidth = 1000; ///< pixels
 
 /// Adds margins at the sides of the texts of cells and headers, and reserves a place for the sort mark at the end of a
 /// header, so that a column 17 pixels wider than its header's text shows text and mark.
-class AirySides : public QProxyStyle
+class AirySides : public OutlineStyle
 {
 public:
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -34,7 +34,7 @@ public:
     {
         const auto *header = qstyleoption_cast<const QStyleOptionHeaderV2 *>(option);
         if (element != CE_Header || !header || header->orientation != Qt::Horizontal) {
-            QProxyStyle::drawControl(element, option, painter, widget);
+            OutlineStyle::drawControl(element, option, painter, widget);
             return;
         }
         constexpr int markWidth = 9;
@@ -64,7 +64,7 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
     {
         constexpr int air = 6;
-        const int own = QProxyStyle::pixelMetric(metric, option, widget);
+        const int own = OutlineStyle::pixelMetric(metric, option, widget);
         return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? std::max(own, air) : own;
     }
 };
