@@ -7,6 +7,8 @@
 
 #include <QDragMoveEvent>
 
+#include <type_traits>
+
 using namespace brinemark;
 using namespace brinemark::test;
 
@@ -167,20 +169,74 @@ private Q_SLOTS:
         QCOMPARE(w.first->fishListArray().size(), 4U);
     }
 
-    /// A collapsed row expands when a drag stays over it; an expanded one stays expanded.
+    /// Rows that can take what is dragged open when the drag stays over them, and close again unless it is dropped
+    /// there.
     void hoveringOpens()
     {
         TwoTanks w;
+        const auto third = w.addTank("third");
         w.outline->collapseAll();
+        w.outline->expand(w.indexOf(TreeItem(*w.second)));
+        w.tree.select(TreeItem(*w.records[0]));
+        QVERIFY(w.save());
+        const TreeItem fish(*w.records[0]);
+        const TreeItem group(*w.second->fish());
+        const auto opened = [&w](const TreeItem &dragged, const TreeItem &over, QPoint offset = {}) {
+            bool opens = false;
+            drag(w, dragged, w.rectOf(over).center() + offset, {}, [&] {
+                QTest::qWait(500);
+                opens = w.tree.isExpanded(over);
+                QVERIFY(!opens); // not before a pause
+                QTest::qWait(400);
+                opens = w.tree.isExpanded(over);
+            });
+            return opens;
+        };
+        QVERIFY(!opened(TreeItem(*w.first), TreeItem(*third), QPoint(0, 1)));
+        QVERIFY(w.save());
+        QVERIFY(!opened(fish, TreeItem(*w.second->plant())));
+        QVERIFY(opened(fish, TreeItem(*third)));
+        QVERIFY(opened(fish, group));
+        for (const TreeItem &item : {TreeItem(*third), group}) {
+            QVERIFY(!w.tree.isExpanded(item));
+            QVERIFY(!*item.expandedFlag());
+        }
+        QVERIFY(!w.window.isWindowModified());
+
+        // The drag opens two tanks on its way to a group of one of them, which is below the rows opened before.
+        const auto fourth = w.addTank("fourth");
+        w.tree.select(fish);
+        const TreeItem target(*fourth->fish());
+        const std::unique_ptr<QMimeData> data(w.outline->writeItem(fish));
+        const auto send = [&]<class Event>(std::type_identity<Event>, QPoint to) {
+            Event event(to, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+            QApplication::sendEvent(w.outline->viewport(), &event);
+        };
+        send(std::type_identity<QDragEnterEvent>(), w.rectOf(TreeItem(*third)).center());
+        for (const auto &tank : {third, fourth}) {
+            send(std::type_identity<QDragMoveEvent>(), w.rectOf(TreeItem(*tank)).center());
+            QTRY_VERIFY(w.tree.isExpanded(TreeItem(*tank)));
+        }
+        send(std::type_identity<QDropEvent>(), below(w, target));
+        QCOMPARE(w.fishOf(*fourth), QStringList("fish"));
+        QVERIFY(w.tree.isExpanded(target) && fourth->tankExpanded && *target.expandedFlag());
+        QVERIFY(!w.tree.isExpanded(TreeItem(*third)) && !third->tankExpanded);
+    }
+
+    /// A tank goes below all rows of the tank that it is dropped on. If these end below the view, the mark is at its
+    /// edge.
+    void endOfALongListIsMarked()
+    {
+        TwoTanks w;
+        for (int i = 0; i < 40; ++i)
+            w.add<FishData>(*w.second, QString::number(i));
+        w.outline->expandAll();
         w.tree.select(TreeItem(*w.first));
-        const TreeItem second(*w.second);
-        const auto wait = [] { QTest::qWait(900); };
-        drag(w, TreeItem(*w.first), w.rectOf(second).center() - QPoint(0, 1));
-        QVERIFY(!w.tree.isExpanded(second)); // dropped before the row expands
-        drag(w, TreeItem(*w.first), w.rectOf(second).center(), {}, wait);
-        QVERIFY(w.tree.isExpanded(second));
-        drag(w, TreeItem(*w.first), w.rectOf(second).center(), {}, wait);
-        QVERIFY(w.tree.isExpanded(second));
+        const auto bottom = [&w] { return w.outline->viewport()->grab().toImage().copy(0, 600, 200, 200); };
+        const QImage before = bottom();
+        QImage marked;
+        drag(w, TreeItem(*w.first), w.rectOf(TreeItem(*w.second)).center(), {}, [&] { marked = bottom(); });
+        QVERIFY(marked != before);
     }
 
     /// A request of the desktop may open another file during a drag.

@@ -76,6 +76,7 @@ void TankListController::connectOutline()
     m_outline->acceptDrop = [this](const auto &proposal, const auto &row, auto allowed) {
         return acceptDrop(proposal, row, allowed);
     };
+    m_outline->takesDragged = [this](const TreeItem &row) { return takesDragged(row); };
     m_outline->writeItem = [this](const TreeItem &item) { return writeItem(item); };
     m_outline->dragEnded = [this] { m_dragData = {}; };
     connect(m_outline, &TankOutlineView::deleteKeyPressed, this, [this] { performCommand(Command::Delete); });
@@ -237,7 +238,7 @@ void TankListController::rowExpanded(const QModelIndex &index, bool expanded)
 {
     const TreeItem item = m_model->itemAt(index);
     bool *flag = item.expandedFlag();
-    if (m_rebuilding || !flag)
+    if (m_rebuilding || m_outline->isHovering() || !flag)
         return;
     *flag = expanded;
     m_shell->documentModifiedWithChange(true);

@@ -89,6 +89,7 @@ private:
     void finishDeleting();
 
     QMimeData *writeItem(const TreeItem &item);
+    [[nodiscard]] bool takesDragged(const TreeItem &row) const;
     TankOutlineView::DropAnswer validateDrop(const DropProposal &proposal, const TreeItem &row,
                                              Qt::DropActions allowed);
     bool acceptDrop(const DropProposal &proposal, const TreeItem &row, Qt::DropActions allowed);

@@ -14,6 +14,9 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace brinemark
 {
@@ -24,6 +27,7 @@ namespace
 constexpr int iconExtent = 16;
 constexpr int smallestColumnWidth = 80;
 constexpr std::chrono::milliseconds openDelay(700);
+constexpr int markRadius = 3;      // of the circle at the start of the drop mark, in pixels
 constexpr int betweenRowsZone = 4; // pixels from a row's top or bottom edge within which a drop falls between rows
 
 } // namespace
@@ -51,7 +55,7 @@ TankOutlineView::TankOutlineView(TankTreeModel &model, QWidget *parent)
     setDropIndicatorShown(false); // drawn in paintEvent(), because the tree's rules may move the drop elsewhere
     m_openTimer.setSingleShot(true);
     m_openTimer.setInterval(openDelay);
-    connect(&m_openTimer, &QTimer::timeout, this, [this] { expand(m_hovered); });
+    connect(&m_openTimer, &QTimer::timeout, this, &TankOutlineView::openHovered);
     setFrameShape(QFrame::NoFrame);
 }
 
@@ -117,6 +121,7 @@ void TankOutlineView::startDrag(Qt::DropActions)
     drag.setPixmap(
         index.data(Qt::DecorationRole).value<QIcon>().pixmap(QSize(iconExtent, iconExtent) * 2, devicePixelRatio()));
     drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+    closeOpened();
     if (dragEnded)
         dragEnded();
 }
@@ -163,14 +168,34 @@ void TankOutlineView::hoverOver(const QModelIndex &index)
         return;
     endHovering();
     m_hovered = index;
-    if (m_model.itemAt(index).isExpandable())
+    const TreeItem item = m_model.itemAt(index);
+    if (item.isExpandable() && takesDragged && takesDragged(item))
         m_openTimer.start();
+}
+
+void TankOutlineView::openHovered()
+{
+    if (!m_hovered.isValid() || isExpanded(m_hovered))
+        return;
+    const QScopedValueRollback hovering(m_hovering, true);
+    expand(m_hovered);
+    m_opened.append(m_hovered);
 }
 
 void TankOutlineView::endHovering()
 {
     m_openTimer.stop();
     m_hovered = QModelIndex();
+}
+
+void TankOutlineView::closeOpened()
+{
+    endHovering();
+    const QScopedValueRollback hovering(m_hovering, true);
+    while (!m_opened.isEmpty()) {
+        if (const QPersistentModelIndex row = m_opened.takeLast(); row.isValid())
+            collapse(row);
+    }
 }
 
 void TankOutlineView::dragMoveEvent(QDragMoveEvent *event)
@@ -193,7 +218,7 @@ void TankOutlineView::dragMoveEvent(QDragMoveEvent *event)
 
 void TankOutlineView::dragLeaveEvent(QDragLeaveEvent *event)
 {
-    endHovering();
+    closeOpened();
     m_dropMark.reset();
     viewport()->update();
     QTreeView::dragLeaveEvent(event);
@@ -207,9 +232,10 @@ void TankOutlineView::dropEvent(QDropEvent *event)
     TreeItem row;
     const DropProposal proposal = proposalAt(event->position().toPoint(), row);
     if (acceptDrop && acceptDrop(proposal, row, allowedActions(*event)))
-        event->accept();
+        event->accept(); // the rows were rebuilt
     else
         event->ignore();
+    closeOpened();
     stopAutoScroll();
     setState(NoState);
 }
@@ -236,6 +262,8 @@ QLine TankOutlineView::dropMark(const DropProposal &proposal) const
         y = rect.bottom() + 1;
         x = rect.left() + indentation();
     }
+    // The end of a list can be below what is shown, at least by the thickness of the mark.
+    y = std::clamp(y, markRadius, viewport()->height() - markRadius - 1);
     return {x, y, viewport()->width() - 4, y};
 }
 
@@ -250,8 +278,8 @@ void TankOutlineView::paintEvent(QPaintEvent *event)
     // Draw an outline in the background colour first, so that the mark is visible next to the selected row too.
     for (const QPen &pen : {QPen(palette().base(), 6), QPen(palette().highlight(), 2)}) {
         painter.setPen(pen);
-        painter.drawEllipse(QPointF(line.p1()) + QPointF(3, 0), 3, 3);
-        painter.drawLine(line.p1() + QPoint(6, 0), line.p2());
+        painter.drawEllipse(QPointF(line.p1()) + QPointF(markRadius, 0), markRadius, markRadius);
+        painter.drawLine(line.p1() + QPoint(2 * markRadius, 0), line.p2());
     }
 }
 

@@ -30,9 +30,14 @@ public:
     };
     std::function<DropAnswer(const DropProposal &, const TreeItem &row, Qt::DropActions allowed)> validateDrop;
     std::function<bool(const DropProposal &, const TreeItem &row, Qt::DropActions allowed)> acceptDrop;
+    /// Whether something below a row can take what is dragged, so that the row opens when the drag stays over it.
+    std::function<bool(const TreeItem &row)> takesDragged;
     /// Returns the pasteboard data of a row, or null when the row cannot be dragged.
     std::function<QMimeData *(const TreeItem &)> writeItem;
     std::function<void()> dragEnded;
+
+    /// Whether the row that opens or closes does so because of a drag: this is no choice of the user's to be kept.
+    [[nodiscard]] bool isHovering() const { return m_hovering; }
 
 Q_SIGNALS:
     void deleteKeyPressed();
@@ -54,15 +59,19 @@ protected:
 
 private:
     void hoverOver(const QModelIndex &index); ///< expands a collapsed row after a drag has stayed over it for a while
+    void openHovered();
     void endHovering();
+    void closeOpened(); ///< collapses the rows that the drag has expanded
     [[nodiscard]] DropProposal proposalAt(const QPoint &position, TreeItem &row) const;
     [[nodiscard]] QLine dropMark(const DropProposal &proposal) const;
     [[nodiscard]] static Qt::DropActions allowedActions(const QDropEvent &event);
 
     TankTreeModel &m_model;
     std::optional<DropProposal> m_dropMark;
-    QPersistentModelIndex m_hovered; ///< the row under the drag
+    QPersistentModelIndex m_hovered;       ///< the row under the drag
+    QList<QPersistentModelIndex> m_opened; ///< the rows that the drag has expanded
     QTimer m_openTimer;
+    bool m_hovering = false;
 };
 
 } // namespace brinemark

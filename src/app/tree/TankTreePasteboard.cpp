@@ -46,6 +46,11 @@ QMimeData *TankListController::writeItem(const TreeItem &item)
     return data;
 }
 
+bool TankListController::takesDragged(const TreeItem &row) const
+{
+    return m_dragData.record && takesRecord(row, *m_dragData.record);
+}
+
 TankOutlineView::DropAnswer TankListController::validateDrop(const DropProposal &proposal, const TreeItem &row,
                                                              Qt::DropActions allowed)
 {
@@ -81,6 +86,11 @@ bool TankListController::acceptDrop(const DropProposal &proposal, const TreeItem
 
 void TankListController::showDropped(const TreeItem &item)
 {
+    // The rows that opened under the drag close again, except those above the dropped record.
+    if (item.isRecord()) {
+        item.tank->tankExpanded = true;
+        *TreeItem(*item.container).expandedFlag() = true;
+    }
     reload();
     // A moved item is usually the selected row already, so select() would not report a change. The view must be updated
     // anyway.

@@ -7,12 +7,16 @@
 namespace brinemark
 {
 
+bool takesRecord(const TreeItem &row, const ItemData &dragged)
+{
+    return row.isTank() || (row.isContainer() && row.container->traits().itemContext == dragged.itemContext());
+}
+
 DropOperation validateRecordDrop(const ItemData &dragged, const DropProposal &proposal, Qt::DropActions allowed)
 {
     if (!proposal.childIndex)
         return DropOperation::Refused;
-    const bool groupOfItsKind =
-        proposal.parent.isContainer() && proposal.parent.container->traits().itemContext == dragged.itemContext();
+    const bool groupOfItsKind = proposal.parent.isContainer() && takesRecord(proposal.parent, dragged);
     if (!groupOfItsKind && !proposal.parent.isRecord())
         return DropOperation::Refused;
     return allowed == Qt::CopyAction ? DropOperation::Copy : DropOperation::Move;

@@ -26,6 +26,9 @@ struct DragData {
     std::shared_ptr<ItemData> record;
 };
 
+/// Whether a record can be dropped somewhere below the row: below a tank, and below a group of the record's own kind.
+[[nodiscard]] bool takesRecord(const TreeItem &row, const ItemData &dragged);
+
 /// Whether a livestock record may be dropped at the position: between the rows of a group of its own kind. A drag that
 /// allows only copying copies the record; any other moves it.
 [[nodiscard]] DropOperation validateRecordDrop(const ItemData &dragged, const DropProposal &proposal,
