@@ -2135,6 +2135,19 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>ja, nein, unbekannt</translation>
     </message>
     <message>
+        <source>ReplaceFileButton</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>ReplaceFileMessage</source>
+        <translation>Wenn Sie die Datei ersetzen, geht ihr jetziger Inhalt verloren.</translation>
+    </message>
+    <message>
+        <source>ReplaceFileTitle</source>
+        <extracomment>^0 is the name of a file.</extracomment>
+        <translation>„^0“ gibt es schon.</translation>
+    </message>
+    <message>
         <source>RevertLabel</source>
         <translation>Zurückkehren</translation>
     </message>

@@ -2135,6 +2135,19 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>yes, no, unknown</translation>
     </message>
     <message>
+        <source>ReplaceFileButton</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>ReplaceFileMessage</source>
+        <translation>If you replace it, what it holds now is lost.</translation>
+    </message>
+    <message>
+        <source>ReplaceFileTitle</source>
+        <extracomment>^0 is the name of a file.</extracomment>
+        <translation>“^0” already exists.</translation>
+    </message>
+    <message>
         <source>RevertLabel</source>
         <translation>Revert</translation>
     </message>

@@ -324,6 +324,10 @@ void ShoalwatchController::rebuildDockMenu()
 {
     ShoalwatchDelegate::sharedInstance().buildDockMenu();
 }
+QString ShoalwatchController::representedFilename() const
+{
+    return m_document->representedFilename();
+}
 
 } // namespace brinemark
 

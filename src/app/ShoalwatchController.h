@@ -58,6 +58,7 @@ public:
     [[nodiscard]] QUndoStack &undoManager() override;
     [[nodiscard]] QMenu &dockMenu() override;
     void rebuildDockMenu() override;
+    [[nodiscard]] QString representedFilename() const override;
     void documentModifiedWithChange(bool made) override;
     void setEnableDeleteButton(bool enable) override;
     [[nodiscard]] bool validateMenuItem(int tag) override;

@@ -22,6 +22,7 @@ inline constexpr PreferenceKey<float> notificationWindowHeight{"NotificationWind
 inline constexpr PreferenceKey<QString> mainViewWidth{"mainViewWidth"};           ///< a whole number of points as text
 inline constexpr PreferenceKey<QString> tankListViewWidth{"tankListViewWidth"};   ///< a whole number of points as text
 inline constexpr PreferenceKey<QString> mainWindowGeometry{"mainWindowGeometry"}; ///< QWidget::saveGeometry() in base64
+inline constexpr PreferenceKey<QString> lastPanelFolder{"lastPanelFolder"};       ///< where a panel last chose a file
 inline constexpr PreferenceKey<QVariantMap> convertWindowState{"ConvertWindowState"};
 inline constexpr PreferenceKey<QVariantMap> toolbarConfiguration{"ToolbarConfiguration fishWindowToolbar2"};
 

@@ -2,7 +2,11 @@
 
 #include "ui/SavePanel.h"
 
+#include "base/PreferenceKeys.h"
+#include "base/text/Texts.h"
+#include "ui/Alerts.h"
 #include "ui/Sheets.h"
+#include "ui/Shell.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -21,7 +25,7 @@ SavePanel::SavePanel(QWidget *window, const SavePanelOptions &options)
     , m_kinds(options.kinds)
 {
     setObjectName(options.objectName);
-    setOption(DontUseNativeDialog);
+    setOption(DontUseNativeDialog, options.extended);
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
     QStringList filters;
@@ -30,9 +34,7 @@ SavePanel::SavePanel(QWidget *window, const SavePanelOptions &options)
     setNameFilters(filters);
     if (!options.message.isEmpty())
         setWindowTitle(options.message);
-    if (!options.folder.isEmpty())
-        setDirectory(options.folder);
-    arrangeFilePanel(*this);
+    arrangeFilePanel(*this); // before a file is selected, which is looked for in the panel's folder
     if (!options.proposedName.isEmpty())
         selectFile(fileNameFor(options.proposedName));
 }
@@ -47,24 +49,55 @@ QString SavePanel::chosenSuffix() const
     return m_kinds.isEmpty() ? QString() : m_kinds.first().suffix;
 }
 
+QString SavePanel::withSuffix(const QString &name) const
+{
+    // Without this, "Reef 2.5" would count as having the suffix "5".
+    const QString suffix = QFileInfo(name).suffix();
+    const bool complete = m_kinds.isEmpty() || std::any_of(m_kinds.begin(), m_kinds.end(), [&](const FileKind &kind) {
+                              return suffix.compare(kind.suffix, Qt::CaseInsensitive) == 0;
+                          });
+    return complete ? name : name + u'.' + chosenSuffix();
+}
+
+QString SavePanel::chosenFile() const
+{
+    const QString chosen = selectedFiles().value(0);
+    return chosen.isEmpty() ? chosen : withSuffix(chosen);
+}
+
 void SavePanel::accept()
 {
-    // Without this, "Reef 2.5" would count as having the suffix "5". The name is completed before the panel asks about
-    // overwriting, so that it asks about the file that is really written.
-    if (auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit")); name && !m_kinds.isEmpty()) {
+    if (auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))) {
+        // The toolkit's own panel. The name is completed before the panel asks about overwriting, so that it asks about
+        // the file that is really written.
         const QFileInfo typed(directory(), name->text());
-        const bool namesFile = !typed.fileName().isEmpty() && typed.fileName() != u"~" && !typed.isDir();
-        const bool hasSuffix = std::any_of(m_kinds.begin(), m_kinds.end(), [&](const FileKind &kind) {
-            return typed.suffix().compare(kind.suffix, Qt::CaseInsensitive) == 0;
-        });
-        if (namesFile && !hasSuffix)
-            name->setText(name->text() + u'.' + chosenSuffix());
+        if (!typed.fileName().isEmpty() && typed.fileName() != u"~" && !typed.isDir())
+            name->setText(withSuffix(name->text()));
+        QFileDialog::accept();
+        return;
     }
-    QFileDialog::accept();
+    // The desktop's panel has closed and has asked about the name without the suffix only.
+    const QString file = chosenFile();
+    if (file == selectedFiles().value(0) || !QFileInfo::exists(file)) {
+        QFileDialog::accept();
+        return;
+    }
+    const Alert question{.title = fillPlaceholders(text("ReplaceFileTitle"), {QFileInfo(file).fileName()}),
+                         .message = text("ReplaceFileMessage"),
+                         .defaultButton = text("ReplaceFileButton"),
+                         .alternateButton = text("CancelLabel")};
+    beginAlertSheet(this, question, [this](int answer) {
+        if (answer == AlertDefault)
+            QFileDialog::accept();
+        else
+            reject();
+    });
 }
 
 void arrangeFilePanel(QFileDialog &panel)
 {
+    if (const QString folder = panelFolder(); !folder.isEmpty())
+        panel.setDirectory(folder);
     if (auto *files = panel.findChild<QTreeView *>(QStringLiteral("treeView"))) {
         // Types and dates would be cut off otherwise.
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -77,7 +110,11 @@ void openFilePanel(QWidget *window, QFileDialog *panel, std::function<void(const
 {
     panel->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(panel, &QDialog::finished, panel, [panel, completion = std::move(completion)](int code) {
-        const QString path = code == QDialog::Accepted ? panel->selectedFiles().value(0) : QString();
+        const auto *save = dynamic_cast<const SavePanel *>(panel);
+        const QString chosen = save ? save->chosenFile() : panel->selectedFiles().value(0);
+        const QString path = code == QDialog::Accepted ? chosen : QString();
+        if (!path.isEmpty())
+            Preferences::shared().set(preference::lastPanelFolder, QFileInfo(path).absolutePath());
         // The completion may open another sheet, so it runs after this one has closed.
         QMetaObject::invokeMethod(
             panel->parent(), [completion, path] { completion(path); }, Qt::QueuedConnection);
@@ -109,12 +146,16 @@ QString fileNameFor(const QString &text)
     return name.isEmpty() ? QStringLiteral("-") : name;
 }
 
-QString documentsFolder()
+QString panelFolder()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QDir(folder).exists() ? folder : QString();
+    const QString file = Shell::exists() ? Shell::shared().representedFilename() : QString();
+    for (const QString &folder : {file.isEmpty() ? QString() : QFileInfo(file).absolutePath(),
+                                  Preferences::shared().value(preference::lastPanelFolder, QString()),
+                                  QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}) {
+        if (!folder.isEmpty() && QDir(folder).exists())
+            return folder;
+    }
+    return {};
 }
 
 } // namespace brinemark
-
-#include "moc_SavePanel.cpp"

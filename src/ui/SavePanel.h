@@ -21,31 +21,35 @@ struct FileKind {
 struct SavePanelOptions {
     QString objectName;
     QString message = {};       ///< the window's title; the toolkit's own if empty
-    QString folder = {};        ///< the toolkit's own choice if empty
     QString proposedName = {};  ///< any text; fileNameFor() makes a file name of it
     QList<FileKind> kinds = {}; ///< the first one is preselected
+    bool extended = false;      ///< controls will be added, so that the panel cannot be the desktop's own
 };
 
-/// The save panel: the toolkit's own on every desktop, so that it behaves alike for all file types. A name without the
-/// suffix of one of the kinds gets the suffix of the chosen kind, even when it contains dots. The panel then asks
-/// before it overwrites an existing file.
+/// The save panel: the desktop's own where there is one, unless it is extended. A name without the suffix of one of the
+/// kinds gets the suffix of the chosen kind, even when it contains dots. The panel asks before it overwrites an
+/// existing file.
+///
+/// Without Q_OBJECT, because the toolkit replaces only objects of exactly its own class by the desktop's panel.
 class SavePanel : public QFileDialog
 {
-    Q_OBJECT
-
 public:
     SavePanel(QWidget *window, const SavePanelOptions &options);
+
+    /// The chosen file with its suffix; selectedFiles() lacks it where the desktop's panel leaves it out.
+    [[nodiscard]] QString chosenFile() const;
 
 protected:
     void accept() override;
 
 private:
     [[nodiscard]] QString chosenSuffix() const;
+    [[nodiscard]] QString withSuffix(const QString &name) const;
 
     QList<FileKind> m_kinds;
 };
 
-/// Sets the size of a file panel and makes its columns wide enough to read.
+/// Opens panelFolder() in a file panel, sets its size and makes its columns wide enough to read.
 void arrangeFilePanel(QFileDialog &panel);
 
 /// Opens the panel as a sheet of `window` and deletes it when it closes. After that, `completion` receives the chosen
@@ -61,7 +65,8 @@ void beginSavePanel(QWidget *window, const SavePanelOptions &options,
 /// nothing is left.
 [[nodiscard]] QString fileNameFor(const QString &text);
 
-/// The user's documents folder; empty when there is none.
-[[nodiscard]] QString documentsFolder();
+/// Where file panels start: beside the open file; without one, where a panel last chose a file; else in the user's
+/// documents. Empty when none of these exists.
+[[nodiscard]] QString panelFolder();
 
 } // namespace brinemark

@@ -16,6 +16,11 @@ Shell &Shell::shared()
     return *sharedShell;
 }
 
+bool Shell::exists()
+{
+    return sharedShell;
+}
+
 void Shell::setShared(Shell *shell)
 {
     sharedShell = shell;

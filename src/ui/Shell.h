@@ -31,6 +31,7 @@ public:
     /// The shell of this process. It exists from start-up on; calling this earlier is a programming error.
     static Shell &shared();
     static void setShared(Shell *shell);
+    [[nodiscard]] static bool exists();
 
     [[nodiscard]] virtual QWidget *mainWindow() = 0;
     [[nodiscard]] virtual TankList &tankList() = 0;
@@ -38,6 +39,7 @@ public:
     [[nodiscard]] virtual QUndoStack &undoManager() = 0;
     [[nodiscard]] virtual QMenu &dockMenu() = 0;
     virtual void rebuildDockMenu() = 0;
+    [[nodiscard]] virtual QString representedFilename() const = 0; ///< the open file's path; empty when untitled
 
     /// Counts a change (true) or the undoing of one (false); the window is marked as edited while the count is not
     /// zero.

@@ -213,6 +213,33 @@ private Q_SLOTS:
         QVERIFY(!program.document().isEdited());
     }
 
+    /// Beside the open file; without one, where a panel last chose a file; else in the documents.
+    void panelsStartBesideTheFile()
+    {
+        Program program;
+        const QString documents = QDir::home().filePath("Documents");
+        QVERIFY(QDir().mkpath(documents));
+        program.start();
+        const auto folderOf = [](const char *name) {
+            auto *panel = awaitWindow<QFileDialog>(name);
+            return panel && panel->testOption(QFileDialog::DontUseNativeDialog) ? panel->directory().path() : "none";
+        };
+        program.commands().openDataFile();
+        QCOMPARE(folderOf("openPanel"), documents);
+        const QString file = program.copyOf(testFile("minimal.xml"));
+        QVERIFY(answerPanel("openPanel", file));
+        QCOMPARE(program.path(), file);
+        program.commands().saveAsCurrentFile();
+        QCOMPARE(folderOf("savePanel"), QFileInfo(file).path());
+        QVERIFY(answerPanel("savePanel", {}));
+        program.commands().newDataFile();
+        program.settle();
+        QCOMPARE(program.path(), QString());
+        program.commands().openDataFile();
+        QCOMPARE(folderOf("openPanel"), QFileInfo(file).path());
+        QVERIFY(answerPanel("openPanel", {}));
+    }
+
     void makeDefaultBox()
     {
         Program program;

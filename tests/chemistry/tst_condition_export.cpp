@@ -49,7 +49,7 @@ private Q_SLOTS:
         const auto cleanUp = qScopeGuard([&] { QDir(documents).removeRecursively(); });
         QVERIFY(QDir().mkpath(documents));
         begin();
-        auto *panel = test::awaitWindow<SavePanel>("exportPanel");
+        auto *panel = test::awaitWindow<QFileDialog>("exportPanel");
         QVERIFY(panel);
         QMetaObject::invokeMethod(panel, "accept");
         QCoreApplication::processEvents();

@@ -51,6 +51,7 @@ public:
     QUndoStack &undoManager() override { return undo; }
     QMenu &dockMenu() override { return dock; }
     void rebuildDockMenu() override { dock.clear(); }
+    QString representedFilename() const override { return openFile; }
     void documentModifiedWithChange(bool made) override { changes += made ? 1 : -1; }
     void setEnableDeleteButton(bool enable) override { deleteEnabled = enable; }
     bool validateMenuItem(int tag) override { return tag != disabledTag; }
@@ -75,6 +76,7 @@ public:
     Tank *current = nullptr;
     QUndoStack undo;
     QMenu dock;
+    QString openFile;
     MainView shown = MainView::None;
     Container *selectedContainer = nullptr;
     Record *selectedRecord = nullptr;

@@ -5,6 +5,7 @@
 #include "base/text/Texts.h"
 #include "support/TestHome.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 namespace brinemark::test
@@ -23,6 +24,8 @@ template <class Application, class Test>
 int run(int argc, char **argv)
 {
     const TestHome home;
+    // The desktop's file panels cannot be driven by a test.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     Application application(argc, argv);
     if constexpr (!requires { Test::usesSystemLanguage; })
         setTextLanguages({QStringLiteral("en")});

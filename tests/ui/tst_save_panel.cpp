@@ -2,9 +2,11 @@
 
 #include "ui/SavePanel.h"
 
+#include "support/AlertDriver.h"
 #include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/PanelDriver.h"
+#include "support/RecordingShell.h"
 #include "support/TestProgram.h"
 
 #include <QTemporaryDir>
@@ -20,8 +22,10 @@ private Q_SLOTS:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
-        m_window = std::make_unique<QWidget>();
-        m_window->show();
+        m_shell.reset(); // takes the shared shell with it
+        m_shell = std::make_unique<test::RecordingShell>();
+        m_shell->openFile = m_folder->filePath(QStringLiteral("tanks.xml"));
+        m_shell->window.show();
         m_chosen.clear();
     }
 
@@ -42,11 +46,39 @@ private Q_SLOTS:
         QFETCH(int, kind);
         QFETCH(QString, chosen);
         open();
-        auto *panel = test::awaitWindow<SavePanel>("reefPanel");
+        auto *panel = test::awaitWindow<QFileDialog>("reefPanel");
         QVERIFY(panel);
+        // What the toolkit asks for before it shows the desktop's panel instead.
+        QCOMPARE(panel->metaObject(), &QFileDialog::staticMetaObject);
+        QVERIFY(!panel->testOption(QFileDialog::DontUseNativeDialog));
         panel->selectNameFilter(panel->nameFilters().at(kind));
         QVERIFY(test::answerPanel("reefPanel", m_folder->filePath(typed)));
         QCOMPARE(m_chosen, QStringList{m_folder->filePath(chosen)});
+    }
+
+    /// The desktop's panel asks about the name as it was typed, without the suffix.
+    void asksAfterTheDesktop_data()
+    {
+        QTest::addColumn<AlertAnswer>("answer");
+        row("replace", AlertDefault);
+        row("cancel", AlertAlternate);
+    }
+    void asksAfterTheDesktop()
+    {
+        QFETCH(AlertAnswer, answer);
+        const QString there = m_folder->filePath(QStringLiteral("reef.png"));
+        QVERIFY(test::writeFile(there, "old"));
+        open();
+        auto *panel = test::awaitWindow<QFileDialog>("reefPanel");
+        QVERIFY(panel);
+        auto *name = panel->findChild<QLineEdit *>("fileNameEdit");
+        name->setObjectName("absent"); // as in a panel of the desktop
+        name->setText(m_folder->filePath(QStringLiteral("reef")));
+        QMetaObject::invokeMethod(panel, "accept");
+        QTRY_VERIFY(test::shownAlert());
+        QVERIFY(m_chosen.isEmpty());
+        test::shownAlert()->button(answer)->click();
+        QTRY_COMPARE(m_chosen, QStringList{answer == AlertDefault ? there : QString()});
     }
 
     void asksBeforeReplacing_data()
@@ -95,7 +127,6 @@ private Q_SLOTS:
         QCOMPARE(fileNameFor(text), name);
         // The panel proposes the name in its folder, and a file of that name can be written.
         SavePanelOptions options{QStringLiteral("reefPanel")};
-        options.folder = m_folder->path();
         options.proposedName = text.isEmpty() ? QStringLiteral(".") : text;
         options.kinds = {{QStringLiteral("csv"), QStringLiteral("Values (*.csv)")}};
         SavePanel panel(nullptr, options);
@@ -107,14 +138,13 @@ private:
     void open()
     {
         SavePanelOptions options{QStringLiteral("reefPanel")};
-        options.folder = m_folder->path();
         options.kinds = {{QStringLiteral("png"), QStringLiteral("Pictures (*.png)")},
                          {QStringLiteral("pdf"), QStringLiteral("Pages (*.pdf)")}};
-        beginSavePanel(m_window.get(), options, [this](const QString &path) { m_chosen << path; });
+        beginSavePanel(&m_shell->window, options, [this](const QString &path) { m_chosen << path; });
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<test::RecordingShell> m_shell;
     QStringList m_chosen;
 };
 

@@ -101,7 +101,8 @@ void beginOpenPanel(QWidget *window, std::optional<bool> makeDefault, FilePanelC
 {
     auto *panel = new TankFilePanel(window);
     panel->setObjectName(QStringLiteral("openPanel"));
-    panel->setOption(QFileDialog::DontUseNativeDialog); // the check box can be added only to the toolkit's own panel
+    // Only the toolkit's own panel can look into the files that it lists, and have a check box.
+    panel->setOption(QFileDialog::DontUseNativeDialog);
     panel->setAcceptMode(QFileDialog::AcceptOpen);
     panel->setNameFilter(text("TankFileFilter"));
     arrangeFilePanel(*panel);
@@ -115,6 +116,7 @@ void beginSavePanel(QWidget *window, const QString &proposedName, bool makeDefau
 {
     SavePanelOptions options{QStringLiteral("savePanel")};
     options.proposedName = proposedName;
+    options.extended = true;
     options.kinds = {{QStringLiteral("xml"), text("TankFileFilter")}};
     auto *panel = new SavePanel(window, options);
     QCheckBox *check = addAccessoryView(*panel, makeDefault);

@@ -14,7 +14,6 @@ void beginConditionExport(QWidget *window, const std::shared_ptr<Tank> &tank, st
 {
     SavePanelOptions options{QStringLiteral("exportPanel")};
     options.message = text("ExportMessage");
-    options.folder = documentsFolder();
     options.proposedName = formatText(text("ExportName"), {tank->name});
     options.kinds = {{QStringLiteral("csv"), text("ExportFileFilter")}};
     beginSavePanel(window, options,

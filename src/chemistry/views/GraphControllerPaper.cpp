@@ -25,7 +25,6 @@ void GraphController::saveGraph()
     const SavePanelOptions options{
         .objectName = QStringLiteral("graphSavePanel"),
         .message = text("GraphSaveMessage"),
-        .folder = documentsFolder(),
         .proposedName = formatText(text("GraphSaveName"), {m_graphTank ? m_graphTank->name : QString()}),
         .kinds = {{QStringLiteral("png"), text("GraphPngFilter")}, {pdf, text("GraphPdfFilter")}}};
     beginSavePanel(m_graphWindow, options, [this, pdf](const QString &path) {

@@ -11,6 +11,7 @@
 #include "ui/Alerts.h"
 #include "ui/CaptionForm.h"
 #include "ui/MultiLineEdit.h"
+#include "ui/SavePanel.h"
 #include "ui/Spacing.h"
 #include "ui/pictures/PictureConverter.h"
 
@@ -235,10 +236,12 @@ void ItemSheet::chooseImageAction()
     const QString patterns = pictureFilePatterns().join(QLatin1Char(' '));
     auto *panel = new QFileDialog(this, {}, {}, text("PictureFilter") + QStringLiteral(" (%1)").arg(patterns));
     panel->setObjectName(QStringLiteral("imagePanel"));
-    panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
-    connect(panel, &QFileDialog::fileSelected, this, &ItemSheet::chooseImage);
-    panel->open();
+    arrangeFilePanel(*panel);
+    openFilePanel(this, panel, [this](const QString &path) {
+        if (!path.isEmpty())
+            chooseImage(path);
+    });
 }
 
 void ItemSheet::chooseImage(const QString &path)
