@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QScreen>
 
 #include <algorithm>
@@ -23,6 +24,8 @@ public:
         : QObject(owner)
     {
         setObjectName(QLatin1String(name));
+        if (owner->isWidgetType()) // a filter of the application object would see every event
+            owner->installEventFilter(this);
     }
 
     static SheetQueue &of(QWidget *window)
@@ -47,14 +50,37 @@ public:
             openFirst();
     }
 
+    /// The window system may place a window after its sheet has opened, above all at the start.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == parent() && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
+            follow();
+        return QObject::eventFilter(watched, event);
+    }
+
 private:
     static constexpr const char *name = "sheetQueue";
+    static constexpr int frameTolerance = 48; ///< by how much a frame around the sheet may shift its middle, in pixels
 
     void openFirst()
     {
         QDialog *sheet = m_sheets.front();
         centreOver(qobject_cast<QWidget *>(parent()), sheet);
+        m_middle = sheet->frameGeometry().center();
         sheet->open();
+    }
+
+    /// Keeps the open sheet over the middle of its window, unless the user has moved it.
+    void follow()
+    {
+        auto *window = qobject_cast<QWidget *>(parent());
+        if (m_sheets.empty() || !window || window->isMinimized())
+            return;
+        QDialog *sheet = m_sheets.front();
+        if ((sheet->frameGeometry().center() - m_middle).manhattanLength() > frameTolerance)
+            return;
+        moveOver(window, sheet);
+        m_middle = sheet->frameGeometry().center();
     }
 
     void remove(QDialog *sheet)
@@ -66,6 +92,7 @@ private:
     }
 
     std::deque<QDialog *> m_sheets;
+    QPoint m_middle; ///< where the middle of the open sheet was put
 };
 
 } // namespace
@@ -89,7 +116,7 @@ void moveOver(QWidget *window, QDialog *dialog)
     if (top->isMinimized()) // a question over a minimised window cannot be seen
         top->setWindowState(top->windowState() & ~Qt::WindowMinimized);
     const QRect screen = top->screen()->availableGeometry();
-    const QSize size = dialog->size();
+    const QSize size = dialog->frameSize();
     QPoint corner = top->frameGeometry().center() - QPoint(size.width() / 2, size.height() / 2);
     corner.setX(std::max(screen.left(), std::min(corner.x(), screen.right() + 1 - size.width())));
     corner.setY(std::max(screen.top(), std::min(corner.y(), screen.bottom() + 1 - size.height())));

@@ -9,7 +9,8 @@ namespace brinemark
 {
 
 /// Opens `sheet` window-modally, centred over the window that holds `window`, and returns at once. While that window
-/// shows another sheet, `sheet` waits. The caller keeps the ownership; destroying a sheet removes it from the queue.
+/// shows another sheet, `sheet` waits. When the window moves, the sheet goes with it, unless it was moved away. The
+/// caller keeps the ownership; destroying a sheet removes it from the queue.
 void openSheet(QWidget *window, QDialog *sheet);
 
 /// Centres `dialog`, which must not be shown yet, over the window that holds `window`, within the screen. The dialog is

@@ -150,6 +150,24 @@ private Q_SLOTS:
         QCOMPARE(log, QStringList({"first", "second", "third"}));
     }
 
+    /// The window system may place a window after its sheet has opened.
+    void sheetGoesWithItsWindow()
+    {
+        m_window->setGeometry(100, 50, 600, 300);
+        beginAlertSheet(m_window.get(), {.title = QStringLiteral("?")});
+        AlertDialog *sheet = shownAlert();
+        QVERIFY(sheet);
+        const auto offset = [&] { return sheet->frameGeometry().center() - m_window->frameGeometry().center(); };
+        QVERIFY(offset().manhattanLength() <= 2);
+        m_window->move(150, 250);
+        m_window->resize(400, 500);
+        QTRY_VERIFY(offset().manhattanLength() <= 2);
+        sheet->move(0, 0); // by the user
+        m_window->move(200, 250);
+        QCoreApplication::processEvents();
+        QCOMPARE(sheet->pos(), QPoint(0, 0));
+    }
+
     void sheetAskedForByAnAnswerComesLast()
     {
         beginAlertSheet(m_window.get(), {.title = "first"},
