@@ -2068,8 +2068,25 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Wählen …</translation>
     </message>
     <message>
+        <source>PrefsClear</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>PrefsClearToolTip</source>
+        <translation>Beim Start keine Datei öffnen</translation>
+    </message>
+    <message>
         <source>PrefsDefaultFile</source>
         <translation>Beim Start geöffnete Datei:</translation>
+    </message>
+    <message>
+        <source>PrefsHiddenMessages</source>
+        <translation>Nicht mehr angezeigte Meldungen:</translation>
+    </message>
+    <message>
+        <source>PrefsHiddenMessagesNone</source>
+        <extracomment>The number of messages that are not shown again.</extracomment>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>PrefsNoCalendars</source>
@@ -2086,6 +2103,14 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>PrefsSchedule</source>
         <translation>Wartung:</translation>
+    </message>
+    <message>
+        <source>PrefsShowMessages</source>
+        <translation>Wieder anzeigen</translation>
+    </message>
+    <message>
+        <source>PrefsShowMessagesToolTip</source>
+        <translation>Alle Meldungen wieder anzeigen, die Sie mit „Diese Meldung nicht mehr anzeigen“ abgeschaltet haben</translation>
     </message>
     <message>
         <source>PrefsTitle</source>

@@ -2068,8 +2068,25 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Choose…</translation>
     </message>
     <message>
+        <source>PrefsClear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>PrefsClearToolTip</source>
+        <translation>Open no file at the start</translation>
+    </message>
+    <message>
         <source>PrefsDefaultFile</source>
         <translation>File opened at start:</translation>
+    </message>
+    <message>
+        <source>PrefsHiddenMessages</source>
+        <translation>Messages not shown again:</translation>
+    </message>
+    <message>
+        <source>PrefsHiddenMessagesNone</source>
+        <extracomment>The number of messages that are not shown again.</extracomment>
+        <translation>None</translation>
     </message>
     <message>
         <source>PrefsNoCalendars</source>
@@ -2086,6 +2103,14 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>PrefsSchedule</source>
         <translation>Maintenance:</translation>
+    </message>
+    <message>
+        <source>PrefsShowMessages</source>
+        <translation>Show Again</translation>
+    </message>
+    <message>
+        <source>PrefsShowMessagesToolTip</source>
+        <translation>Show every message again that you switched off with “Do not show this message again”</translation>
     </message>
     <message>
         <source>PrefsTitle</source>

@@ -110,6 +110,13 @@ void Preferences::remove(const QString &name)
     checkWritingSoon();
 }
 
+QStringList Preferences::namesWithPrefix(const QString &prefix) const
+{
+    QStringList names = m_settings->allKeys();
+    names.removeIf([&](const QString &name) { return !name.startsWith(prefix); });
+    return names;
+}
+
 bool Preferences::flush()
 {
     // A QSettings object keeps its error status, so a retry needs a new one. Objects of the same file share the values

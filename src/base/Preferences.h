@@ -74,6 +74,7 @@ public:
     void setVariant(const QString &name, const QVariant &value);
     [[nodiscard]] bool contains(const QString &name) const;
     void remove(const QString &name);
+    [[nodiscard]] QStringList namesWithPrefix(const QString &prefix) const;
 
     /// From now on nothing is changed: setting and removing values does nothing.
     void setReadOnly() { m_readOnly = true; }

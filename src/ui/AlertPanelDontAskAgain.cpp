@@ -94,6 +94,17 @@ void AlertPanelDontAskAgain::clearValueForIdentifier(const QString &identifier)
     Preferences::shared().remove(preference::dontAskAgainName(identifier));
 }
 
+int AlertPanelDontAskAgain::silencedCount()
+{
+    return int(Preferences::shared().namesWithPrefix(preference::dontAskAgainName({})).size());
+}
+
+void AlertPanelDontAskAgain::clearAllValues()
+{
+    for (const QString &name : Preferences::shared().namesWithPrefix(preference::dontAskAgainName({})))
+        Preferences::shared().remove(name);
+}
+
 int AlertPanelDontAskAgain::runModalPanelWithTitle(const Question &question, bool useDefaultReturnCode,
                                                    int defaultReturnCode)
 {

@@ -46,6 +46,8 @@ public:
     static void setState(int state, const QString &identifier);
     /// Forgets the stored integer, so that the alert shows again.
     static void clearValueForIdentifier(const QString &identifier);
+    [[nodiscard]] static int silencedCount(); ///< of all identifiers
+    static void clearAllValues();
 
     /// Runs the panel and returns the answer; a silenced panel returns the stored integer at once. With
     /// `useDefaultReturnCode`, `defaultReturnCode` is what the check box stores and what a silenced panel returns,

@@ -11,9 +11,11 @@
 #include "support/AppFixture.h"
 #include "support/DataRow.h"
 #include "support/Python.h"
+#include "ui/AlertPanelDontAskAgain.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScopeGuard>
@@ -314,7 +316,15 @@ private Q_SLOTS:
         QCOMPARE(path->text(), QDir::toNativeSeparators(testFile("three-tanks.xml")));
         QCOMPARE(program.path(), testFile("minimal.xml"));
 
+        control("defaultFileClearButton")->click();
+        QVERIFY(!stored.contains(preference::defaultFile));
+        QCOMPARE(path->text(), text("NoneSelected"));
+        QVERIFY(!control("defaultFileClearButton")->isEnabled());
+
         // When shown again, the window reads the stored values.
+        QVERIFY(!control("showMessagesButton")->isEnabled());
+        AlertPanelDontAskAgain::setValue(1, "first");
+        AlertPanelDontAskAgain::setValue(0, "second");
         window->close();
         stored.set(preference::activityOverdue, true);
         stored.set(preference::autoSaveOnQuit, true);
@@ -322,6 +332,11 @@ private Q_SLOTS:
         QVERIFY(control("overdueCheck")->isChecked() && control("autoSaveOn")->isChecked());
         control("autoSaveAsk")->click();
         QCOMPARE(stored.value(preference::autoSaveOnQuit), false);
+        QCOMPARE(window->findChild<QLabel *>("hiddenMessages")->text(), QString("2"));
+        control("showMessagesButton")->click();
+        QVERIFY(AlertPanelDontAskAgain::willShowPanelForIdentifier("first"));
+        QVERIFY(AlertPanelDontAskAgain::willShowPanelForIdentifier("second"));
+        QVERIFY(!control("showMessagesButton")->isEnabled());
     }
 
     void calendarPopup()

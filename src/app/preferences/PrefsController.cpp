@@ -7,6 +7,7 @@
 #include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
+#include "ui/AlertPanelDontAskAgain.h"
 #include "ui/Spacing.h"
 #include "ui/WindowPlacement.h"
 
@@ -15,10 +16,12 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
+#include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -59,14 +62,21 @@ PrefsController::PrefsController()
     m_defaultFilePath->setObjectName(QStringLiteral("defaultFilePath"));
     m_defaultFilePath->setAccessibleName(text("PrefsDefaultFile"));
     m_defaultFilePath->setReadOnly(true);
-    m_defaultFilePath->setMinimumWidth(300);
-    m_defaultFileSetButton = new QPushButton(text("PrefsChoose"));
-    m_defaultFileSetButton->setObjectName(QStringLiteral("defaultFileSetButton"));
-    m_defaultFileSetButton->setAutoDefault(false);
+    m_defaultFilePath->setMinimumWidth(240);
+    const auto makeButton = [](TextKey label, const QString &name) {
+        auto *button = new QPushButton(text(label));
+        button->setObjectName(name);
+        button->setAutoDefault(false);
+        return button;
+    };
+    m_defaultFileSetButton = makeButton("PrefsChoose"_key, QStringLiteral("defaultFileSetButton"));
+    m_defaultFileClearButton = makeButton("PrefsClear"_key, QStringLiteral("defaultFileClearButton"));
+    m_defaultFileClearButton->setToolTip(text("PrefsClearToolTip"));
     auto *file = new QHBoxLayout;
     file->setSpacing(spacing::group);
     file->addWidget(m_defaultFilePath, 1);
     file->addWidget(m_defaultFileSetButton);
+    file->addWidget(m_defaultFileClearButton);
 
     m_overdueCheck = new QCheckBox(text("PrefsOverdueCheck"));
     m_overdueCheck->setObjectName(QStringLiteral("overdueCheck"));
@@ -75,6 +85,16 @@ PrefsController::PrefsController()
     m_iCalPopup->setObjectName(QStringLiteral("iCalPopup"));
     m_iCalPopup->setMinimumWidth(calendarPopupWidth);
     m_iCalPopup->setPlaceholderText(text("PrefsNoCalendars"));
+
+    m_hiddenMessages = new QLabel;
+    m_hiddenMessages->setObjectName(QStringLiteral("hiddenMessages"));
+    m_showMessagesButton = makeButton("PrefsShowMessages"_key, QStringLiteral("showMessagesButton"));
+    m_showMessagesButton->setToolTip(text("PrefsShowMessagesToolTip"));
+    auto *messages = new QHBoxLayout;
+    messages->setSpacing(spacing::content);
+    messages->addWidget(m_hiddenMessages);
+    messages->addWidget(m_showMessagesButton);
+    messages->addStretch();
 
     const auto caption = [](TextKey key, QWidget *buddy) {
         auto *label = new QLabel(text(key));
@@ -90,11 +110,15 @@ PrefsController::PrefsController()
     form->addRow(caption("PrefsDefaultFile"_key, m_defaultFileSetButton), file);
     form->addRow(caption("PrefsSchedule"_key, m_overdueCheck), m_overdueCheck);
     form->addRow(caption("PrefsCalendar"_key, m_iCalPopup), m_iCalPopup);
+    form->addRow(caption("PrefsHiddenMessages"_key, m_showMessagesButton), messages);
     form->setSizeConstraint(QLayout::SetFixedSize);
 
     connect(m_autoSaveMatrix, &QButtonGroup::idClicked, this, &PrefsController::autoSaveMatrixAction);
     connect(m_overdueCheck, &QCheckBox::clicked, this, &PrefsController::overdueAction);
     connect(m_defaultFileSetButton, &QPushButton::clicked, this, &PrefsController::defaultFileSetFileAction);
+    connect(m_defaultFileClearButton, &QPushButton::clicked, this, &PrefsController::defaultFileClearAction);
+    connect(m_showMessagesButton, &QPushButton::clicked, this, &PrefsController::showMessagesAction);
+    m_prefWindow->installEventFilter(this);
     connect(m_iCalPopup, &QComboBox::activated, this, &PrefsController::iCalPopupAction);
 }
 
@@ -106,18 +130,30 @@ void PrefsController::display()
     m_overdueCheck->setChecked(preferences.value(preference::activityOverdue, false));
     const bool autoSave = preferences.value(preference::autoSaveOnQuit, false);
     m_autoSaveMatrix->button(autoSave ? autoSaveTag : askTag)->setChecked(true);
-    showDefaultFile(preferences.value(preference::defaultFile, QString()));
+    showStored();
     readCalendars();
     m_prefWindow->adjustSize();
     centreOnScreen(*m_prefWindow);
     showInFront(*m_prefWindow);
 }
 
-void PrefsController::showDefaultFile(const QString &path)
+void PrefsController::showStored()
 {
+    const QString path = Preferences::shared().value(preference::defaultFile, QString());
     m_defaultFilePath->setText(path.isEmpty() ? text("NoneSelected") : QDir::toNativeSeparators(path));
     m_defaultFilePath->setToolTip(path);
     m_defaultFilePath->setCursorPosition(0);
+    m_defaultFileClearButton->setEnabled(!path.isEmpty());
+    const int hidden = AlertPanelDontAskAgain::silencedCount();
+    m_hiddenMessages->setText(hidden == 0 ? text("PrefsHiddenMessagesNone") : QLocale().toString(hidden));
+    m_showMessagesButton->setEnabled(hidden > 0);
+}
+
+bool PrefsController::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        showStored();
+    return QObject::eventFilter(watched, event);
 }
 
 void PrefsController::readCalendars()
@@ -170,7 +206,19 @@ void PrefsController::openFileDidEnd(bool ok, const QString &path)
     if (!ok || path.isEmpty())
         return;
     Preferences::shared().set(preference::defaultFile, path);
-    showDefaultFile(path);
+    showStored();
+}
+
+void PrefsController::defaultFileClearAction()
+{
+    Preferences::shared().remove(preference::defaultFile);
+    showStored();
+}
+
+void PrefsController::showMessagesAction()
+{
+    AlertPanelDontAskAgain::clearAllValues();
+    showStored();
 }
 
 } // namespace brinemark

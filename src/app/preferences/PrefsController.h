@@ -12,6 +12,7 @@ class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QDialog;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -32,6 +33,8 @@ public:
     /// Fills the calendar pop-up; disables it when there is no calendar application or no list could be read.
     void readCalendars();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     [[nodiscard]] QDialog *prefWindow() const { return m_prefWindow.get(); }
 
 private:
@@ -42,14 +45,19 @@ private:
     void overdueAction();
     void autoSaveMatrixAction();
     void defaultFileSetFileAction();
+    void defaultFileClearAction();
+    void showMessagesAction();
     void openFileDidEnd(bool ok, const QString &path);
-    void showDefaultFile(const QString &path);
+    void showStored(); ///< what other windows may have changed: the default file and the silenced messages
 
     std::unique_ptr<QDialog> m_prefWindow;
     QCheckBox *m_overdueCheck;
     QButtonGroup *m_autoSaveMatrix;
     QLineEdit *m_defaultFilePath;
     QPushButton *m_defaultFileSetButton;
+    QPushButton *m_defaultFileClearButton;
+    QLabel *m_hiddenMessages;
+    QPushButton *m_showMessagesButton;
     QComboBox *m_iCalPopup;
 };
 
