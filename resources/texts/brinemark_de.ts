@@ -1182,11 +1182,11 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
     <message>
         <source>HelpPageTitle</source>
         <extracomment>^0 is the page&apos;s title</extracomment>
-        <translation>^0 – Brinemark-Hilfe</translation>
+        <translation>^0 – Hilfe</translation>
     </message>
     <message>
         <source>HelpTitle</source>
-        <translation>Brinemark-Hilfe</translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>HideCalculatorWindow</source>
@@ -2415,7 +2415,7 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     </message>
     <message>
         <source>SignUpTitle</source>
-        <translation>Brinemark-Mailingliste</translation>
+        <translation>Mailingliste</translation>
     </message>
     <message>
         <source>Size</source>
@@ -2934,8 +2934,8 @@ Suchen Sie dann die Ursache, etwa Leitungswasser, Verdunstung, Futter, Zusätze 
     </message>
     <message>
         <source>UpdateWindowTitle</source>
-        <extracomment>%@ is the program&apos;s name.</extracomment>
-        <translation>%@ – Update</translation>
+        <extracomment>%@ is the program&apos;s name. It comes last: desktops add the name to titles that do not end with it.</extracomment>
+        <translation>Updates für %@</translation>
     </message>
 </context>
 </TS>

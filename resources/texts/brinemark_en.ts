@@ -1182,11 +1182,11 @@ Then test every day and repeat the water change until the value is in range. Mea
     <message>
         <source>HelpPageTitle</source>
         <extracomment>^0 is the page&apos;s title</extracomment>
-        <translation>^0 – Brinemark Help</translation>
+        <translation>^0 – Help</translation>
     </message>
     <message>
         <source>HelpTitle</source>
-        <translation>Brinemark Help</translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>HideCalculatorWindow</source>
@@ -2415,7 +2415,7 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     </message>
     <message>
         <source>SignUpTitle</source>
-        <translation>Brinemark Mailing List</translation>
+        <translation>Mailing List</translation>
     </message>
     <message>
         <source>Size</source>
@@ -2934,8 +2934,8 @@ Then look for the cause, such as tap water, evaporation, food, dosing or a remed
     </message>
     <message>
         <source>UpdateWindowTitle</source>
-        <extracomment>%@ is the program&apos;s name.</extracomment>
-        <translation>%@ Update</translation>
+        <extracomment>%@ is the program&apos;s name. It comes last: desktops add the name to titles that do not end with it.</extracomment>
+        <translation>Updates for %@</translation>
     </message>
 </context>
 </TS>

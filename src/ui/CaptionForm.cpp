@@ -2,8 +2,10 @@
 
 #include "ui/CaptionForm.h"
 
+#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 
 namespace brinemark
 {
@@ -16,6 +18,19 @@ QLabel *makeCaption(const QString &text, QWidget *parent)
     bold.setBold(true);
     caption->setFont(bold);
     return caption;
+}
+
+void setCaptionOf(QWidget *control, QLabel *caption)
+{
+    caption->setBuddy(control);
+    // For screen readers a buddy names only controls that stand beside it, not those inside of them.
+    const auto *combo = qobject_cast<QComboBox *>(control);
+    if (auto *field = combo ? combo->lineEdit() : qobject_cast<QLineEdit *>(control)) {
+        QString name = caption->text().remove(u'&').trimmed();
+        if (name.endsWith(u':'))
+            name.chop(1);
+        field->setAccessibleName(name);
+    }
 }
 
 QLabel *makeValue(const QString &objectName, QWidget *parent)
@@ -36,7 +51,7 @@ void addCaptioned(QGridLayout &grid, int row, int column, const QString &caption
     grid.addWidget(label, row, column * 2, Qt::AlignRight | (isLabel ? Qt::AlignTop : Qt::AlignVCenter));
     grid.addWidget(value, row, column * 2 + 1, isLabel ? Qt::AlignTop : Qt::Alignment());
     grid.setColumnStretch(column * 2 + 1, 1);
-    label->setBuddy(value);
+    setCaptionOf(value, label);
 }
 
 } // namespace brinemark

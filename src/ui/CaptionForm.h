@@ -15,6 +15,9 @@ namespace brinemark
 /// trimmed.
 [[nodiscard]] QLabel *makeCaption(const QString &text, QWidget *parent = nullptr);
 
+/// Makes a caption name a control, for its shortcut and for screen readers.
+void setCaptionOf(QWidget *control, QLabel *caption);
+
 /// A read-only value beside a caption: plain text that wraps and can be selected and copied.
 [[nodiscard]] QLabel *makeValue(const QString &objectName = {}, QWidget *parent = nullptr);
 

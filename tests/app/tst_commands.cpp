@@ -6,6 +6,7 @@
 #include "app/tree/TankOutlineView.h"
 #include "base/text/Texts.h"
 #include "chemistry/views/ConditionListController.h"
+#include "chemistry/views/GraphController.h"
 #include "journals/views/NoteListController.h"
 #include "model/LivestockData.h"
 #include "support/AppFixture.h"
@@ -13,6 +14,7 @@
 #include "ui/AlertPanelDontAskAgain.h"
 #include "ui/MainView.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -38,6 +40,25 @@ struct FullProgram : Program {
     /// The title of the view on screen.
     static QString title() { return window().mainView().currentWidget()->findChild<QLabel *>("viewTitle")->text(); }
 };
+
+/// The controls in a window that take the focus but have no name that a screen reader could say.
+QStringList namelessControls(QWidget *window)
+{
+    QStringList nameless;
+    for (QWidget *control : window->findChildren<QWidget *>()) {
+        if (control->isVisible() && control->focusPolicy() != Qt::NoFocus &&
+            QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).isEmpty())
+            nameless << QLatin1String(control->metaObject()->className()) + u' ' + control->objectName();
+    }
+    return nameless;
+}
+
+/// As the desktop shows it: with the name of the product, unless the title ends with it.
+QString shownTitle(const QWidget &window)
+{
+    const QString product = QApplication::applicationDisplayName();
+    return window.windowTitle().endsWith(product) ? window.windowTitle() : window.windowTitle() + product;
+}
 
 } // namespace
 
@@ -76,8 +97,35 @@ private Q_SLOTS:
         const QByteArray name = window.toLatin1();
         QVERIFY(!shownWindow<QWidget>(name));
         program.controller().performCommand(command);
-        QVERIFY(awaitWindow<QWidget>(name));
-        shownWindow<QWidget>(name)->close();
+        auto *shown = awaitWindow<QWidget>(name);
+        QVERIFY(shown);
+        if (command != Command::Print) // the toolkit's own dialog
+            QCOMPARE(namelessControls(shown).join(", "), "");
+        QCOMPARE(shownTitle(*shown).count(QApplication::applicationDisplayName()), 1);
+        shown->close();
+    }
+
+    void everyControlOfAViewHasAName()
+    {
+        FullProgram program;
+        program.controller().selectInTree(program.tank());
+        QCOMPARE(namelessControls(&program.window()).join(", "), "");
+        for (Container *container : program.tank().tankItemsArray()) {
+            program.controller().selectInTree(*container);
+            QCOMPARE(namelessControls(&program.window()).join(", "), "");
+        }
+        program.controller().selectInTree(program.livestock(ContainerKind::Fish));
+        QCOMPARE(namelessControls(&program.window()).join(", "), "");
+        program.tree().openItemEditor(program.livestock(ContainerKind::Fish));
+        QCOMPARE(namelessControls(awaitWindow("itemSheet")).join(", "), "");
+        shownWindow<QDialog>("itemSheet")->close();
+        GraphController::sharedInstance().display();
+        auto *graph = awaitWindow<QWidget>("graphWindow");
+        QVERIFY(graph);
+        QCOMPARE(namelessControls(graph).join(", "), "");
+        graph->findChild<QAbstractButton *>("drawButton")->click();
+        QTRY_VERIFY(graph->findChild<QAbstractButton *>("printButton")->isVisible());
+        QCOMPARE(namelessControls(graph).join(", "), "");
     }
 
     void aRecordIsAdded_data()

@@ -106,7 +106,7 @@ private Q_SLOTS:
         } while (stop->objectName() != QLatin1String("tree"));
         stops.removeAll(QString());
         // The empty size field is not a tab stop.
-        QCOMPARE(stops, QStringList({"tree", "conditionTableView", "editButton", "help", "nameField", "typeField"}));
+        QCOMPARE(stops, QStringList({"tree", "nameField", "typeField", "conditionTableView", "editButton", "help"}));
         QVERIFY(view->findChild<QLabel *>("nameField")->textInteractionFlags() & Qt::TextSelectableByMouse);
     }
 

@@ -130,8 +130,8 @@ void TankDataController::makeTable()
 void TankDataController::setKeyViewWithTankList(QWidget *tankTree, QWidget *helpButton)
 {
     QWidget *previous = tankTree;
-    for (QWidget *next : std::initializer_list<QWidget *>{view(), m_table, m_editButton, helpButton, m_nameField,
-                                                          m_sizeField, m_typeField}) {
+    for (QWidget *next : std::initializer_list<QWidget *>{view(), m_nameField, m_sizeField, m_typeField, m_table,
+                                                          m_editButton, helpButton}) {
         QWidget::setTabOrder(previous, next);
         previous = next;
     }

@@ -31,6 +31,7 @@ NotificationPanel::NotificationPanel(QWidget *parent)
     m_rows->setContentsMargins(0, spacing::tight, 0, spacing::tight);
     m_rows->setSpacing(0);
     m_rows->setAlignment(Qt::AlignTop);
+    m_scrollView->setAccessibleName(windowTitle());
     m_scrollView->setFrameShape(QFrame::NoFrame);
     m_scrollView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollView->setWidgetResizable(true);

@@ -43,6 +43,7 @@ ProfileView::ProfileView(QWidget *parent)
     QFont italic = m_sciName->font();
     italic.setItalic(true);
     m_sciName->setFont(italic);
+    m_scrollArea->setAccessibleName(text("ProfileViewTitle"));
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setWidget(makePage());

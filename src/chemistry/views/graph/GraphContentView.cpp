@@ -6,6 +6,7 @@
 #include "chemistry/views/graph/GraphLegend.h"
 #include "chemistry/views/graph/ScaleSlider.h"
 #include "chemistry/views/graph/TestDateCombo.h"
+#include "ui/CaptionForm.h"
 #include "ui/Colours.h"
 #include "ui/ElidedLabel.h"
 #include "ui/EmptyState.h"
@@ -67,7 +68,7 @@ QHBoxLayout *GraphContentView::makeTopRow()
     m_spinningIndicator->setToolTip(text("GraphDrawing"));
     const auto caption = [](const QString &words, TestDateCombo *combo) {
         auto *label = new QLabel(words);
-        label->setBuddy(combo);
+        setCaptionOf(combo, label);
         combo->setAttribute(Qt::WA_MacSmallSize);
         return label;
     };

@@ -38,7 +38,7 @@ void addLine(QGridLayout &form, const QString &caption, QWidget *control, QWidge
     QLabel *label = makeCaption(caption);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setContentsMargins(2, 0, 0, 0); // bold letters extend slightly beyond their box
-    label->setBuddy(buddy);
+    setCaptionOf(buddy, label);
     form.addWidget(label, row, 0);
     form.addWidget(control, row, 1);
 }
