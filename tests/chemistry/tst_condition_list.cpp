@@ -73,6 +73,26 @@ private Q_SLOTS:
         QCOMPARE(m_shell->changes, 0);
     }
 
+    /// Every column shows "not tested" in full, in every language.
+    void widthsForNotTested()
+    {
+        const auto restore = qScopeGuard([] { setTextLanguages({"en"}); });
+        for (const char *language : {"en", "de"}) {
+            setTextLanguages({language});
+            ConditionListController::destroyShared();
+            ColumnInfoArray columns;
+            for (const ConditionColumnTraits &column : conditionColumnTable)
+                columns.push_back({column.identifier.toString(), 0});
+            m_shell->current->condition()->setColumnInfoArray(columns);
+            const RecordTableView &table = *show().table();
+            const int sides = 2 * (table.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &table) + 1);
+            const int needed = table.fontMetrics().horizontalAdvance(text("NotTested")) + sides;
+            for (int column = 1; column < table.model()->columnCount(); ++column)
+                QVERIFY2(table.columnWidth(column) >= needed,
+                         qPrintable(conditionColumnTable[column].identifier.toString()));
+        }
+    }
+
     void showsTheLog()
     {
         auto &controller = show();

@@ -53,7 +53,8 @@ constexpr RecordColumn recordColumn(const ConditionColumnTraits &column)
             .kind = isDate ? ColumnKind::Date : ColumnKind::Number,
             .decimals = column.decimals,
             .leastWidth = column.width,
-            .editable = true};
+            .editable = true,
+            .absentText = isDate ? TextKey() : "NotTested"_key};
 }
 
 constexpr auto conditionColumns = [] {

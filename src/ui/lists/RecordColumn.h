@@ -25,6 +25,7 @@ struct RecordColumn {
     int leastWidth = 0; ///< smallest width in pixels; 0 for what the header needs. Usual values always fit.
     QString (*shownText)(const Record &) = nullptr; ///< the cell's text where it is not the value of the key
     bool editable = false;
+    TextKey absentText = {}; ///< what a cell shows in place of a value that is not there; empty when it shows nothing
 
     /// Whether its cells are edited by typing. A date is chosen in the calendar, a flag is ticked.
     [[nodiscard]] constexpr bool takesTyping() const

@@ -95,7 +95,10 @@ int RecordTableColumns::leastWidth(const RecordColumn &column) const
     const int headerWidth = column.leastWidth > 0
                                 ? column.leastWidth
                                 : header().fontMetrics().horizontalAdvance(text(column.header)) + roomBesideHeader;
-    return std::max(headerWidth, m_table->fontMetrics().horizontalAdvance(usualText(column)) + roomBesideText);
+    const QFontMetrics font = m_table->fontMetrics();
+    const QString absent = column.absentText.isEmpty() ? QString() : text(column.absentText);
+    const int textWidth = std::max(font.horizontalAdvance(usualText(column)), font.horizontalAdvance(absent));
+    return std::max(headerWidth, textWidth + roomBesideText);
 }
 
 int RecordTableColumns::openingWidth(const RecordColumn &column) const
