@@ -9,6 +9,7 @@
 #include "app/startup/DockMenu.h"
 #include "app/startup/StartupSteps.h"
 #include "app/tree/TankListController.h"
+#include "app/window/MainViews.h"
 #include "app/window/MainWindow.h"
 #include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
@@ -250,7 +251,7 @@ void ShoalwatchDelegate::showPreferences()
 
 void ShoalwatchDelegate::showHelp()
 {
-    brinemark::showHelp();
+    brinemark::showHelp(m_shoalwatchController->views().helpAnchor());
 }
 
 void ShoalwatchDelegate::showAbout()

@@ -5,18 +5,17 @@
 #include "base/text/Texts.h"
 #include "ui/Colours.h"
 #include "ui/Desktop.h"
+#include "ui/HelpBook.h"
 #include "ui/IconButton.h"
 #include "ui/Icons.h"
 #include "ui/Spacing.h"
 
 #include <QAction>
-#include <QDir>
 #include <QEvent>
-#include <QFile>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBrowser>
@@ -30,36 +29,43 @@ namespace brinemark
 namespace
 {
 
-QString bookFolder()
+/// Reads the pages through the book, which puts in the words of the user's language.
+class HelpBrowser : public QTextBrowser
 {
-    for (const QString &language : textLanguages()) {
-        const QString folder = QStringLiteral(":/help/") + language;
-        if (QFile::exists(folder + QStringLiteral("/start.html")))
-            return folder;
+public:
+    QVariant loadResource(int type, const QUrl &url) override
+    {
+        return type == QTextDocument::HtmlResource ? helpbook::page(url.fileName())
+                                                   : QTextBrowser::loadResource(type, url);
     }
-    return QStringLiteral(":/help/en");
-}
+};
 
-QUrl urlOfPage(const QString &fileName, const QString &fragment = {})
+/// Takes the help key before the shortcuts do: those of a window also act in its panels.
+class HelpKey : public QObject
 {
-    QUrl url(QStringLiteral("qrc") + bookFolder() + QLatin1Char('/') + fileName);
-    if (!fragment.isEmpty())
-        url.setFragment(fragment);
-    return url;
-}
-
-/// The file name of the page in which a heading or row has this id; empty when there is none.
-QString pageWithId(const QString &id)
-{
-    const QRegularExpression mark(QStringLiteral("(?:id|name)=\"%1\"").arg(QRegularExpression::escape(id)));
-    const QDir folder(bookFolder());
-    for (const QString &name : folder.entryList({QStringLiteral("*.html")}, QDir::Files)) {
-        QFile file(folder.filePath(name));
-        if (file.open(QIODevice::ReadOnly) && mark.match(QString::fromUtf8(file.readAll())).hasMatch())
-            return name;
+public:
+    HelpKey(QWidget *window, QString anchor)
+        : QObject(window)
+        , m_anchor(std::move(anchor))
+    {
+        window->installEventFilter(this);
     }
-    return {};
-}
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        // Sent before the key press, which fields of file panels keep to themselves.
+        if (event->type() != QEvent::ShortcutOverride ||
+            !static_cast<QKeyEvent *>(event)->matches(QKeySequence::HelpContents))
+            return false;
+        event->accept();
+        QMetaObject::invokeMethod(
+            this, [this] { showHelp(m_anchor); }, Qt::QueuedConnection);
+        return true;
+    }
+
+private:
+    QString m_anchor;
+};
 
 } // namespace
 
@@ -68,8 +74,13 @@ void showHelp(const QString &anchor)
     HelpWindow::sharedInstance().showAnchor(anchor);
 }
 
+void showHelpOnKey(QWidget *window, const QString &anchor)
+{
+    new HelpKey(window, anchor);
+}
+
 HelpWindow::HelpWindow()
-    : m_browser(new QTextBrowser)
+    : m_browser(new HelpBrowser)
     , m_findField(new QLineEdit)
     , m_findResult(new QLabel)
 {
@@ -122,7 +133,7 @@ void HelpWindow::buildButtons()
     forward->setEnabled(false);
     connect(back, &QToolButton::clicked, m_browser, &QTextBrowser::backward);
     connect(forward, &QToolButton::clicked, m_browser, &QTextBrowser::forward);
-    connect(home, &QToolButton::clicked, this, [this] { m_browser->setSource(urlOfAnchor({})); });
+    connect(home, &QToolButton::clicked, this, [this] { m_browser->setSource(helpbook::urlOfAnchor({})); });
     connect(m_browser, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
     connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
     bar->addStretch();
@@ -149,20 +160,10 @@ void HelpWindow::buildButtons()
     m_browser->setFocus();
 }
 
-QUrl HelpWindow::urlOfAnchor(const QString &anchor)
-{
-    const QString page = anchor + QStringLiteral(".html");
-    if (!anchor.isEmpty() && !anchor.contains(QLatin1Char('/')) &&
-        QFile::exists(bookFolder() + QLatin1Char('/') + page))
-        return urlOfPage(page);
-    const QString found = anchor.isEmpty() ? QString() : pageWithId(anchor);
-    return found.isEmpty() ? urlOfPage(QStringLiteral("start.html")) : urlOfPage(found, anchor);
-}
-
 void HelpWindow::showAnchor(const QString &anchor)
 {
     show(); // shown before it scrolls: the anchor's position depends on the window's real width
-    m_browser->setSource(urlOfAnchor(anchor));
+    m_browser->setSource(helpbook::urlOfAnchor(anchor));
     raise();
     activateWindow();
 }

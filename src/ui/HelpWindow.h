@@ -18,7 +18,10 @@ namespace brinemark
 /// anchor shows the start page.
 void showHelp(const QString &anchor = {});
 
-/// The help window: plain HTML pages in the user's language, or in English when that language has none.
+/// Lets the desktop's help key (F1) show the help at an anchor while `window` is active.
+void showHelpOnKey(QWidget *window, const QString &anchor);
+
+/// The help window: the pages of the help book.
 class HelpWindow : public QWidget, public Shared<HelpWindow>
 {
     Q_OBJECT
@@ -26,8 +29,6 @@ class HelpWindow : public QWidget, public Shared<HelpWindow>
     HelpWindow();
 
 public:
-    /// The address of an anchor in the help pages of the user's language.
-    [[nodiscard]] static QUrl urlOfAnchor(const QString &anchor);
     void showAnchor(const QString &anchor);
 
 protected:

@@ -20,6 +20,7 @@
 #include <QLineEdit>
 #include <QStackedWidget>
 #include <QTableView>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolButton>
 
@@ -60,6 +61,14 @@ QString shownTitle(const QWidget &window)
     return window.windowTitle().endsWith(product) ? window.windowTitle() : window.windowTitle() + product;
 }
 
+/// The page and the heading that the help window shows.
+QString shownHelp()
+{
+    auto *window = awaitWindow<QWidget>("helpWindow");
+    const QUrl page = window ? window->findChild<QTextBrowser *>("helpBrowser")->source() : QUrl();
+    return QFileInfo(page.path()).baseName() + (page.hasFragment() ? u'#' + page.fragment() : QString());
+}
+
 } // namespace
 
 // What each command does in the whole program, and what the selection in the tree means for it.
@@ -71,18 +80,20 @@ class TestCommands : public QObject
 private Q_SLOTS:
     void aWindowOpens_data()
     {
-        test::columns<Command, QString>("command", "window");
-        row("print", Command::Print, "printDialog");
-        row("preferences", Command::Preferences, "prefWindow");
-        row("new tank", Command::NewTank, "tankSheet");
-        row("columns", Command::ConditionColumns, "customColumnWindow");
-        row("toolbar", Command::CustomiseToolbar, "toolbarCustomiseDialog");
-        row("calculator", Command::ToggleCalculator, "convertWindow");
-        row("overdue", Command::ToggleOverdue, "notePanel");
-        row("help", Command::Help, "helpWindow");
-        row("updates", Command::CheckForUpdates, "updateWindow");
-        row("mailing list", Command::MailingList, "signupWindow");
-        row("about", Command::About, "aboutPanel");
+        test::columns<Command, QString, QString>("command", "window", "help"); // the page that F1 opens there
+        row("print", Command::Print, "printDialog", "");
+        row("preferences", Command::Preferences, "prefWindow", "preferences");
+        row("new tank", Command::NewTank, "tankSheet", "conditions");
+        row("columns", Command::ConditionColumns, "customColumnWindow", "conditions#condition-columns");
+        row("graph", Command::Graph, "graphWindow", "conditions#graph");
+        row("open", Command::OpenFile, "openPanel", "files");
+        row("toolbar", Command::CustomiseToolbar, "toolbarCustomiseDialog", "preferences#toolbar");
+        row("calculator", Command::ToggleCalculator, "convertWindow", "converter");
+        row("overdue", Command::ToggleOverdue, "notePanel", "schedule#overdue");
+        row("help", Command::Help, "helpWindow", "conditions");
+        row("updates", Command::CheckForUpdates, "updateWindow", "");
+        row("mailing list", Command::MailingList, "signupWindow", "");
+        row("about", Command::About, "aboutPanel", "");
     }
 
     void aWindowOpens()
@@ -94,15 +105,45 @@ private Q_SLOTS:
         overdue->date = clock::now().addDays(-3);
         program.tank().scheduleListArray().push_back(overdue);
         program.controller().selectInTree(*program.tank().condition());
+        program.settle();
         const QByteArray name = window.toLatin1();
         QVERIFY(!shownWindow<QWidget>(name));
         program.controller().performCommand(command);
         auto *shown = awaitWindow<QWidget>(name);
         QVERIFY(shown);
-        if (command != Command::Print) // the toolkit's own dialog
+        if (command != Command::Print && command != Command::OpenFile) // the toolkit's own dialogs
             QCOMPARE(namelessControls(shown).join(", "), "");
         QCOMPARE(shownTitle(*shown).count(QApplication::applicationDisplayName()), 1);
+        QFETCH(QString, help);
+        if (!help.isEmpty()) {
+            QVERIFY(QTest::qWaitForWindowActive(shown));
+            if (command != Command::Help)
+                QTest::keyClick(shown->windowHandle(), Qt::Key_F1); // as the desktop sends it
+            QCOMPARE(shownHelp(), help);
+        }
         shown->close();
+    }
+
+    void helpShowsThePageOfTheView()
+    {
+        FullProgram program;
+        const auto helpOfView = [&] {
+            program.controller().performCommand(Command::Help);
+            return shownHelp();
+        };
+        program.controller().selectInTree(program.tank());
+        QStringList pages{helpOfView()};
+        program.controller().selectInTree(program.livestock(ContainerKind::Plant));
+        pages << helpOfView();
+        for (Container *container : program.tank().tankItemsArray()) {
+            program.controller().selectInTree(*container);
+            pages << helpOfView();
+        }
+        QCOMPARE(pages.join(' '),
+                 "tanks livestock#livestock-profile livestock livestock livestock livestock conditions "
+                 "schedule inventory expenses notes");
+        program.controller().changeView(MainView::None);
+        QCOMPARE(helpOfView(), "start");
     }
 
     void everyControlOfAViewHasAName()

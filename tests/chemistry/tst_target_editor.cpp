@@ -6,6 +6,7 @@
 #include "chemistry/TargetCheck.h"
 #include "support/DataRow.h"
 #include "support/TestProgram.h"
+#include "ui/HelpBook.h"
 
 #include <QLabel>
 #include <QTextBrowser>
@@ -225,7 +226,7 @@ private Q_SLOTS:
         m_driver->open();
         m_driver->click("helpButton");
         QCOMPARE(HelpWindow::sharedInstance().findChild<QTextBrowser *>("helpBrowser")->source(),
-                 HelpWindow::urlOfAnchor(QStringLiteral("conditions")));
+                 helpbook::urlOfAnchor(QStringLiteral("conditions")));
         QVERIFY(m_driver->sheet()->isVisible());
     }
 

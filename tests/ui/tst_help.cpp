@@ -5,11 +5,13 @@
 #include "support/PanelDriver.h"
 #include "support/TestProgram.h"
 #include "ui/Desktop.h"
+#include "ui/HelpBook.h"
 #include "ui/HelpWindow.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -126,6 +128,45 @@ private Q_SLOTS:
         }
     }
 
+    /// What the pages print in bold are names of menus, buttons and fields, as the program has them in that language.
+    void namesThingsAsTheProgramDoes_data()
+    {
+        test::columns<QStringList>("tables"); // of texts, from the most general one
+        row("en", QStringList{"en"});
+        row("en_US", QStringList{"en", "en_US"});
+        row("de", QStringList{"de"});
+    }
+
+    void namesThingsAsTheProgramDoes()
+    {
+        QFETCH(QStringList, tables);
+        const auto plain = [](QString name) {
+            name.replace("&lt;", "<").replace("&gt;", ">").replace("&amp;", "&").remove('&').remove(u'\u2026');
+            return (name.endsWith(':') ? name.chopped(1) : name).simplified();
+        };
+        QHash<QString, QString> names; // by key
+        for (const QString &table : std::as_const(tables)) {
+            QFile file(QStringLiteral(BRINEMARK_SOURCE_DIR "/resources/texts/brinemark_%1.ts").arg(table));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString content = QString::fromUtf8(file.readAll());
+            const QStringList keys = captured(content, "<source>([^<]*)</source>");
+            const QStringList texts = captured(content, "<translation>([^<]*)</translation>");
+            QCOMPARE(keys.size(), texts.size());
+            for (qsizetype i = 0; i < keys.size(); ++i)
+                names.insert(keys[i], plain(texts[i]));
+        }
+        const QStringList all = names.values();
+        setTextLanguages({tables.last()});
+        for (const QString &page : pagesOf(tables.first())) {
+            for (const QString &bold : captured(helpbook::page(page), "<b>([^<]*)</b>")) {
+                if (bold.endsWith('.') || bold == u"xml") // sentences, and the ending of the files
+                    continue;
+                for (const QString &part : bold.simplified().split(QStringLiteral(" &gt; ")))
+                    QVERIFY2(all.contains(plain(part)), qPrintable(page + QStringLiteral(": ") + part));
+            }
+        }
+    }
+
     void everyPageCanBeReachedFromTheStart()
     {
         QStringList open{QStringLiteral("start.html")};
@@ -169,6 +210,10 @@ private Q_SLOTS:
         showHelp();
         QWidget *first = window();
         QCOMPARE(part<QTextBrowser>("helpBrowser")->source().path(), QStringLiteral("/help/de/start.html"));
+        setTextLanguages({QStringLiteral("en_US")});
+        showHelp(QStringLiteral("converter"));
+        const QString american = part<QTextBrowser>("helpBrowser")->toPlainText();
+        QVERIFY(american.contains("in centimeters they give liters") && !american.contains("litre"));
         setTextLanguages({QStringLiteral("fr")});
         showHelp();
         QCOMPARE(window(), first);

@@ -5,6 +5,7 @@
 #include "base/text/Texts.h"
 #include "model/TankFile.h"
 #include "ui/Alerts.h"
+#include "ui/HelpWindow.h"
 #include "ui/SavePanel.h"
 
 #include <QCheckBox>
@@ -76,6 +77,7 @@ void openWith(QWidget *window, QFileDialog *panel, QCheckBox *check, FilePanelCo
     auto makeDefault = std::make_shared<bool>(false);
     QObject::connect(panel, &QDialog::finished, panel,
                      [check, makeDefault] { *makeDefault = check && check->isChecked(); });
+    showHelpOnKey(panel, QStringLiteral("files"));
     openFilePanel(window, panel, [makeDefault, completion = std::move(completion)](const QString &path) {
         completion({!path.isEmpty(), path, *makeDefault});
     });

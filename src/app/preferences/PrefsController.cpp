@@ -8,6 +8,7 @@
 #include "base/Preferences.h"
 #include "base/text/Texts.h"
 #include "ui/AlertPanelDontAskAgain.h"
+#include "ui/HelpWindow.h"
 #include "ui/Spacing.h"
 #include "ui/WindowPlacement.h"
 
@@ -44,6 +45,7 @@ PrefsController::PrefsController()
     : m_prefWindow(std::make_unique<QDialog>())
 {
     m_prefWindow->setObjectName(QStringLiteral("prefWindow"));
+    showHelpOnKey(m_prefWindow.get(), QStringLiteral("preferences"));
     m_prefWindow->setWindowTitle(text("PrefsTitle"));
 
     m_autoSaveMatrix = new QButtonGroup(this);

@@ -4,6 +4,7 @@
 
 #include "app/toolbar/ToolbarAvailableModel.h"
 #include "app/toolbar/ToolbarShownModel.h"
+#include "ui/HelpWindow.h"
 #include "ui/Spacing.h"
 
 #include <QComboBox>
@@ -41,6 +42,7 @@ ToolbarCustomiseDialog::ToolbarCustomiseDialog(const ToolbarConfiguration &confi
     , m_availableModel(new ToolbarAvailableModel(m_shownModel, this))
 {
     setObjectName(QStringLiteral("toolbarCustomiseDialog"));
+    showHelpOnKey(this, QStringLiteral("toolbar"));
     setWindowTitle(text("ToolbarCustomiseTitle"_key));
     setWindowModality(Qt::WindowModal);
 

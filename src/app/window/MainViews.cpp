@@ -33,18 +33,19 @@ MainViewController &shared()
 struct ViewRow {
     MainView view;
     MainViewController &(*controller)(); ///< null for the empty view, which has no controller
+    const char *helpAnchor = "";
 };
 
 constexpr std::array<ViewRow, mainViewCount> viewRows{{
     {MainView::None, nullptr},
-    {MainView::Tank, &shared<TankDataController>},
-    {MainView::LivestockGroup, &shared<LivestockGroupController>},
-    {MainView::LivestockItem, &shared<FishDataController>},
-    {MainView::Schedule, &shared<ScheduleListController>},
-    {MainView::Notes, &shared<NoteListController>},
-    {MainView::Conditions, &shared<ConditionListController>},
-    {MainView::Inventory, &shared<InventoryListController>},
-    {MainView::Expenses, &shared<ExpenseListController>},
+    {MainView::Tank, &shared<TankDataController>, "tanks"},
+    {MainView::LivestockGroup, &shared<LivestockGroupController>, "livestock"},
+    {MainView::LivestockItem, &shared<FishDataController>, "livestock-profile"},
+    {MainView::Schedule, &shared<ScheduleListController>, "schedule"},
+    {MainView::Notes, &shared<NoteListController>, "notes"},
+    {MainView::Conditions, &shared<ConditionListController>, "conditions"},
+    {MainView::Inventory, &shared<InventoryListController>, "inventory"},
+    {MainView::Expenses, &shared<ExpenseListController>, "expenses"},
 }};
 static_assert(rowsFollow<MainView>(viewRows, &ViewRow::view), "viewRows needs one row for each MainView, in its order");
 
@@ -106,6 +107,12 @@ bool MainViews::hasSelectedRow(MainView view) const
 {
     const MainViewController *controller = this->controller(view);
     return controller && controller->hasSelectedRow();
+}
+
+QString MainViews::helpAnchor() const
+{
+    const MainView view = m_currentViewConstant;
+    return isView(view) ? QString::fromLatin1(viewRows[std::size_t(view)].helpAnchor) : QString();
 }
 
 void MainViews::updateColumnInfo()

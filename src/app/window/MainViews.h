@@ -36,6 +36,8 @@ public:
     [[nodiscard]] MainViewController *controller(MainView view) const;
     [[nodiscard]] bool hasSelectedRow(MainView view) const;
 
+    [[nodiscard]] QString helpAnchor() const; ///< of the view on screen in the help
+
     /// Stores the column layout of the list on screen.
     void updateColumnInfo();
 

@@ -5,6 +5,7 @@
 #include "base/text/NumberText.h"
 #include "calc/UnitConversion.h"
 #include "ui/CaptionForm.h"
+#include "ui/HelpWindow.h"
 #include "ui/Spacing.h"
 
 #include <QComboBox>
@@ -23,6 +24,7 @@ ConverterPanel::ConverterPanel(QWidget *parent)
     , m_convertResultField(new QLineEdit)
 {
     setObjectName(QStringLiteral("convertWindow"));
+    showHelpOnKey(this, QStringLiteral("converter"));
     setWindowTitle(text("ToolbarCalculate"));
     m_typePopup->setObjectName(QStringLiteral("typePopup"));
     m_typePopup->addItems(conversionKindTitles());

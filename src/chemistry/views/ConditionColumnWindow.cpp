@@ -3,6 +3,7 @@
 #include "chemistry/views/ConditionColumnWindow.h"
 
 #include "chemistry/ConditionColumns.h"
+#include "ui/HelpWindow.h"
 #include "ui/Spacing.h"
 
 #include <QCheckBox>
@@ -30,6 +31,7 @@ ConditionColumnWindow::ConditionColumnWindow(QWidget *parent)
     , m_checks(new QWidget)
 {
     setObjectName(QStringLiteral("customColumnWindow"));
+    showHelpOnKey(this, QStringLiteral("condition-columns"));
     setWindowTitle(text("ConditionColumnsTitle"));
     m_label->setTextFormat(Qt::PlainText);
     auto *grid = new QGridLayout(m_checks);
@@ -57,8 +59,8 @@ void ConditionColumnWindow::showColumns(const QString &tankName, const std::func
 {
     m_label->setText(fillPlaceholders(text("ConditionColumnsLabel"), {tankName}));
     m_checks->setEnabled(!tankName.isNull());
-    const auto shown = std::ranges::count_if(
-        conditionColumnTable, [&](const ConditionColumnTraits &column) { return isShown(column.tag); });
+    const auto shown = std::ranges::count_if(conditionColumnTable,
+                                             [&](const ConditionColumnTraits &column) { return isShown(column.tag); });
     for (const ConditionColumnTraits &column : conditionColumnTable) {
         auto *check = m_checks->findChild<QCheckBox *>(checkName(column));
         check->setChecked(isShown(column.tag));

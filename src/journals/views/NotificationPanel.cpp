@@ -3,6 +3,7 @@
 #include "journals/views/NotificationPanel.h"
 
 #include "base/text/Texts.h"
+#include "ui/HelpWindow.h"
 #include "ui/Spacing.h"
 
 #include <QScrollArea>
@@ -25,6 +26,7 @@ NotificationPanel::NotificationPanel(QWidget *parent)
     , m_scrollView(new QScrollArea)
 {
     setObjectName(QStringLiteral("notePanel"));
+    showHelpOnKey(this, QStringLiteral("overdue"));
     setWindowTitle(text("DockMenuTitle"));
     auto *content = new QWidget;
     m_rows = new QVBoxLayout(content);

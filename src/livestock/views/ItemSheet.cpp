@@ -10,6 +10,7 @@
 #include "model/pictures/PictureReader.h"
 #include "ui/Alerts.h"
 #include "ui/CaptionForm.h"
+#include "ui/HelpWindow.h"
 #include "ui/MultiLineEdit.h"
 #include "ui/SavePanel.h"
 #include "ui/Spacing.h"
@@ -77,6 +78,7 @@ ItemSheet::ItemSheet(QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("itemSheet"));
+    showHelpOnKey(this, QStringLiteral("livestock-profile"));
     auto *buttons = new QDialogButtonBox;
     QPushButton *okButton = buttons->addButton(text("OK"), QDialogButtonBox::AcceptRole);
     okButton->setObjectName(QStringLiteral("okButton"));

@@ -2,6 +2,7 @@
 
 #include "chemistry/views/graph/GraphWindow.h"
 
+#include "ui/HelpWindow.h"
 #include "ui/Sheets.h"
 
 #include <QScreen>
@@ -18,6 +19,7 @@ GraphWindow::GraphWindow(QWidget *parent, QWidget *dateContentView, QWidget *gra
     , m_graphSize(900, 600)
 {
     setObjectName(QStringLiteral("graphWindow"));
+    showHelpOnKey(this, QStringLiteral("graph"));
     m_place->setContentsMargins(0, 0, 0, 0);
     m_graphContentView->setParent(this);
     m_dateContentView->setParent(this);

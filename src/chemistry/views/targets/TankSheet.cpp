@@ -9,6 +9,7 @@
 #include "chemistry/views/targets/HighValueBox.h"
 #include "chemistry/views/targets/TargetNumberEdit.h"
 #include "ui/CaptionForm.h"
+#include "ui/HelpWindow.h"
 #include "ui/Spacing.h"
 #include "ui/Stepper.h"
 
@@ -108,6 +109,7 @@ TankSheet::~TankSheet()
 void TankSheet::nameControls()
 {
     setObjectName(QStringLiteral("tankSheet"));
+    showHelpOnKey(this, QStringLiteral("conditions"));
     nameField->setObjectName(QStringLiteral("nameField"));
     sizeField->setObjectName(QStringLiteral("sizeField"));
     freshwaterButton->setObjectName(QStringLiteral("freshwaterButton"));
