@@ -6,6 +6,7 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOptionComplex>
 
@@ -18,8 +19,8 @@ namespace brinemark
 namespace
 {
 
-/// The least contrast of an outline, above 3:1 because the style smooths round shapes.
-constexpr double leastOutlineContrast = 3.6;
+/// The least contrast of an outline, above 3:1 because round shapes and fractional scales blur it.
+constexpr double leastOutlineContrast = 4.6;
 
 QStyle *sameStyleAgain()
 {
@@ -82,7 +83,7 @@ bool isOutlined(QStyle::PrimitiveElement element, const QWidget *widget)
     case QStyle::PE_FrameLineEdit:
         return true;
     case QStyle::PE_Frame:
-        return qobject_cast<const QAbstractScrollArea *>(widget);
+        return qobject_cast<const QAbstractScrollArea *>(widget) != nullptr;
     default:
         return false;
     }
@@ -135,9 +136,20 @@ void OutlineStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
 {
     const auto newPalette = [this](const QPalette &palette) { return outlined(palette); };
     const auto draw = [&](const QStyleOption *own) { QProxyStyle::drawPrimitive(element, own, painter, widget); };
-    if (!isOutlined(element, widget) || !(drawnWith<QStyleOptionButton>(option, newPalette, draw) ||
-                                          drawnWith<QStyleOptionFrame>(option, newPalette, draw)))
+    if (!isOutlined(element, widget)) {
         draw(option);
+        return;
+    }
+    painter->save();
+    if (element == PE_Frame) {
+        // As the style draws other outlines: at fractional scales, lines that are not smoothed can fall outside.
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(0.5, 0.5);
+    }
+    if (!drawnWith<QStyleOptionButton>(option, newPalette, draw) &&
+        !drawnWith<QStyleOptionFrame>(option, newPalette, draw))
+        draw(option);
+    painter->restore();
 }
 
 void OutlineStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,

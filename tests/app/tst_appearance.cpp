@@ -22,17 +22,24 @@ namespace
 {
 
 /// The best contrast that one of the pixels right of `outside` has both to that pixel and to the inside of fields.
-/// Boxes have straight sides, so a row of pixels crosses their outline.
+/// Boxes have straight sides, so a row of pixels crosses their outline. At 125 % an outline can lie between two pixels.
 double outlineContrast(QWidget &window, QPoint outside, int pixels)
 {
-    const QImage picture = window.grab().toImage();
     const QColor inside = window.palette().color(QPalette::Base);
-    double best = 1;
-    for (int x = 1; x <= pixels; ++x) {
-        const QColor pixel = picture.pixelColor(outside + QPoint(x, 0));
-        best = std::max(best, std::min(contrast(pixel, picture.pixelColor(outside)), contrast(pixel, inside)));
+    double least = 21;
+    for (const double ratio : {1.0, 1.25}) {
+        QImage picture(window.size() * ratio, QImage::Format_RGB32);
+        picture.setDevicePixelRatio(ratio);
+        window.render(&picture);
+        const QPoint start = (QPointF(outside) * ratio).toPoint();
+        double best = 1;
+        for (int x = 1; x <= pixels * ratio; ++x) {
+            const QColor pixel = picture.pixelColor(start + QPoint(x, 0));
+            best = std::max(best, std::min(contrast(pixel, picture.pixelColor(start)), contrast(pixel, inside)));
+        }
+        least = std::min(least, best);
     }
-    return best;
+    return least;
 }
 
 } // namespace
