@@ -33,13 +33,7 @@ struct TwoTanks : TreeWindow {
     }
 
     ItemData &record(ContainerKind kind) { return *records[std::size_t(kind)]; }
-    QStringList fishOf(const Tank &tank) const
-    {
-        QStringList names;
-        for (const auto &fish : tank.fishListArray())
-            names << fish->name;
-        return names;
-    }
+    static QStringList fishOf(const Tank &tank) { return listOf(tank.fishListArray(), &FishData::name); }
     quint32 changes() const { return document.changeCount(); }
 };
 

@@ -3,7 +3,6 @@
 // The built program, started with the options that need no person.
 
 #include "support/AppFixture.h"
-#include "support/DataRow.h"
 
 #include <QProcess>
 
@@ -37,10 +36,8 @@ private Q_SLOTS:
 
     void nobodyIsAsked()
     {
-        QFETCH(QString, option);
-        QFETCH(QString, file);
-        QFETCH(int, exitCode);
-        QFETCH(QStringList, said);
+        const auto [option, file, exitCode, said] =
+            fetch<QString, QString, int, QStringList>("option", "file", "exitCode", "said");
         const QTemporaryDir folder;
         const QString picture = folder.filePath("picture.png");
         QStringList arguments{option};

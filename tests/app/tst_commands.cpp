@@ -4,24 +4,20 @@
 #include "app/menus/MainMenuBar.h"
 #include "app/toolbar/MainToolBar.h"
 #include "app/tree/TankOutlineView.h"
-#include "base/text/Texts.h"
 #include "chemistry/views/ConditionListController.h"
 #include "chemistry/views/GraphController.h"
 #include "journals/views/NoteListController.h"
 #include "model/LivestockData.h"
 #include "support/AppFixture.h"
-#include "support/DataRow.h"
 #include "ui/AlertPanelDontAskAgain.h"
 #include "ui/MainView.h"
 
 #include <QAccessible>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QToolButton>
 
 using namespace brinemark;
@@ -98,8 +94,7 @@ private Q_SLOTS:
 
     void aWindowOpens()
     {
-        QFETCH(Command, command);
-        QFETCH(QString, window);
+        const auto [command, window, help] = fetch<Command, QString, QString>("command", "window", "help");
         FullProgram program;
         const auto overdue = std::make_shared<ScheduleData>(&program.tank());
         overdue->date = clock::now().addDays(-3);
@@ -114,7 +109,6 @@ private Q_SLOTS:
         if (command != Command::Print && command != Command::OpenFile) // the toolkit's own dialogs
             QCOMPARE(namelessControls(shown).join(", "), "");
         QCOMPARE(shownTitle(*shown).count(QApplication::applicationDisplayName()), 1);
-        QFETCH(QString, help);
         if (!help.isEmpty()) {
             QVERIFY(QTest::qWaitForWindowActive(shown));
             if (command != Command::Help)
@@ -157,7 +151,8 @@ private Q_SLOTS:
         }
         program.controller().selectInTree(program.livestock(ContainerKind::Fish));
         QCOMPARE(namelessControls(&program.window()).join(", "), "");
-        program.tree().openItemEditor(program.livestock(ContainerKind::Fish));
+        QTest::keyClick(program.tree().tankList(), Qt::Key_Return); // opens the editor of the record
+        QVERIFY(awaitWindow("itemSheet"));
         QCOMPARE(namelessControls(awaitWindow("itemSheet")).join(", "), "");
         shownWindow<QDialog>("itemSheet")->close();
         GraphController::sharedInstance().display();
@@ -185,8 +180,7 @@ private Q_SLOTS:
 
     void aRecordIsAdded()
     {
-        QFETCH(Command, command);
-        QFETCH(ContainerKind, kind);
+        const auto [command, kind] = fetch<Command, ContainerKind>("command", "kind");
         FullProgram program;
         Container &list = *program.tank().container(kind);
         program.controller().selectInTree(list);
@@ -214,16 +208,6 @@ private Q_SLOTS:
         QCOMPARE(program.controller().currentView(), MainView::LivestockGroup);
     }
 
-    void aRecordOpensItsEditor()
-    {
-        FullProgram program;
-        program.controller().selectInTree(program.livestock(ContainerKind::Coral));
-        QTest::keyClick(program.tree().tankList(), Qt::Key_Return);
-        auto *sheet = awaitWindow("itemSheet");
-        QVERIFY(sheet);
-        sheet->reject();
-    }
-
     void returnAddsAnEntry_data()
     {
         columns<ContainerKind, QString>("kind", "focus");
@@ -235,8 +219,7 @@ private Q_SLOTS:
 
     void returnAddsAnEntry()
     {
-        QFETCH(ContainerKind, kind);
-        QFETCH(QString, focus);
+        const auto [kind, focus] = fetch<ContainerKind, QString>("kind", "focus");
         FullProgram program;
         AlertPanelDontAskAgain::setValue(1, "DontShowAgainNotTested");
         Container &list = *program.tank().container(kind);
@@ -298,36 +281,30 @@ private Q_SLOTS:
         }
     }
 
-    void aTankWithoutListsShowsThemOnceInUse_data()
-    {
-        QTest::addColumn<bool>("byPaste");
-        row("new fish", false);
-        row("paste", true);
-    }
-
     void aTankWithoutListsShowsThemOnceInUse()
     {
-        QFETCH(bool, byPaste);
-        if (byPaste) {
+        {
             FullProgram source;
             source.controller().selectInTree(source.livestock(ContainerKind::Fish));
             source.tree().copy();
         }
-        AlertScript script;
-        Program program;
-        program.start(program.copyOf(testFile("older-seven.xml")));
-        Tank &tank = *program.tree().list().at(0);
-        program.controller().selectInTree(tank);
-        program.tree().tankList()->setFocus();
-        program.controller().performCommand(byPaste ? Command::Paste : Command::NewFish);
-        QCOMPARE(tank.fish()->count(), 1);
-        QCOMPARE(tank.tankItemsArray().size(), containerCount);
-        QCOMPARE(program.tree().currentSelectedItem(), TreeItem(*tank.fishListArray().at(0)));
-        QCOMPARE(program.controller().currentView(), MainView::LivestockItem);
-        for (Container *container : tank.tankItemsArray()) {
-            program.controller().selectInTree(*container);
-            QCOMPARE(program.tree().currentSelectedItem(), TreeItem(*container));
-            QVERIFY(program.window().mainView().grab().width() > 0);
+        for (const Command command : {Command::NewFish, Command::Paste}) {
+            AlertScript script;
+            Program program;
+            program.start(program.copyOf(testFile("older-seven.xml")));
+            Tank &tank = *program.tree().list().at(0);
+            program.controller().selectInTree(tank);
+            program.tree().tankList()->setFocus();
+            program.controller().performCommand(command);
+            QCOMPARE(tank.fish()->count(), 1);
+            QCOMPARE(tank.tankItemsArray().size(), containerCount);
+            QCOMPARE(program.tree().currentSelectedItem(), TreeItem(*tank.fishListArray().at(0)));
+            QCOMPARE(program.controller().currentView(), MainView::LivestockItem);
+            for (Container *container : tank.tankItemsArray()) {
+                program.controller().selectInTree(*container);
+                QCOMPARE(program.tree().currentSelectedItem(), TreeItem(*container));
+                QVERIFY(program.window().mainView().grab().width() > 0);
+            }
         }
     }
 
@@ -344,8 +321,7 @@ private Q_SLOTS:
 
     void deleteActsOnTheSelection_data()
     {
-        test::columns<MainView, QString>("view", "sender");
-        QTest::addColumn<QString>("question"); // empty: nothing is asked
+        columns<MainView, QString, QString>("view", "sender", "question"); // empty: nothing is asked
         row("tank, by menu", MainView::Tank, "menu", formatText(text("DeleteTankWarning"), {"^0"}));
         row("record, by button", MainView::LivestockItem, "button", formatText(text("DeleteFishWarning"), {"^0"}));
         row("record, by toolbar", MainView::LivestockItem, "toolbar", formatText(text("DeleteFishWarning"), {"^0"}));
@@ -357,9 +333,7 @@ private Q_SLOTS:
 
     void deleteActsOnTheSelection()
     {
-        QFETCH(MainView, view);
-        QFETCH(QString, sender);
-        QFETCH(QString, question);
+        auto [view, sender, question] = fetch<MainView, QString, QString>("view", "sender", "question");
         FullProgram program;
         ItemData &fish = program.livestock(ContainerKind::Fish);
         if (view == MainView::Tank)
@@ -404,8 +378,7 @@ private Q_SLOTS:
     /// A name in the tree or a value in the log is being typed when the command comes.
     void everyCommandFirstStoresWhatIsTyped()
     {
-        QFETCH(Command, command);
-        QFETCH(bool, inTheTree);
+        const auto [command, inTheTree, stores] = fetch<Command, bool, bool>("command", "inTheTree", "stores");
         FullProgram program;
         const auto tank = program.tank().shared_from_this(); // survives New and Revert
         QTableView *log = nullptr;
@@ -436,7 +409,6 @@ private Q_SLOTS:
         closeWindows.start(5);
         program.controller().performCommand(command);
         const bool undone = command == Command::Undo; // stored, and taken back
-        QFETCH(bool, stores);
         const bool stored = inTheTree ? tank->name == "3" : test->ph == 3.0F;
         QCOMPARE(stored, stores && !undone);
         QTRY_VERIFY(!QApplication::activeModalWidget());

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "base/PreferenceKeys.h"
 #include "base/Preferences.h"
 #include "base/Product.h"
 #include "base/saving/KeptCopies.h"
-#include "base/text/Texts.h"
 #include "support/AppFixture.h"
-#include "support/DataRow.h"
 #include "support/FailingFileCalls.h"
 #include "support/Python.h"
 #include "ui/MainView.h"
@@ -114,10 +111,8 @@ private Q_SLOTS:
     void failingWrite()
     {
         Program program;
-        const QString path = program.copyOf(testFile("minimal.xml"));
+        const QString path = program.startEdited();
         const QByteArray before = bytesOf(path);
-        program.start(path);
-        QVERIFY(program.renameFirstTank("Edited"));
         const QString folder = program.filePath("folder.xml");
         QVERIFY(QDir().mkpath(folder + "/inside"));
         AlertScript script;
@@ -221,9 +216,8 @@ private Q_SLOTS:
 
     void changedByAnother_data()
     {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("theirFile"); // the tank in the other program's file afterwards
-        QTest::addColumn<bool>("edited");
+        // theirFile: the tank in the other program's file afterwards
+        columns<int, QString, bool>("answer", "theirFile", "edited");
         QTest::newRow("overwrite") << int(AlertAlternate) << "Edited" << false;
         QTest::newRow("elsewhere") << int(AlertDefault) << "Theirs" << false;
         QTest::newRow("cancel") << int(AlertOther) << "Theirs" << true;
@@ -231,9 +225,7 @@ private Q_SLOTS:
 
     void changedByAnother()
     {
-        QFETCH(int, answer);
-        QFETCH(QString, theirFile);
-        QFETCH(bool, edited);
+        const auto [answer, theirFile, edited] = fetch<int, QString, bool>("answer", "theirFile", "edited");
         Program program;
         const QString path = program.copyOf(testFile("minimal.xml"));
         program.start(path);
@@ -291,9 +283,7 @@ private Q_SLOTS:
     void changedByAnotherAndChosenAgain()
     {
         Program program;
-        const QString path = program.copyOf(testFile("minimal.xml"));
-        program.start(path);
-        QVERIFY(program.renameFirstTank("Edited"));
+        const QString path = program.startEdited();
         QVERIFY(writeFile(path, "theirs"));
         AlertScript script{AlertDefault};
         program.commands().saveAsCurrentFile();

@@ -2,7 +2,6 @@
 
 #include "base/Preferences.h"
 #include "support/AppFixture.h"
-#include "support/DataRow.h"
 #include "ui/pictures/PictureConverter.h"
 
 #include <QBuffer>

@@ -2,10 +2,8 @@
 
 #include "app/menus/MainMenuBar.h"
 #include "base/Preferences.h"
-#include "base/text/Texts.h"
 #include "journals/views/NotificationController.h"
 #include "support/AppFixture.h"
-#include "support/DataRow.h"
 #include "ui/MainView.h"
 
 #include <QDropEvent>
@@ -18,8 +16,6 @@ using namespace brinemark::test;
 
 namespace
 {
-
-constexpr quint32 wrapped = 0xFFFFFFFF;
 
 AlertAnswer answerOf(const QString &word)
 {
@@ -70,56 +66,39 @@ class TestDocuments : public QObject
 private Q_SLOTS:
     void newAndOpen_data()
     {
-        QTest::addColumn<QString>("command"); // "new" or "open"
-        QTest::addColumn<bool>("titled");
-        QTest::addColumn<QString>("answer"); // to the question; "clean": no edits, so no question
-        QTest::addColumn<QStringList>("panels");
-        QTest::addColumn<QString>("endsAt"); // "" untitled, "old", "saved", "other"
-        QTest::addColumn<bool>("keepsEdits");
-        QTest::addColumn<QString>("written"); // the file that got the edits
-
-        struct Row {
-            const char *command;
-            bool titled;
-            const char *answer, *panels, *endsAt;
-            bool keepsEdits;
-            const char *written;
+        // answer: "clean" for no edits, so no question; endsAt: "" for untitled; written: the file that got the edits
+        columns<QString, bool, QString, QStringList>("command", "titled", "answer", "panels");
+        columns<QString, bool, QString>("endsAt", "keepsEdits", "written");
+        const auto row = [](const char *command, bool titled, const char *answer, const char *panels,
+                            const char *endsAt, bool keepsEdits, const char *written) {
+            QTest::addRow("%s, %s, %s, %s", command, titled ? "titled" : "untitled", answer, panels)
+                << QString(command) << titled << QString(answer) << QString(panels).split(' ', Qt::SkipEmptyParts)
+                << QString(endsAt) << keepsEdits << QString(written);
         };
-        static constexpr Row rows[] = {
-            {"new", true, "clean", "", "", false, ""},
-            {"new", false, "clean", "", "", false, ""},
-            {"new", true, "save", "", "", false, "old"},
-            {"new", true, "don't save", "", "", false, ""},
-            {"new", true, "cancel", "", "old", true, ""},
-            {"new", false, "save", "save:ok", "", false, "saved"},
-            {"new", false, "save", "save:cancel", "", true, ""},
-            {"new", false, "don't save", "", "", false, ""},
-            {"new", false, "cancel", "", "", true, ""},
-            {"open", true, "clean", "open:ok", "other", false, ""},
-            {"open", true, "clean", "open:cancel", "old", false, ""},
-            {"open", true, "save", "open:ok", "other", false, "old"},
-            {"open", true, "don't save", "open:ok", "other", false, ""},
-            {"open", true, "cancel", "", "old", true, ""},
-            {"open", false, "save", "save:ok open:ok", "other", false, "saved"},
-            {"open", false, "save", "save:ok open:cancel", "saved", false, "saved"},
-            {"open", false, "save", "save:cancel", "", true, ""},
-        };
-        for (const Row &row : rows)
-            QTest::addRow("%s, %s, %s, %s", row.command, row.titled ? "titled" : "untitled", row.answer, row.panels)
-                << QString(row.command) << row.titled << QString(row.answer)
-                << QString(row.panels).split(' ', Qt::SkipEmptyParts) << QString(row.endsAt) << row.keepsEdits
-                << QString(row.written);
+        row("new", true, "clean", "", "", false, "");
+        row("new", false, "clean", "", "", false, "");
+        row("new", true, "save", "", "", false, "old");
+        row("new", true, "don't save", "", "", false, "");
+        row("new", true, "cancel", "", "old", true, "");
+        row("new", false, "save", "save:ok", "", false, "saved");
+        row("new", false, "save", "save:cancel", "", true, "");
+        row("new", false, "don't save", "", "", false, "");
+        row("new", false, "cancel", "", "", true, "");
+        row("open", true, "clean", "open:ok", "other", false, "");
+        row("open", true, "clean", "open:cancel", "old", false, "");
+        row("open", true, "save", "open:ok", "other", false, "old");
+        row("open", true, "don't save", "open:ok", "other", false, "");
+        row("open", true, "cancel", "", "old", true, "");
+        row("open", false, "save", "save:ok open:ok", "other", false, "saved");
+        row("open", false, "save", "save:ok open:cancel", "saved", false, "saved");
+        row("open", false, "save", "save:cancel", "", true, "");
     }
 
     void newAndOpen()
     {
-        QFETCH(QString, command);
-        QFETCH(bool, titled);
-        QFETCH(QString, answer);
-        QFETCH(QStringList, panels);
-        QFETCH(QString, endsAt);
-        QFETCH(bool, keepsEdits);
-        QFETCH(QString, written);
+        const auto [command, titled, answer, panels, endsAt, keepsEdits, written] =
+            fetch<QString, bool, QString, QStringList, QString, bool, QString>("command", "titled", "answer", "panels",
+                                                                               "endsAt", "keepsEdits", "written");
         Program program;
         const QMap<QString, QString> files{{"", {}},
                                            {"old", program.copyOf(testFile("every-field.xml"))},
@@ -158,9 +137,7 @@ private Q_SLOTS:
     void cancelledOpenAfterDontSaveKeepsTheEditsUnmarked()
     {
         Program program;
-        const QString path = program.copyOf(testFile("every-field.xml"));
-        program.start(path);
-        QVERIFY(program.renameFirstTank("Edited"));
+        const QString path = program.startEdited("every-field.xml");
         const quint32 count = program.document().changeCount();
         AlertScript script{AlertAlternate};
         program.commands().openDataFile();
@@ -282,8 +259,7 @@ private Q_SLOTS:
     void revert()
     {
         Program program;
-        program.start(program.copyOf(testFile("minimal.xml")));
-        QVERIFY(program.renameFirstTank("Edited"));
+        program.startEdited();
         const quint32 count = program.document().changeCount();
         for (const AlertAnswer answer : {AlertDefault, AlertAlternate}) {
             AlertScript script{answer};
@@ -299,9 +275,9 @@ private Q_SLOTS:
 
     void quit_data()
     {
-        test::columns<bool, bool>("autoSave", "titled");
-        QTest::addColumn<QString>("answer"); // "clean": no edits; "none": edits, but no question
-        test::columns<QStringList, bool, QString>("panels", "ends", "written");
+        // answer: "clean" for no edits, "none" for edits without a question
+        columns<bool, bool, QString>("autoSave", "titled", "answer");
+        columns<QStringList, bool, QString>("panels", "ends", "written");
         const auto row = [](bool autoSave, bool titled, const char *answer, const char *panels, bool ends,
                             const char *written) {
             QTest::addRow("%s, %s, %s, %s", autoSave ? "auto-save" : "ask", titled ? "titled" : "untitled", answer,
@@ -324,12 +300,9 @@ private Q_SLOTS:
 
     void quit()
     {
-        QFETCH(bool, autoSave);
-        QFETCH(bool, titled);
-        QFETCH(QString, answer);
         QFETCH(QStringList, panels);
-        QFETCH(bool, ends);
-        QFETCH(QString, written);
+        const auto [autoSave, titled, answer, ends, written] =
+            fetch<bool, bool, QString, bool, QString>("autoSave", "titled", "answer", "ends", "written");
         Program program;
         Preferences::shared().set(preference::autoSaveOnQuit, autoSave);
         const QString old = program.copyOf(testFile("minimal.xml"));
@@ -363,8 +336,7 @@ private Q_SLOTS:
     void quitIsAskedOnce()
     {
         Program program;
-        program.start(program.copyOf(testFile("minimal.xml")));
-        QVERIFY(program.renameFirstTank("Edited"));
+        program.startEdited();
         program.delegate().terminate();
         program.delegate().terminate(); // while the question is on screen
         AlertScript script;
@@ -377,9 +349,8 @@ private Q_SLOTS:
     {
         Program program;
         program.start(program.copyOf(testFile("minimal.xml")));
-        QCOMPARE(program.document().changeCount(), 0U);
         program.controller().documentModifiedWithChange(false);
-        QCOMPARE(program.document().changeCount(), wrapped);
+        QCOMPARE(program.document().changeCount(), 0xFFFFFFFFU);
         QVERIFY(program.window().isWindowModified());
         program.commands().saveCurrentFile();
         QCOMPARE(program.document().changeCount(), 0U);
@@ -389,9 +360,7 @@ private Q_SLOTS:
     void openPathIsNotReadAgain()
     {
         Program program;
-        const QString path = program.copyOf(testFile("minimal.xml"));
-        program.start(path);
-        QVERIFY(program.renameFirstTank("Edited"));
+        const QString path = program.startEdited();
         QFile::remove(path);
         program.copyOf(testFile("three-tanks.xml"));
         const AlertScript script;
@@ -493,8 +462,7 @@ private Q_SLOTS:
     void anotherFileDropsUndoAndNotices()
     {
         Program program;
-        program.start(program.copyOf(testFile("minimal.xml")));
-        QVERIFY(program.renameFirstTank("Edited"));
+        program.startEdited();
         program.commands().saveCurrentFile();
         const auto activity = std::make_shared<ScheduleData>();
         NotificationController::sharedInstance().setNotificationData(activity);
@@ -516,9 +484,7 @@ private Q_SLOTS:
     {
         Program program;
         Preferences::shared().set(preference::autoSaveOnQuit, true);
-        const QString path = program.copyOf(testFile("minimal.xml"));
-        program.start(path);
-        QVERIFY(program.renameFirstTank("Edited"));
+        const QString path = program.startEdited();
         QVERIFY(writeFile(path, "theirs"));
         AlertScript script{AlertOther, AlertOther};
         for (int i = 1; i <= 2; ++i) { // the second quit asks again

@@ -4,15 +4,12 @@
 #include "app/menus/MainMenuBar.h"
 #include "app/tree/TankOutlineView.h"
 #include "app/window/MainSelection.h"
-#include "base/text/Texts.h"
 #include "support/AppFixture.h"
-#include "support/DataRow.h"
 #include "ui/MainViewController.h"
 #include "ui/lists/RecordTableView.h"
 
 #include <QClipboard>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QMenu>
 #include <QSet>
 #include <QStackedWidget>
@@ -75,10 +72,7 @@ QList<QAction *> choicesOf(Command command, MainMenuBar &bar)
 
 QStringList titlesOf(const QList<QAction *> &items)
 {
-    QStringList titles;
-    for (const QAction *item : items)
-        titles << item->text().remove('&');
-    return titles;
+    return listOf(items, [](const QAction *item) { return item->text().remove('&'); });
 }
 
 } // namespace
@@ -93,10 +87,8 @@ private Q_SLOTS:
         using namespace menutag;
         using V = MainView;
         using Tags = QList<int>;
-        QTest::addColumn<MainView>("view");
-        QTest::addColumn<MainView>("selectedIn"); // the view whose list has a selected row
-        QTest::addColumn<QString>("flags");
-        QTest::addColumn<QList<int>>("enabled"); // of the items with a rule; the others always are
+        // selectedIn: the view whose list has a selected row; enabled: of the items with a rule, the others always are
+        columns<MainView, MainView, QString, QList<int>>("view", "selectedIn", "flags", "enabled");
         row("nothing open", V::None, V::None, "", Tags{});
         row("current tank", V::Tank, V::None, "tank", Tags{NeedsTank});
         row("closed row", V::Tank, V::None, "tank closed", Tags{NeedsTank, Expand});
@@ -138,34 +130,14 @@ private Q_SLOTS:
     void validation()
     {
         using namespace menutag;
-        QFETCH(MainView, view);
-        QFETCH(MainView, selectedIn);
-        QFETCH(QString, flags);
-        QFETCH(QList<int>, enabled);
+        const auto [view, selectedIn, flags, enabled] =
+            fetch<MainView, MainView, QString, QList<int>>("view", "selectedIn", "flags", "enabled");
         const MenuState state = stateOf(view, selectedIn, flags.split(' '));
-        const QList<int> withRule{Expand,
-                                  Collapse,
-                                  NeedsTank,
-                                  NewWaterTest,
-                                  NewActivity,
-                                  NewInventory,
-                                  NewNote,
-                                  Save,
-                                  InventorySelected,
-                                  NoteSelected,
-                                  ScheduleSelected,
-                                  ConditionSelected,
-                                  Revert,
-                                  ExpenseSelected,
-                                  Undo,
-                                  Redo,
-                                  NewExpense,
-                                  ConditionColumns,
-                                  SortBy,
-                                  SortAscending,
-                                  SortDescending,
-                                  ClearRecent,
-                                  TwoWaterTests};
+        using Tags = QList<int>;
+        const Tags withRule = Tags{Expand, Collapse, NeedsTank, NewWaterTest, NewActivity, NewInventory, NewNote} +
+                              Tags{NewExpense, Save, Revert, Undo, Redo, ConditionColumns, SortBy, SortAscending} +
+                              Tags{SortDescending, ClearRecent, TwoWaterTests, InventorySelected, NoteSelected} +
+                              Tags{ScheduleSelected, ConditionSelected, ExpenseSelected};
         for (const int tag : withRule)
             QVERIFY2(menuItemState(tag, state).enabled == enabled.contains(tag), QByteArray::number(tag));
         for (const int untagged : {0, 99, -1})

@@ -4,19 +4,16 @@
 #include "app/preferences/PrefsController.h"
 #include "app/startup/StartupSteps.h"
 #include "base/Product.h"
-#include "base/text/Texts.h"
 #include "calc/views/ConverterController.h"
 #include "journals/views/NotificationController.h"
 #include "online/views/EListSignupController.h"
 #include "support/AppFixture.h"
-#include "support/DataRow.h"
 #include "support/Python.h"
 #include "ui/AlertPanelDontAskAgain.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QScopeGuard>
 #include <QScreen>
@@ -111,8 +108,7 @@ private Q_SLOTS:
 
     void defaultFile_data()
     {
-        QTest::addColumn<QString>("stored"); // a file name in the program's folder
-        QTest::addColumn<bool>("kept");
+        columns<QString, bool>("stored", "kept"); // a file name in the program's folder
         QTest::newRow("empty") << "" << false;
         QTest::newRow("missing") << "none.xml" << false;
         QTest::newRow("folder") << "folder.xml" << false;
@@ -122,8 +118,7 @@ private Q_SLOTS:
 
     void defaultFile()
     {
-        QFETCH(QString, stored);
-        QFETCH(bool, kept);
+        const auto [stored, kept] = fetch<QString, bool>("stored", "kept");
         Program program;
         QVERIFY(QDir().mkpath(program.filePath("folder.xml")));
         QVERIFY(writeFile(program.filePath("garbage.xml"), "garbage"));
@@ -174,51 +169,38 @@ private Q_SLOTS:
         QVERIFY(!shownAlert());
     }
 
-    void handedOverFileComesBeforeTheDefaultFile()
+    /// The calculator is shown again, and a file that is handed over comes before the default file.
+    void storedPreferencesAreFollowed()
     {
         Program program;
         Preferences::shared().set(preference::defaultFile, testFile("three-tanks.xml"));
+        Preferences::shared().set(preference::convertVisible, true);
         program.start(testFile("minimal.xml"));
         QCOMPARE(program.path(), testFile("minimal.xml"));
         QCOMPARE(program.tankNames().size(), 1);
-    }
-
-    void leftOverFolder_data()
-    {
-        test::columns<QString, bool>("kind", "stays");
-        QTest::newRow("folder") << "folder" << false;
-        QTest::newRow("plain file") << "file" << true;
-        QTest::newRow("link to a folder") << "link" << false;
+        QVERIFY(ConverterController::sharedInstance().isVisible());
     }
 
     void leftOverFolder()
     {
-        QFETCH(QString, kind);
-        QFETCH(bool, stays);
-        Program program;
-        const QString leftover = startup::applicationSupportFolder() + '/' + text("FolderName");
-        QVERIFY(leftover.startsWith(QDir::homePath()));
-        const QString target = program.filePath("target");
-        QVERIFY(writeFile(target + "/inside/file", "kept"));
-        QVERIFY(QDir().mkpath(startup::applicationSupportFolder()));
-        if (kind == "folder")
-            QVERIFY(writeFile(leftover + "/deep/inside", "gone"));
-        else if (kind == "file")
-            QVERIFY(writeFile(leftover, "kept"));
-        else
-            QVERIFY(QFile::link(target, leftover));
-        program.start();
-        QCOMPARE(QFileInfo::exists(leftover) || QFileInfo(leftover).isSymLink(), stays);
-        QVERIFY(QFileInfo::exists(target + "/inside/file"));
-        QFile::remove(leftover);
-    }
-
-    void converterIsShownAgain()
-    {
-        Program program;
-        Preferences::shared().set(preference::convertVisible, true);
-        program.start(testFile("minimal.xml"));
-        QVERIFY(ConverterController::sharedInstance().isVisible());
+        for (const QString kind : {"folder", "file", "link to a folder"}) {
+            Program program;
+            const QString leftover = startup::applicationSupportFolder() + '/' + text("FolderName");
+            QVERIFY(leftover.startsWith(QDir::homePath()));
+            const QString target = program.filePath("target");
+            QVERIFY(writeFile(target + "/inside/file", "kept"));
+            QVERIFY(QDir().mkpath(startup::applicationSupportFolder()));
+            if (kind == "folder")
+                QVERIFY(writeFile(leftover + "/deep/inside", "gone"));
+            else if (kind == "file")
+                QVERIFY(writeFile(leftover, "kept"));
+            else
+                QVERIFY(QFile::link(target, leftover));
+            program.start();
+            QCOMPARE(QFileInfo::exists(leftover) || QFileInfo(leftover).isSymLink(), kind == "file");
+            QVERIFY(QFileInfo::exists(target + "/inside/file"));
+            QFile::remove(leftover);
+        }
     }
 
     void undoManager()

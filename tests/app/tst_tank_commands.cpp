@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/TwoTanks.h"
-#include "app/tree/PasteboardTypes.h"
 #include "base/plist/XmlReader.h"
-#include "base/plist/XmlWriter.h"
 #include "model/RecordDict.h"
-#include "support/DataRow.h"
-#include "support/TestProgram.h"
 
 #include <QClipboard>
-#include <QMimeData>
 
 using namespace brinemark;
 using namespace brinemark::test;
@@ -32,9 +27,7 @@ bool answer(const char *button)
 /// The livestock containers, with their identifier on the pasteboard and the question before deleting a record.
 void livestockKinds()
 {
-    QTest::addColumn<ContainerKind>("kind");
-    QTest::addColumn<QString>("context");
-    QTest::addColumn<QString>("question");
+    columns<ContainerKind, QString, QString>("kind", "context", "question");
     row("fish", ContainerKind::Fish, "TankFish", text("DeleteFishWarning"));
     row("plant", ContainerKind::Plant, "TankPlant", text("DeletePlantWarning"));
     row("invert", ContainerKind::Invert, "TankInvert", text("DeleteInvertWarning"));
@@ -157,8 +150,7 @@ private Q_SLOTS:
 
     void deleteRecord()
     {
-        QFETCH(ContainerKind, kind);
-        QFETCH(QString, question);
+        const auto [kind, question] = fetch<ContainerKind, QString>("kind", "question");
         TwoTanks w;
         const auto record = std::static_pointer_cast<ItemData>(w.record(kind).shared_from_this());
         record->name = "50 %@ \"^0\"";
@@ -255,8 +247,7 @@ private Q_SLOTS:
 
     void copyAndPaste()
     {
-        QFETCH(ContainerKind, kind);
-        QFETCH(QString, context);
+        const auto [kind, context] = fetch<ContainerKind, QString>("kind", "context");
         TwoTanks w;
         QImage picture(9, 7, QImage::Format_RGB32);
         picture.fill(Qt::darkCyan);
@@ -334,8 +325,7 @@ private Q_SLOTS:
 
     void damagedPasteboard()
     {
-        QFETCH(QByteArray, livestock);
-        QFETCH(QByteArray, context);
+        const auto [livestock, context] = fetch<QByteArray, QByteArray>("livestock", "context");
         TwoTanks w;
         w.tree.select(TreeItem(*w.second));
         QVERIFY(w.save());

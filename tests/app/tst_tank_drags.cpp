@@ -2,8 +2,6 @@
 
 #include "app/TwoTanks.h"
 #include "base/plist/XmlReader.h"
-#include "support/DataRow.h"
-#include "support/TestProgram.h"
 
 #include <QDragMoveEvent>
 
@@ -68,10 +66,7 @@ private Q_SLOTS:
 
     void dragRecord()
     {
-        QFETCH(int, row);
-        QFETCH(QString, to);
-        QFETCH(bool, copies);
-        QFETCH(QString, inFirst);
+        const auto [row, to, copies, inFirst] = fetch<int, QString, bool, QString>("row", "to", "copies", "inFirst");
         TwoTanks w;
         w.outline->collapseAll();
         for (const auto &tank : {w.first, w.second}) {
@@ -111,12 +106,7 @@ private Q_SLOTS:
         w.outline->collapseAll();
         w.tree.select(TreeItem(*w.first));
         QVERIFY(w.save());
-        const auto order = [&] {
-            QStringList names;
-            for (const auto &tank : w.tree.list())
-                names << tank->name;
-            return names.join(' ');
-        };
+        const auto order = [&] { return listOf(w.tree.list(), &Tank::name).join(' '); };
         drag(w, TreeItem(*w.first), w.rectOf(TreeItem(*w.first)).center() + QPoint(0, 2));
         QCOMPARE(order(), "first second third");
         QVERIFY(!w.window.isWindowModified());

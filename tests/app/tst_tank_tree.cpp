@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/TreeWindow.h"
-#include "support/DataRow.h"
-#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -173,8 +171,7 @@ private Q_SLOTS:
 
     void renameWithoutEffect()
     {
-        QFETCH(QString, typed);
-        QFETCH(Qt::Key, key);
+        const auto [typed, key] = fetch<QString, Qt::Key>("typed", "key");
         TreeWindow w(savePath());
         Tank &tank = *w.addTank("before");
         QVERIFY(w.save());

@@ -6,7 +6,6 @@
 #include "app/toolbar/ToolbarItems.h"
 #include "app/toolbar/ToolbarShownModel.h"
 #include "base/PreferenceKeys.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
@@ -20,7 +19,6 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 #include <QToolButton>
 
 #include <memory>
@@ -195,10 +193,8 @@ private Q_SLOTS:
 
     void storedConfiguration()
     {
-        QFETCH(QVariant, value);
-        QFETCH(QStringList, items);
-        QFETCH(Qt::ToolButtonStyle, style);
-        QFETCH(bool, shown);
+        const auto [value, items, style, shown] =
+            test::fetch<QVariant, QStringList, Qt::ToolButtonStyle, bool>("value", "items", "style", "shown");
         Preferences::shared().setVariant(preference::toolbarConfiguration.name, value);
         Window w;
         QCOMPARE(visibleItems(*w.bar), items);

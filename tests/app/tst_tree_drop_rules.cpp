@@ -3,11 +3,9 @@
 #include "app/tree/TreeDropRules.h"
 #include "model/LivestockData.h"
 #include "model/TankList.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 
 #include <QGuiApplication>
-#include <QTest>
 
 using namespace brinemark;
 using brinemark::test::row;
@@ -56,21 +54,12 @@ struct Tanks : TankList {
                                                  : *static_cast<Container *>(tank.note()));
     }
 
-    QString order() const
-    {
-        QString names;
-        for (const auto &tank : *this)
-            names += tank->name;
-        return names;
-    }
+    QString order() const { return test::listOf(*this, &Tank::name).join(QString()); }
 };
 
 QStringList fishOf(const Tank &tank)
 {
-    QStringList names;
-    for (const auto &fish : tank.fishListArray())
-        names << fish->name;
-    return names;
+    return test::listOf(tank.fishListArray(), &FishData::name);
 }
 
 } // namespace
@@ -82,9 +71,9 @@ class TestTreeDropRules : public QObject
 private Q_SLOTS:
     void recordValidation_data()
     {
-        test::columns<QString, QString>("dragged", "parent");
-        QTest::addColumn<int>("index"); // -1: on the row itself
-        test::columns<Qt::DropActions, DropOperation>("allowed", "expected");
+        // index: -1 on the row itself
+        test::columns<QString, QString, int, Qt::DropActions, DropOperation>("dragged", "parent", "index", "allowed",
+                                                                             "expected");
 
         const Qt::DropActions any = Qt::CopyAction | Qt::MoveAction;
         const Qt::DropActions copy = Qt::CopyAction;
@@ -109,10 +98,8 @@ private Q_SLOTS:
 
     void recordValidation()
     {
-        QFETCH(QString, dragged);
-        QFETCH(QString, parent);
-        QFETCH(int, index);
-        QFETCH(Qt::DropActions, allowed);
+        const auto [dragged, parent, index, allowed] =
+            test::fetch<QString, QString, int, Qt::DropActions>("dragged", "parent", "index", "allowed");
         const Tanks tanks;
         const DropProposal proposal{tanks.row(parent), index < 0 ? std::nullopt : std::optional(index)};
         QTEST(validateRecordDrop(*tanks.row(dragged).record, proposal, allowed), "expected");
@@ -120,8 +107,8 @@ private Q_SLOTS:
 
     void recordLanding_data()
     {
-        test::columns<QString, QString, int, bool, QString, QString>(
-            "dragged", "parent", "index", "copies", "inA", "inB");
+        test::columns<QString, QString, int, bool, QString, QString>("dragged", "parent", "index", "copies", "inA",
+                                                                     "inB");
 
         const QString allB = "B0 B1 B2 B3 B4 B5";
         const auto within = [&](const char *name, const char *dragged, int index, const char *inA,
@@ -150,10 +137,8 @@ private Q_SLOTS:
 
     void recordLanding()
     {
-        QFETCH(QString, dragged);
-        QFETCH(QString, parent);
-        QFETCH(int, index);
-        QFETCH(bool, copies);
+        const auto [dragged, parent, index, copies] =
+            test::fetch<QString, QString, int, bool>("dragged", "parent", "index", "copies");
         Tanks tanks;
         const auto fish = std::static_pointer_cast<ItemData>(tanks.row(dragged).record->shared_from_this());
         fish->reefSafe = reefsafe::yes;
@@ -183,9 +168,8 @@ private Q_SLOTS:
 
     void tankDrop_data()
     {
-        test::columns<QString, QString>("dragged", "row");
-        QTest::addColumn<int>("index"); // -1: refused
-        QTest::addColumn<QString>("order");
+        // index: -1 when refused
+        test::columns<QString, QString, int, QString>("dragged", "row", "index", "order");
 
         row("beside the rows", "A", "", -1, "ABC");
         row("its own row", "A", "A", -1, "ABC");
@@ -199,8 +183,7 @@ private Q_SLOTS:
 
     void tankDrop()
     {
-        QFETCH(QString, dragged);
-        QFETCH(QString, row);
+        const auto [dragged, row] = test::fetch<QString, QString>("dragged", "row");
         Tanks tanks;
         Tank &tank = tanks.named(dragged[0]);
         const std::optional<int> index = validateTankDrop(tanks, tank, tanks.row(row));

@@ -3,10 +3,7 @@
 #include "base/text/AmountText.h"
 #include "base/text/DateText.h"
 #include "base/text/NumberText.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
-
-#include <QTest>
 
 #include <clocale>
 #include <ctime>
@@ -52,8 +49,7 @@ private Q_SLOTS:
 
     void leadingNumbers()
     {
-        QFETCH(QString, text);
-        QFETCH(double, number);
+        const auto [text, number] = test::fetch<QString, double>("text", "number");
         QCOMPARE(leadingNumber(text), number);
         const float largest = std::numeric_limits<float>::max();
         QCOMPARE(leadingFloat(text), float(std::clamp(number, double(-largest), double(largest))));
@@ -111,8 +107,7 @@ private Q_SLOTS:
 
     void shownNumbers()
     {
-        QFETCH(float, value);
-        QFETCH(QString, withFullStop);
+        auto [value, withFullStop] = test::fetch<float, QString>("value", "withFullStop");
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         QCOMPARE(localizeAndTrimZeros(value), withFullStop);
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
@@ -201,20 +196,15 @@ private Q_SLOTS:
         QTEST(calendarFormatFromQt(qtFormat), "calendarFormat");
     }
 
-    void shortDateFormats_data()
-    {
-        test::columns<QLocale, QString, QString>("locale", "format", "shown");
-        row("en_US", QLocale("en_US"), "%m/%d/%y", "03/04/07");
-        row("en_GB", QLocale("en_GB"), "%d/%m/%Y", "04/03/2007");
-        row("de_DE", QLocale("de_DE"), "%d.%m.%y", "04.03.07");
-    }
-
     void shortDateFormats()
     {
-        QFETCH(QLocale, locale);
-        QLocale::setDefault(locale);
-        QTEST(dateFormatterForLocale(), "format");
-        QTEST(localeDateText(QDateTime(QDate(2007, 3, 4), QTime(18, 22))), "shown");
+        for (const auto &[locale, format, shown] :
+             {std::tuple("en_US", "%m/%d/%y", "03/04/07"), std::tuple("en_GB", "%d/%m/%Y", "04/03/2007"),
+              std::tuple("de_DE", "%d.%m.%y", "04.03.07")}) {
+            QLocale::setDefault(QLocale(QLatin1String(locale)));
+            QCOMPARE(dateFormatterForLocale(), QLatin1String(format));
+            QCOMPARE(localeDateText(QDateTime(QDate(2007, 3, 4), QTime(18, 22))), QLatin1String(shown));
+        }
     }
 
     void typedDates_data()
@@ -235,8 +225,6 @@ private Q_SLOTS:
         row("other separators", german, "4/3-07", day);
         row("names", named, "Sunday, 4 march 2007", day);
         row("short names", named, "Sun, 4 Mar 2007", day);
-        row("blanks", german, "  4. 3. 07 ", day);
-        row("short names", named, "Sun, 4 Mar 2007", day);
         row("mark at the end", "%d.%m.%Y г.", "4.3.2007", day);
         row("year first", "%Y-%m-%d", "2007-3-4", day);
         row("last of this century", german, "4.3.68", QDate(2068, 3, 4));
@@ -256,8 +244,7 @@ private Q_SLOTS:
 
     void typedDates()
     {
-        QFETCH(QString, format);
-        QFETCH(QString, typed);
+        const auto [format, typed] = test::fetch<QString, QString>("format", "typed");
         const QDateTime read = dateFromCalendarText(typed, format, QLocale("en_US"));
         QTEST(read.date(), "day");
         QCOMPARE(read.isNull(), read.date().isNull());

@@ -3,14 +3,12 @@
 #include "base/plist/TextReader.h"
 #include "base/plist/XmlReader.h"
 #include "base/plist/XmlWriter.h"
-#include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/Python.h"
 #include "support/TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QStringEncoder>
-#include <QTest>
 #include <QTimeZone>
 
 #include <clocale>
@@ -197,8 +195,7 @@ private Q_SLOTS:
 
     void readsXml()
     {
-        QFETCH(QByteArray, xml);
-        QFETCH(Value, expected);
+        const auto [xml, expected] = brinemark::test::fetch<QByteArray, Value>("xml", "expected");
         const ReadResult result = readXml(xml);
         QVERIFY2(result, qPrintable(result.error));
         QVERIFY(result.value == expected);
@@ -253,26 +250,21 @@ private Q_SLOTS:
         QVERIFY(result.value.isNone());
     }
 
-    void truncatedFilesAreRefused_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        row("everything", fixture());
-        row("comments", "<?xml version=\"1.0\"?><!-- a --><plist><dict><!-- b --><key>a</key>"
-                        "<string><![CDATA[b]]>&amp;</string></dict></plist> <!-- c -->"_qba);
-    }
-
     void truncatedFilesAreRefused()
     {
-        QFETCH(const QByteArray, bytes);
-        const Value whole = readXml(bytes).value;
-        QVERIFY(!whole.isNone());
-        const qsizetype end = bytes.lastIndexOf("</plist>") + 8;
-        for (qsizetype size = 0; size < bytes.size(); ++size) {
-            const ReadResult result = readXml(bytes.first(size));
-            if (size < end)
-                QVERIFY2(!result, qPrintable(QString::number(size)));
-            else if (result)
-                QVERIFY(result.value == whole);
+        for (const QByteArray &bytes :
+             {fixture(), "<?xml version=\"1.0\"?><!-- a --><plist><dict><!-- b --><key>a</key>"
+                         "<string><![CDATA[b]]>&amp;</string></dict></plist> <!-- c -->"_qba}) {
+            const Value whole = readXml(bytes).value;
+            QVERIFY(!whole.isNone());
+            const qsizetype end = bytes.lastIndexOf("</plist>") + 8;
+            for (qsizetype size = 0; size < bytes.size(); ++size) {
+                const ReadResult result = readXml(bytes.first(size));
+                if (size < end)
+                    QVERIFY2(!result, bytes.first(size));
+                else if (result)
+                    QVERIFY(result.value == whole);
+            }
         }
     }
 
@@ -330,9 +322,8 @@ private Q_SLOTS:
 
     void depthIsLimited()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(bool, text);
-        QFETCH(bool, readable);
+        const auto [bytes, text, readable] =
+            brinemark::test::fetch<QByteArray, bool, bool>("bytes", "text", "readable");
         const ReadResult result = text ? readText(bytes) : readXml(bytes);
         QVERIFY2(bool(result) == readable, qPrintable(result.error));
     }
@@ -368,8 +359,7 @@ private Q_SLOTS:
 
     void readsText()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(Value, expected);
+        const auto [text, expected] = brinemark::test::fetch<QByteArray, Value>("text", "expected");
         const ReadResult result = readText(text);
         QVERIFY2(result, qPrintable(result.error));
         QVERIFY(result.value == expected);

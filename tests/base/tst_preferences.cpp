@@ -2,15 +2,8 @@
 
 #include "base/PreferenceKeys.h"
 #include "base/plist/XmlReader.h"
-#include "support/DataRow.h"
 #include "support/Files.h"
-#include "support/TestHome.h"
 #include "support/TestProgram.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTest>
 
 using namespace brinemark;
 using brinemark::test::bytesOf;
@@ -140,10 +133,8 @@ private Q_SLOTS:
 
     void lenientReading()
     {
-        QFETCH(QVariant, stored);
-        QFETCH(QVariant, flag);
-        QFETCH(QVariant, number);
-        QFETCH(QVariant, text);
+        const auto [stored, flag, number, text] =
+            test::fetch<QVariant, QVariant, QVariant, QVariant>("stored", "flag", "number", "text");
         Preferences store(freshPreferencesPath());
         store.setVariant(QStringLiteral("key"), stored);
         QCOMPARE(store.value(PreferenceKey<bool>{"key"}), flag.isValid() ? std::optional(flag.toBool()) : std::nullopt);

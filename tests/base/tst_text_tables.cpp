@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
-#include <QTest>
 #include <QTranslator>
 
 #include <algorithm>

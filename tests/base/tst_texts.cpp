@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "base/text/Texts.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
-
-#include <QTest>
 
 using namespace brinemark;
 using brinemark::test::row;
@@ -71,20 +67,14 @@ private Q_SLOTS:
         QCOMPARE(text(TextKey()), QString());
     }
 
-    void numbers_data()
-    {
-        test::columns<QString, double>("language", "temperature");
-        QTest::newRow("Celsius") << "de_DE" << 25.0;
-        QTest::newRow("Fahrenheit") << "en_US" << 78.0;
-    }
-
     void numbers()
     {
-        QFETCH(QString, language);
-        setTextLanguages({language});
-        QTEST(numberOfText(newTankTemperature), "temperature");
-        // A fraction, whatever the locale's decimal separator.
-        QVERIFY(numberOfText("AmmoniaFreshValue"_key) > 0.0 && numberOfText("AmmoniaFreshValue"_key) < 1.0);
+        for (const auto &[language, temperature] : {std::pair("de_DE", 25.0), std::pair("en_US", 78.0)}) {
+            setTextLanguages({QLatin1String(language)});
+            QCOMPARE(numberOfText(newTankTemperature), temperature);
+            // A fraction, whatever the locale's decimal separator.
+            QVERIFY(numberOfText("AmmoniaFreshValue"_key) > 0.0 && numberOfText("AmmoniaFreshValue"_key) < 1.0);
+        }
         QCOMPARE(numberOfText(cancel), 0.0);
         QCOMPARE(numberOfText(unwritten), 0.0);
     }
@@ -101,8 +91,7 @@ private Q_SLOTS:
 
     void placeholders()
     {
-        QFETCH(QString, format);
-        QFETCH(QStringList, values);
+        const auto [format, values] = test::fetch<QString, QStringList>("format", "values");
         QTEST(fillPlaceholders(format, values), "filled");
     }
 
@@ -122,8 +111,7 @@ private Q_SLOTS:
 
     void formats()
     {
-        QFETCH(QString, format);
-        QFETCH(QVariantList, values);
+        const auto [format, values] = test::fetch<QString, QVariantList>("format", "values");
         QTEST(formatText(format, values), "filled");
     }
 };

@@ -3,7 +3,6 @@
 #include "base/PreferenceKeys.h"
 #include "calc/UnitConversion.h"
 #include "calc/views/ConverterController.h"
-#include "support/DataRow.h"
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
 
@@ -11,7 +10,6 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
-#include <QTest>
 
 using namespace brinemark;
 
@@ -45,10 +43,7 @@ private Q_SLOTS:
     }
     void converts()
     {
-        QFETCH(int, kind);
-        QFETCH(int, item);
-        QFETCH(float, value);
-        QFETCH(float, result);
+        const auto [kind, item, value, result] = test::fetch<int, int, float, float>("kind", "item", "value", "result");
         const float converted = convertUnits(kind, item, value);
         QVERIFY2(qAbs(converted - result) <= 1e-4F * qMax(1.0F, qAbs(result)), qPrintable(QString::number(converted)));
     }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "chemistry/views/CheckedLineEdit.h"
-#include "support/DataRow.h"
 #include "support/LocalNumber.h"
 #include "support/TestProgram.h"
 #include "ui/Alerts.h"
@@ -173,11 +172,8 @@ private Q_SLOTS:
     }
     void edits()
     {
-        QFETCH(int, mode);
-        QFETCH(Acts, acts);
-        QFETCH(QString, shown);
-        QFETCH(int, beeps);
-        QFETCH(double, value);
+        auto [mode, acts, shown, beeps, value] =
+            test::fetch<int, Acts, QString, int, double>("mode", "acts", "shown", "beeps", "value");
         shown.replace("?", text("NotTested"_key));
 
         CheckedLineEdit field(formatter(Mode(mode)));

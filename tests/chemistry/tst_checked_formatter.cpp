@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "chemistry/SFCheckedFormatter.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 
-#include <QCoreApplication>
 #include <QDataStream>
 
 #include <tuple>
@@ -63,13 +61,9 @@ private Q_SLOTS:
     }
     void reads()
     {
-        QFETCH(QString, typed);
-        QFETCH(double, max);
-        QFETCH(int, rounding);
-        QFETCH(int, precision);
-        QFETCH(bool, notTested);
-        QFETCH(bool, commas);
-        QFETCH(double, value);
+        const auto [typed, max, rounding, precision, notTested, commas, value] =
+            test::fetch<QString, double, int, int, bool, bool, double>("typed", "max", "rounding", "precision",
+                                                                       "notTested", "commas", "value");
         const auto checked = formatter(-1, max, precision, rounding, notTested, commas);
         QCOMPARE(checked.getObjectValue(typed).toDouble(), value);
     }
@@ -134,10 +128,8 @@ private Q_SLOTS:
     }
     void archives()
     {
-        QFETCH(int, cutOff);
-        QFETCH(QByteArray, name);
-        QFETCH(int, version);
-        QFETCH(bool, read);
+        const auto [cutOff, name, version, read] =
+            test::fetch<int, QByteArray, int, bool>("cutOff", "name", "version", "read");
         SFCheckedFormatter checked(-7.25, 0.1, 4, 3);
         checked.setUseNotTested(true);
         QByteArray own;

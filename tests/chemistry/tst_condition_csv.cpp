@@ -6,11 +6,9 @@
 #include "chemistry/ConditionColumns.h"
 #include "model/KeyAccess.h"
 #include "model/Tank.h"
-#include "support/DataRow.h"
 #include "support/Python.h"
 #include "support/TestProgram.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -3,7 +3,6 @@
 #include "chemistry/ConditionLog.h"
 #include "model/KeyAccess.h"
 #include "support/AlertDriver.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 
 using namespace brinemark;
@@ -30,9 +29,7 @@ private Q_SLOTS:
     }
     void editing()
     {
-        QFETCH(int, column);
-        QFETCH(QVariant, value);
-        QFETCH(bool, taken);
+        const auto [column, value, taken] = fetch<int, QVariant, bool>("column", "value", "taken");
         const auto record = m_tank->condition()->recordAt(0);
         const QStringView key = conditionKey(column);
         const QVariant before = valueForKey(*record, key);
@@ -63,10 +60,9 @@ private Q_SLOTS:
     }
     void newEntry()
     {
-        QFETCH(bool, silenced);
+        const auto [silenced, typable] = fetch<bool, bool>("silenced", "typable");
         if (!silenced)
             AlertPanelDontAskAgain::clearValueForIdentifier(notTestedIdentifier);
-        QFETCH(bool, typable);
         for (const int tag : typable ? QList<int>() : QList<int>{22, 23, 29}) // all but the date
             log().toogleConditionColumn(tag);
         m_shell->changes = 0;
@@ -148,8 +144,7 @@ private Q_SLOTS:
         target.warningOn = target.deviationOn = true;
         target.preferredValue = 8;
         target.deviationValue = 0.5;
-        QFETCH(double, value);
-        QFETCH(bool, warns);
+        const auto [value, warns] = fetch<double, bool>("value", "warns");
         clickCell(table(), 1, Ph);
         press(Qt::Key_F2);
         if (value < 0)
@@ -201,8 +196,7 @@ private Q_SLOTS:
     }
     void datesComeFromTheCalendar()
     {
-        QFETCH(int, key);
-        QFETCH(bool, opens);
+        const auto [key, opens] = fetch<int, bool>("key", "opens");
         CalendarController &calendar = CalendarController::sharedInstance();
         if (key == 0) {
             clickCell(table(), 1, Date, Qt::ControlModifier);

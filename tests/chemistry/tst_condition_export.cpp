@@ -2,7 +2,6 @@
 
 #include "chemistry/views/ConditionExport.h"
 
-#include "base/text/Texts.h"
 #include "model/Tank.h"
 #include "support/AlertDriver.h"
 #include "support/Files.h"
@@ -11,7 +10,6 @@
 #include "ui/SavePanel.h"
 
 #include <QScopeGuard>
-#include <QTemporaryDir>
 
 using namespace brinemark;
 

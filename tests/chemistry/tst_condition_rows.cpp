@@ -2,11 +2,9 @@
 
 #include "chemistry/ConditionLog.h"
 #include "support/AlertDriver.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/MenuTags.h"
 
-#include <QMenu>
 #include <QToolButton>
 
 using namespace brinemark;
@@ -22,22 +20,20 @@ private Q_SLOTS:
 
     void sortsWhenTheSelectionMoves_data()
     {
-        test::columns<std::function<void(QTableView *)>, QList<int>>("move", "selected");
+        test::columns<std::function<void(QTableView *)>>("move");
         using Move = std::function<void(QTableView *)>;
-        const QList<int> itself{4};
-        row("click", Move([](QTableView *table) { clickCell(table, 2, Ammonia); }), itself);
-        row("click and extend", Move([](QTableView *table) { clickCell(table, 2, Ph, Qt::ShiftModifier); }), itself);
-        row("down", Move([](QTableView *table) { QTest::keyClick(table, Qt::Key_Down); }), itself);
-        row("select all", Move([](QTableView *table) { table->selectAll(); }), itself);
-        row("select row", Move([](QTableView *table) { table->selectRow(3); }), itself);
+        row("click", Move([](QTableView *table) { clickCell(table, 2, Ammonia); }));
+        row("click and extend", Move([](QTableView *table) { clickCell(table, 2, Ph, Qt::ShiftModifier); }));
+        row("down", Move([](QTableView *table) { QTest::keyClick(table, Qt::Key_Down); }));
+        row("select all", Move([](QTableView *table) { table->selectAll(); }));
+        row("select row", Move([](QTableView *table) { table->selectRow(3); }));
         row("drag", Move([](QTableView *table) {
                 const auto middle = [&](int row) { return table->visualRect(table->model()->index(row, 1)).center(); };
                 QTest::mousePress(table->viewport(), Qt::LeftButton, {}, middle(1));
                 QTest::mouseMove(table->viewport(), middle(2));
                 QTest::mouseMove(table->viewport(), middle(3));
                 QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, middle(3));
-            }),
-            itself);
+            }));
     }
 
     void sortsWhenTheSelectionMoves()
@@ -54,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(column(table(), Ph).first(), number(9));
         move(table());
         QCOMPARE(column(table(), Ph).last(), number(9));
-        QTEST(selectedRows(table()), "selected");
+        QCOMPARE(selectedRows(table()), QList<int>{4}); // the edited row, where it was sorted to
         QCOMPARE(log().rowNeedsSort(), -1);
         clickCell(table(), 2, Ph); // the next click selects as usual
         QCOMPARE(selectedRows(table()), QList<int>{2});
@@ -115,7 +111,7 @@ private Q_SLOTS:
 
     void marks()
     {
-        QFETCH(float, value);
+        const auto [value, says] = fetch<float, bool>("value", "says");
         TankData &target = *m_tank->phData();
         target.warningOn = target.deviationOn = true;
         target.preferredValue = 8;
@@ -124,37 +120,32 @@ private Q_SLOTS:
         const QModelIndex cell = table()->model()->index(0, Ph);
         const CellMark mark = cell.data(CellMarkRole).value<CellMark>();
         QTEST(mark.shape, "shape");
-        QFETCH(bool, says);
         QCOMPARE(!cell.data(Qt::ToolTipRole).toString().isEmpty(), says);
         QCOMPARE(cell.data(Qt::ForegroundRole).isValid(), says || value < 0);
         QCOMPARE(cell.data().toString(), value < 0 ? text("NotTested") : number(double(value)));
     }
 
-    void menu_data()
-    {
-        test::columns<int, QStringList>("tag", "disabled");
-        row("too few tests", int(menutag::TwoWaterTests), QStringList{text("Graph"), text("Export")});
-        row("none selected", int(menutag::ConditionSelected), QStringList{text("DeleteTitle")});
-    }
-
     void menu()
     {
-        QFETCH(int, tag);
-        QFETCH(QStringList, disabled);
-        m_shell->disabledTag = tag;
-        auto *button = log().view()->findChild<QToolButton *>(QStringLiteral("actionButton"));
-        QVERIFY(button->isVisible());
-        auto *context = table()->findChild<QMenu *>(QStringLiteral("conditionCM"));
-        for (QMenu *menu : {button->menu(), context}) {
-            Q_EMIT menu->aboutToShow();
-            for (const QAction *action : menu->actions()) {
-                if (!action->isSeparator())
-                    QCOMPARE(action->isEnabled(), !disabled.contains(action->text()));
+        for (const auto &[tag, disabled] :
+             {std::pair(menutag::TwoWaterTests, QStringList{text("Graph"), text("Export")}),
+              std::pair(menutag::ConditionSelected, QStringList{text("DeleteTitle")})}) {
+            m_shell->deletesAsked = 0;
+            m_shell->disabledTag = tag;
+            auto *button = log().view()->findChild<QToolButton *>(QStringLiteral("actionButton"));
+            QVERIFY(button->isVisible());
+            auto *context = table()->findChild<QMenu *>(QStringLiteral("conditionCM"));
+            for (QMenu *menu : {button->menu(), context}) {
+                Q_EMIT menu->aboutToShow();
+                for (const QAction *action : menu->actions()) {
+                    if (!action->isSeparator())
+                        QCOMPARE(action->isEnabled(), !disabled.contains(action->text()));
+                }
+                QCOMPARE(menu->actions().at(4)->text(), text("DeleteTitle"));
+                menu->actions().at(4)->trigger();
             }
-            QCOMPARE(menu->actions().at(4)->text(), text("DeleteTitle"));
-            menu->actions().at(4)->trigger();
+            QCOMPARE(m_shell->deletesAsked, disabled.contains(text("DeleteTitle")) ? 0 : 2);
         }
-        QCOMPARE(m_shell->deletesAsked, disabled.contains(text("DeleteTitle")) ? 0 : 2);
     }
 };
 

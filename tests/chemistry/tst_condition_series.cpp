@@ -3,11 +3,9 @@
 #include "base/text/DateText.h"
 #include "chemistry/ConditionSeries.h"
 #include "model/Tank.h"
-#include "support/DataRow.h"
 #include "support/LocalNumber.h"
 #include "support/TestProgram.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -57,9 +55,7 @@ private Q_SLOTS:
     }
     void gaps()
     {
-        QFETCH(Days, days);
-        QFETCH(Values, tested);
-        QFETCH(Values, drawn);
+        const auto [days, tested, drawn] = test::fetch<Days, Values, Values>("days", "tested", "drawn");
         for (int i = 0; i < days.size(); ++i) {
             auto record = testOn(days[i]);
             record->ph = tested[i];
@@ -85,8 +81,7 @@ private Q_SLOTS:
     }
     void axes()
     {
-        QFETCH(Days, days);
-        QFETCH(float, highest);
+        const auto [days, highest] = test::fetch<Days, float>("days", "highest");
         for (const double day : days)
             m_tank->conditionListArray().push_back(testOn(day));
         m_tank->conditionListArray().back()->nitrate = highest;
@@ -119,8 +114,7 @@ private Q_SLOTS:
     }
     void lines()
     {
-        QFETCH(QStringList, columns);
-        QFETCH(QList<Parameter>, lines);
+        const auto [columns, lines] = test::fetch<QStringList, QList<Parameter>>("columns", "lines");
         QVERIFY(seriesOf(columns).colorIdentifierArray().empty()); // no test, no line
         m_tank->conditionListArray() = {testOn(0), testOn(1)};
         const ConditionSeries series = seriesOf(columns);
@@ -156,20 +150,14 @@ private Q_SLOTS:
         QCOMPARE(none.numberOfXTickMarks(), 2);
     }
 
-    void labels_data()
-    {
-        test::columns<QString, QString, QString>("defaultLabel", "day", "value");
-        row("first", "0", "1", "0");
-        row("fraction", "2.7272727", "3", "2.73");
-        row("four digits", "1250", "1251", "1.25e+03");
-    }
     void labels()
     {
-        QFETCH(QString, defaultLabel);
-        QFETCH(QString, value);
-        QTEST(dayTickLabel(defaultLabel), "day");
-        QCOMPARE(valueTickLabel(defaultLabel), test::local(value));
-        QCOMPARE(valueTickLabel(defaultLabel, 1), test::local(value));
+        for (const QStringList &labels : {QStringList{"0", "1", "0"}, QStringList{"2.7272727", "3", "2.73"},
+                                          QStringList{"1250", "1251", "1.25e+03"}}) {
+            QCOMPARE(dayTickLabel(labels[0]), labels[1]);
+            QCOMPARE(valueTickLabel(labels[0]), test::local(labels[2]));
+            QCOMPARE(valueTickLabel(labels[0], 1), test::local(labels[2]));
+        }
         QCOMPARE(valueTickLabel(QStringLiteral("1.025"), 4), test::local(QStringLiteral("1.025")));
     }
 
@@ -186,9 +174,7 @@ private Q_SLOTS:
     }
     void toolTips()
     {
-        QFETCH(Parameter, parameter);
-        QFETCH(QPointF, point);
-        QFETCH(QString, tip);
+        auto [parameter, point, tip] = test::fetch<Parameter, QPointF, QString>("parameter", "point", "tip");
         m_tank->conditionListArray() = {testOn(0), testOn(1.125), testOn(1.125), testOn(10)};
         m_tank->conditionListArray()[0]->ph = 7;
         m_tank->conditionListArray()[3]->ph = 7.75F;

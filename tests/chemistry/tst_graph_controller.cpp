@@ -7,26 +7,20 @@
 #include "chemistry/views/graph/ScaleSlider.h"
 #include "chemistry/views/graph/TestDateCombo.h"
 #include "support/AlertDriver.h"
-#include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/LocalNumber.h"
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
-#include "ui/Alerts.h"
 #include "ui/Colours.h"
 #include "ui/graph/TwoDGraphView.h"
 
 #include <QAbstractItemModelTester>
-#include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QToolButton>
 
 using namespace brinemark;
@@ -69,20 +63,16 @@ private Q_SLOTS:
         QVERIFY(!m_window->isVisible());
         QCOMPARE(GraphController::sharedInstance().graphTank(), nullptr);
     }
-    void nothingToChoose_data()
-    {
-        QTest::addColumn<bool>("hasTank");
-        test::row("no tests", true);
-        test::row("no tank", false);
-    }
     void nothingToChoose()
     {
-        QFETCH(bool, hasTank);
-        if (!hasTank)
-            m_shell->current = nullptr;
-        open();
-        expectRangeAlert([this] { press("drawButton"); });
-        QVERIFY(!find<QWidget>("graphView")->isVisible());
+        for (Tank *tank : {m_tank.get(), static_cast<Tank *>(nullptr)}) {
+            m_shell->current = tank;
+            m_shell->beeps = 0;
+            open();
+            expectRangeAlert([this] { press("drawButton"); });
+            QVERIFY(!find<QWidget>("graphView")->isVisible());
+            press("cancelButton");
+        }
     }
 
     void draws()
@@ -167,8 +157,7 @@ private Q_SLOTS:
     }
     void newestFirst()
     {
-        QFETCH(bool, again);
-        QFETCH(bool, byAlert);
+        const auto [again, byAlert] = test::fetch<bool, bool>("again", "byAlert");
         addTests(4);
         m_tank->condition()->sortWithIdentifier(QStringLiteral("date"), false);
         open();
@@ -204,8 +193,7 @@ private Q_SLOTS:
     }
     void unusableRanges()
     {
-        QFETCH(QString, start);
-        QFETCH(QString, end);
+        const auto [start, end] = test::fetch<QString, QString>("start", "end");
         const QLocale before;
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
         addTests(11);
@@ -330,9 +318,8 @@ private Q_SLOTS:
     }
     void bands()
     {
-        QFETCH(bool, warningOn);
-        QFETCH(bool, deviationOn);
-        QFETCH(bool, byFocus);
+        const auto [warningOn, deviationOn, byFocus] =
+            test::fetch<bool, bool, bool>("warningOn", "deviationOn", "byFocus");
         TankData &target = *m_tank->kHData();
         target.preferredValue = 10;
         target.deviationValue = 4;
@@ -436,8 +423,7 @@ private Q_SLOTS:
     }
     void emptyGraphs()
     {
-        QFETCH(QStringList, columns);
-        QFETCH(bool, inRange);
+        const auto [columns, inRange] = test::fetch<QStringList, bool>("columns", "inRange");
         ColumnInfoArray layout;
         for (const QString &identifier : columns)
             layout.push_back({identifier, 0});
@@ -467,8 +453,7 @@ private Q_SLOTS:
     }
     void saves()
     {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, written);
+        const auto [name, written] = test::fetch<QString, QByteArray>("name", "written");
         addTests(3);
         test(0).kH = 8;
         m_tank->name = QStringLiteral("Reef/2");
@@ -568,10 +553,7 @@ private:
         std::sort(boxes.begin(), boxes.end(), [this](QCheckBox *a, QCheckBox *b) {
             return a->mapTo(m_window, QPoint()).y() < b->mapTo(m_window, QPoint()).y();
         });
-        QStringList names;
-        for (const QCheckBox *box : boxes)
-            names << box->objectName();
-        return names;
+        return test::listOf(boxes, &QObject::objectName);
     }
     template <class Act>
     void expectRangeAlert(Act act, const char *button = "defaultButton")

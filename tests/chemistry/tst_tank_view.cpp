@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "chemistry/TankSheetDriver.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
@@ -28,10 +27,9 @@ private Q_SLOTS:
         QTableView &table = *showView();
         const QAbstractItemModelTester tester(table.model());
         QCOMPARE(table.model()->rowCount(), 17);
-        QStringList names;
-        for (const int row : {0, 6, 12, 16})
-            names << table.model()->index(row, 0).data().toString();
-        QCOMPARE(names, QStringList({"Alkalinity", "Iron", "pH", "zinc"})); // sorted without regard to case
+        const auto nameAt = [&](int row) { return table.model()->index(row, 0).data().toString(); };
+        // Sorted without regard to case.
+        QCOMPARE(test::listOf(QList{0, 6, 12, 16}, nameAt), QStringList({"Alkalinity", "Iron", "pH", "zinc"}));
     }
 
     void cells_data()
@@ -44,10 +42,9 @@ private Q_SLOTS:
     }
     void cells()
     {
-        QFETCH(bool, warning);
+        const auto [warning, deviation, grey] = test::fetch<bool, bool, bool>("warning", "deviation", "grey");
         TankData &target = *m_driver->tank().alkalinityData(); // the first row
         target.warningOn = warning;
-        QFETCH(bool, deviation);
         target.deviationOn = deviation;
         target.preferredValue = 8.25F;
         target.deviationValue = 0.5F;
@@ -56,7 +53,6 @@ private Q_SLOTS:
         QCOMPARE(model.index(0, 2).data().toString(), warning ? text("OnLabel") : text("OffLabel"));
         QCOMPARE(model.index(0, 3).data().toString(), text("PlusMinus") + local(" 0,5"));
         const QColor disabled = QApplication::palette().color(QPalette::Disabled, QPalette::Text);
-        QFETCH(bool, grey);
         QCOMPARE(model.index(0, 3).data(Qt::ForegroundRole), grey ? QVariant(disabled) : QVariant());
         QVERIFY(!model.index(0, 1).data(Qt::ForegroundRole).isValid());
     }

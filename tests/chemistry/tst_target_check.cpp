@@ -3,15 +3,12 @@
 #include "chemistry/TargetCheck.h"
 
 #include "base/text/NumberText.h"
-#include "base/text/Texts.h"
 #include "chemistry/ConditionColumns.h"
 #include "chemistry/TargetAdvice.h"
 #include "model/Parameters.h"
 #include "model/Tank.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -52,12 +49,9 @@ private Q_SLOTS:
     }
     void warns()
     {
-        QFETCH(double, preferred);
-        QFETCH(double, deviation);
-        QFETCH(double, value);
-        QFETCH(QString, title);
-        QFETCH(QString, message);
-        QFETCH(float, limit);
+        const auto [preferred, deviation, value, title, message, limit] =
+            test::fetch<double, double, double, QString, QString, float>("preferred", "deviation", "value", "title",
+                                                                         "message", "limit");
         const auto tank = std::make_shared<Tank>(QStringLiteral("Tank"));
         TankData &target = *tank->phData();
         target.preferredValue = float(preferred);
@@ -69,8 +63,8 @@ private Q_SLOTS:
         if (warning) {
             const QString shownLimit = localizeAndTrimZeros(limit);
             QCOMPARE(warning->title, fillPlaceholders(textOf(title), {QStringLiteral("Title of ^0")}));
-            const TextKey advice = targetAdviceKey(Parameter::Ph, targetState(&target, value), tank->freshwater,
-                                                   target.preferredValue);
+            const TextKey advice =
+                targetAdviceKey(Parameter::Ph, targetState(&target, value), tank->freshwater, target.preferredValue);
             QCOMPARE(warning->message, fillPlaceholders(textOf(message), {shownLimit}) + text("PhTreatment") +
                                            QStringLiteral("\n\n") + text(advice));
             QVERIFY(targetStateText(target, targetState(&target, value)).endsWith(shownLimit));
@@ -105,8 +99,7 @@ private Q_SLOTS:
     /// The limits are summed in whole units of the column's last decimal, then typed, as are their neighbours outside.
     void limitsAsTheyAreWritten()
     {
-        QFETCH(QString, preferred);
-        QFETCH(QString, deviations);
+        const auto [preferred, deviations] = test::fetch<QString, QString>("preferred", "deviations");
         const auto &column = *conditionColumnFromIdentifier(QString::fromLatin1(QTest::currentDataTag()));
         const double unit = std::pow(10, column.decimals);
         TankData target(Blank{});
@@ -197,7 +190,8 @@ private Q_SLOTS:
             if (warning && warning->message.endsWith(text("UnsetTargetAdvice")))
                 unset << traits.identifier.toString();
         }
-        QCOMPARE(unset, QStringList({"temp", "ph", "gH", "kH", "salt", "alkalinity", "calcium", "oxygen", "magnesium"}));
+        QCOMPARE(unset,
+                 QStringList({"temp", "ph", "gH", "kH", "salt", "alkalinity", "calcium", "oxygen", "magnesium"}));
     }
 
     /// A text that serves several parameters names none of them. Urgent advice begins as its treatment says.

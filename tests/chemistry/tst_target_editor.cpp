@@ -4,7 +4,6 @@
 #include "chemistry/HighValue.h"
 #include "chemistry/TankSheetDriver.h"
 #include "chemistry/TargetCheck.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/HelpBook.h"
 
@@ -53,11 +52,8 @@ private Q_SLOTS:
     }
     void highValues()
     {
-        QFETCH(QString, key);
-        QFETCH(bool, freshwater);
-        QFETCH(QString, typed);
-        QFETCH(QString, deviation);
-        QFETCH(bool, high);
+        const auto [key, freshwater, typed, deviation, high] =
+            test::fetch<QString, bool, QString, QString, bool>("key", "freshwater", "typed", "deviation", "high");
         TankData &target = *m_driver->tank().targetForKey(key);
         target.warningOn = true;
         target.deviationOn = !deviation.isEmpty();
@@ -157,9 +153,7 @@ private Q_SLOTS:
     }
     void closing()
     {
-        QFETCH(bool, isNew);
-        QFETCH(QString, edited);
-        QFETCH(QString, end);
+        const auto [isNew, edited, end] = test::fetch<bool, QString, QString>("isNew", "edited", "end");
         TankData &before = *m_driver->tank().ironData();
         before.preferredValue = 1;
         if (isNew)

@@ -2,7 +2,6 @@
 
 #include "chemistry/TankSheetDriver.h"
 #include "chemistry/views/CheckedLineEdit.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/Stepper.h"
 
@@ -63,11 +62,9 @@ private Q_SLOTS:
             QTest::keyClick(&field, Qt::Key_Down);
             QCOMPARE(stored, 0.0F);
         };
-        QFETCH(double, step);
-        QFETCH(double, maximum);
+        const auto [step, maximum] = test::fetch<double, double>("step", "maximum");
         check("preferred", step, maximum, target.preferredValue);
-        QFETCH(double, deviationStep);
-        QFETCH(double, deviationMaximum);
+        const auto [deviationStep, deviationMaximum] = test::fetch<double, double>("deviationStep", "deviationMaximum");
         check("deviation", deviationStep, deviationMaximum, target.deviationValue);
     }
     void arrowsBeginWhereTypingEnded_data()
@@ -81,9 +78,7 @@ private Q_SLOTS:
     /// A click on an arrow leaves the focus in the field, so the typed text is not finished yet.
     void arrowsBeginWhereTypingEnded()
     {
-        QFETCH(bool, pasted);
-        QFETCH(QString, entered);
-        QFETCH(QString, arrow);
+        const auto [pasted, entered, arrow] = test::fetch<bool, QString, QString>("pasted", "entered", "arrow");
         TankData &ammonia = *m_driver->tank().ammoniaData();
         m_driver->open(ammonia.name);
         auto *field = m_driver->control<QLineEdit>("deviationField");
@@ -128,8 +123,7 @@ private Q_SLOTS:
     }
     void enabling()
     {
-        QFETCH(bool, warning);
-        QFETCH(bool, deviation);
+        const auto [warning, deviation] = test::fetch<bool, bool>("warning", "deviation");
         TankData &ph = *m_driver->tank().phData();
         ph.warningOn = warning;
         ph.deviationOn = deviation;

@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QTableView>
-#include <QTest>
 #include <QToolButton>
 
 using namespace brinemark;

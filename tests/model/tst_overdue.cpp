@@ -4,7 +4,6 @@
 
 #include "base/PreferenceKeys.h"
 #include "model/TankReadError.h"
-#include "support/DataRow.h"
 
 #include <QTimeZone>
 
@@ -38,9 +37,7 @@ private Q_SLOTS:
 
     void dueFromMidnightOfItsOwnZone()
     {
-        QFETCH(QDateTime, date);
-        QFETCH(QString, now);
-        QFETCH(bool, due);
+        const auto [date, now, due] = test::fetch<QDateTime, QString, bool>("date", "now", "due");
         const clock::FixedClock fixed(QDateTime::fromString(now, Qt::ISODate));
         test::NoticeLog log;
         Tank tank(QStringLiteral("T"));

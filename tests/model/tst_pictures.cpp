@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/TestProgram.h"
 
@@ -10,7 +9,6 @@
 
 #include <QBuffer>
 #include <QGuiApplication>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -67,8 +65,7 @@ private Q_SLOTS:
     }
     void reading()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(PictureProblem, problem);
+        const auto [bytes, problem] = test::fetch<QByteArray, PictureProblem>("bytes", "problem");
         const bool readable = problem == PictureProblem::None;
         const DecodedPicture read = readPicture(bytes);
         QCOMPARE(read.problem, problem);

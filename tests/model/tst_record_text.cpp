@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "base/text/DateText.h"
-#include "base/text/Texts.h"
 #include "model/LivestockData.h"
 #include "model/RecordDict.h"
 #include "model/StyledText.h"
@@ -9,7 +8,6 @@
 #include "support/TestProgram.h"
 
 #include <QGuiApplication>
-#include <QTest>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -67,7 +65,8 @@ private Q_SLOTS:
         test.temp = 24.5F;
         test.kH = 0;
         test.calcium = 420;
-        tank.condition()->setColumnInfoArray({{"ph", 0}, {"date", 0}, {"calcium", 0}, {"colour", 0}, {"kH", 0}, {"temp", 0}});
+        tank.condition()->setColumnInfoArray(
+            {{"ph", 0}, {"date", 0}, {"calcium", 0}, {"colour", 0}, {"kH", 0}, {"temp", 0}});
         QCOMPARE(test.conditionDataAttributedString().plainText(),
                  QStringLiteral("pH: n/a\t\tDate: %1\t\tCalcium: 420\t\tKH: 0\t\tTemperature: 24.5\t\t\n\n")
                      .arg(localeDateText(m_date)));

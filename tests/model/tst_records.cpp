@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "ModelTest.h"
-#include "support/DataRow.h"
 
 #include "model/KeyAccess.h"
-#include "model/LivestockData.h"
 #include "model/RecordDict.h"
 
 #include <QBuffer>
@@ -212,39 +210,32 @@ private Q_SLOTS:
 
     void missingKeys_data()
     {
-        test::columns<QString, QStringList, QString, QVariant>("type", "removed", "key", "value");
-        const auto row = [](const char *name, const char *type, const QStringList &removed, const char *key,
-                            const QVariant &value) {
-            QTest::newRow(name) << QString::fromLatin1(type) << removed << QString::fromLatin1(key) << value;
-        };
-        row("dioxide", "condition", {QStringLiteral("dioxide")}, "dioxide", -1);
+        test::columns<QString, QString, QString, QVariant>("type", "removed", "key", "value");
+        row("dioxide", "condition", "dioxide", "dioxide", QVariant(-1));
         for (const char *key : {"alkalinity", "phosphate", "iodine", "oxygen", "copper", "iron"})
-            row(key, "condition", {QStringLiteral("alkalinity")}, key, 0.0F);
-        row("calcium", "condition", {QStringLiteral("alkalinity")}, "calcium", 0);
-        row("dioxide without alkalinity", "condition", {QStringLiteral("alkalinity")}, "dioxide", 117);
-        row("notes", "fish", {QStringLiteral("Notes")}, "notes", QString());
-        row("reef-safe code", "fish", {QStringLiteral("ReefSafe")}, "reefSafe", 1970151456);
-        row("picture", "fish", {QStringLiteral("FishImage")}, "itemImage", QVariant());
-        row("count of an item", "inventory", {QStringLiteral("Count")}, "count", 0);
-        row("amount", "expense", {QStringLiteral("Amount")}, "amount", QVariant());
-        row("date", "note", {QStringLiteral("Date")}, "date", QVariant());
-        row("interval of no rescheduling", "schedule", {QStringLiteral("AutoReschedule")}, "nextDate", 0.0F);
-        row("target's value", "target", {QStringLiteral("preferred")}, "preferredValue", 0.0F);
+            row(key, "condition", "alkalinity", key, QVariant(0.0F));
+        row("calcium", "condition", "alkalinity", "calcium", QVariant(0));
+        row("dioxide without alkalinity", "condition", "alkalinity", "dioxide", QVariant(117));
+        row("notes", "fish", "Notes", "notes", QVariant(QString()));
+        row("reef-safe code", "fish", "ReefSafe", "reefSafe", QVariant(1970151456));
+        row("picture", "fish", "FishImage", "itemImage", QVariant());
+        row("count of an item", "inventory", "Count", "count", QVariant(0));
+        row("amount", "expense", "Amount", "amount", QVariant());
+        row("date", "note", "Date", "date", QVariant());
+        row("interval of no rescheduling", "schedule", "AutoReschedule", "nextDate", QVariant(0.0F));
+        row("target's value", "target", "preferred", "preferredValue", QVariant(0.0F));
     }
 
     void missingKeys()
     {
-        QFETCH(QString, type);
-        QFETCH(QStringList, removed);
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
+        QFETCH(QString, removed);
+        const auto [type, key, value] = test::fetch<QString, QString, QVariant>("type", "key", "value");
         const auto record = newRecord(type, false);
         const auto read = newRecord(type, true);
         visitRecord(*record, [&](auto &typed) {
             fill(typed);
             plist::Dict dict = recordDict(typed);
-            for (const QString &fileKey : removed)
-                dict.remove(fileKey);
+            dict.remove(removed);
             readRecord(static_cast<std::remove_reference_t<decltype(typed)> &>(*read), dict);
         });
         QCOMPARE(valueForKey(*read, key), value);
@@ -271,10 +262,8 @@ private Q_SLOTS:
 
     void convertedByKey()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
-        QFETCH(QVariant, after);
+        const auto [type, key, value, after] =
+            test::fetch<QString, QString, QVariant, QVariant>("type", "key", "value", "after");
         const auto record = newRecord(type, false);
         visitRecord(*record, [](auto &typed) { fill(typed); });
         QCOMPARE(setValueForKey(*record, key, value), value.isValid() || type != u"fish");

@@ -3,7 +3,6 @@
 #include "ModelTest.h"
 
 #include "model/KeyAccess.h"
-#include "model/LivestockData.h"
 #include "model/ObjectSpecifier.h"
 
 using namespace brinemark;
@@ -18,10 +17,7 @@ std::shared_ptr<FishData> fishNamed(const char *name, Tank *tank = nullptr)
 
 QString namesOf(const Tank &tank)
 {
-    QStringList names;
-    for (const auto &fish : tank.fishListArray())
-        names << fish->name;
-    return names.join(u' ');
+    return test::listOf(tank.fishListArray(), &FishData::name).join(u' ');
 }
 
 } // namespace

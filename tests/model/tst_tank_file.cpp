@@ -8,7 +8,6 @@
 #include "support/Files.h"
 #include "support/Python.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -142,28 +141,21 @@ private Q_SLOTS:
         QVERIFY(!mixed.result.ok);
     }
 
-    void savedFilesReadTheSameElsewhere_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("sample") << QStringLiteral(BRINEMARK_SAMPLES "/living-room.xml");
-        for (const char *name : {"every-field.xml", "three-tanks.xml"})
-            QTest::newRow(name) << good(QString::fromLatin1(name));
-    }
-
     void savedFilesReadTheSameElsewhere()
     {
-        QFETCH(QString, path);
-        const Document document(path);
-        QVERIFY2(document.result.ok, qPrintable(document.content.error + document.result.error));
         const QTemporaryDir folder;
         const QString saved = folder.filePath(QStringLiteral("saved.xml"));
-        QVERIFY(document.tank(0).bundleVersion);
-        QVERIFY(writeTankDictionary(saved, tankFileDictionary(document.tanks, document.result.selectedRow,
-                                                              *document.tank(0).bundleVersion))
-                    .ok);
-        const test::PythonRun python =
-            test::runPython({QStringLiteral(BRINEMARK_TEST_DATA "/../model/compare-tank-files"), path, saved});
-        QVERIFY2(python.exitCode == 0, (python.output + python.errors).constData());
+        for (const QString &path : {good("every-field.xml"), good("three-tanks.xml")}) {
+            const Document document(path);
+            QVERIFY2(document.result.ok, qPrintable(document.content.error + document.result.error));
+            QVERIFY(document.tank(0).bundleVersion);
+            QVERIFY(writeTankDictionary(saved, tankFileDictionary(document.tanks, document.result.selectedRow,
+                                                                  *document.tank(0).bundleVersion))
+                        .ok);
+            const test::PythonRun python =
+                test::runPython({QStringLiteral(BRINEMARK_TEST_DATA "/../model/compare-tank-files"), path, saved});
+            QVERIFY2(python.exitCode == 0, (path.toUtf8() + python.output + python.errors).constData());
+        }
     }
 
     void keysFromBeforeAParameter()
@@ -224,10 +216,7 @@ private Q_SLOTS:
     {
         const Document document(good(QStringLiteral("sorted-lists.xml")));
         const auto notes = [&](int tank) {
-            QStringList texts;
-            for (const auto &note : document.tank(tank).noteListArray())
-                texts << note->note;
-            return texts.join(u' ');
+            return test::listOf(document.tank(tank).noteListArray(), &NoteData::note).join(u' ');
         };
         QCOMPARE(notes(0), QStringLiteral("Apple Banana melon zucchini"));
         QCOMPARE(notes(1), QStringLiteral("zucchini melon Banana Apple"));
@@ -245,11 +234,11 @@ private Q_SLOTS:
     void columns()
     {
         const Document document(good(QStringLiteral("columns.xml")));
+        const auto textOf = [](const ColumnInfo &column) -> QString {
+            return column.identifier + u'=' + QString::number(column.width);
+        };
         const auto identifiers = [&](int tank) {
-            QStringList texts;
-            for (const ColumnInfo &column : document.tank(tank).condition()->columnInfoArray())
-                texts << column.identifier + u'=' + QString::number(column.width);
-            return texts.join(u' ');
+            return test::listOf(document.tank(tank).condition()->columnInfoArray(), textOf).join(u' ');
         };
         QCOMPARE(identifiers(0), QStringLiteral("date=120 ph=60.5"));
         QCOMPARE(identifiers(3), QStringLiteral("date=90 banana=50 =10 PH=40 kH=40"));

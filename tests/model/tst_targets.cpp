@@ -23,36 +23,30 @@ private Q_SLOTS:
         QVERIFY(!parameterFromIdentifier(u"date"));
     }
 
-    void defaults_data()
-    {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("English") << "en";
-        QTest::newRow("German") << "de";
-    }
-
     void defaults()
     {
-        QFETCH(QString, language);
-        setTextLanguages({language});
-        const Tank tank(QStringLiteral("T"));
-        QVERIFY(tank.tempData()->preferredValue != 0);
-        QCOMPARE(tank.tempData()->preferredValue, text("TempFreshValue"_key).toFloat());
-        QCOMPARE(tank.ammoniaData()->deviationValue, text("AmmoniaFreshValue"_key).toFloat());
-        QCOMPARE(tank.nitrateData()->deviationValue, text("NitrateFreshValue"_key).toFloat());
-        QCOMPARE(tank.nitriteData()->deviationValue, text("NitriteFreshValue"_key).toFloat());
-        QCOMPARE(tank.phData()->preferredValue, 7.0F);
-        QStringList checked;
-        for (const ParameterTraits &traits : parameterTable) {
-            const TankData &target = *tank.target(traits.parameter);
-            QVERIFY(!target.name.isEmpty());
-            QCOMPARE(target.tank.get(), &tank);
-            QCOMPARE(target.deviationOn, target.warningOn);
-            QCOMPARE(target.deviationValue != 0, target.warningOn);
-            if (target.warningOn)
-                checked << traits.identifier.toString();
+        for (const QString language : {"en", "de"}) {
+            setTextLanguages({language});
+            const Tank tank(QStringLiteral("T"));
+            QVERIFY(tank.tempData()->preferredValue != 0);
+            QCOMPARE(tank.tempData()->preferredValue, text("TempFreshValue"_key).toFloat());
+            QCOMPARE(tank.ammoniaData()->deviationValue, text("AmmoniaFreshValue"_key).toFloat());
+            QCOMPARE(tank.nitrateData()->deviationValue, text("NitrateFreshValue"_key).toFloat());
+            QCOMPARE(tank.nitriteData()->deviationValue, text("NitriteFreshValue"_key).toFloat());
+            QCOMPARE(tank.phData()->preferredValue, 7.0F);
+            QStringList checked;
+            for (const ParameterTraits &traits : parameterTable) {
+                const TankData &target = *tank.target(traits.parameter);
+                QVERIFY(!target.name.isEmpty());
+                QCOMPARE(target.tank.get(), &tank);
+                QCOMPARE(target.deviationOn, target.warningOn);
+                QCOMPARE(target.deviationValue != 0, target.warningOn);
+                if (target.warningOn)
+                    checked << traits.identifier.toString();
+            }
+            QCOMPARE(checked.join(u' '), QStringLiteral("ammonia nitrate nitrite"));
+            QCOMPARE(tank.magnesiumData()->preferredValue, 0.0F);
         }
-        QCOMPARE(checked.join(u' '), QStringLiteral("ammonia nitrate nitrite"));
-        QCOMPARE(tank.magnesiumData()->preferredValue, 0.0F);
     }
 
     void marineDefaultsLeaveTheFirstSeven()

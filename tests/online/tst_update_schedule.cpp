@@ -4,7 +4,6 @@
 #include "base/PreferenceKeys.h"
 #include "online/UpdateSchedule.h"
 #include "online/views/QZUpdateController.h"
-#include "support/DataRow.h"
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
 
@@ -13,7 +12,6 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
-#include <QTest>
 
 using namespace brinemark;
 
@@ -52,9 +50,8 @@ private Q_SLOTS:
         const QDateTime now(QDate(2026, 5, 4), QTime(9, 0), Qt::UTC);
         const clock::FixedClock clock(now);
         Preferences &preferences = Preferences::shared();
-        QFETCH(QVariant, automatic);
-        QFETCH(int, secondsAgo);
-        QFETCH(int, frequency);
+        const auto [automatic, secondsAgo, frequency] =
+            test::fetch<QVariant, int, int>("automatic", "secondsAgo", "frequency");
         preferences.setVariant(QLatin1String(preference::updateAuto.name), automatic);
         preferences.set(preference::updateFrequency, frequency);
         if (secondsAgo < 0)

@@ -89,12 +89,7 @@ inline QStringList tankNamesIn(const QString &path)
 {
     TankList tanks;
     const TankFileContent content = readTankDictionary(path);
-    QStringList names;
-    if (content.ok && readTanks(content.root, path, tanks).ok) {
-        for (const auto &tank : tanks)
-            names << tank->name;
-    }
-    return names;
+    return content.ok && readTanks(content.root, path, tanks).ok ? listOf(tanks, &Tank::name) : QStringList();
 }
 
 /// Starts the program as main() does, with fresh preferences and a folder of its own, and ends it. Nothing is shown
@@ -175,13 +170,7 @@ public:
     [[nodiscard]] static TankListController &tree() { return TankListController::sharedInstance(); }
     [[nodiscard]] static QString path() { return document().representedFilename(); }
 
-    [[nodiscard]] static QStringList tankNames()
-    {
-        QStringList names;
-        for (const auto &tank : tree().list())
-            names << tank->name;
-        return names;
-    }
+    [[nodiscard]] static QStringList tankNames() { return listOf(tree().list(), &Tank::name); }
 
     /// Renames the first tank in the tree, which is an edit of the document.
     static bool renameFirstTank(const QString &name)
@@ -198,6 +187,14 @@ public:
         QFile::copy(source, filePath(name));
         QFile(filePath(name)).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
         return filePath(name);
+    }
+
+    /// Starts with a copy of a file and renames its first tank to "Edited". Returns the path of the copy.
+    QString startEdited(const QString &file = QStringLiteral("minimal.xml"))
+    {
+        start(copyOf(testFile(file)));
+        renameFirstTank(QStringLiteral("Edited"));
+        return path();
     }
 
     QStringList openedUrls; ///< addresses passed to the browser or mail program

@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+#include <tuple>
+
 namespace brinemark::test
 {
 
@@ -20,6 +22,15 @@ template <class... Values>
 void row(const char *name, const Values &...values)
 {
     (QTest::newRow(name) << ... << values);
+}
+
+/// The values of the present row, by the names of their columns: `const auto [day, text] = fetch<int, QString>("day",
+/// "text");`. A lambda cannot capture such a name with every compiler; use QFETCH for it.
+template <class... Values, class... Names>
+std::tuple<Values...> fetch(const Names *...names)
+{
+    static_assert(sizeof...(Values) == sizeof...(Names));
+    return {*static_cast<const Values *>(QTest::qData(names, qMetaTypeId<Values>()))...};
 }
 
 } // namespace brinemark::test

@@ -2,7 +2,11 @@
 
 #pragma once
 
+// What every test needs: the data tables, the texts and the toolkit's test functions come with this header.
+
 #include "base/text/Texts.h"
+#include "support/DataRow.h"
+#include "support/Lists.h"
 #include "support/TestHome.h"
 
 #include <QCoreApplication>

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "support/AlertDriver.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
-#include "ui/AlertDialog.h"
 #include "ui/Alerts.h"
 #include "ui/Sheets.h"
 
 #include <QScopeGuard>
 #include <QScreen>
 #include <QScrollBar>
-#include <QTest>
 #include <QTextEdit>
 
 #include <memory>
@@ -82,10 +79,8 @@ private Q_SLOTS:
 
     void answers()
     {
-        QFETCH(QString, alternate);
-        QFETCH(QString, other);
         QFETCH(QString, press);
-        QFETCH(int, answer);
+        const auto [alternate, other, answer] = fetch<QString, QString, int>("alternate", "other", "answer");
         const Alert alert{AlertStyle::Critical, "Save?", "It was changed.", "Save", alternate, other};
 
         std::vector<int> sheetAnswers;
@@ -221,9 +216,7 @@ private Q_SLOTS:
 
     void fitsTheScreen()
     {
-        QFETCH(QString, title);
-        QFETCH(QString, message);
-        QFETCH(bool, scrolls);
+        const auto [title, message, scrolls] = fetch<QString, QString, bool>("title", "message", "scrolls");
         beginAlertSheet(m_window.get(), {.title = title, .message = message, .alternateButton = "Cancel"});
         AlertDialog *alert = shownAlert();
         QVERIFY(QTest::qWaitForWindowExposed(alert));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "base/Clock.h"
-#include "support/DataRow.h"
 #include "support/PanelDriver.h"
 #include "support/TestProgram.h"
 #include "ui/calendar/CalendarController.h"
@@ -9,7 +8,6 @@
 #include "ui/calendar/CalendarMonth.h"
 #include "ui/calendar/CalendarPopup.h"
 
-#include <QApplication>
 #include <QHeaderView>
 #include <QScopeGuard>
 #include <QSplitter>
@@ -20,8 +18,6 @@
 #include <QToolButton>
 #include <QWheelEvent>
 #include <QWindow>
-
-#include <optional>
 
 using namespace brinemark;
 using brinemark::test::row;
@@ -104,9 +100,7 @@ private Q_SLOTS:
 
     void keysChoose()
     {
-        QFETCH(QDateTime, start);
-        QFETCH(Keys, keys);
-        QFETCH(QDateTime, expected);
+        const auto [start, keys, expected] = test::fetch<QDateTime, Keys, QDateTime>("start", "keys", "expected");
         open(start);
         for (const QKeyCombination key : keys)
             press(key);
@@ -198,9 +192,7 @@ private Q_SLOTS:
 
     void clickOutside()
     {
-        QFETCH(Keys, keys);
-        QFETCH(QPoint, point);
-        QFETCH(QList<QDateTime>, expected);
+        const auto [keys, point, expected] = test::fetch<Keys, QPoint, QList<QDateTime>>("keys", "point", "expected");
         open(at(2026, 3, 11));
         QVERIFY(!popupGeometry().contains(m_table->mapToGlobal(point)));
         for (const QKeyCombination key : keys)
@@ -321,9 +313,7 @@ private Q_SLOTS:
 
     void placeIsOnTheScreen()
     {
-        QFETCH(QRect, cell);
-        QFETCH(bool, mirrored);
-        QFETCH(QPoint, place);
+        const auto [cell, mirrored, place] = test::fetch<QRect, bool, QPoint>("cell", "mirrored", "place");
         const QRect screen(0, 0, 800, 590);
         const QRect result = calendar::placeAt(cell, {200, 300}, screen, mirrored ? Qt::RightToLeft : Qt::LeftToRight);
         QCOMPARE(result, QRect(place, QSize(200, 300)));

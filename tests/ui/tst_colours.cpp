@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "base/TableChecks.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/Colours.h"
 
 #include <QPalette>
-#include <QTest>
 
 #include <cmath>
 
@@ -37,8 +35,7 @@ private Q_SLOTS:
 
     void canBeReadAsText()
     {
-        QFETCH(QColor, window);
-        QFETCH(QColor, base);
+        const auto [window, base] = test::fetch<QColor, QColor>("window", "base");
         QPalette palette;
         palette.setColor(QPalette::Window, window);
         palette.setColor(QPalette::Base, base);

@@ -6,7 +6,6 @@
 #include "ui/AlertPanelDontAskAgain.h"
 
 #include <QCheckBox>
-#include <QTest>
 
 #include <memory>
 #include <optional>

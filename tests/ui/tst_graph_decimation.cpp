@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/graph/Decimate.h"
 #include "ui/graph/GraphRange.h"
@@ -9,7 +8,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <algorithm>
 #include <cmath>
@@ -83,10 +81,7 @@ private Q_SLOTS:
 
     void keepsWhatColumnsShow()
     {
-        QFETCH(int, count);
-        QFETCH(double, from);
-        QFETCH(double, to);
-        QFETCH(int, columns);
+        const auto [count, from, to, columns] = test::fetch<int, double, double, int>("count", "from", "to", "columns");
         for (quint32 seed = 1; seed <= 5; ++seed) {
             const QList<QPointF> points = randomPoints(count, seed);
             const double start = points.first().x();
@@ -179,8 +174,7 @@ private Q_SLOTS:
 
     void segmentsAreCutAtTheArea()
     {
-        QFETCH(QLineF, segment);
-        QFETCH(QLineF, visible);
+        const auto [segment, visible] = test::fetch<QLineF, QLineF>("segment", "visible");
         const QPolygonF line({segment.p1(), segment.p2()});
         const QList<QLineF> segments = strokesOf(line, QRectF(0, 0, 100, 100), 1).segments;
         QCOMPARE(segments.size(), visible.isNull() ? 0 : 1);

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/graph/TickPositions.h"
-
-#include <QCoreApplication>
 
 #include <cmath>
 
@@ -38,9 +35,7 @@ private Q_SLOTS:
     }
     void standAtRoundValues()
     {
-        QFETCH(GraphRange, visible);
-        QFETCH(int, count);
-        QFETCH(bool, whole);
+        const auto [visible, count, whole] = test::fetch<GraphRange, int, bool>("visible", "count", "whole");
         QTEST(tickPositions(visible, count, whole), "positions");
     }
 

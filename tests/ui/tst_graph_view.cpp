@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/TestProgram.h"
 #include "ui/graph/TwoDGraphView.h"
@@ -9,7 +8,6 @@
 #include <QPainter>
 #include <QPrinter>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -171,30 +169,25 @@ private Q_SLOTS:
     }
 
     /// A line whose colour is close to the background gets an edge and keeps its colour.
-    void linesCanBeSeen_data()
-    {
-        test::columns<QPalette, QColor>("palette", "colour");
-        row("yellow on white", QPalette(QColor("#efefef")), QColor::fromRgbF(0.95F, 0.95F, 0.38F));
-        row("grey on dark", darkPalette(), QColor::fromRgbF(0.21F, 0.21F, 0.21F));
-    }
-
     void linesCanBeSeen()
     {
-        QFETCH(QPalette, palette);
-        QFETCH(QColor, colour);
-        m_graph.lines = {{colour, {{0, 15}, {10, 15}}}};
-        m_view->setPalette(palette);
-        m_view->reloadData();
-        const QImage image = shot();
-        const QColor background = palette.color(QPalette::Base);
-        const QPointF on = m_view->positionOf({3, 15});
-        QVERIFY(shows(image, on, colour));
-        int greatest = 0;
-        for (double y = -4; y <= 4; y += 0.5) {
-            const QColor shown = colourAt(image, on + QPointF(0, y));
-            greatest = std::max(greatest, std::abs(shown.lightness() - background.lightness()));
+        for (const auto &[palette, colour] :
+             {std::pair(QPalette(QColor("#efefef")), QColor::fromRgbF(0.95F, 0.95F, 0.38F)),
+              std::pair(darkPalette(), QColor::fromRgbF(0.21F, 0.21F, 0.21F))}) {
+            m_graph.lines = {{colour, {{0, 15}, {10, 15}}}};
+            m_view->setPalette(palette);
+            m_view->reloadData();
+            const QImage image = shot();
+            const QColor background = palette.color(QPalette::Base);
+            const QPointF on = m_view->positionOf({3, 15});
+            QVERIFY(shows(image, on, colour));
+            int greatest = 0;
+            for (double y = -4; y <= 4; y += 0.5) {
+                const QColor shown = colourAt(image, on + QPointF(0, y));
+                greatest = std::max(greatest, std::abs(shown.lightness() - background.lightness()));
+            }
+            QVERIFY2(greatest > 60, qPrintable(QString::number(greatest)));
         }
-        QVERIFY2(greatest > 60, qPrintable(QString::number(greatest)));
     }
 
     void bandIsShaded()
@@ -372,8 +365,7 @@ private Q_SLOTS:
 
     void symbolsStandAtTheEdges()
     {
-        QFETCH(QPointF, point);
-        QFETCH(bool, alone);
+        const auto [point, alone] = test::fetch<QPointF, bool>("point", "alone");
         m_graph.y = {0, 19.7F};
         QList<QPointF> points{point};
         if (!alone)
@@ -447,37 +439,29 @@ private Q_SLOTS:
     }
 
     // The graph reaches all edges of every page; text and lines are not stretched with it.
-    void printsOverTheWholePage_data()
-    {
-        test::columns<QSize, double>("page", "magnified");
-        row("landscape", QSize(1122, 793), 1.2);
-        row("portrait", QSize(793, 1122), 1.2);
-        row("as on the screen", QSize(500, 300), 1.0);
-        row("small", QSize(300, 200), 0.8);
-    }
-
     void printsOverTheWholePage()
     {
-        QFETCH(QSize, page);
-        QFETCH(double, magnified);
-        m_graph.lines = {{m_red, {{0, 0}, {10, 0}}}, {m_red, {{0, 20}, {10, 20}}}};
-        m_view->reloadData();
-        QImage image(page, QImage::Format_RGB32);
-        QPainter painter(&image);
-        m_view->renderPage(&painter, page);
-        painter.end();
-        QRect lines;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
-                lines |= image.pixelColor(x, y).saturation() > 60 ? QRect(x, y, 1, 1) : QRect();
+        for (const auto &[page, magnified] : {std::pair(QSize(1122, 793), 1.2), std::pair(QSize(793, 1122), 1.2),
+                                              std::pair(QSize(500, 300), 1.0), std::pair(QSize(300, 200), 0.8)}) {
+            m_graph.lines = {{m_red, {{0, 0}, {10, 0}}}, {m_red, {{0, 20}, {10, 20}}}};
+            m_view->reloadData();
+            QImage image(page, QImage::Format_RGB32);
+            QPainter painter(&image);
+            m_view->renderPage(&painter, page);
+            painter.end();
+            QRect lines;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    lines |= image.pixelColor(x, y).saturation() > 60 ? QRect(x, y, 1, 1) : QRect();
+            }
+            // Around the lines there is only what the labels need.
+            const QPointF topLeft = m_view->positionOf({0, 20}) * magnified;
+            const QPointF bottomRight = (QPointF(500, 300) - m_view->positionOf({10, 0})) * magnified;
+            QVERIFY(std::abs(lines.left() - topLeft.x()) < 3);
+            QVERIFY(std::abs(lines.top() - topLeft.y()) < 3);
+            QVERIFY(std::abs(page.width() - lines.right() - bottomRight.x()) < 4);
+            QVERIFY(std::abs(page.height() - lines.bottom() - bottomRight.y()) < 4);
         }
-        // Around the lines there is only what the labels need.
-        const QPointF topLeft = m_view->positionOf({0, 20}) * magnified;
-        const QPointF bottomRight = (QPointF(500, 300) - m_view->positionOf({10, 0})) * magnified;
-        QVERIFY(std::abs(lines.left() - topLeft.x()) < 3);
-        QVERIFY(std::abs(lines.top() - topLeft.y()) < 3);
-        QVERIFY(std::abs(page.width() - lines.right() - bottomRight.x()) < 4);
-        QVERIFY(std::abs(page.height() - lines.bottom() - bottomRight.y()) < 4);
     }
 
     // On paper nothing else names the graph and its lines.

@@ -1,23 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "base/text/Texts.h"
-#include "support/DataRow.h"
 #include "support/PanelDriver.h"
 #include "support/TestProgram.h"
 #include "ui/Desktop.h"
 #include "ui/HelpBook.h"
 #include "ui/HelpWindow.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSet>
-#include <QTest>
 #include <QTextBrowser>
 #include <QToolButton>
 
@@ -132,9 +127,8 @@ private Q_SLOTS:
     void namesThingsAsTheProgramDoes_data()
     {
         test::columns<QStringList>("tables"); // of texts, from the most general one
-        row("en", QStringList{"en"});
-        row("en_US", QStringList{"en", "en_US"});
-        row("de", QStringList{"de"});
+        for (const QStringList &tables : {QStringList{"en"}, QStringList{"en", "en_US"}, QStringList{"de"}})
+            row(qPrintable(tables.last()), tables);
     }
 
     void namesThingsAsTheProgramDoes()
@@ -183,25 +177,18 @@ private Q_SLOTS:
         QCOMPARE(reached.size(), pagesOf(QStringLiteral("en")).size());
     }
 
-    void opensAtAnAnchor_data()
-    {
-        test::columns<QString, QString>("anchor", "page");
-        row("a page", "conditions", "conditions.html");
-        row("a heading", "targets", "conditions.html");
-        row("unknown", "kraken", "start.html");
-        row("a way out of the book", "../de/conditions", "start.html");
-        row("none", "", "start.html");
-    }
-
     void opensAtAnAnchor()
     {
-        QFETCH(QString, anchor);
-        QFETCH(QString, page);
-        showHelp(anchor);
-        QVERIFY(window()->isVisible());
-        QCOMPARE(shownPage(), page);
-        if (anchor == u"targets")
-            QTRY_VERIFY(part<QTextBrowser>("helpBrowser")->verticalScrollBar()->value() > 100);
+        const QString start = "start.html";
+        for (const auto &[anchor, page] : {std::pair("conditions", QString("conditions.html")),
+                                           std::pair("kraken", start), std::pair("targets", QString("conditions.html")),
+                                           std::pair("../de/conditions", start), std::pair("", start)}) {
+            showHelp(QLatin1String(anchor));
+            QVERIFY(window()->isVisible());
+            QCOMPARE(shownPage(), page);
+            if (qstrcmp(anchor, "targets") == 0)
+                QTRY_VERIFY(part<QTextBrowser>("helpBrowser")->verticalScrollBar()->value() > 100);
+        }
     }
 
     void oneWindowInTheUsersLanguage()

@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QPalette>
 #include <QRegularExpression>
-#include <QTest>
 
 using brinemark::icon;
 using brinemark::iconNames;

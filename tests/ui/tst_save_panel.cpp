@@ -3,13 +3,10 @@
 #include "ui/SavePanel.h"
 
 #include "support/AlertDriver.h"
-#include "support/DataRow.h"
 #include "support/Files.h"
 #include "support/PanelDriver.h"
 #include "support/RecordingShell.h"
 #include "support/TestProgram.h"
-
-#include <QTemporaryDir>
 
 using namespace brinemark;
 using test::row;
@@ -42,9 +39,7 @@ private Q_SLOTS:
     }
     void suffixes()
     {
-        QFETCH(QString, typed);
-        QFETCH(int, kind);
-        QFETCH(QString, chosen);
+        const auto [typed, kind, chosen] = test::fetch<QString, int, QString>("typed", "kind", "chosen");
         open();
         auto *panel = test::awaitWindow<QFileDialog>("reefPanel");
         QVERIFY(panel);
@@ -57,51 +52,43 @@ private Q_SLOTS:
     }
 
     /// The desktop's panel asks about the name as it was typed, without the suffix.
-    void asksAfterTheDesktop_data()
-    {
-        QTest::addColumn<AlertAnswer>("answer");
-        row("replace", AlertDefault);
-        row("cancel", AlertAlternate);
-    }
     void asksAfterTheDesktop()
     {
-        QFETCH(AlertAnswer, answer);
-        const QString there = m_folder->filePath(QStringLiteral("reef.png"));
-        QVERIFY(test::writeFile(there, "old"));
-        open();
-        auto *panel = test::awaitWindow<QFileDialog>("reefPanel");
-        QVERIFY(panel);
-        auto *name = panel->findChild<QLineEdit *>("fileNameEdit");
-        name->setObjectName("absent"); // as in a panel of the desktop
-        name->setText(m_folder->filePath(QStringLiteral("reef")));
-        QMetaObject::invokeMethod(panel, "accept");
-        QTRY_VERIFY(test::shownAlert());
-        QVERIFY(m_chosen.isEmpty());
-        test::shownAlert()->button(answer)->click();
-        QTRY_COMPARE(m_chosen, QStringList{answer == AlertDefault ? there : QString()});
+        for (const auto answer : {AlertDefault, AlertAlternate}) {
+            init();
+            const QString there = m_folder->filePath(QStringLiteral("reef.png"));
+            QVERIFY(test::writeFile(there, "old"));
+            open();
+            auto *panel = test::awaitWindow<QFileDialog>("reefPanel");
+            QVERIFY(panel);
+            auto *name = panel->findChild<QLineEdit *>("fileNameEdit");
+            name->setObjectName("absent"); // as in a panel of the desktop
+            name->setText(m_folder->filePath(QStringLiteral("reef")));
+            QMetaObject::invokeMethod(panel, "accept");
+            QTRY_VERIFY(test::shownAlert());
+            QVERIFY(m_chosen.isEmpty());
+            test::shownAlert()->button(answer)->click();
+            QTRY_COMPARE(m_chosen, QStringList{answer == AlertDefault ? there : QString()});
+        }
     }
 
-    void asksBeforeReplacing_data()
-    {
-        QTest::addColumn<QMessageBox::StandardButton>("answer");
-        row("yes", QMessageBox::Yes);
-        row("no", QMessageBox::No);
-    }
     void asksBeforeReplacing()
     {
-        QFETCH(QMessageBox::StandardButton, answer);
-        const QString there = m_folder->filePath(QStringLiteral("reef.png"));
-        QVERIFY(test::writeFile(there, "old"));
-        open();
-        const bool replace = answer == QMessageBox::Yes;
-        test::onNextQuestion(answer);
-        // The question is about the file with the added suffix. After "No" the panel stays open.
-        QCOMPARE(test::answerPanel("reefPanel", m_folder->filePath(QStringLiteral("reef"))), replace);
-        QCOMPARE(m_chosen, replace ? QStringList{there} : QStringList());
-        if (!replace)
-            QVERIFY(test::answerPanel("reefPanel", {}));
-        QCOMPARE(m_chosen.size(), 1);
-        QCOMPARE(test::bytesOf(there), QByteArray("old"));
+        for (const auto answer : {QMessageBox::Yes, QMessageBox::No}) {
+            init();
+            const QString there = m_folder->filePath(QStringLiteral("reef.png"));
+            QVERIFY(test::writeFile(there, "old"));
+            open();
+            const bool replace = answer == QMessageBox::Yes;
+            test::onNextQuestion(answer);
+            // The question is about the file with the added suffix. After "No" the panel stays open.
+            QCOMPARE(test::answerPanel("reefPanel", m_folder->filePath(QStringLiteral("reef"))), replace);
+            QCOMPARE(m_chosen, replace ? QStringList{there} : QStringList());
+            if (!replace)
+                QVERIFY(test::answerPanel("reefPanel", {}));
+            QCOMPARE(m_chosen.size(), 1);
+            QCOMPARE(test::bytesOf(there), QByteArray("old"));
+        }
     }
 
     void fileNames_data()
@@ -122,8 +109,7 @@ private Q_SLOTS:
     }
     void fileNames()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, name);
+        const auto [text, name] = test::fetch<QString, QString>("text", "name");
         QCOMPARE(fileNameFor(text), name);
         // The panel proposes the name in its folder, and a file of that name can be written.
         SavePanelOptions options{QStringLiteral("reefPanel")};

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/Stepper.h"
 
@@ -31,12 +30,9 @@ private Q_SLOTS:
     }
     void steps()
     {
-        QFETCH(int, count);
-        QFETCH(double, to);
+        const auto [count, to] = test::fetch<int, double>("count", "to");
         Stepper stepper;
-        QFETCH(double, maximum);
-        QFETCH(double, increment);
-        QFETCH(double, from);
+        const auto [maximum, increment, from] = test::fetch<double, double, double>("maximum", "increment", "from");
         stepper.setRange(0, maximum);
         stepper.setIncrement(increment);
         stepper.setValue(from);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/ElidedLabel.h"
 #include "ui/TruncatingDelegate.h"
@@ -8,7 +7,6 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QTableWidget>
-#include <QTest>
 #include <QTextDocumentFragment>
 #include <QToolTip>
 
@@ -35,8 +33,7 @@ private Q_SLOTS:
 
     void cellShowsItsWholeText()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, toolTip);
+        const auto [text, toolTip] = test::fetch<QString, QString>("text", "toolTip");
         QTableWidget table(1, 1);
         table.setItemDelegate(new TruncatingDelegate(&table));
         table.setItem(0, 0, new QTableWidgetItem(text));

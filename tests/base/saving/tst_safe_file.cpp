@@ -2,19 +2,13 @@
 
 #include "base/saving/KeptCopies.h"
 #include "base/saving/SafeFile.h"
-#include "base/text/Texts.h"
-#include "support/DataRow.h"
 #include "support/FailingFileCalls.h"
 #include "support/Files.h"
 #include "support/FullDisk.h"
 #include "support/TestProgram.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QScopeGuard>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <cstring>
 #include <tuple>
@@ -28,18 +22,6 @@
 using namespace brinemark;
 using brinemark::test::bytesOf;
 using brinemark::test::writeFile;
-
-namespace
-{
-
-void setModified(const QString &path, const QDateTime &when)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.setFileTime(when, QFileDevice::FileModificationTime));
-}
-
-} // namespace
 
 /// Saving keeps the old file until the new one is complete, and a file changed by somebody else is recognised.
 class TestSafeFile : public QObject
@@ -88,10 +70,8 @@ private Q_SLOTS:
     /// Whichever call fails: the file is whole, the result says which content it has, and nothing else is left.
     void failingCalls()
     {
-        QFETCH(QString, call);
-        QFETCH(bool, writesOver);
-        QFETCH(bool, onward);
-        QFETCH(bool, takesPlace);
+        const auto [call, writesOver, onward, takesPlace] =
+            test::fetch<QString, bool, bool, bool>("call", "writesOver", "onward", "takesPlace");
         const QString file = path("tanks.xml");
         const QByteArray newBytes = "the new content, which is longer";
         QLoggingCategory::setFilterRules(QStringLiteral("brinemark.file=false"));
@@ -256,16 +236,18 @@ private Q_SLOTS:
 
     void noticesChanges()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(int, secondsLater);
-        QFETCH(bool, changed);
+        const auto [content, secondsLater, changed] =
+            test::fetch<QByteArray, int, bool>("content", "secondsLater", "changed");
         const QString file = path("tanks.xml");
         QVERIFY(writeFileSafely(file, "old").ok);
         const FileStamp stamp = readFile(file).stamp;
         QVERIFY(stamp.isKnown());
 
         QVERIFY(writeFile(file, content));
-        setModified(file, stamp.modified.addSecs(secondsLater));
+        QFile touched(file);
+        QVERIFY(touched.open(QIODevice::ReadWrite));
+        QVERIFY(touched.setFileTime(stamp.modified.addSecs(secondsLater), QFileDevice::FileModificationTime));
+        touched.close();
         QCOMPARE(changedOnDisk(file, stamp), changed);
         // Without a stamp every file counts as changed.
         QVERIFY(changedOnDisk(file, FileStamp()));

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/lists/ColumnLayoutStore.h"
 #include "ui/lists/SmallList.h"
@@ -94,10 +93,8 @@ private:
     }
     [[nodiscard]] static QString order()
     {
-        QStringList identifiers;
-        for (const QVariant &column : stored())
-            identifiers << column.toMap().value("identifier").toString();
-        return identifiers.join(' ');
+        const auto identifier = [](const QVariant &column) { return column.toMap().value("identifier").toString(); };
+        return listOf(stored(), identifier).join(' ');
     }
     /// Of a column of the model, found by its header text.
     [[nodiscard]] QString identifierOf(int column) const

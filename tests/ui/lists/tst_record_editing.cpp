@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "support/AlertDriver.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/lists/SmallList.h"
 
@@ -21,10 +20,8 @@ private Q_SLOTS:
 
     void typing_data()
     {
-        test::columns<SmallListColumn, QString>("column", "typed");
-        QTest::addColumn<PressedKeys>("keys"); ///< pressed after the typing
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("edited"); ///< empty: no edit, no undo step
+        // keys: pressed after the typing; edited: empty for no edit and no undo step
+        columns<SmallListColumn, QString, PressedKeys, QString, QString>("column", "typed", "keys", "stored", "edited");
         const PressedKeys enter{Qt::Key_Return};
         const PressedKeys next{Qt::Key_Tab};
         const PressedKeys cleared{Qt::Key_Delete, Qt::Key_Return};
@@ -44,10 +41,8 @@ private Q_SLOTS:
     }
     void typing()
     {
-        QFETCH(SmallListColumn, column);
-        QFETCH(QString, typed);
-        QFETCH(PressedKeys, keys);
-        QFETCH(QString, edited);
+        const auto [column, typed, keys, edited] =
+            fetch<SmallListColumn, QString, PressedKeys, QString>("column", "typed", "keys", "edited");
         record(0).setAutoReschedule(true);
         m_tank->schedule()->setSortIdentifier(QStringLiteral("date"));
         clickCell(table(), 0, Activity);
@@ -216,15 +211,6 @@ private Q_SLOTS:
         QCOMPARE(selectedRows(table()), QList<int>{4});
         for (const int column : {Done, Activity})
             QVERIFY(!m_list->displayCalendar(cell(0, column)));
-    }
-
-    void aHeaderClosesTheCalendar()
-    {
-        clickCell(table(), 1, Due);
-        QVERIFY(CalendarController::sharedInstance().isOpen());
-        QTest::mousePress(table()->horizontalHeader()->viewport(), Qt::LeftButton, {}, {10, 5});
-        QVERIFY(!CalendarController::sharedInstance().isOpen());
-        QCOMPARE(m_shell->changes, 0);
     }
 };
 

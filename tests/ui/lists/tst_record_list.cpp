@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "support/AlertDriver.h"
-#include "support/DataRow.h"
 #include "support/TestProgram.h"
 #include "ui/lists/SmallList.h"
 
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QToolButton>
 
@@ -77,8 +75,7 @@ private Q_SLOTS:
     }
     void deleting()
     {
-        QFETCH(QByteArray, answer);
-        QFETCH(QStringList, told);
+        const auto [answer, told] = fetch<QByteArray, QStringList>("answer", "told");
         auto *deleteButton = button<QToolButton>("deleteButton");
         QVERIFY(!deleteButton->isEnabled());
         QTest::keyClick(table(), Qt::Key_Delete);
