@@ -2265,6 +2265,10 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Sie dürfen dort nicht schreiben.</translation>
     </message>
     <message>
+        <source>SaveProblemNoSafeCopy</source>
+        <translation>In seinem Ordner kann nichts angelegt werden, und in Ihrem persönlichen Ordner ließ sich keine Kopie aufbewahren, während die Datei überschrieben wird.</translation>
+    </message>
+    <message>
         <source>SaveProblemNoSpace</source>
         <translation>Auf dem Datenträger ist nicht genug Platz frei.</translation>
     </message>

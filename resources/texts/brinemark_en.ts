@@ -2265,6 +2265,10 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>You do not have permission to write there.</translation>
     </message>
     <message>
+        <source>SaveProblemNoSafeCopy</source>
+        <translation>Nothing can be created in its folder, and no copy could be kept in your home folder while the file is overwritten.</translation>
+    </message>
+    <message>
         <source>SaveProblemNoSpace</source>
         <translation>There is not enough room left on the disk.</translation>
     </message>

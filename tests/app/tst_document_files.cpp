@@ -134,6 +134,12 @@ private Q_SLOTS:
         program.commands().saveCurrentFile();
         QCOMPARE(script.titles.size(), 2);
         QVERIFY(!program.document().isEdited());
+        // A file that could not be written does not become the default file.
+        const FailingFileCalls calls({.name = "fsync", .error = ENOSPC});
+        program.commands().saveAsCurrentFile(); // its box is ticked while there is no default file
+        QVERIFY(answerPanel("savePanel", program.filePath("elsewhere.xml")));
+        QTRY_COMPARE(script.titles.size(), 3);
+        QVERIFY(Preferences::shared().value(preference::defaultFile, QString()).isEmpty());
     }
 
     void failedSaveOnTheWay_data()

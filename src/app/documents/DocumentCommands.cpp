@@ -224,9 +224,10 @@ void DocumentCommands::savePanelDidEnd(const FilePanelAnswer &answer, Context co
 
 void DocumentCommands::writeFromSavePanel(const QString &path, Context context)
 {
-    if (!mayGoOn(m_document.writeTankFileWithPath(path, context), context))
+    const TankDocument::WriteOutcome outcome = m_document.writeTankFileWithPath(path, context);
+    if (!mayGoOn(outcome, context))
         return;
-    if (m_makeDefault)
+    if (m_makeDefault && outcome == TankDocument::WriteOutcome::Written) // a start without that file would look empty
         Preferences::shared().set(preference::defaultFile, path);
     goOn(context);
 }

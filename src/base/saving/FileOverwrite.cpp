@@ -52,8 +52,11 @@ WriteResult overwriteFile(FileCalls &calls, const QString &target, const QByteAr
     if (const FailedCall failed = readWhole(calls, target, old))
         return failedAt(failed);
     KeptCopy copy(calls);
-    if (const FailedCall failed = copy.make(QFileInfo(target).fileName(), old))
-        return failedAt(failed);
+    if (const FailedCall failed = copy.make(QFileInfo(target).fileName(), old)) {
+        failedAt(failed);
+        result.problem = SaveProblem::NoSafeCopy; // neither room nor permission is missing where the file is
+        return result;
+    }
     OpenFile file(calls);
     if (const int error = calls.open(target, FileCalls::Mode::Overwrite, file.descriptor))
         return failedAt({"open", error});

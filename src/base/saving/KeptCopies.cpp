@@ -64,8 +64,9 @@ FailedCall KeptCopy::make(const QString &fileName, const QByteArray &bytes)
 {
     constexpr qsizetype longest = 60; // characters of at most three bytes; file systems allow 255 bytes
     const QString folder = keptCopiesFolder();
+    errno = 0;
     if (!QDir().mkpath(folder))
-        return {"mkdir", EACCES};
+        return {"mkdir", errno != 0 ? errno : EACCES};
     const QString start =
         folder + u'/' + unfinishedPrefix + clock::now().toString(QStringLiteral("yyyy-MM-dd hh.mm.ss.zzz "));
     const QString path = start + fileName.right(longest);

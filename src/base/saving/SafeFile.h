@@ -21,6 +21,7 @@ enum class SaveProblem {
     NameTooLong,
     NotAFile,
     TooLarge,
+    NoSafeCopy, ///< the file has to be overwritten in place, and its content cannot be kept elsewhere meanwhile
     Other,
 };
 

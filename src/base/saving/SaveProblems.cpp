@@ -30,6 +30,7 @@ constexpr std::array problemTexts{
     ProblemText{SaveProblem::NameTooLong, "SaveProblemNameTooLong"_key},
     ProblemText{SaveProblem::NotAFile, "SaveProblemNotAFile"_key},
     ProblemText{SaveProblem::TooLarge, "SaveProblemTooLarge"_key},
+    ProblemText{SaveProblem::NoSafeCopy, "SaveProblemNoSafeCopy"_key},
     ProblemText{SaveProblem::Other, "SaveProblemOther"_key},
 };
 static_assert(rowsFollow<SaveProblem>(problemTexts, &ProblemText::problem));

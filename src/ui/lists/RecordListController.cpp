@@ -226,6 +226,8 @@ void RecordListController::sortAndSelect(const std::shared_ptr<Record> &record)
     showSortIndicator();
     if (record)
         selectRecord(*record);
+    else if (hasSelectedRow())
+        m_table->scrollTo(m_selection->currentIndex()); // otherwise Delete would act on a row out of sight
     if (m_table->isVisible()) // an edit can be undone while another view is on screen
         m_table->setFocus();
 }
