@@ -17,6 +17,16 @@ const LivestockGroupTraits *livestockGroupTraits(ContainerKind kind)
     return nullptr;
 }
 
+const LivestockGroupTraits &livestockGroupForContext(ItemContext context)
+{
+    const LivestockGroupTraits *fish = &livestockGroupTable.front();
+    for (const LivestockGroupTraits &traits : livestockGroupTable) {
+        if (traits.context == context)
+            return traits;
+    }
+    return *fish;
+}
+
 qint64 specimenCount(const Container &livestock)
 {
     qint64 count = 0;
