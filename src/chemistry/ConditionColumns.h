@@ -3,8 +3,8 @@
 #pragma once
 
 #include "base/TableChecks.h"
+#include "base/text/SFCheckedFormatter.h"
 #include "base/text/Texts.h"
-#include "chemistry/SFCheckedFormatter.h"
 #include "model/Condition.h"
 #include "model/Parameters.h"
 
@@ -58,8 +58,8 @@ static_assert(eachHasOneRow<Parameter>(conditionColumnTable, &ConditionColumnTra
 [[nodiscard]] const ConditionColumnTraits *conditionColumnFromTag(int tag);
 [[nodiscard]] const ConditionColumnTraits *conditionColumnFromIdentifier(QStringView identifier);
 
-/// The tag of the column with an identifier; 0 when there is none. The inverse of conditionColumnFromTag(), kept without
-/// a caller.
+/// The tag of the column with an identifier; 0 when there is none. The inverse of conditionColumnFromTag(), kept
+/// without a caller.
 [[nodiscard]] int tagFromColumnIdentifier(QStringView identifier);
 
 /// The formatter that reads, checks and shows a column's values: not tested or up to the column's maximum, rounded to

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "chemistry/TankSheetDriver.h"
-#include "chemistry/views/CheckedLineEdit.h"
 #include "support/TestProgram.h"
+#include "ui/CheckedLineEdit.h"
 #include "ui/Stepper.h"
 
 #include <QCheckBox>

@@ -2,7 +2,7 @@
 
 #include "chemistry/views/CheckedCellDelegate.h"
 
-#include "chemistry/views/CheckedLineEdit.h"
+#include "ui/CheckedLineEdit.h"
 
 #include <QStyle>
 

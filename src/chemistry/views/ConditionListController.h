@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "chemistry/SFCheckedFormatter.h"
+#include "base/text/SFCheckedFormatter.h"
 #include "model/Parameters.h"
 #include "ui/Shared.h"
 #include "ui/lists/RecordListController.h"

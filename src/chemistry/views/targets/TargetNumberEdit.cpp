@@ -3,7 +3,7 @@
 #include "chemistry/views/targets/TargetNumberEdit.h"
 
 #include "base/text/NumberText.h"
-#include "chemistry/views/CheckedLineEdit.h"
+#include "ui/CheckedLineEdit.h"
 #include "ui/Spacing.h"
 #include "ui/Stepper.h"
 

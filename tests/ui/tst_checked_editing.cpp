@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "chemistry/views/CheckedLineEdit.h"
 #include "support/LocalNumber.h"
 #include "support/TestProgram.h"
 #include "ui/Alerts.h"
+#include "ui/CheckedLineEdit.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "chemistry/SFCheckedFormatter.h"
+#include "base/text/SFCheckedFormatter.h"
 
 #include <QLineEdit>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "chemistry/views/CheckedLineEdit.h"
+#include "ui/CheckedLineEdit.h"
 
 #include "ui/Alerts.h"
 

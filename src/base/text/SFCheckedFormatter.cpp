@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "chemistry/SFCheckedFormatter.h"
+#include "base/text/SFCheckedFormatter.h"
 
 #include "base/text/NumberText.h"
 #include "base/text/Texts.h"
@@ -34,7 +34,7 @@ constexpr auto roundings = std::to_array<double (*)(double)>({
     [](double value) { return std::ceil(value); },
 });
 
-bool isDigit(QChar c)
+bool isTypedDigit(QChar c)
 {
     return c >= u'0' && c <= u'9';
 }
@@ -134,7 +134,7 @@ double SFCheckedFormatter::getBestDoubleFromString(const QString &text) const
     bool separated = false;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
-        if (isDigit(c) || (c == minus && i == 0)) {
+        if (isTypedDigit(c) || (c == minus && i == 0)) {
             kept += c;
         } else if (c == decimal && !separated) {
             kept += u'.';
@@ -210,7 +210,7 @@ VettedEdit SFCheckedFormatter::isPartialStringValid(const QString &proposed, con
         // Keep the separator that was typed last and remove the other one.
         return {false, QString(proposed).remove(other, 1), {i > other ? start : start + 1, 0}, false};
     }
-    return c == thousands || isDigit(c) ? accept : refuse;
+    return c == thousands || isTypedDigit(c) ? accept : refuse;
 }
 
 void SFCheckedFormatter::encodeWithCoder(QDataStream &coder) const

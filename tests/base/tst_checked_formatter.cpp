@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "chemistry/SFCheckedFormatter.h"
+#include "base/text/SFCheckedFormatter.h"
 #include "support/TestProgram.h"
 
 #include <QDataStream>
