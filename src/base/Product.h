@@ -11,6 +11,7 @@ namespace brinemark::product
 inline constexpr char name[] = "Brinemark";
 inline constexpr char supportAddress[] = "support@brinemark.example";
 inline constexpr char listAddress[] = "list@brinemark.example";
+inline constexpr char profilesAddress[] = "profiles@brinemark.example"; ///< receives the profiles that users send in
 inline constexpr char productPage[] = "https://www.brinemark.example/";
 
 /// The short version, for example "1.0.0"; a fourth number is a beta number.

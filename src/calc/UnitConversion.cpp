@@ -8,11 +8,6 @@ namespace brinemark
 namespace
 {
 
-QStringList titles(TextKey key)
-{
-    return text(key).split(QStringLiteral(", "));
-}
-
 bool isKind(int kind)
 {
     return kind >= 0 && kind < int(conversionKinds.size());
@@ -32,12 +27,12 @@ float convertUnits(int kind, int item, float value)
 
 QStringList conversionTitles(int kind)
 {
-    return isKind(kind) ? titles(conversionKinds[std::size_t(kind)].menuKey) : QStringList();
+    return isKind(kind) ? textItems(conversionKinds[std::size_t(kind)].menuKey) : QStringList();
 }
 
 QStringList conversionKindTitles()
 {
-    return titles("ConvertKindMenu"_key);
+    return textItems("ConvertKindMenu"_key);
 }
 
 } // namespace brinemark

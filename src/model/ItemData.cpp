@@ -39,7 +39,7 @@ void ItemData::setItemImageWithData(const QByteArray &imageData)
 
 QString ItemData::reefSafeStringFromCode(qint32 code)
 {
-    const QStringList words = text("ReefSafeMenu"_key).split(QStringLiteral(", "));
+    const QStringList words = textItems("ReefSafeMenu"_key);
     return words.value(code == reefsafe::yes ? 0 : code == reefsafe::no ? 1 : 2);
 }
 

@@ -134,6 +134,11 @@ QString text(TextKey key, TextTable table)
     return tables().find(key, table).value_or(QString::fromUtf8(key.key));
 }
 
+QStringList textItems(TextKey key, TextTable table)
+{
+    return text(key, table).split(QStringLiteral(", "));
+}
+
 bool hasText(TextKey key, TextTable table)
 {
     return tables().find(key, table).has_value();

@@ -43,6 +43,8 @@ enum class TextTable {
 
 /// The text of a key in the first language of the user's chain that has it; the key itself when none has.
 [[nodiscard]] QString text(TextKey key, TextTable table = TextTable::Default);
+/// The items of a text that is a list, with a comma and a blank between them.
+[[nodiscard]] QStringList textItems(TextKey key, TextTable table = TextTable::Default);
 [[nodiscard]] bool hasText(TextKey key, TextTable table = TextTable::Default);
 
 /// The text of a key read as a decimal number with a full stop, whatever the locale; 0 when it is missing or not a

@@ -56,7 +56,7 @@ void QZUpdateController::makeWindow()
     m_checkPopupButton = new QComboBox;
     m_checkPopupButton->setObjectName(QStringLiteral("checkPopupButton"));
     m_checkPopupButton->setAccessibleName(m_autoUpdateCheck->text());
-    m_checkPopupButton->addItems(text("UpdateFrequencyMenu", TextTable::Update).split(QStringLiteral(", ")));
+    m_checkPopupButton->addItems(textItems("UpdateFrequencyMenu"_key, TextTable::Update));
     m_lastCheckField = makeValue(QStringLiteral("lastCheckField"));
 
     auto *form = new QGridLayout;
