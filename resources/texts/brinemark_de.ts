@@ -647,6 +647,14 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Diese Meldung nicht mehr anzeigen</translation>
     </message>
     <message>
+        <source>DropImageHint</source>
+        <translation>Legen Sie hier ein Bild ab, oder wählen Sie eines aus.</translation>
+    </message>
+    <message>
+        <source>DroppedPictureRefusedTitle</source>
+        <translation>Das abgelegte Bild kann nicht verwendet werden.</translation>
+    </message>
+    <message>
         <source>Edit...</source>
         <translation>Bearbeiten …</translation>
     </message>
@@ -2010,6 +2018,10 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>PictureTooLarge</source>
         <translation>Es ist zu groß. Ein Bild darf bis zu 100 Millionen Bildpunkte haben.</translation>
+    </message>
+    <message>
+        <source>PictureUnreadable</source>
+        <translation>Dieses Bild kann nicht angezeigt werden.</translation>
     </message>
     <message>
         <source>PlantBreedingMenu</source>

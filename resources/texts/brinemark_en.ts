@@ -647,6 +647,14 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Do not show this message again</translation>
     </message>
     <message>
+        <source>DropImageHint</source>
+        <translation>Drop a picture here, or choose one.</translation>
+    </message>
+    <message>
+        <source>DroppedPictureRefusedTitle</source>
+        <translation>The dropped picture cannot be used.</translation>
+    </message>
+    <message>
         <source>Edit...</source>
         <translation>Edit…</translation>
     </message>
@@ -2010,6 +2018,10 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>PictureTooLarge</source>
         <translation>It is too large. A picture may have up to 100 million pixels.</translation>
+    </message>
+    <message>
+        <source>PictureUnreadable</source>
+        <translation>This picture cannot be shown.</translation>
     </message>
     <message>
         <source>PlantBreedingMenu</source>

@@ -67,6 +67,12 @@ public:
             problem = PictureProblem::TooLarge;
     }
 
+    /// Whether turning the picture upright exchanges its width and height.
+    [[nodiscard]] bool isTurned() const
+    {
+        return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    }
+
     QImageReader reader;
     QSize size; ///< before the picture is turned upright
     PictureProblem problem = PictureProblem::None;
@@ -117,14 +123,21 @@ QByteArray pictureFormat(const QByteArray &bytes)
     return {};
 }
 
+PictureHeader readPictureHeader(const QByteArray &bytes)
+{
+    const HeaderReader header(bytes);
+    if (header.problem != PictureProblem::None)
+        return {{}, header.problem};
+    return {header.isTurned() ? header.size.transposed() : header.size, PictureProblem::None};
+}
+
 DecodedPicture readPicture(const QByteArray &bytes, const QSize &box)
 {
     HeaderReader header(bytes);
     if (header.problem != PictureProblem::None)
         return {{}, header.problem};
     if (box.isValid()) {
-        const bool turned = header.reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-        const QSize fitting = header.size.scaled(turned ? box.transposed() : box, Qt::KeepAspectRatio);
+        const QSize fitting = header.size.scaled(header.isTurned() ? box.transposed() : box, Qt::KeepAspectRatio);
         header.reader.setScaledSize(fitting.expandedTo({1, 1}));
     }
     const QImage image = header.reader.read();

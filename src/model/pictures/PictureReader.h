@@ -37,8 +37,17 @@ struct PictureFile {
     PictureProblem problem = PictureProblem::None;
 };
 
+/// What a picture's header says. The size is that of the upright picture, and not valid when there is a problem.
+struct PictureHeader {
+    QSize size;
+    PictureProblem problem = PictureProblem::None;
+};
+
 /// The decoder's name of the format ("png"), by the first bytes; empty for any other content.
 [[nodiscard]] QByteArray pictureFormat(const QByteArray &bytes);
+
+/// Reads the header only, so that readPicture() can still find the picture damaged. Safe in any thread.
+[[nodiscard]] PictureHeader readPictureHeader(const QByteArray &bytes);
 
 /// Decodes the picture, turned upright. A valid `box` (pixels) scales it smoothly, in its own proportions, to the
 /// largest size that fits, which is faster than scaling the whole picture afterwards. Safe in any thread.
