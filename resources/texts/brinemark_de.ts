@@ -934,6 +934,30 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Fische</translation>
     </message>
     <message>
+        <source>FishSearchButton</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>FishSearchChoose</source>
+        <translation>Profil übernehmen</translation>
+    </message>
+    <message>
+        <source>FishSearchFieldName</source>
+        <translation>Suchen nach</translation>
+    </message>
+    <message>
+        <source>FishSearchProgressName</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>FishSearchResultsName</source>
+        <translation>Gefundene Profile</translation>
+    </message>
+    <message>
+        <source>FishSearchTitle</source>
+        <translation>Profile suchen</translation>
+    </message>
+    <message>
         <source>FlowMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>US-Gallonen pro Stunde in Liter pro Stunde, Liter pro Stunde in US-Gallonen pro Stunde, Liter pro Stunde in Liter pro Sekunde</translation>
@@ -1325,6 +1349,34 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <source>IronLowSaltAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
         <translation>Salzwasser enthält weniger Eisen, als diese Tests messen können, und Futter bringt genug davon mit. Geben Sie nach einem niedrigen Test keines zu, und setzen Sie den Zielwert auf 0.</translation>
+    </message>
+    <message>
+        <source>ItemSearchButton</source>
+        <translation>Profile suchen …</translation>
+    </message>
+    <message>
+        <source>ItemSearchToolTip</source>
+        <translation>Sucht die Art in den mitgelieferten Profilen. Änderungen, die noch nicht gespeichert sind, gehen verloren, wenn die Suche abgebrochen wird.</translation>
+    </message>
+    <message>
+        <source>ItemSubmitButton</source>
+        <translation>Profil einsenden …</translation>
+    </message>
+    <message>
+        <source>ItemSubmitToolTip</source>
+        <translation>Schreibt alles, was hier steht, in eine Nachricht Ihres Mailprogramms</translation>
+    </message>
+    <message>
+        <source>ItemTabNames</source>
+        <translation>Namen und Grunddaten</translation>
+    </message>
+    <message>
+        <source>ItemTabPicture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>ItemTabWater</source>
+        <translation>Wasser und Ansprüche</translation>
     </message>
     <message>
         <source>KH</source>
@@ -2386,12 +2438,24 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Suchen nach:</translation>
     </message>
     <message>
+        <source>SearchByToolTip</source>
+        <translation>Auswählen, wonach gesucht wird</translation>
+    </message>
+    <message>
         <source>SearchImagesOnline</source>
         <translation>Bilder im Internet suchen</translation>
     </message>
     <message>
         <source>SearchOnline</source>
         <translation>Im Internet suchen</translation>
+    </message>
+    <message>
+        <source>SearchProfileImages</source>
+        <translation>Nach Bildern suchen</translation>
+    </message>
+    <message>
+        <source>SearchProfileOnline</source>
+        <translation>Im Web suchen</translation>
     </message>
     <message>
         <source>Searching</source>

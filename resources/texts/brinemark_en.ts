@@ -934,6 +934,30 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Fish</translation>
     </message>
     <message>
+        <source>FishSearchButton</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>FishSearchChoose</source>
+        <translation>Use Profile</translation>
+    </message>
+    <message>
+        <source>FishSearchFieldName</source>
+        <translation>Search for</translation>
+    </message>
+    <message>
+        <source>FishSearchProgressName</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>FishSearchResultsName</source>
+        <translation>Found profiles</translation>
+    </message>
+    <message>
+        <source>FishSearchTitle</source>
+        <translation>Search Profiles</translation>
+    </message>
+    <message>
         <source>FlowMenu</source>
         <extracomment>A list with a comma and a blank between the items; the order matters, and no item may hold a comma. Each item names the conversion that the calculator does at its place.</extracomment>
         <translation>US gallons per hour to litres per hour, Litres per hour to US gallons per hour, Litres per hour to litres per second</translation>
@@ -1325,6 +1349,34 @@ Then test every day and repeat the water change until the value is in range. Mea
         <source>IronLowSaltAdvice</source>
         <extracomment>No per-cent sign: this text is used as a format. The last paragraph of a warning.</extracomment>
         <translation>Salt water holds less iron than these kits can measure, and food brings enough of it. Add none because of a low test, and set the target to 0.</translation>
+    </message>
+    <message>
+        <source>ItemSearchButton</source>
+        <translation>Search Profiles…</translation>
+    </message>
+    <message>
+        <source>ItemSearchToolTip</source>
+        <translation>Looks the species up in the profiles that come with the program. Changes that are not saved yet are lost when the search is cancelled.</translation>
+    </message>
+    <message>
+        <source>ItemSubmitButton</source>
+        <translation>Send In Profile…</translation>
+    </message>
+    <message>
+        <source>ItemSubmitToolTip</source>
+        <translation>Puts everything shown here into a message of your mail program</translation>
+    </message>
+    <message>
+        <source>ItemTabNames</source>
+        <translation>Names and Basics</translation>
+    </message>
+    <message>
+        <source>ItemTabPicture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>ItemTabWater</source>
+        <translation>Water and Needs</translation>
     </message>
     <message>
         <source>KH</source>
@@ -2386,11 +2438,23 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>Search by:</translation>
     </message>
     <message>
+        <source>SearchByToolTip</source>
+        <translation>Choose what to search by</translation>
+    </message>
+    <message>
         <source>SearchImagesOnline</source>
         <translation>Search the Web for Pictures</translation>
     </message>
     <message>
         <source>SearchOnline</source>
+        <translation>Search the Web</translation>
+    </message>
+    <message>
+        <source>SearchProfileImages</source>
+        <translation>Search for Pictures</translation>
+    </message>
+    <message>
+        <source>SearchProfileOnline</source>
         <translation>Search the Web</translation>
     </message>
     <message>

@@ -307,11 +307,6 @@ void ShoalwatchController::updateTree()
 {
     m_tankListController.updateDisplay();
 }
-void ShoalwatchController::editNameInTree()
-{
-    m_tankListController.editName();
-}
-
 QUndoStack &ShoalwatchController::undoManager()
 {
     return ShoalwatchDelegate::sharedInstance().undoManager();

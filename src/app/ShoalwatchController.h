@@ -72,7 +72,6 @@ public:
     void selectInTree(Tank &tank) override;
     void selectInTree(Container &container) override;
     void selectInTree(Record &livestock) override;
-    void editNameInTree() override;
 
 private:
     friend class Shared<ShoalwatchController>;

@@ -60,7 +60,6 @@ public:
     virtual void selectInTree(Tank &tank) = 0;
     virtual void selectInTree(Container &container) = 0; ///< expands the tank's row first
     virtual void selectInTree(Record &livestock) = 0;    ///< expands the rows of its tank and its group first
-    virtual void editNameInTree() = 0;                   ///< opens the in-place editor on the selected row
 };
 
 } // namespace brinemark

@@ -65,6 +65,13 @@ QString shownHelp()
     return QFileInfo(page.path()).baseName() + (page.hasFragment() ? u'#' + page.fragment() : QString());
 }
 
+/// Saves the item editor, when it is open.
+void saveItemSheet()
+{
+    if (auto *sheet = shownWindow<QDialog>("itemSheet"))
+        sheet->findChild<QPushButton *>("saveButton")->click();
+}
+
 } // namespace
 
 // What each command does in the whole program, and what the selection in the tree means for it.
@@ -187,6 +194,7 @@ private Q_SLOTS:
         const int before = list.count();
         const AlertScript script; // dismisses the explanation that a new water test shows
         program.controller().performCommand(command);
+        saveItemSheet();
         QCOMPARE(list.count(), before + 1);
         QVERIFY(program.document().isEdited());
         QCoreApplication::processEvents();
@@ -296,6 +304,8 @@ private Q_SLOTS:
             program.controller().selectInTree(tank);
             program.tree().tankList()->setFocus();
             program.controller().performCommand(command);
+            if (command == Command::NewFish)
+                saveItemSheet();
             QCOMPARE(tank.fish()->count(), 1);
             QCOMPARE(tank.tankItemsArray().size(), containerCount);
             QCOMPARE(program.tree().currentSelectedItem(), TreeItem(*tank.fishListArray().at(0)));
@@ -386,7 +396,7 @@ private Q_SLOTS:
             program.controller().selectInTree(*tank);
             program.window().activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&program.window()));
-            program.controller().editNameInTree();
+            program.tree().editName();
         } else {
             tank->condition()->setColumnInfoArray({{"ph", 0}});
             program.controller().selectInTree(*tank->condition());

@@ -69,7 +69,6 @@ public:
     void selectInTree(Tank &tank) override { current = &tank; }
     void selectInTree(Container &container) override { selectedContainer = &container; }
     void selectInTree(Record &livestock) override { selectedRecord = &livestock; }
-    void editNameInTree() override { ++namesEdited; }
 
     QWidget window;
     TankList tanks;
@@ -87,7 +86,6 @@ public:
     int ordersFront = 0;
     int deletesAsked = 0;
     int treeUpdates = 0;
-    int namesEdited = 0;
     int beeps = 0;
 
 private:
