@@ -1351,6 +1351,10 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Salzwasser enthält weniger Eisen, als diese Tests messen können, und Futter bringt genug davon mit. Geben Sie nach einem niedrigen Test keines zu, und setzen Sie den Zielwert auf 0.</translation>
     </message>
     <message>
+        <source>ItemPagesName</source>
+        <translation>Seiten des Profils</translation>
+    </message>
+    <message>
         <source>ItemSearchButton</source>
         <translation>Profile suchen …</translation>
     </message>

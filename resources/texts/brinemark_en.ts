@@ -1351,6 +1351,10 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>Salt water holds less iron than these kits can measure, and food brings enough of it. Add none because of a low test, and set the target to 0.</translation>
     </message>
     <message>
+        <source>ItemPagesName</source>
+        <translation>Pages of the profile</translation>
+    </message>
+    <message>
         <source>ItemSearchButton</source>
         <translation>Search Profiles…</translation>
     </message>

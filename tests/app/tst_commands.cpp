@@ -16,6 +16,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QStackedWidget>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTextBrowser>
 #include <QToolButton>
@@ -159,9 +160,16 @@ private Q_SLOTS:
         program.controller().selectInTree(program.livestock(ContainerKind::Fish));
         QCOMPARE(namelessControls(&program.window()).join(", "), "");
         QTest::keyClick(program.tree().tankList(), Qt::Key_Return); // opens the editor of the record
-        QVERIFY(awaitWindow("itemSheet"));
-        QCOMPARE(namelessControls(awaitWindow("itemSheet")).join(", "), "");
-        shownWindow<QDialog>("itemSheet")->close();
+        auto *editor = awaitWindow("itemSheet");
+        for (int page = 0; page < 3; ++page) {
+            editor->findChild<QTabWidget *>()->setCurrentIndex(page);
+            QCOMPARE(namelessControls(editor).join(", "), "");
+        }
+        editor->findChild<QPushButton *>("searchButton")->click();
+        auto *search = awaitWindow("fishSearchPanel");
+        QCOMPARE(namelessControls(search).join(", "), "");
+        search->close();
+        editor->close();
         GraphController::sharedInstance().display();
         auto *graph = awaitWindow<QWidget>("graphWindow");
         QVERIFY(graph);

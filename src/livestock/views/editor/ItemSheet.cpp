@@ -42,6 +42,7 @@ ItemSheet::ItemSheet(QWidget *parent)
     submitButton->setToolTip(text("ItemSubmitToolTip"));
     searchButton->setToolTip(text("ItemSearchToolTip"));
 
+    tabView->setAccessibleName(text("ItemPagesName"));
     tabView->addTab(form.pages().at(0), text("ItemTabNames"));
     tabView->addTab(form.pages().at(1), text("ItemTabWater"));
     tabView->addTab(makePicturePage(), text("ItemTabPicture"));
