@@ -168,8 +168,8 @@ private Q_SLOTS:
     void changesAreStored()
     {
         FishData &fish = addFish();
-        fish.salt = 8.1234567F; // more digits than are shown
-        fish.reefSafe = 42;     // no code
+        fish.gHardness = 8.1234567F; // more digits than are shown
+        fish.reefSafe = 42;          // no code
         fish.notes = QStringLiteral("one\r\ntwo");
         fish.itemImage = ItemImage(QByteArrayLiteral("no picture"));
         const QString longest(50000, u'x');
@@ -187,7 +187,7 @@ private Q_SLOTS:
         QCOMPARE(fish.family, text("Unspecified"));
         QCOMPARE(fish.ph, 8.26F);
         QCOMPARE(fish.KH, 0.0F);
-        QCOMPARE(fish.salt, 8.1234567F);
+        QCOMPARE(fish.gHardness, 8.1234567F);
         QCOMPARE(fish.count, 7);
         QCOMPARE(fish.tankLevel, QStringLiteral("among the stones"));
         QCOMPARE(fish.socialLevel, longest);
