@@ -1740,6 +1740,10 @@ Testen Sie dann täglich und wiederholen Sie den Wasserwechsel, bis der Wert im 
         <translation>Neu</translation>
     </message>
     <message>
+        <source>NextItemToolTip</source>
+        <translation>Nächster Eintrag dieser Gruppe</translation>
+    </message>
+    <message>
         <source>NextMonth</source>
         <translation>Nächster Monat (Bild ab)</translation>
     </message>
@@ -2063,6 +2067,10 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
         <translation>Die Datei kann nicht gelesen werden. Prüfen Sie, ob sie noch da ist und ob Sie sie öffnen dürfen.</translation>
     </message>
     <message>
+        <source>PicturePageTitle</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
         <source>PictureRefusedTitle</source>
         <extracomment>^0 is the name of the file</extracomment>
         <translation>Das Bild „^0“ kann nicht verwendet werden.</translation>
@@ -2183,6 +2191,10 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>PrefsTitle</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>PreviousItemToolTip</source>
+        <translation>Voriger Eintrag dieser Gruppe</translation>
     </message>
     <message>
         <source>PreviousMonth</source>
@@ -2480,6 +2492,14 @@ Zu hoch: Im Süßwasser weicheres Wasser beimischen oder Kohlendioxid oder Torf 
     <message>
         <source>ShowNotificationWindow</source>
         <translation>Überfällige Aufgaben einblenden</translation>
+    </message>
+    <message>
+        <source>ShowPicturePage</source>
+        <translation>Das ganze Bild zeigen</translation>
+    </message>
+    <message>
+        <source>ShowProfilePage</source>
+        <translation>Das Profil zeigen</translation>
     </message>
     <message>
         <source>ShowToolbar</source>

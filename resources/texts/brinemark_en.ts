@@ -1740,6 +1740,10 @@ Then test every day and repeat the water change until the value is in range. Mea
         <translation>New</translation>
     </message>
     <message>
+        <source>NextItemToolTip</source>
+        <translation>Next entry of this group</translation>
+    </message>
+    <message>
         <source>NextMonth</source>
         <translation>Next month (Page Down)</translation>
     </message>
@@ -2063,6 +2067,10 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
         <translation>The file cannot be read. See whether it is still there and whether you may open it.</translation>
     </message>
     <message>
+        <source>PicturePageTitle</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
         <source>PictureRefusedTitle</source>
         <extracomment>^0 is the name of the file</extracomment>
         <translation>The picture “^0” cannot be used.</translation>
@@ -2183,6 +2191,10 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>PrefsTitle</source>
         <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>PreviousItemToolTip</source>
+        <translation>Previous entry of this group</translation>
     </message>
     <message>
         <source>PreviousMonth</source>
@@ -2480,6 +2492,14 @@ Too high: in fresh water mix in softer water, or add carbon dioxide or peat; in 
     <message>
         <source>ShowNotificationWindow</source>
         <translation>Show Overdue Activities</translation>
+    </message>
+    <message>
+        <source>ShowPicturePage</source>
+        <translation>Show the whole picture</translation>
+    </message>
+    <message>
+        <source>ShowProfilePage</source>
+        <translation>Show the profile</translation>
     </message>
     <message>
         <source>ShowToolbar</source>

@@ -7,6 +7,7 @@
 #include "chemistry/views/ConditionListController.h"
 #include "chemistry/views/GraphController.h"
 #include "journals/views/NoteListController.h"
+#include "livestock/views/FishDataController.h"
 #include "model/LivestockData.h"
 #include "support/AppFixture.h"
 #include "ui/AlertPanelDontAskAgain.h"
@@ -215,7 +216,7 @@ private Q_SLOTS:
              {ContainerKind::Coral, ContainerKind::Fish, ContainerKind::Plant, ContainerKind::Invert}) {
             program.controller().selectInTree(program.livestock(kind));
             QCOMPARE(program.controller().currentView(), MainView::LivestockItem);
-            QCOMPARE(program.title(), program.livestock(kind).name);
+            QCOMPARE(FishDataController::sharedInstance().currentItem(), &program.livestock(kind));
             program.controller().selectInTree(*program.tank().container(kind));
             QCOMPARE(program.title(), program.tank().container(kind)->name());
         }

@@ -65,7 +65,7 @@ private Q_SLOTS:
         auto *view = controller.view()->findChild<PictureView *>();
         PictureCache &cache = PictureCache::sharedInstance();
         QCOMPARE(cache.limit(), qsizetype(128) << 20);
-        cache.setLimit(3 * 160 * 120 * 4);
+        cache.setLimit(3 * view->width() * view->height() * 4);
         const auto colourShown = [&] { return view->grab().toImage().pixelColor(view->width() / 2, 20); };
         FishData &fish = addFish();
         fish.itemImage = ItemImage::fromImage(colouredImage(Qt::green, {3000, 3000})); // never shown: it takes longer

@@ -47,7 +47,7 @@ private Q_SLOTS:
                 found << sources.fileInfo().baseName();
         }
         found.sort();
-        QCOMPARE(found, QStringList({QStringLiteral("MessageText"), QStringLiteral("MultiLineEdit")}));
+        QCOMPARE(found, QStringList({"MessageText", "MultiLineEdit", "ProfileText"}));
     }
 };
 

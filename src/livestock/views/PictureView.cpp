@@ -41,6 +41,13 @@ void PictureView::requestPicture()
                                                        });
 }
 
+void PictureView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (!m_picture.isNone())
+        requestPicture();
+}
+
 void PictureView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

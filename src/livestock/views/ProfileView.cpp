@@ -2,18 +2,24 @@
 
 #include "livestock/views/ProfileView.h"
 
-#include "livestock/views/PictureView.h"
+#include "base/text/Texts.h"
+#include "livestock/views/CustomFishImageView.h"
+#include "livestock/views/CustomThumbImageView.h"
+#include "livestock/views/PictureWell.h"
+#include "livestock/views/ProfileText.h"
 #include "model/Tank.h"
-#include "ui/CaptionForm.h"
-#include "ui/Colours.h"
+#include "ui/IconButton.h"
 #include "ui/Icons.h"
 #include "ui/Spacing.h"
 #include "ui/TitleLine.h"
 
-#include <QGridLayout>
-#include <QLabel>
+#include <QBoxLayout>
+#include <QButtonGroup>
 #include <QPushButton>
-#include <QScrollArea>
+#include <QStackedWidget>
+#include <QToolButton>
+
+#include <algorithm>
 
 namespace brinemark
 {
@@ -21,105 +27,194 @@ namespace brinemark
 namespace
 {
 
-constexpr QSize profilePictureSize(160, 120);
+constexpr QSize thumbnailSize(160, 120); ///< in a window of the usual size, and the step in which it grows
+constexpr int largestThumbnail = 3;      ///< in such steps
+constexpr int widthPerStep = 640;        ///< of the view
+constexpr int besideEachOther = 560;     ///< the least width for the small picture to stand beside the text
+
+struct Segment {
+    ProfileView::Tag tag;
+    TextKey titleKey;
+    TextKey toolTipKey;
+    const char *objectName;
+};
+constexpr Segment profileSegments[] = {
+    {ProfileView::ProfileTag, "ProfileViewTitle"_key, "ShowProfilePage"_key, "profileButton"},
+    {ProfileView::PictureTag, "PicturePageTitle"_key, "ShowPicturePage"_key, "pictureButton"},
+    {ProfileView::EditTag, "Edit..."_key, "EditItemToolTip"_key, "editButton"},
+};
 
 } // namespace
 
 ProfileView::ProfileView(QWidget *parent)
     : QWidget(parent)
     , m_titleLine(new TitleLine)
-    , m_scrollArea(new QScrollArea)
-    , m_picture(new PictureView(profilePictureSize))
-    , m_name(makeValue(QStringLiteral("name")))
-    , m_sciName(makeValue(QStringLiteral("sciName")))
-    , m_family(makeValue(QStringLiteral("family")))
-    , m_notes(makeValue(QStringLiteral("notes")))
-    , m_editButton(new QPushButton(icon("Edit"), text("Edit...")))
+    , m_pages(new QStackedWidget)
+    , m_profileField(new ProfileText)
+    , m_thumbnail(new CustomThumbImageView(thumbnailSize))
+    , m_well(new PictureWell)
+    , m_segments(new QButtonGroup(this))
 {
     setObjectName(QStringLiteral("fishDataView"));
-    QFont bold = m_name->font();
-    bold.setBold(true);
-    m_name->setFont(bold);
-    QFont italic = m_sciName->font();
-    italic.setItalic(true);
-    m_sciName->setFont(italic);
-    m_scrollArea->setAccessibleName(text("ProfileViewTitle"));
-    m_scrollArea->setFrameShape(QFrame::NoFrame);
-    m_scrollArea->setWidgetResizable(true);
-    m_scrollArea->setWidget(makePage());
-    m_editButton->setObjectName(QStringLiteral("editButton"));
-    m_editButton->setToolTip(text("EditItemToolTip"));
+    m_pages->setObjectName(QStringLiteral("tabView"));
+    m_pages->addWidget(makeProfilePage());
+    m_pages->addWidget(makePicturePage());
 
     auto *buttons = new QHBoxLayout;
     buttons->setContentsMargins(spacing::aroundGroup);
-    buttons->addWidget(m_editButton);
+    buttons->setSpacing(0);
+    buttons->addWidget(makeSegments());
     buttons->addStretch();
+    m_previous = makeStepButton("Back", text("PreviousItemToolTip"), QStringLiteral("previousButton"), -1);
+    m_next = makeStepButton("Forward", text("NextItemToolTip"), QStringLiteral("nextButton"), 1);
+    buttons->addWidget(m_previous);
+    buttons->addWidget(m_next);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_titleLine);
-    column->addWidget(m_scrollArea, 1);
+    column->addWidget(m_pages, 1);
     column->addLayout(buttons);
+    selectPage(ProfileTag);
     showItem(nullptr);
 }
 
-QWidget *ProfileView::makePage()
+QWidget *ProfileView::makeProfilePage()
 {
-    auto *names = new QVBoxLayout;
-    names->setSpacing(spacing::tight);
-    names->addWidget(m_name);
-    names->addWidget(m_sciName);
-    names->addWidget(m_family);
-    auto *head = new QHBoxLayout;
-    head->setSpacing(spacing::content);
-    head->addWidget(m_picture, 0, Qt::AlignTop);
-    head->addLayout(names, 1);
-    head->setAlignment(names, Qt::AlignTop);
-
-    auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(spacing::group);
-    grid->setVerticalSpacing(spacing::group);
-    for (std::size_t i = 0; i < profileFields.size(); ++i) {
-        const ProfileField &field = profileFields[i];
-        m_values[i] = makeValue(field.key.toString());
-        addCaptioned(*grid, field.row, field.column, text(field.captionKey), m_values[i]);
-    }
-
     auto *page = new QWidget;
-    auto *column = new QVBoxLayout(page);
-    column->setContentsMargins(spacing::content, spacing::tight, spacing::content, spacing::content);
-    column->setSpacing(spacing::content);
-    column->addLayout(head);
-    column->addLayout(grid);
-    auto *notes = new QVBoxLayout;
-    notes->setSpacing(spacing::tight);
-    notes->addWidget(makeCaption(text("FishDataNote")));
-    notes->addWidget(m_notes);
-    column->addLayout(notes);
-    column->addStretch();
+    m_profileField->setObjectName(QStringLiteral("profileField"));
+    m_profileField->setAccessibleName(text("ProfileViewTitle"));
+    m_thumbnail->setObjectName(QStringLiteral("profileImageView"));
+    m_thumbnail->setAccessibleName(text("PicturePageTitle"));
+    m_profileLayout = new QBoxLayout(QBoxLayout::LeftToRight, page);
+    m_profileLayout->setContentsMargins(spacing::content, spacing::tight, spacing::content, 0);
+    m_profileLayout->setSpacing(spacing::content);
+    m_profileLayout->addWidget(m_thumbnail, 0, Qt::AlignTop);
+    m_profileLayout->addWidget(m_profileField, 1);
+    connect(m_thumbnail, &CustomThumbImageView::clicked, this,
+            [this] { Q_EMIT thumbnailClicked(m_thumbnail->showsPlaceholder()); });
     return page;
 }
 
-QWidget *ProfileView::scrollArea() const
+QWidget *ProfileView::makePicturePage()
 {
-    return m_scrollArea;
+    auto *page = new QWidget;
+    m_chooseButton = new QPushButton(text("PictureChoose"));
+    m_chooseButton->setObjectName(QStringLiteral("chooseImageButton"));
+    m_deleteButton = new QPushButton(text("PictureRemove"));
+    m_deleteButton->setObjectName(QStringLiteral("deleteImageButton"));
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(spacing::group);
+    buttons->addWidget(m_chooseButton);
+    buttons->addWidget(m_deleteButton);
+    buttons->addStretch();
+    auto *column = new QVBoxLayout(page);
+    column->setContentsMargins(spacing::content, spacing::tight, spacing::content, 0);
+    column->setSpacing(spacing::group);
+    column->addWidget(m_well, 1);
+    column->addLayout(buttons);
+    connect(m_chooseButton, &QPushButton::clicked, this, &ProfileView::chooseClicked);
+    connect(m_well, &PictureWell::chooseRequested, this, &ProfileView::chooseClicked);
+    connect(m_deleteButton, &QPushButton::clicked, this, &ProfileView::deleteClicked);
+    return page;
+}
+
+QWidget *ProfileView::makeSegments()
+{
+    auto *control = new QWidget;
+    control->setObjectName(QStringLiteral("radioButtonView"));
+    auto *row = new QHBoxLayout(control);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    for (const Segment &segment : profileSegments) {
+        auto *button = new QPushButton(text(segment.titleKey));
+        button->setObjectName(QLatin1String(segment.objectName));
+        button->setToolTip(text(segment.toolTipKey));
+        button->setCheckable(segment.tag != EditTag);
+        if (segment.tag == EditTag)
+            button->setIcon(icon("Edit"));
+        row->addWidget(button);
+        m_segments->addButton(button, segment.tag);
+    }
+    connect(m_segments, &QButtonGroup::idClicked, this, &ProfileView::segmentClicked);
+    return control;
+}
+
+QToolButton *ProfileView::makeStepButton(const char *iconName, const QString &title, const QString &objectName,
+                                         int step)
+{
+    QToolButton *button = makeIconButton(iconName, title, objectName);
+    connect(button, &QToolButton::clicked, this, [this, step] { Q_EMIT stepClicked(step); });
+    return button;
 }
 
 void ProfileView::showItem(const ItemData *item)
 {
-    m_scrollArea->widget()->setVisible(item);
-    m_editButton->setEnabled(item);
-    m_titleLine->setTitle(item ? item->name : text("ProfileViewTitle"));
-    m_titleLine->setSecondary(item && item->tank ? item->tank->name : QString());
-    if (!item)
+    const Container *group = nullptr;
+    if (item && item->tank) {
+        if (const std::optional<ContainerKind> kind = containerKindOf(*item))
+            group = item->tank->container(*kind);
+    }
+    m_titleLine->setTitle(group ? group->name() : text("ProfileViewTitle"));
+    m_titleLine->setSecondary(group ? item->tank->name : QString());
+    m_pages->setVisible(item);
+    for (QAbstractButton *button : m_segments->buttons())
+        button->setEnabled(item);
+    if (item)
+        showPicture(*item);
+    else
+        enableSteps(false, false);
+}
+
+void ProfileView::showPicture(const ItemData &item)
+{
+    m_thumbnail->setPicture(item.itemImage);
+    m_well->setPicture(item.itemImage);
+    // While there is none, the well itself offers to choose one.
+    m_chooseButton->setVisible(!item.itemImage.isNone());
+    m_deleteButton->setVisible(!item.itemImage.isNone());
+}
+
+void ProfileView::selectPage(int tag)
+{
+    if (tag < 0 || tag >= m_pages->count())
         return;
-    m_picture->setPicture(item->itemImage);
-    m_name->setText(item->name);
-    m_sciName->setText(item->sciName);
-    m_family->setText(item->family);
-    for (std::size_t i = 0; i < profileFields.size(); ++i)
-        m_values[i]->setText(profileText(*item, profileFields[i]));
-    m_notes->setText(item->notes);
+    m_segments->button(tag)->setChecked(true);
+    m_pages->setCurrentIndex(tag);
+}
+
+void ProfileView::enableSteps(bool previous, bool next)
+{
+    // A button that is disabled loses the focus, which then goes to its neighbour.
+    if (m_previous->hasFocus() && !previous && next)
+        m_next->setFocus();
+    else if (m_next->hasFocus() && !next && previous)
+        m_previous->setFocus();
+    m_previous->setEnabled(previous);
+    m_next->setEnabled(next);
+}
+
+void ProfileView::setTabOrderBetween(QWidget *before, QWidget *after)
+{
+    QWidget *last = before;
+    const auto add = [&last](QWidget *next) {
+        setTabOrder(last, next);
+        last = next;
+    };
+    for (QWidget *next : std::initializer_list<QWidget *>{m_thumbnail, m_profileField, m_well->imageView(),
+                                                          m_chooseButton, m_deleteButton})
+        add(next);
+    for (QAbstractButton *button : m_segments->buttons())
+        add(button);
+    for (QWidget *next : std::initializer_list<QWidget *>{m_previous, m_next, after})
+        add(next);
+}
+
+void ProfileView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_thumbnail->setFixedSize(thumbnailSize * std::clamp(width() / widthPerStep, 1, largestThumbnail));
+    m_profileLayout->setDirection(width() < besideEachOther ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 } // namespace brinemark

@@ -4,22 +4,25 @@
 
 #include <QWidget>
 
-#include <array>
-
-#include "livestock/ProfileFields.h"
-
-class QLabel;
+class QBoxLayout;
+class QButtonGroup;
 class QPushButton;
-class QScrollArea;
+class QStackedWidget;
+class QToolButton;
 
 namespace brinemark
 {
 
-class PictureView;
+class CustomThumbImageView;
+class PictureWell;
+class ProfileText;
 class TitleLine;
+struct ItemData;
 
-/// A livestock record on one page: names and picture at the top, then the profile in two columns, then the notes.
-/// Object names: "fishDataView", each value by its key ("tankLevel" ...), "editButton".
+/// The view of a livestock record: a page with its profile and a small picture, and a page with the picture alone.
+/// Object names: "fishDataView", "profileField", "profileImageView", "tabView", "radioButtonView" with "profileButton",
+/// "pictureButton" and "editButton", "previousButton", "nextButton", "chooseImageButton", "deleteImageButton", and
+/// those of PictureWell.
 class ProfileView : public QWidget
 {
     Q_OBJECT
@@ -27,22 +30,46 @@ class ProfileView : public QWidget
 public:
     explicit ProfileView(QWidget *parent = nullptr);
 
-    void showItem(const ItemData *item); ///< null shows an empty page
-    [[nodiscard]] QWidget *scrollArea() const;
-    [[nodiscard]] QPushButton *editButton() const { return m_editButton; }
+    enum Tag { ProfileTag, PictureTag, EditTag }; ///< of the segments, which are also the indexes of the pages
+
+    /// All but the profile's text; null shows an empty page.
+    void showItem(const ItemData *item);
+    void showPicture(const ItemData &item);
+    void selectPage(int tag);
+    void enableSteps(bool previous, bool next);
+    /// Links the tab order between the two widgets.
+    void setTabOrderBetween(QWidget *before, QWidget *after);
+
+    [[nodiscard]] ProfileText *profileField() const { return m_profileField; }
+    [[nodiscard]] PictureWell *pictureWell() const { return m_well; }
+
+Q_SIGNALS:
+    void segmentClicked(int tag);
+    void stepClicked(int step); ///< -1 for the previous record, 1 for the next
+    void thumbnailClicked(bool placeholder);
+    void chooseClicked();
+    void deleteClicked();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    QWidget *makePage();
+    QWidget *makeProfilePage();
+    QWidget *makePicturePage();
+    QWidget *makeSegments();
+    QToolButton *makeStepButton(const char *iconName, const QString &title, const QString &objectName, int step);
 
     TitleLine *m_titleLine;
-    QScrollArea *m_scrollArea;
-    PictureView *m_picture;
-    QLabel *m_name;
-    QLabel *m_sciName;
-    QLabel *m_family;
-    std::array<QLabel *, profileFields.size()> m_values{};
-    QLabel *m_notes;
-    QPushButton *m_editButton;
+    QStackedWidget *m_pages;
+    QBoxLayout *m_profileLayout = nullptr;
+    ProfileText *m_profileField;
+    CustomThumbImageView *m_thumbnail;
+    PictureWell *m_well;
+    QPushButton *m_chooseButton = nullptr;
+    QPushButton *m_deleteButton = nullptr;
+    QButtonGroup *m_segments;
+    QToolButton *m_previous = nullptr;
+    QToolButton *m_next = nullptr;
 };
 
 } // namespace brinemark
