@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Saving a file with ten photographs of 12 megapixels: the time that it takes once they are converted, and, while they
-// are being converted, how long the program does not react. Run it with QT_QPA_PLATFORM=offscreen and a HOME of its
-// own.
+// Showing the profile of a record with a photograph of 12 megapixels: the time until its text is on screen. Saving a
+// file with ten such photographs: the time that it takes once they are converted, and, while they are being converted,
+// how long the program does not react. Run it with QT_QPA_PLATFORM=offscreen and a HOME of its own.
 
 #include "app/ShoalwatchController.h"
 #include "app/ShoalwatchDelegate.h"
@@ -107,6 +107,22 @@ void saveUnconverted(benchmark::State &state, const QByteArray &jpeg, const QStr
     state.counters["longest_gap_writing_s"] = longestWriting;
 }
 
+/// Stepping through the tree to records with photographs: the time until the text is on screen.
+void selectProfile(benchmark::State &state, const QByteArray &jpeg, const QString &)
+{
+    ShoalwatchController &main = ShoalwatchController::sharedInstance();
+    addPictures(jpeg);
+    main.updateTree();
+    const Container &fish = *TankListController::sharedInstance().list().at(0)->fish();
+    int next = 0;
+    for (auto iteration : state) {
+        main.selectInTree(*fish.recordAt(next++ % pictures));
+        main.mainWindow()->repaint();
+    }
+    if (main.currentView() != MainView::LivestockItem)
+        state.SkipWithError("not shown");
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -125,6 +141,10 @@ int main(int argc, char **argv)
             ->Unit(benchmark::kMillisecond)
             ->Iterations(3)
             ->UseRealTime();
+    benchmark::RegisterBenchmark("select/profile", &selectProfile, jpeg, path)
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(pictures)
+        ->UseRealTime();
     benchmark::RunSpecifiedBenchmarks();
     ShoalwatchDelegate::destroyEverything();
     return 0;

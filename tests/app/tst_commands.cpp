@@ -209,6 +209,23 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
     }
 
+    void steppingKeepsTheFocus()
+    {
+        FullProgram program;
+        ItemData &first = program.livestock(ContainerKind::Fish);
+        const auto second = std::make_shared<FishData>(QStringLiteral("Second"), &program.tank());
+        program.tank().fish()->insertRecord(second, 1);
+        program.controller().updateTree();
+        program.controller().selectInTree(first);
+        QWidget &view = *program.window().mainView().currentWidget();
+        auto *profile = view.findChild<QWidget *>("profileField");
+        profile->setFocus();
+        view.findChild<QToolButton *>("nextButton")->click();
+        QCOMPARE(program.tree().currentSelectedItem().record, second.get());
+        QCOMPARE(FishDataController::sharedInstance().currentItem(), second.get());
+        QVERIFY(profile->hasFocus());
+    }
+
     void theViewShowsTheSelectedRow()
     {
         FullProgram program;

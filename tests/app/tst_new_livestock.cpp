@@ -6,9 +6,9 @@
 #include "support/AppFixture.h"
 
 #include <QDropEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QTableView>
+#include <QTextEdit>
 
 using namespace brinemark;
 using namespace brinemark::test;
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QCOMPARE(program.tree().currentSelectedItem(), TreeItem(added));
         QCOMPARE(program.controller().currentView(), MainView::LivestockItem);
         QWidget *profile = program.window().mainView().currentWidget();
-        QCOMPARE(profile->findChild<QLabel *>(QStringLiteral("viewTitle"))->text(), QStringLiteral("Neon Tetra"));
+        QVERIFY(profile->findChild<QTextEdit *>()->toPlainText().startsWith(QStringLiteral("Neon Tetra\n")));
 
         program.controller().performCommand(Command::Save);
         QTRY_VERIFY(!program.document().isEdited());
