@@ -64,13 +64,15 @@ void showText(QComboBox &combo, const QString &shown)
 }
 
 /// Selects the item that a record's text names. Older files hold the item's number instead. Any other text selects the
-/// first item.
-void selectStored(QComboBox &popup, const QString &stored)
+/// first item. False when this hides a text of its own.
+bool selectStored(QComboBox &popup, const QString &stored)
 {
     popup.setCurrentIndex(stored.size() == 1 ? leadingInteger(stored)
                                              : popup.findText(stored, Qt::MatchExactly | Qt::MatchCaseSensitive));
-    if (popup.currentIndex() < 0)
-        popup.setCurrentIndex(0);
+    if (popup.currentIndex() >= 0)
+        return true;
+    popup.setCurrentIndex(0);
+    return stored.size() < 2;
 }
 
 /// Selects the item whose number the text holds; the first one, and false, when there is no such item.
@@ -172,6 +174,7 @@ QWidget *ItemForm::makeControl(const ProfileField &field)
         for (const qint32 code : reefSafeCodes)
             popup->addItem(ItemData::reefSafeStringFromCode(code), code);
     }
+    QObject::connect(popup, &QComboBox::activated, popup, [this, key = field.key.toString()] { m_unlisted.remove(key); });
     return popup;
 }
 
@@ -217,6 +220,7 @@ void ItemForm::showNotes(const QString &notes)
 
 void ItemForm::showItem(const ItemData &item)
 {
+    m_unlisted.clear();
     for (const ProfileName &name : profileNames)
         setUnspecifiedPlaceholder(lineEdit(name.key), valueForKey(item, name.key).toString());
     for (const ProfileField &field : profileFields) {
@@ -230,7 +234,8 @@ void ItemForm::showItem(const ItemData &item)
             break;
         case ProfileKind::Breeding:
         case ProfileKind::Care:
-            selectStored(popup(field), value.toString());
+            if (!selectStored(popup(field), value.toString()))
+                m_unlisted.insert(field.key.toString(), value.toString());
             break;
         case ProfileKind::Number:
         case ProfileKind::Count:
@@ -246,6 +251,7 @@ void ItemForm::showItem(const ItemData &item)
 
 void ItemForm::showNewItem()
 {
+    m_unlisted.clear();
     const auto empty = [this](QStringView key) {
         lineEdit(key).clear();
         lineEdit(key).setPlaceholderText({});
@@ -268,6 +274,7 @@ void ItemForm::showNewItem()
 
 bool ItemForm::showProfile(const SpeciesProfile &profile)
 {
+    m_unlisted.clear();
     bool usable = true;
     for (const ProfileName &name : profileNames)
         lineEdit(name.key).setText(profileValue(profile, name.profileKey));
@@ -317,7 +324,7 @@ void ItemForm::storeInto(ItemData &item) const
             const CheckedLineEdit &number = numberEdit(field);
             setValueForKey(item, field.key, number.hasEdit() ? number.value() : m_numbers.value(key));
         } else if (field.kind == ProfileKind::Breeding || field.kind == ProfileKind::Care) {
-            setValueForKey(item, field.key, popup(field).currentText());
+            setValueForKey(item, field.key, m_unlisted.value(key, popup(field).currentText()));
         } else {
             setValueForKey(item, field.key, compareUnspecified(shownText(field.key)));
         }

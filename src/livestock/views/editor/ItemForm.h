@@ -38,7 +38,8 @@ public:
     /// Keeps the count, and empties the notes. False when one of the indexes in the profile is no item of its menu:
     /// that menu then shows its first item, and everything else is filled.
     [[nodiscard]] bool showProfile(const SpeciesProfile &profile);
-    /// Stores every field. A number that nobody has touched keeps its exact value.
+    /// Stores every field. A number that nobody has touched keeps its exact value, and a breeding or care text that is
+    /// in no menu of this language stays until an item is chosen.
     void storeInto(ItemData &item) const;
 
     /// The text that stands in a field.
@@ -56,6 +57,7 @@ private:
     QList<QWidget *> m_pages;
     QHash<QString, QWidget *> m_controls; ///< by the key of the record's field
     QHash<QString, double> m_numbers;     ///< the exact numbers that are shown, by key
+    QHash<QString, QString> m_unlisted;   ///< the stored texts for which the first item stands, by key
     QString m_shownNotes;                 ///< with the line ends of the record
     MultiLineEdit *m_notes;
 };
