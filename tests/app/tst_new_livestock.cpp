@@ -7,6 +7,7 @@
 
 #include <QDropEvent>
 #include <QMimeData>
+#include <QStackedWidget>
 #include <QTableView>
 #include <QTextEdit>
 
