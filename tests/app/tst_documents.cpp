@@ -6,6 +6,7 @@
 #include "support/AppFixture.h"
 #include "ui/MainView.h"
 
+#include <QDialog>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -385,6 +386,11 @@ private Q_SLOTS:
         QCOMPARE(dropOnWindow(program.window(), {url(second), url(first)}), refused);
         QCOMPARE(dropOnWindow(program.window(), {QUrl("https://www.brinemark.example/tanks.xml")}), refused);
         QCOMPARE(program.path(), first);
+        {
+            QDialog sheet(&program.window());
+            sheet.open();
+            QCOMPARE(dropOnWindow(program.window(), {url(second)}), refused);
+        }
         QCOMPARE(dropOnWindow(program.window(), {url(second)}), std::pair(true, true));
         QCOMPARE(program.path(), first); // it is opened after the drop, for which the source waits
         QTRY_COMPARE(program.path(), second);

@@ -12,6 +12,7 @@
 #include "ui/IconButton.h"
 #include "ui/Spacing.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QMimeData>
@@ -145,16 +146,22 @@ void MainWindow::closeEvent(QCloseEvent *event)
         closeRequested();
 }
 
+/// Modal windows keep clicks and keys from this window, but not drops: one would close the file under an open editor.
+static bool isBehindSheet()
+{
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    const QString path = droppedFile(*event);
+    const QString path = isBehindSheet() ? QString() : droppedFile(*event);
     if (!path.isEmpty() && takesDroppedFile && takesDroppedFile(path))
         acceptAsCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
-    const QString path = droppedFile(*event);
+    const QString path = isBehindSheet() ? QString() : droppedFile(*event);
     if (path.isEmpty() || !takesDroppedFile || !takesDroppedFile(path))
         return;
     acceptAsCopy(*event);
